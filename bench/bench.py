@@ -1,0 +1,289 @@
+"""Measures the program, and beside it what a user would use instead, in one run: bench.py BIN [NAME...]
+
+Each figure is a median over several rounds. Seconds differ from machine to machine; ratios hold better.
+"""
+
+import pathlib
+import re
+import signal
+import statistics
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+sys.path[:0] = [str(ROOT / "scripts/lib"), str(ROOT / "tests/app")]
+
+from private_desktop import PrivateDesktop, Trouble, wait_for
+from sound import Sound, write_tone
+
+ROUNDS = 5
+SECONDS = 20.0
+BENCHES = {}
+
+
+def bench(function):
+    BENCHES[function.__name__] = function
+    return function
+
+
+def row(what, value, unit, beside=None, aim=None):
+    """One line: the figure, the figure beside it with the ratio of the two, and what is aimed at (the most that is good)."""
+    line = f"{what:<46} {value:>10.2f} {unit:<8}"
+    measure = value
+    if beside is not None:
+        measure = value / beside if beside else float("inf")
+        line += f" beside {beside:>9.2f}  ratio {measure:>5.2f}"
+    if aim is not None:
+        line += f"  aim <= {aim:<6g} {'met' if measure <= aim else 'MISSED'}"
+    print(line, flush=True)
+
+
+class Figures:
+    """What the kernel counts for a process, by thread: nanoseconds on a processor and times it went to sleep."""
+
+    def __init__(self, pid):
+        self.pid = pid
+        self.threads = {}
+        for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
+            try:
+                status = (task / "status").read_text()
+                spent = int((task / "schedstat").read_text().split()[0])
+                slept = int(re.search(r"^voluntary_ctxt_switches:\s*(\d+)", status, re.MULTILINE).group(1))
+                name = "main thread" if int(task.name) == pid else (task / "comm").read_text().strip()
+                self.threads[int(task.name)] = (name, spent, slept)
+            except FileNotFoundError:
+                continue
+
+    def since(self, before):
+        """Processor seconds and sleeps of each thread since an earlier look, by thread id."""
+        return {tid: (name, (spent - before.threads.get(tid, (name, 0, 0))[1]) / 1e9,
+                      slept - before.threads.get(tid, (name, 0, 0))[2])
+                for tid, (name, spent, slept) in self.threads.items()}
+
+
+def resident_kilobytes(pid):
+    return int(re.search(r"^VmRSS:\s*(\d+)", pathlib.Path(f"/proc/{pid}/status").read_text(), re.MULTILINE).group(1))
+
+
+class Program:
+    """The program on a desktop, its traces and its recordings."""
+
+    def __init__(self, desktop, binary, *arguments):
+        self.desktop = desktop
+        self.container = desktop.folder / "container"
+        self.log = desktop.folder / "tavi.log"
+        self.command = [binary, "--container", self.container]
+        desktop.run(*self.command, "set", "AudioQualityType", "High")
+        desktop.environment["TAVI_TRACE"] = "1"
+        self.process = desktop.spawn(*self.command, *arguments, log=self.log)
+        self.pid = self.process.pid
+        desktop.window(self.process)
+        wait_for(lambda: desktop.colours() > 8, "the record screen")
+
+    def record(self):
+        self.desktop.run(*self.command, "record")
+        wait_for(lambda: any(self.desktop.captures()), "the recording to run")
+
+    def stop(self):
+        before = set(self.container.glob("Documents/*.m4a"))
+        self.desktop.run(*self.command, "stop")
+        return wait_for(lambda: next(iter(set(self.container.glob("Documents/*.m4a")) - before), None), "the recording")
+
+    def traces(self, name):
+        """Microseconds at which something was traced, and the numbers that came with it."""
+        found = re.findall(rf"^trace: {name}((?: \d+)+)$", self.log.read_text(), re.MULTILINE)
+        return [(int(numbers[-1]), *map(int, numbers[:-1])) for numbers in map(str.split, found)]
+
+
+def endless_tone(desktop):
+    tone = write_tone(desktop.folder / "endless.wav", 1000, 60.0)
+    desktop.spawn("sh", "-c", 'while paplay --device=mic_sink "$1"; do :; done', "tone", tone)
+
+
+@bench
+def cpu(binaries):
+    """Processor time of a recording (44.1 kHz stereo Apple Lossless) beside FFmpeg's own recorder on the same source."""
+    rounds = []
+    with PrivateDesktop() as desktop:
+        endless_tone(desktop)
+        program = Program(desktop, binaries / "tavi")
+        for number in range(ROUNDS):
+            program.record()
+            other = desktop.spawn("ffmpeg", "-loglevel", "error", "-f", "pulse", "-i", "microphone", "-ar", "44100", "-c:a",
+                                  "alac", "-sample_fmt", "s16p", desktop.folder / f"other-{number}.m4a")
+            wait_for(lambda: len(desktop.captures()) == 2, "both recorders")
+            ours, theirs = Figures(program.pid), Figures(other.pid)
+            time.sleep(SECONDS)
+            ours, theirs = Figures(program.pid).since(ours), Figures(other.pid).since(theirs)
+            desktop.stop(other, signal.SIGINT)
+            program.stop()
+            rounds.append((ours, sum(spent for _, spent, _ in theirs.values())))
+
+    def median(choose):
+        return 100 / SECONDS * statistics.median(choose(ours) for ours, _ in rounds)
+
+    beside = 100 / SECONDS * statistics.median(theirs for _, theirs in rounds)
+    names = sorted({name for ours, _ in rounds for name, _, _ in ours.values()})
+    row("recording: whole program", median(lambda ours: sum(s for _, s, _ in ours.values())), "% core", beside)
+    row("recording: all but the main thread",
+        median(lambda ours: sum(s for name, s, _ in ours.values() if name != "main thread")), "% core", beside, aim=0.6)
+    for name in names:
+        spent = median(lambda ours: sum(s for other, s, _ in ours.values() if other == name))
+        if spent >= 0.01:
+            row(f"  {name}", spent, "% core")
+
+
+@bench
+def wakeups(binaries):
+    """Times a second that a thread of the program goes to sleep, which is how often one wakes.
+
+    The private microphone delivers every 50 ms whatever is asked for; a device, like the second source here, follows the
+    program's wish.
+    """
+    for source, aim in (("microphone", None), ("device", 40)):
+        with PrivateDesktop() as desktop:
+            if source == "device":
+                desktop.run("pactl", "load-module", "module-null-source", "source_name=device", "rate=48000")
+                desktop.environment["PULSE_SOURCE"] = "device"
+            else:
+                endless_tone(desktop)
+            program = Program(desktop, binaries / "tavi")
+
+            def measure():
+                before = Figures(program.pid)
+                time.sleep(SECONDS)
+                return Figures(program.pid).since(before)
+
+            time.sleep(2.0)
+            idle = measure()
+            program.record()
+            recording = measure()
+            program.stop()
+        row("wake-ups, idle on the record screen", sum(n for _, _, n in idle.values()) / SECONDS, "a second", aim=0)
+        row(f"wake-ups, recording from the {source}", sum(n for _, _, n in recording.values()) / SECONDS, "a second", aim=aim)
+        for name, _, count in sorted(recording.values(), key=lambda thread: -thread[2]):
+            if count:
+                row(f"  {name}", count / SECONDS, "a second")
+
+
+@bench
+def tap(binaries):
+    """Time from the tap on record to the first captured frame."""
+    with PrivateDesktop() as desktop:
+        endless_tone(desktop)
+        program = Program(desktop, binaries / "tavi")
+        for _ in range(ROUNDS):
+            program.record()
+            wait_for(lambda: len(program.traces("first-captured-frame")) == len(program.traces("record-tap")), "a frame")
+            # Recordings are named by the second.
+            time.sleep(1.1)
+            program.stop()
+        # The encoder looks some times a second; it tells how many frames have gathered by then, at which rate. A virtual
+        # microphone works ahead of time, so its frames may be a little older than the tap.
+        both = zip(program.traces("record-tap"), program.traces("first-captured-frame"))
+        waits = [((seen - tapped) / 1000, frames / rate * 1000) for (tapped,), (seen, frames, rate) in both]
+    if len(waits) < ROUNDS:
+        raise Trouble(f"the program traced {len(waits)} of {ROUNDS} recordings")
+    starts = [max(0.0, seen - gathered) for seen, gathered in waits]
+    row("record tap to first captured frame", statistics.median(starts), "ms", aim=60.0)
+    row("  the slowest of them", max(starts), "ms")
+    row("record tap to first frames encoded", statistics.median(seen for seen, _ in waits), "ms")
+
+
+@bench
+def startup(binaries):
+    """Time from starting the process to its first picture, beside a bare Qt Quick window of the same size."""
+    def first_frame(desktop, *command):
+        started = time.monotonic()
+        process = desktop.spawn(*command, stderr=subprocess.PIPE)
+        for line in process.stderr:
+            if line.startswith(b"trace: first-frame"):
+                break
+        else:
+            raise Trouble(f"{command[0]} traced no first frame")
+        taken = 1000 * (time.monotonic() - started)
+        memory = resident_kilobytes(process.pid) / 1024
+        process.stderr.close()
+        desktop.stop(process)
+        return taken, memory
+
+    bare, ours = [], []
+    with PrivateDesktop() as desktop:
+        desktop.environment["TAVI_TRACE"] = "1"
+        for _ in range(ROUNDS + 2):
+            bare.append(first_frame(desktop, binaries / "bare_window"))
+            ours.append(first_frame(desktop, binaries / "tavi", "--container", desktop.folder / "container"))
+    middle = [[statistics.median(values) for values in zip(*rounds)] for rounds in (ours, bare)]
+    row("start to first picture", middle[0][0], "ms", middle[1][0], aim=1.5)
+    row("resident memory then", middle[0][1], "MB", middle[1][1])
+
+
+@bench
+def loss(binaries):
+    """Frames lost while every processor is busy: what the program counted, and blocks of 20 ms in which the tone breaks."""
+    with PrivateDesktop() as desktop:
+        endless_tone(desktop)
+        program = Program(desktop, binaries / "tavi")
+        # A tone of a minute is followed by half a second of silence: what breaks there is not lost.
+        hogs = [desktop.spawn("sh", "-c", "while :; do :; done") for _ in range(2)]
+        program.record()
+        time.sleep(50.0)
+        recording = program.stop()
+        for hog in hogs:
+            desktop.stop(hog)
+        sound = Sound(recording)
+        said = program.log.read_text()
+    counted = max((int(number) for number in re.findall(r"(\d+) frames of the recording were lost", said)), default=0)
+    silent = len(sound.blocks) - len(sound.loud())
+    row("frames lost with all processors busy", counted, "frames", aim=0)
+    row("blocks of 20 ms without sound", silent, "of %d" % len(sound.blocks), aim=27)
+    row("blocks of 20 ms with a broken tone", len(sound.loud()) - round(50 * sound.tone_seconds(1000)), "of %d" % len(sound.blocks),
+        aim=2)
+
+
+@bench
+def memory(binaries):
+    """Resident memory of the program after one minute of recording and after some more."""
+    minutes = 4
+    with PrivateDesktop() as desktop:
+        endless_tone(desktop)
+        program = Program(desktop, binaries / "tavi")
+        idle = resident_kilobytes(program.pid) / 1024
+        program.record()
+        time.sleep(60.0)
+        early = resident_kilobytes(program.pid) / 1024
+        time.sleep(60.0 * (minutes - 1))
+        late = resident_kilobytes(program.pid) / 1024
+        program.stop()
+    row("resident memory, idle", idle, "MB")
+    row("resident memory after 1 minute", early, "MB")
+    row(f"resident memory after {minutes} minutes", late, "MB", early, aim=1.02)
+
+
+@bench
+def parts(binaries):
+    """What the benchmarks of single parts print, such as a simulated half hour at full speed."""
+    for program in sorted(binaries.glob("*_bench")):
+        done = subprocess.run([program], capture_output=True, text=True, check=True)
+        for name, value, unit in re.findall(r"^figure: (\S+) ([\d.]+) (\S+)", done.stdout, re.MULTILINE):
+            row(f"{program.name}: {name}", float(value), unit)
+
+
+def main(binaries, *names):
+    unknown = [name for name in names if name not in BENCHES]
+    if unknown:
+        print(f"error: no benchmark {', '.join(unknown)}; there are {', '.join(BENCHES)}", file=sys.stderr)
+        return 2
+    for name in names or BENCHES:
+        print(f"\n{name}: {BENCHES[name].__doc__}")
+        try:
+            BENCHES[name](pathlib.Path(binaries))
+        except Trouble as error:
+            print(f"error: {name}: {error}", file=sys.stderr)
+            return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

@@ -1,0 +1,14 @@
+# tavi_test(NAME SOURCES file... LINKS target... [LABELS label...] [ENVIRONMENT NAME=value...])
+#
+# Declares one GoogleTest executable and its CTest entry. tests/support/main.cpp gives it a QCoreApplication. LABELS choose
+# what runs under which sanitizer: unit, contract, integration, ui, tsan.
+function(tavi_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;LABELS;ENVIRONMENT" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${arg_LINKS} tavi_test_support GTest::gmock tavi_warnings)
+  target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT 300)
+endfunction()

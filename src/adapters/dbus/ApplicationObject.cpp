@@ -1,0 +1,54 @@
+#include "adapters/dbus/ApplicationObject.h"
+
+#include <QDBusError>
+
+#include "adapters/dbus/DBusApplication.h"
+
+namespace tavi {
+
+namespace {
+
+QString activationToken(const QVariantMap& platformData) {
+    return platformData.value(QStringLiteral("activation-token")).toString();
+}
+
+}  // namespace
+
+void ApplicationObject::Activate(const QVariantMap& platformData) {
+    m_application.whenLaunched([app = &m_application, token = activationToken(platformData)] { app->activate(token); });
+}
+
+void ApplicationObject::Open(const QStringList& uris, const QVariantMap& platformData) {
+    QList<QUrl> urls;
+    for (const QString& uri : uris) {
+        urls.append(DBusApplication::urlFromText(uri));
+        if (!urls.last().isValid()) {
+            refuse(QStringLiteral("“%1” is neither a URL nor an absolute path.").arg(uri));
+            return;
+        }
+    }
+    m_application.whenLaunched([app = &m_application, urls, token = activationToken(platformData)] {
+        app->activate(token);
+        app->open(urls);
+    });
+}
+
+void ApplicationObject::ActivateAction(const QString& name, const QVariantList&, const QVariantMap& platformData) {
+    // Before the launch has finished the shortcut items are not known yet.
+    if (m_application.m_launched && !m_application.isAction(name)) {
+        refuse(QStringLiteral("There is no action “%1”.").arg(name));
+        return;
+    }
+    m_application.whenLaunched([app = &m_application, name, token = activationToken(platformData)] {
+        app->activate(token);
+        app->performAction(name);
+    });
+}
+
+void ApplicationObject::refuse(const QString& why) {
+    if (calledFromDBus()) {
+        sendErrorReply(QDBusError::InvalidArgs, why);
+    }
+}
+
+}  // namespace tavi

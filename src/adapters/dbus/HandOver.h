@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QString>
+#include <QStringList>
+#include <chrono>
+
+#include "platform/Error.h"
+
+namespace tavi {
+
+/// What a start asks of the program; a second start hands it to the first.
+struct ActivationRequest {
+    enum class Kind {
+        /// Show the window.
+        Activate,
+        /// Open the URLs.
+        Open,
+        /// Do the named action: "record", "stop", "library" or the type of a quick action.
+        Action,
+    };
+
+    Kind kind = Kind::Activate;
+    /// For Open: URLs and absolute paths.
+    QStringList uris;
+    /// For Action.
+    QString action;
+};
+
+/// Hands the request to the instance that owns the bus name, with the desktop's activation token of this process, so
+/// that the other's window may come to the front. Starts no program. Where nobody owns the name, the other may just be
+/// starting: this waits so long for it, and then a few seconds at most for the answer. Needs a QCoreApplication.
+Result<void> handOver(const QDBusConnection& sessionBus, const QString& busName, const ActivationRequest& request,
+                      std::chrono::milliseconds patience = std::chrono::seconds(3));
+
+}  // namespace tavi

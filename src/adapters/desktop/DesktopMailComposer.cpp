@@ -1,0 +1,50 @@
+#include "adapters/desktop/DesktopMailComposer.h"
+
+#include <QFileInfo>
+
+namespace tavi {
+
+void DesktopMailComposer::compose(const MailMessage& message, std::function<void(Result<void>)> completion) {
+    for (const MailAttachment& attachment : message.attachments) {
+        if (!QFileInfo(attachment.path).isFile()) {
+            completeLater(completion, Error{QStringLiteral("There is no file “%1” to attach.").arg(attachment.path)});
+            return;
+        }
+    }
+    if (!m_portal.isAvailable()) {
+        composeWithXdgEmail(message, completion);
+        return;
+    }
+    const auto sent = m_portal.compose(message, [this, message, completion](PortalMail::Outcome outcome) {
+        switch (outcome) {
+            case PortalMail::Outcome::Done:
+                completion({});
+                break;
+            case PortalMail::Outcome::Unavailable:
+                composeWithXdgEmail(message, completion);
+                break;
+            case PortalMail::Outcome::Failed:
+                completion(failure(QStringLiteral("The desktop's mail program did not take the mail.")));
+                break;
+        }
+    });
+    if (!sent) {
+        completeLater(completion, sent.error());
+    }
+}
+
+void DesktopMailComposer::composeWithXdgEmail(const MailMessage& message,
+                                              const std::function<void(Result<void>)>& completion) {
+    if (m_xdgEmail.isAvailable()) {
+        m_xdgEmail.compose(message, completion);
+    } else {
+        completeLater(completion, Error{QStringLiteral("There is no mail program.")});
+    }
+}
+
+void DesktopMailComposer::completeLater(const std::function<void(Result<void>)>& completion, const Error& error) {
+    QMetaObject::invokeMethod(
+        this, [completion, error] { completion(tl::unexpected(error)); }, Qt::QueuedConnection);
+}
+
+}  // namespace tavi

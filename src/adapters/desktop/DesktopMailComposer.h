@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include "adapters/desktop/PortalMail.h"
+#include "adapters/desktop/XdgEmail.h"
+#include "platform/MailComposer.h"
+
+namespace tavi {
+
+/// Mail through the desktop portal, else through xdg-email.
+///
+/// Whether the portal offers mail is asked when this is built and known a moment later; canSendMail() never waits for
+/// it. Completions come after compose() has returned, and not once this is gone. A user who closes the mail unsent is
+/// no error.
+class DesktopMailComposer final : public QObject, public MailComposer {
+    Q_OBJECT
+
+public:
+    /// The bus may be unconnected.
+    explicit DesktopMailComposer(const QDBusConnection& sessionBus) : m_portal(sessionBus) {}
+
+    bool canSendMail() const override { return m_portal.isAvailable() || m_xdgEmail.isAvailable(); }
+    void compose(const MailMessage& message, std::function<void(Result<void>)> completion) override;
+
+private:
+    void composeWithXdgEmail(const MailMessage& message, const std::function<void(Result<void>)>& completion);
+    void completeLater(const std::function<void(Result<void>)>& completion, const Error& error);
+
+    PortalMail m_portal;
+    XdgEmail m_xdgEmail;
+};
+
+}  // namespace tavi

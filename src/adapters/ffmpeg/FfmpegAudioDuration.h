@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/AudioDuration.h"
+
+namespace tavi {
+
+/// Reads the headers of the kinds that are recorded, and asks libavformat about other sound files. Prints nothing.
+class FfmpegAudioDuration : public AudioDuration {
+public:
+    double durationOfFile(const QString& path) const override;
+};
+
+}  // namespace tavi

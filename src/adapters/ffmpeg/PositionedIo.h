@@ -1,0 +1,60 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <utility>
+
+namespace tavi {
+
+/// Owns one file descriptor; -1 stands for none.
+class FileDescriptor {
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int fd) : m_fd(fd) {}
+    FileDescriptor(FileDescriptor&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    ~FileDescriptor() { reset(); }
+
+    /// Opens a path; invalid, with errno set, when that fails. Always close-on-exec; mode counts for a file that is
+    /// made.
+    static FileDescriptor open(const QString& path, int flags, mode_t mode = 0);
+
+    int get() const { return m_fd; }
+    bool isValid() const { return m_fd >= 0; }
+    void reset();
+
+private:
+    int m_fd = -1;
+};
+
+/// pwrite(2) or what stands in for it, with its return value and errno.
+using PwriteFunction = std::function<ssize_t(int fd, const void* data, std::size_t size, off_t offset)>;
+
+/// The system's own pwrite(2).
+PwriteFunction systemPwrite();
+
+/// How far a write came, and the errno that ended it; 0 when everything was written.
+struct WriteResult {
+    std::size_t written = 0;
+    int error = 0;
+};
+
+/// Writes everything, through interruptions and short writes.
+WriteResult writeFully(const PwriteFunction& pwrite, int fd, const void* data, std::size_t size, std::int64_t offset);
+
+/// Reads up to size bytes, through interruptions and short reads; fewer only at the end of the file or after an error.
+std::size_t readFully(int fd, void* data, std::size_t size, std::int64_t offset);
+
+/// Length in bytes of a regular file; -1 for anything else.
+std::int64_t regularFileSize(int fd);
+
+/// "The disk is full." or "The recording could not be written: " and the system's words for it.
+QString writeErrorText(int error);
+
+}  // namespace tavi

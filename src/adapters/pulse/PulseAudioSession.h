@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/AudioSession.h"
+
+namespace tavi {
+
+class PulseConnection;
+
+/// The sound session on PulseAudio, or on PipeWire speaking its protocol.
+class PulseAudioSession : public AudioSession {
+public:
+    explicit PulseAudioSession(std::shared_ptr<PulseConnection> connection);
+
+    /// Connects if need be. Refused only when the server does not let this program in.
+    void requestRecordPermission(std::function<void(bool granted)> answer) override;
+    /// Connects if need be and waits for the server for less than a frame of the screen. The server routes by itself.
+    Result<void> setCategory(Category category, CategoryOption option) override;
+    /// Always succeeds: streams take and leave the devices by themselves.
+    Result<void> setActive(bool active) override;
+    bool isInputAvailable() const override;
+
+private:
+    std::shared_ptr<PulseConnection> m_connection;
+};
+
+}  // namespace tavi

@@ -1,0 +1,36 @@
+#include "adapters/qt/MediaLibrary.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+
+namespace tavi {
+
+const MediaLibrary::Adapters* MediaLibrary::adapters() const {
+    std::call_once(m_loading, [this] {
+        QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/tavi/libtavi-media.so"));
+        if (const auto entry = reinterpret_cast<Entry>(library.resolve("taviMediaAdapters"))) {
+            m_adapters = entry();
+        } else {
+            m_error.text =
+                QStringLiteral("The library for sound files cannot be loaded: %1").arg(library.errorString());
+            qWarning("%s", qUtf8Printable(m_error.text));
+        }
+    });
+    return m_adapters;
+}
+
+Result<std::unique_ptr<AudioFileWriter>> MediaLibrary::create(const QString& path,
+                                                              const AudioRecordSettings& settings) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->writers.create(path, settings);
+}
+
+double MediaLibrary::durationOfFile(const QString& path) const {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
+}
+
+}  // namespace tavi

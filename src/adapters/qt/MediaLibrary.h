@@ -1,0 +1,44 @@
+#pragma once
+
+#include <mutex>
+
+#include "platform/AudioDuration.h"
+#include "platform/AudioFileWriter.h"
+
+namespace tavi {
+
+/// The media adapters in a library of their own, which is loaded when it is first needed.
+///
+/// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
+/// start of the program to its first picture, so the window does not wait for them. Any thread.
+class MediaLibrary : public AudioFileWriters, public AudioDuration {
+public:
+    /// What the library says about itself: the function "taviMediaAdapters" returns it.
+    struct Adapters {
+        AudioFileWriters& writers;
+        const AudioDuration& durations;
+    };
+    using Entry = const Adapters* (*)();
+
+    /// Loads nothing yet. Needs the application object when it does.
+    MediaLibrary() = default;
+    MediaLibrary(const MediaLibrary&) = delete;
+    MediaLibrary& operator=(const MediaLibrary&) = delete;
+
+    /// Loads the library if nobody has; takes about as long as a program with FFmpeg takes to start. It stays loaded.
+    void load() const { adapters(); }
+
+    /// Fails when the library cannot be loaded.
+    Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
+    /// 0 when the library cannot be loaded.
+    double durationOfFile(const QString& path) const override;
+
+private:
+    const Adapters* adapters() const;
+
+    mutable std::once_flag m_loading;
+    mutable const Adapters* m_adapters = nullptr;
+    mutable Error m_error;
+};
+
+}  // namespace tavi

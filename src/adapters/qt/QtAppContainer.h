@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "platform/AppContainer.h"
+#include "platform/Error.h"
+
+namespace tavi {
+
+/// The program's folders on disk: where the XDG base directories and user directories put them, or all below one
+/// folder.
+///
+///     documents    the user's music folder + "Voice Recordings"       DIR/Documents
+///     caches       $XDG_CACHE_HOME/com.quillfen.voicerecorder          DIR/Caches
+///     temporary    "tmp" in the caches folder                          DIR/tmp
+///     preferences  $XDG_CONFIG_HOME/com.quillfen.voicerecorder         DIR/Preferences
+///     groups       $XDG_DATA_HOME/com.quillfen.voicerecorder/Groups    DIR/Groups
+///
+/// Temporary files hold sound, which is too large for a file system in memory; so they lie beside the caches.
+/// Folders that this makes are for the user alone, but for the documents folder, which the user shares as he likes.
+class QtAppContainer final : public AppContainer {
+public:
+    /// Makes the folders. With a container DIR, relative to the working directory or absolute, everything is below it;
+    /// with an empty one, the XDG folders are used. Fails when a folder cannot be made or written.
+    static Result<std::unique_ptr<QtAppContainer>> create(const QString& container = QString());
+
+    QString documentsPath() const override { return m_documents; }
+    QString cachesPath() const override { return m_caches; }
+    QString temporaryPath() const override { return m_temporary; }
+    QString preferencesPath() const override { return m_preferences; }
+    QString groupContainerPath(const QString& groupIdentifier) const override;
+
+private:
+    QtAppContainer() = default;
+
+    QString m_documents;
+    QString m_caches;
+    QString m_temporary;
+    QString m_preferences;
+    QString m_groups;
+};
+
+}  // namespace tavi

@@ -1,0 +1,168 @@
+#include "adapters/recorder/CaptureBuffer.h"
+
+#include <chrono>
+#include <cstring>
+
+namespace tavi {
+
+namespace {
+
+/// How long the encoder or the disk may stall before sound is lost.
+constexpr int kSecondsBuffered = 10;
+/// Seldom wake-ups save power; half a second keeps what a kill could lose small.
+constexpr int kWakesPerSecond = 2;
+constexpr std::int32_t kSmallRingBytes = 4096;
+
+}  // namespace
+
+CaptureBuffer::~CaptureBuffer() {
+    TPCircularBufferCleanup(&m_sound);
+    TPCircularBufferCleanup(&m_levels);
+    TPCircularBufferCleanup(&m_seams);
+}
+
+void CaptureBuffer::audioInputDidOpen(const AudioInputFormat& format) {
+    m_format = format;
+    const auto bytes = static_cast<std::int32_t>(bytesPerFrame()) * format.sampleRate * kSecondsBuffered;
+    if (!TPCircularBufferInit(&m_sound, bytes) || !TPCircularBufferInit(&m_levels, kSmallRingBytes) ||
+        !TPCircularBufferInit(&m_seams, kSmallRingBytes)) {
+        audioInputDidFail(Error{QStringLiteral("There is not enough memory to record.")});
+        return;
+    }
+    m_isOpen.store(true, std::memory_order_release);
+}
+
+void CaptureBuffer::audioInputDidCapture(const float* interleaved, std::size_t frames) {
+    if (!m_isOpen.load(std::memory_order_relaxed) || m_ended.load(std::memory_order_relaxed)) {
+        return;
+    }
+    std::int32_t space = 0;
+    void* head = TPCircularBufferHead(&m_sound, &space);
+    const std::size_t bytes = frames * bytesPerFrame();
+    if (static_cast<std::size_t>(space) < bytes) {
+        m_framesLost.fetch_add(static_cast<std::int64_t>(frames), std::memory_order_relaxed);
+        wake();
+        return;
+    }
+    Level level;
+    level.frames = static_cast<std::int64_t>(frames);
+    if (interleaved == nullptr) {
+        // Silence of the same length keeps what follows in its place.
+        std::memset(head, 0, bytes);
+        m_framesLost.fetch_add(static_cast<std::int64_t>(frames), std::memory_order_relaxed);
+    } else {
+        std::memcpy(head, interleaved, bytes);
+        const auto channels = static_cast<std::size_t>(m_format.channels);
+        for (std::size_t i = 0; i < frames * channels; ++i) {
+            level.sumOfSquares[i % channels] +=
+                static_cast<double>(interleaved[i]) * static_cast<double>(interleaved[i]);
+        }
+    }
+    TPCircularBufferProduce(&m_sound, static_cast<std::int32_t>(bytes));
+    // A full ring of levels means that nobody reads them.
+    TPCircularBufferProduceBytes(&m_levels, &level, sizeof(level));
+    const bool isFirst = m_framesCaptured.fetch_add(static_cast<std::int64_t>(frames), std::memory_order_relaxed) == 0;
+    m_framesSinceWake += frames;
+    if (isFirst || m_framesSinceWake * kWakesPerSecond >= static_cast<std::size_t>(m_format.sampleRate)) {
+        m_framesSinceWake = 0;
+        wake();
+    }
+}
+
+void CaptureBuffer::audioInputDidPause() {
+    const std::int64_t seam = framesCaptured();
+    if (seam != m_lastSeam && TPCircularBufferProduceBytes(&m_seams, &seam, sizeof(seam))) {
+        m_lastSeam = seam;
+    }
+    // Either this sees the request, or requestEnd() sees the answer.
+    const int answered = m_pausesAnswered.fetch_add(1) + 1;
+    const int last = m_endAfterPauses.load();
+    if (last >= 0 && answered >= last) {
+        didEnd();
+    }
+}
+
+void CaptureBuffer::audioInputDidFail(const Error& error) {
+    if (m_ended.load(std::memory_order_relaxed)) {
+        return;
+    }
+    m_error = error;
+    didEnd();
+}
+
+void CaptureBuffer::requestEnd() {
+    m_endAfterPauses.store(m_pausesAsked);
+    if (m_pausesAnswered.load() >= m_pausesAsked) {
+        didEnd();
+    }
+}
+
+void CaptureBuffer::end(const std::optional<Error>& error) {
+    if (!m_ended.load(std::memory_order_acquire)) {
+        m_error = error;
+        didEnd();
+    }
+}
+
+bool CaptureBuffer::waitForEnd(double seconds) {
+    return isEnded() || m_endSignal.try_acquire_for(std::chrono::duration<double>(seconds));
+}
+
+void CaptureBuffer::didEnd() {
+    m_ended.store(true, std::memory_order_release);
+    wake();
+    m_endSignal.release();
+}
+
+CaptureBuffer::Level CaptureBuffer::takeLevel() {
+    Level sum;
+    if (!m_isOpen.load(std::memory_order_acquire)) {
+        return sum;
+    }
+    std::int32_t bytes = 0;
+    const auto* levels = static_cast<const Level*>(TPCircularBufferTail(&m_levels, &bytes));
+    // Records stay aligned: they are 24 bytes, and the mirror carries one over the end of the ring.
+    const auto whole = bytes / static_cast<std::int32_t>(sizeof(Level));
+    for (std::int32_t i = 0; i < whole; ++i) {
+        sum.sumOfSquares[0] += levels[i].sumOfSquares[0];
+        sum.sumOfSquares[1] += levels[i].sumOfSquares[1];
+        sum.frames += levels[i].frames;
+    }
+    if (whole > 0) {
+        TPCircularBufferConsume(&m_levels, whole * static_cast<std::int32_t>(sizeof(Level)));
+    }
+    return sum;
+}
+
+AudioInputFormat CaptureBuffer::format() const {
+    return m_isOpen.load(std::memory_order_acquire) ? m_format : AudioInputFormat{};
+}
+
+CaptureBuffer::Waiting CaptureBuffer::waiting() {
+    if (!m_isOpen.load(std::memory_order_acquire)) {
+        return {};
+    }
+    std::int32_t bytes = 0;
+    auto* tail = static_cast<float*>(TPCircularBufferTail(&m_sound, &bytes));
+    return {tail, static_cast<std::size_t>(bytes) / bytesPerFrame()};
+}
+
+void CaptureBuffer::consume(std::size_t frames) {
+    if (frames > 0) {
+        TPCircularBufferConsume(&m_sound, static_cast<std::int32_t>(frames * bytesPerFrame()));
+    }
+}
+
+std::optional<std::int64_t> CaptureBuffer::takeSeam() {
+    std::int32_t bytes = 0;
+    const void* tail = m_isOpen.load(std::memory_order_acquire) ? TPCircularBufferTail(&m_seams, &bytes) : nullptr;
+    if (tail == nullptr) {
+        return std::nullopt;
+    }
+    std::int64_t seam = 0;
+    std::memcpy(&seam, tail, sizeof(seam));
+    TPCircularBufferConsume(&m_seams, sizeof(seam));
+    return seam;
+}
+
+}  // namespace tavi

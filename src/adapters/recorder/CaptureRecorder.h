@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <deque>
+#include <memory>
+#include <thread>
+
+#include "adapters/recorder/CaptureBuffer.h"
+#include "platform/AudioFileWriter.h"
+#include "platform/AudioInput.h"
+#include "platform/AudioRecorder.h"
+#include "platform/RunLoop.h"
+
+namespace tavi {
+
+/// Records from an input into a file: the capture thread fills a ring, a thread of the recorder's own encodes from it,
+/// the main thread only starts and stops. Ten seconds fit into the ring; sound that finds no room is counted and
+/// logged.
+class CaptureRecorder : public AudioRecorder {
+public:
+    CaptureRecorder(AudioInputs& inputs, std::unique_ptr<AudioFileWriter> writer, RunLoop& runLoop);
+    ~CaptureRecorder() override;
+
+    void setDelegate(AudioRecorderDelegate* delegate) override { m_delegate = delegate; }
+    bool prepareToRecord() override;
+    void setMeteringEnabled(bool enabled) override { m_isMetering = enabled; }
+    bool record() override;
+    void pause() override;
+    void stop() override;
+    void waitUntilFinished() override;
+    bool isRecording() const override { return m_isRunning; }
+    std::int64_t framesRecorded() const override { return m_buffer.framesCaptured(); }
+    void updateMeters() override;
+    float averagePowerForChannel(int channel) const override;
+
+private:
+    // Encoder thread.
+    void encode();
+    void encodeWaiting(bool isLast);
+    void logLosses();
+
+    void pauseInput();
+    void giveUpDraining();
+    void finished();
+
+    AudioInputs& m_inputs;
+    RunLoop& m_runLoop;
+    AudioRecorderDelegate* m_delegate = nullptr;
+    std::unique_ptr<AudioFileWriter> m_writer;
+    CaptureBuffer m_buffer;
+    std::unique_ptr<AudioInput> m_input;
+    bool m_isRunning = false;
+    bool m_isStopped = false;
+    bool m_isFinished = false;
+    bool m_isMetering = false;
+    std::array<float, 2> m_averagePower;
+
+    // Encoder thread, and the main thread once it has ended.
+    bool m_formatIsSet = false;
+    std::int64_t m_framesEncoded = 0;
+    std::int64_t m_lossesLogged = 0;
+    std::deque<std::int64_t> m_seams;
+    std::optional<Error> m_error;
+
+    /// Expires with the recorder, so that what the encoder thread posted finds out.
+    std::shared_ptr<int> m_lifetime = std::make_shared<int>(0);
+    std::thread m_encoder;
+};
+
+/// Makes recorders from the inputs and writers that the program has; all of them must outlive the recorders.
+class CaptureRecorders : public AudioRecorders {
+public:
+    CaptureRecorders(AudioInputs& inputs, AudioFileWriters& writers, RunLoop& runLoop)
+        : m_inputs(inputs), m_writers(writers), m_runLoop(runLoop) {}
+
+    Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const QString& path,
+                                                            const AudioRecordSettings& settings) override;
+
+private:
+    AudioInputs& m_inputs;
+    AudioFileWriters& m_writers;
+    RunLoop& m_runLoop;
+};
+
+}  // namespace tavi

@@ -1,0 +1,109 @@
+#include "app/settings/SettingsStore.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr double kDefaultRewindSeconds = 10.0;
+constexpr double kDefaultForwardSeconds = 30.0;
+
+double secondsOr(const UserDefaults& defaults, QLatin1String key, double fallback) {
+    const double stored = defaults.floatForKey(key);
+    return stored > 0.0 ? stored : fallback;
+}
+
+QString textOr(const UserDefaults& defaults, QLatin1String key, QLatin1String fallback) {
+    const QString stored = defaults.stringForKey(key);
+    return stored.isEmpty() ? QString(fallback) : stored;
+}
+
+}  // namespace
+
+void SettingsStore::writeFirstLaunchValues() {
+    using namespace settingskey;
+    if (m_defaults.boolForKey(kDefaultValSetting)) {
+        return;
+    }
+    m_defaults.setObject(true, kDefaultValSetting);
+    m_defaults.setObject(true, kAudio);
+    m_defaults.setObject(QStringLiteral("m4a"), kAudioFileType);
+    m_defaults.setObject(QStringLiteral("0"), kAudioSegmentCount);
+    m_defaults.setObject(QStringLiteral("Medium"), kAudioQualityType);
+    m_defaults.setObject(QStringLiteral("1"), kAudioQualityTypeIndex);
+    m_defaults.setObject(true, kQuickMail);
+    m_defaults.setObject(true, kIclound);
+    m_defaults.synchronize();
+}
+
+void SettingsStore::writeSortIfAbsent() {
+    if (!m_defaults.objectForKey(settingskey::kSort).isValid()) {
+        write(settingskey::kSort, 1);
+    }
+}
+
+QString SettingsStore::audioFileType() const {
+    return textOr(m_defaults, settingskey::kAudioFileType, QLatin1String("m4a"));
+}
+
+void SettingsStore::setAudioFileType(const QString& type) {
+    m_defaults.setObject(type, settingskey::kAudioFileType);
+}
+
+QString SettingsStore::audioQualityType() const {
+    return textOr(m_defaults, settingskey::kAudioQualityType, QLatin1String("Medium"));
+}
+
+void SettingsStore::setAudioQualityType(const QString& displayText) {
+    write(settingskey::kAudioQualityType, displayText);
+}
+
+bool SettingsStore::isQuickMailOn() const {
+    return !m_defaults.boolForKey(settingskey::kQuickMail);
+}
+
+void SettingsStore::setQuickMailOn(bool on) {
+    write(settingskey::kQuickMail, !on);
+}
+
+bool SettingsStore::isCloudSyncOn() const {
+    return !m_defaults.boolForKey(settingskey::kIclound);
+}
+
+void SettingsStore::setCloudSyncOn(bool on) {
+    write(settingskey::kIclound, !on);
+}
+
+int SettingsStore::sort() const {
+    return m_defaults.integerForKey(settingskey::kSort);
+}
+
+void SettingsStore::setSort(int code) {
+    write(settingskey::kSort, code);
+}
+
+double SettingsStore::rewindSeconds() const {
+    return secondsOr(m_defaults, settingskey::kRewindSong, kDefaultRewindSeconds);
+}
+
+void SettingsStore::setRewindSeconds(double seconds) {
+    write(settingskey::kRewindSong, seconds);
+}
+
+double SettingsStore::forwardSeconds() const {
+    return secondsOr(m_defaults, settingskey::kForwardSong, kDefaultForwardSeconds);
+}
+
+void SettingsStore::setForwardSeconds(double seconds) {
+    write(settingskey::kForwardSong, seconds);
+}
+
+bool SettingsStore::isThemeWhite() const {
+    return m_defaults.stringForKey(settingskey::kThemeColor) == QLatin1String("WHITE");
+}
+
+void SettingsStore::write(QLatin1String key, const QVariant& value) {
+    m_defaults.setObject(value, key);
+    m_defaults.synchronize();
+}
+
+}  // namespace tavi

@@ -1,0 +1,78 @@
+#include "library/utility/Utility.h"
+
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QLocale>
+#include <array>
+#include <charconv>
+#include <optional>
+
+#include "library/utility/DateTexts.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr double kMegabytesPerByte = 0.00000095367431640625;
+constexpr double kKilobytesPerMegabyte = 1024.0;
+
+std::optional<struct stat> attributesOf(const QByteArray& path) {
+    struct stat attributes = {};
+    if (::stat(path.constData(), &attributes) != 0) {
+        return std::nullopt;
+    }
+    return attributes;
+}
+
+}  // namespace
+
+Color Utility::getColor(const QString& hex) {
+    const auto part = [&hex](qsizetype position) { return hex.mid(position, 2).toInt(nullptr, 16) / 255.0; };
+    return Color{part(0), part(2), part(4), 1.0};
+}
+
+double Utility::getFileSize(const QByteArray& path) {
+    const auto attributes = attributesOf(path);
+    return attributes ? static_cast<double>(attributes->st_size) * kMegabytesPerByte : 0.0;
+}
+
+double Utility::getFileSize(const QString& path) {
+    return getFileSize(QFile::encodeName(path));
+}
+
+QDateTime Utility::getFileModificationDate(const QByteArray& path) {
+    const auto attributes = attributesOf(path);
+    if (!attributes) {
+        return {};
+    }
+    const timespec& modified = attributes->st_mtim;
+    return QDateTime::fromMSecsSinceEpoch(modified.tv_sec * 1000LL + modified.tv_nsec / 1000000);
+}
+
+QDateTime Utility::getFileModificationDate(const QString& path) {
+    return getFileModificationDate(QFile::encodeName(path));
+}
+
+QString Utility::getTheFormatDate(const QDateTime& date) {
+    return modificationDateText(date, QLocale());
+}
+
+QString Utility::displaySize(double megabytes) {
+    return megabytes >= 1.0 ? fixed(megabytes, 1) + QStringLiteral(" MB")
+                            : fixed(megabytes * kKilobytesPerMegabyte, 0) + QStringLiteral(" KB");
+}
+
+QString Utility::fixed(double value, int decimals) {
+    // The longest double has 309 digits before its point.
+    std::array<char, 400> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
+void Utility::showAlrtWithTitle(const QString& title, const QString& message, Presenter& presenter) {
+    presenter.presentAlert(Alert{title, message, {AlertAction{qtTrId("OK")}}});
+}
+
+}  // namespace tavi

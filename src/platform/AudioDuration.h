@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace tavi {
+
+/// Tells how long a sound file plays.
+class AudioDuration {
+public:
+    virtual ~AudioDuration() = default;
+
+    /// Seconds, without an encoder's declared priming and padding; 0 when the file is no sound file that can be opened.
+    /// Any thread.
+    virtual double durationOfFile(const QString& path) const = 0;
+};
+
+}  // namespace tavi

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <cstddef>
+#include <memory>
+
+#include "platform/AudioInput.h"
+#include "platform/AudioRecorder.h"
+#include "platform/Error.h"
+
+namespace tavi {
+
+/// Encodes sound into one file. One thread at a time.
+class AudioFileWriter {
+public:
+    virtual ~AudioFileWriter() = default;
+
+    /// Tells what write() is given; once, before the first write.
+    virtual Result<void> setInputFormat(const AudioInputFormat& format) = 0;
+    /// Appends frames in the input format. After a failure nothing more is taken, but finish() still makes a whole file
+    /// of what came before.
+    virtual Result<void> write(const float* interleaved, std::size_t frames) = 0;
+    /// Drains the encoder, completes the container's headers and brings the file to the disk. Once.
+    virtual Result<void> finish() = 0;
+};
+
+class AudioFileWriters {
+public:
+    virtual ~AudioFileWriters() = default;
+
+    /// Creates the file and its encoder. Fails when the file exists or the settings cannot be met.
+    virtual Result<std::unique_ptr<AudioFileWriter>> create(const QString& path,
+                                                            const AudioRecordSettings& settings) = 0;
+};
+
+}  // namespace tavi

@@ -1,0 +1,74 @@
+#include "ui/AlertPresenter.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tavi {
+
+void AlertPresenter::present(Entry entry) {
+    if (entry.alert.actions.empty()) {
+        // Nobody could ever close it; a bare button does.
+        entry.alert.actions.push_back({qtTrId("OK"), AlertAction::Style::Cancel});
+    }
+    m_queue.push_back(std::move(entry));
+    if (m_queue.size() == 1) {
+        Q_EMIT frontChanged();
+    }
+}
+
+QVariantList AlertPresenter::actions() const {
+    QVariantList list;
+    if (isActive()) {
+        for (const AlertAction& action : m_queue.front().alert.actions) {
+            list.append(QVariantMap{
+                {QStringLiteral("title"), action.title},
+                {QStringLiteral("cancel"), action.style == AlertAction::Style::Cancel},
+                {QStringLiteral("destructive"), action.style == AlertAction::Style::Destructive},
+            });
+        }
+    }
+    return list;
+}
+
+int AlertPresenter::actionOfStyle(AlertAction::Style style) const {
+    if (!isActive()) {
+        return -1;
+    }
+    const auto& actions = m_queue.front().alert.actions;
+    const auto found = std::find_if(actions.begin(), actions.end(),
+                                    [style](const AlertAction& action) { return action.style == style; });
+    return found == actions.end() ? -1 : static_cast<int>(found - actions.begin());
+}
+
+int AlertPresenter::defaultAction() const {
+    // Beside something destructive, Enter must do no harm.
+    const int cancel = actionOfStyle(AlertAction::Style::Cancel);
+    if (cancel >= 0 && actionOfStyle(AlertAction::Style::Destructive) >= 0) {
+        return cancel;
+    }
+    const int usual = actionOfStyle(AlertAction::Style::Default);
+    return usual >= 0 ? usual : cancel;
+}
+
+void AlertPresenter::choose(int action) {
+    if (!isActive() || action < 0 || action >= static_cast<int>(m_queue.front().alert.actions.size())) {
+        return;
+    }
+    const auto handler = std::move(m_queue.front().alert.actions[static_cast<std::size_t>(action)].handler);
+    m_queue.pop_front();
+    Q_EMIT frontChanged();
+    if (handler) {
+        handler();
+    }
+}
+
+void AlertPresenter::dismiss() {
+    const int cancel = actionOfStyle(AlertAction::Style::Cancel);
+    if (cancel >= 0) {
+        choose(cancel);
+    } else if (isActive() && m_queue.front().alert.actions.size() == 1) {
+        choose(0);
+    }
+}
+
+}  // namespace tavi

@@ -1,0 +1,11 @@
+#pragma once
+
+class QCoreApplication;
+
+namespace tavi {
+
+/// Installs the program's texts; from then on qtTrId() and qsTrId() find them. Once, on the main thread, before any
+/// text is asked for. A text that is missing shows its id.
+void installTexts(QCoreApplication& application);
+
+}  // namespace tavi

@@ -1,0 +1,116 @@
+import QtQuick
+import Tavi.Ui
+
+/// An alert: a text and its buttons on a panel in the middle of the window.
+Rectangle {
+    id: view
+
+    required property AlertPresenter presenter
+    readonly property alias buttons: buttons
+    readonly property alias words: words
+    readonly property real available: parent ? parent.height - 2 * Theme.margin : 0
+    readonly property int count: presenter.actions.length
+    /// Two short titles fit beside each other.
+    readonly property bool beside: {
+        let widest = 0
+        for (let i = 0; i < buttons.count; ++i)
+            widest = Math.max(widest, buttons.itemAt(i)?.implicitWidth ?? 0)
+        return count === 2 && widest <= (grid.width - grid.spacing) / 2
+    }
+
+    anchors.centerIn: parent
+    width: Math.min(parent.width - 2 * Theme.margin, 340)
+    height: words.height + grid.height + 2 * 20 + (words.height > 0 ? 20 : 0)
+    radius: 14
+    color: Theme.panel
+    border.color: Theme.control
+    border.width: 1
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: presenter.title
+    Accessible.description: presenter.message
+
+    Flickable {
+        id: words
+
+        readonly property string shown: view.presenter.title + view.presenter.message
+
+        onShownChanged: contentY = 0
+        x: 20
+        y: 20
+        width: parent.width - 2 * x
+        height: Math.min(contentHeight, view.available - grid.height - 60)
+        contentHeight: column.height
+        clip: true
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        Column {
+            id: column
+
+            width: parent.width
+            spacing: 8
+
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: view.presenter.title
+                color: Theme.text
+                font.pixelSize: 17
+                font.weight: Font.Medium
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            Label {
+                width: parent.width
+                visible: text !== ""
+                text: view.presenter.message
+                color: "#c4c4c4"
+                lineHeight: 1.1
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+        }
+    }
+
+    ScrollMark {
+        flickable: words
+        x: words.x + words.width + 8
+    }
+
+    Grid {
+        id: grid
+
+        x: 20
+        y: parent.height - height - 20
+        width: parent.width - 2 * x
+        columns: view.beside ? 2 : 1
+        spacing: 10
+
+        Repeater {
+            id: buttons
+
+            model: view.presenter.actions
+
+            TButton {
+                required property int index
+                required property var modelData
+                readonly property bool isDefault: index === view.presenter.defaultAction
+
+                width: view.beside ? (grid.width - grid.spacing) / 2 : grid.width
+                height: 46
+                objectName: "action" + index
+                text: modelData.title
+                font.weight: Font.Medium
+                tint: modelData.destructive ? Theme.warning : Theme.text
+                fill: isDefault && !modelData.cancel ? Theme.accent : Theme.control
+                pressedFill: isDefault && !modelData.cancel ? Theme.switchTint : Theme.pressed
+                onClicked: view.presenter.choose(index)
+            }
+        }
+    }
+}

@@ -1,0 +1,11 @@
+import QtQuick
+import Tavi.Ui
+
+/// Text as the shell writes it. Never reads markup out of what users type.
+Text {
+    color: Theme.label
+    font.family: Theme.family
+    font.pixelSize: Theme.textSize
+    textFormat: Text.PlainText
+    verticalAlignment: Text.AlignVCenter
+}

@@ -1,0 +1,348 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <!-- The program -->
+    <message id="app_name">
+        <source></source>
+        <translation>Voice Recorder</translation>
+    </message>
+    <message id="Record">
+        <source></source>
+        <translation>Record</translation>
+    </message>
+    <message id="voice_memo">
+        <source></source>
+        <translation>Voice Memos</translation>
+    </message>
+    <message id="Setting">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="Ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="OK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="Record Audio">
+        <source></source>
+        <translation>Record Audio</translation>
+    </message>
+    <message id="Quick Create Voice Memo">
+        <source></source>
+        <translation>Quick Create Voice Memo</translation>
+    </message>
+    <message id="Recordings">
+        <source></source>
+        <translation>Recordings</translation>
+    </message>
+    <message id="Recorded Voice Memos">
+        <source></source>
+        <translation>Recorded Voice Memos</translation>
+    </message>
+    <message id="Low">
+        <source></source>
+        <translation>Low</translation>
+    </message>
+    <message id="Medium">
+        <source></source>
+        <translation>Medium</translation>
+    </message>
+    <message id="High">
+        <source></source>
+        <translation>High</translation>
+    </message>
+    <message id="user_abc">
+        <source></source>
+        <translation>user_abc</translation>
+    </message>
+    <!-- Settings -->
+    <message id="Settings">
+        <source></source>
+        <translation>Settings</translation>
+    </message>
+    <message id="recording_type">
+        <source></source>
+        <translation>Recording Type</translation>
+    </message>
+    <message id="recording_quality">
+        <source></source>
+        <translation>Recording Quality</translation>
+    </message>
+    <message id="audio_setting">
+        <source></source>
+        <translation>Audio Settings</translation>
+    </message>
+    <message id="icloud_sync">
+        <source></source>
+        <translation>Cloud Sync</translation>
+    </message>
+    <message id="mail">
+        <source></source>
+        <translation>Mail</translation>
+    </message>
+    <message id="data_security">
+        <source></source>
+        <translation>Data Security</translation>
+    </message>
+    <message id="support">
+        <source></source>
+        <translation>Support</translation>
+    </message>
+    <message id="feature">
+        <source></source>
+        <translation>Features</translation>
+    </message>
+    <message id="Extention">
+        <source></source>
+        <translation>Extension</translation>
+    </message>
+    <message id="Quality">
+        <source></source>
+        <translation>Quality</translation>
+    </message>
+    <message id="rewind">
+        <source></source>
+        <translation>Rewind ( %1 Sec )</translation>
+    </message>
+    <message id="forward">
+        <source></source>
+        <translation>Forward ( %1 Sec )</translation>
+    </message>
+    <message id="use_icloud">
+        <source></source>
+        <translation>Sync Recordings with the Cloud</translation>
+    </message>
+    <message id="Quick_Mail">
+        <source></source>
+        <translation>Mail Recordings at Once</translation>
+    </message>
+    <message id="passcode_lock">
+        <source></source>
+        <translation>Passcode Lock</translation>
+    </message>
+    <message id="change_pass">
+        <source></source>
+        <translation>Change Passcode</translation>
+    </message>
+    <message id="rate">
+        <source></source>
+        <translation>Rate This App</translation>
+    </message>
+    <message id="more_apps">
+        <source></source>
+        <translation>More Apps</translation>
+    </message>
+    <message id="report_bug">
+        <source></source>
+        <translation>Report a Problem</translation>
+    </message>
+    <message id="bug_report">
+        <source></source>
+        <translation>Problem Report: Voice Recorder</translation>
+    </message>
+    <message id="gmail">
+        <source></source>
+        <translation>support@quillfen.com</translation>
+    </message>
+    <message id="issue_recorder">
+        <source></source>
+        <translation>Please describe what went wrong, and what you did just before:&#10;&#10;</translation>
+    </message>
+    <message id="Select Recording Audio Type">
+        <source></source>
+        <translation>Select Recording Audio Type</translation>
+    </message>
+    <message id="Select Recording Audio Quality">
+        <source></source>
+        <translation>Select Recording Audio Quality</translation>
+    </message>
+    <message id="M4a">
+        <source></source>
+        <translation>M4a</translation>
+    </message>
+    <message id="Wave">
+        <source></source>
+        <translation>Wave</translation>
+    </message>
+    <message id="Aac">
+        <source></source>
+        <translation>Aac</translation>
+    </message>
+    <message id="Mp4">
+        <source></source>
+        <translation>Mp4</translation>
+    </message>
+    <message id="Caf">
+        <source></source>
+        <translation>Caf</translation>
+    </message>
+    <message id="Cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <!-- Recording -->
+    <message id="lbl_recording">
+        <source></source>
+        <translation>Recording</translation>
+    </message>
+    <message id="lbl_record_pause">
+        <source></source>
+        <translation>Paused</translation>
+    </message>
+    <message id="microphone_denied">
+        <source></source>
+        <translation>Microphone Access Denied</translation>
+    </message>
+    <message id="access_device_microphone">
+        <source></source>
+        <translation>This app needs your device's microphone to record. Please allow microphone access for it in the system settings.</translation>
+    </message>
+    <message id="alert_title">
+        <source></source>
+        <translation>Recording Failed</translation>
+    </message>
+    <message id="alert_title_ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="audio_hardware_alert_title">
+        <source></source>
+        <translation>No Microphone</translation>
+    </message>
+    <message id="audio_hardware_alert_message">
+        <source></source>
+        <translation>No audio input is available. Connect a microphone, then try again.</translation>
+    </message>
+    <message id="alert_error">
+        <source></source>
+        <translation>Error</translation>
+    </message>
+    <message id="file_size_msg">
+        <source></source>
+        <translation>This recording is larger than 25 MB and cannot be mailed.</translation>
+    </message>
+    <message id="cloud_unavail">
+        <source></source>
+        <translation>Cloud Unavailable</translation>
+    </message>
+    <message id="signin_icloud_account">
+        <source></source>
+        <translation>Please sign in to your cloud account to keep recordings in sync.</translation>
+    </message>
+    <message id="alert_okay">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="picke_subject">
+        <source></source>
+        <translation>Voice Recording</translation>
+    </message>
+    <message id="error_microphone_disconnected">
+        <source></source>
+        <translation>The microphone was disconnected.</translation>
+    </message>
+    <message id="error_microphone_missing">
+        <source></source>
+        <translation>There is no microphone to record from.</translation>
+    </message>
+    <message id="error_sound_server_missing">
+        <source></source>
+        <translation>No sound server is running.</translation>
+    </message>
+    <message id="error_sound_server_refused">
+        <source></source>
+        <translation>The sound server refused access.</translation>
+    </message>
+    <message id="error_sound_server_silent">
+        <source></source>
+        <translation>The sound server does not answer.</translation>
+    </message>
+    <message id="error_sound_server_stopped">
+        <source></source>
+        <translation>The connection to the sound server was lost.</translation>
+    </message>
+    <message id="idle_reason">
+        <source></source>
+        <translation>A voice recording may be in progress</translation>
+    </message>
+    <!-- Library -->
+    <message id="voice_record">
+        <source></source>
+        <translation>Voice Memos</translation>
+    </message>
+    <message id="Name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="Date">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="Size">
+        <source></source>
+        <translation>Size</translation>
+    </message>
+    <message id="Local Recording&apos;s">
+        <source></source>
+        <translation>Local Recording's</translation>
+    </message>
+    <message id="iCloud Sync Recording&apos;s">
+        <source></source>
+        <translation>iCloud Sync Recording's</translation>
+    </message>
+    <message id="iCloud not available">
+        <source></source>
+        <translation>iCloud not available</translation>
+    </message>
+    <message id="Please sign in iCloud">
+        <source></source>
+        <translation>Please sign in iCloud</translation>
+    </message>
+    <!-- Shell -->
+    <message id="record_hint">
+        <source></source>
+        <translation>Tap the red button to record</translation>
+    </message>
+    <message id="library_empty_title">
+        <source></source>
+        <translation>No recordings yet</translation>
+    </message>
+    <message id="library_empty">
+        <source></source>
+        <translation>Whatever you record is kept here. Go to Record and tap the red button to make your first one.</translation>
+    </message>
+    <message id="a11y_tabs">
+        <source></source>
+        <translation>Tabs</translation>
+    </message>
+    <message id="a11y_record">
+        <source></source>
+        <translation>Record</translation>
+    </message>
+    <message id="a11y_pause">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="a11y_resume">
+        <source></source>
+        <translation>Resume</translation>
+    </message>
+    <message id="a11y_stop">
+        <source></source>
+        <translation>Stop and save</translation>
+    </message>
+    <message id="a11y_level">
+        <source></source>
+        <translation>Sound level</translation>
+    </message>
+    <message id="a11y_sort">
+        <source></source>
+        <translation>Sorts the recordings; again turns the order round</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,247 @@
+"""Drives the program as a user does: test_app.py PROGRAM [OPTION OF unittest...]"""
+
+import itertools
+import json
+import pathlib
+import re
+import signal
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts/lib"))
+
+from private_desktop import PrivateDesktop, wait_for
+from sound import Sound, level, probe, write_tone
+
+PROGRAM = None
+NAME = "com.quillfen.voicerecorder"
+FILE_NAME = r"^\d{4}_[A-Z][a-z]{2}_\d\d_\d\d_\d\d_\d\d\.\w+$"
+
+
+class AppTest(unittest.TestCase):
+    """One desktop for a class; each test gets a container of its own."""
+
+    with_sound = True
+    numbers = itertools.count()
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = PrivateDesktop(sound=cls.with_sound)
+        cls.addClassCleanup(cls.desktop.close)
+        if not cls.with_sound:
+            cls.desktop.environment["PULSE_SERVER"] = f"unix:{cls.desktop.folder}/nobody"
+        cls.tone = write_tone(cls.desktop.folder / "tone.wav", 1000, 2.0)
+
+    def setUp(self):
+        self.container = self.desktop.folder / f"container-{next(self.numbers)}"
+        self.documents = self.container / "Documents"
+        self.log = self.container.with_suffix(".log")
+
+    def start(self, *arguments):
+        app = self.desktop.spawn(PROGRAM, "--container", self.container, *arguments, log=self.log)
+        self.addCleanup(self.desktop.stop, app)
+        self.desktop.window(app)
+        self.wait(self.bus_name, "the name on the bus")
+        return app
+
+    def bus_name(self):
+        """The program's name on the bus, which has a suffix of its own for each container."""
+        names = self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
+                                 "--method", "org.freedesktop.DBus.ListNames").stdout
+        found = re.search(rf"{re.escape(NAME)}[\w.]*", names)
+        return found and found.group()
+
+    def tavi(self, *arguments, check=True):
+        return self.desktop.run(PROGRAM, "--container", self.container, *arguments, check=check)
+
+    def activate(self, action):
+        self.desktop.run("gdbus", "call", "--session", "--dest", self.bus_name(), "--object-path", "/" + NAME.replace(".", "/"),
+                         "--method", "org.freedesktop.Application.ActivateAction", action, "[]", "{}")
+
+    def wait(self, condition, what):
+        try:
+            return wait_for(condition, what)
+        except Exception as error:
+            said = self.log.read_text() if self.log.exists() else ""
+            self.fail(f"{error}\nthe program said:\n{said}")
+
+    def wait_recording(self):
+        self.wait(lambda: self.desktop.captures() == [True], "the recording to run")
+
+    def wait_paused(self):
+        self.wait(lambda: self.desktop.captures() == [False], "the recording to pause")
+
+    def recordings(self):
+        return sorted(path for path in self.documents.glob("*") if path.is_file())
+
+    def wait_saved(self, count=1):
+        return self.wait(lambda: len(self.recordings()) == count and self.recordings(), f"{count} recordings")[-1]
+
+    def play(self, sound=None):
+        self.desktop.run("paplay", "--device=mic_sink", sound or self.tone)
+
+    def assert_holds_tone(self, path, seconds=2.0, hertz=1000, decibels=-9.03, tolerance=0.5):
+        """The tone is there for as long as it was played, without a gap, and as loud."""
+        sound = Sound(path)
+        self.assertAlmostEqual(sound.tone_seconds(hertz), seconds, delta=0.1)
+        loud = sound.loud()
+        self.assertAlmostEqual(level(loud[len(loud) // 2]), decibels, delta=tolerance)
+
+
+class Recording(AppTest):
+    def test_command_line_records_each_type_as_set(self):
+        cases = [
+            ("m4a", "High", {"codec": "alac", "rate": 44100, "channels": 2}, 0.2),
+            ("m4a", "Low", {"codec": "alac", "rate": 8000, "channels": 1}, 0.2),
+            ("wav", "Medium", {"codec": "pcm_u8", "rate": 16000, "channels": 2}, 0.5),
+            ("aac", "High", {"codec": "aac", "rate": 44100, "channels": 2}, 1.0),
+            ("mp4", "Medium", {"codec": "aac", "rate": 16000, "channels": 2}, 1.0),
+            ("caf", "High", {"codec": "adpcm_ima_qt", "rate": 44100, "channels": 2}, 1.0),
+        ]
+        self.start()
+        for count, (file_type, quality, expected, tolerance) in enumerate(cases, start=1):
+            with self.subTest(file_type=file_type, quality=quality):
+                self.tavi("set", "AudioFileType", file_type)
+                self.tavi("set", "AudioQualityType", quality)
+                before = set(self.recordings())
+                self.tavi("record")
+                self.wait_recording()
+                self.play()
+                self.tavi("stop")
+                self.wait_saved(count)
+                saved, = set(self.recordings()) - before
+                self.assertRegex(saved.name, FILE_NAME)
+                self.assertEqual(saved.suffix, "." + file_type)
+                found = probe(saved)
+                self.assertEqual({key: found[key] for key in expected}, expected)
+                self.assertAlmostEqual(found["duration"], Sound(saved).seconds, delta=0.1 if file_type != "aac" else 1.0)
+                self.assert_holds_tone(saved, tolerance=tolerance)
+
+    def test_a_pause_leaves_out_what_is_played_in_it(self):
+        first = write_tone(self.desktop.folder / "first.wav", 500, 1.0)
+        second = write_tone(self.desktop.folder / "second.wav", 3000, 1.0)
+        self.start()
+        self.activate("record")
+        self.wait_recording()
+        self.play(first)
+        self.activate("record")
+        self.wait_paused()
+        self.play(second)
+        self.activate("record")
+        self.wait_recording()
+        self.play()
+        self.activate("stop")
+        saved = Sound(self.wait_saved())
+        self.assertAlmostEqual(saved.tone_seconds(500), 1.0, delta=0.1)
+        self.assertAlmostEqual(saved.tone_seconds(1000), 2.0, delta=0.1)
+        self.assertLess(saved.tone_seconds(3000), 0.1)
+
+    def test_keys_record_pause_resume_stop_and_choose_tabs(self):
+        app = self.start()
+        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
+        self.desktop.keys("space")
+        self.wait_recording()
+        self.desktop.keys("space")
+        self.wait_paused()
+        self.desktop.keys("space")
+        self.wait_recording()
+        self.play()
+        self.desktop.keys("ctrl+s")
+        self.assert_holds_tone(self.wait_saved())
+        shown = self.desktop.picture()
+        for key in ("ctrl+2", "ctrl+3", "ctrl+1"):
+            self.desktop.keys(key)
+            before = shown
+            shown = self.wait(lambda: (now := self.desktop.picture()) != before and now, f"the screen after {key}")
+        self.assertEqual(self.desktop.stop(app), 0)
+
+    def test_urls_in_any_case_start_and_stop(self):
+        self.start()
+        for start, stop in (("TaviRecordStart:", "TaviRecordStop:"), ("tavirecordstart://", "TAVIRECORDSTOP://")):
+            before = len(self.recordings())
+            self.tavi(start)
+            self.wait_recording()
+            self.play()
+            self.tavi(stop)
+            self.wait_saved(before + 1)
+
+    def test_record_starts_the_program_when_none_runs(self):
+        self.start("record")
+        self.wait_recording()
+        self.play()
+        self.tavi("stop")
+        self.assert_holds_tone(self.wait_saved())
+
+    def test_termination_saves_the_recording(self):
+        app = self.start("record")
+        self.wait_recording()
+        self.play()
+        self.assertEqual(self.desktop.stop(app, signal.SIGTERM), 0)
+        self.assert_holds_tone(self.wait_saved())
+
+    def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
+        self.start("record")
+        self.wait_recording()
+        self.play()
+        self.desktop.kill_sound()
+        try:
+            saved = self.wait_saved()
+        finally:
+            self.desktop.start_sound()
+        self.assert_holds_tone(saved)
+        self.tavi("record")
+        self.wait_recording()
+        self.play()
+        self.tavi("stop")
+        self.assert_holds_tone(self.wait_saved(2))
+
+
+class Instance(AppTest):
+    def test_a_second_start_hands_over_to_the_first(self):
+        app = self.start()
+        second = self.tavi("library")
+        self.assertEqual(second.returncode, 0)
+        self.assertEqual(self.tavi().returncode, 0)
+        self.assertIsNone(app.poll())
+        windows = self.desktop.run("xdotool", "search", "--onlyvisible", "--class", ".", check=False).stdout.split()
+        self.assertEqual(len(windows), 1)
+
+    def test_settings_and_lists_on_the_command_line(self):
+        self.assertEqual(self.tavi("get", "AudioFileType").stdout.strip(), "m4a")
+        self.tavi("set", "AudioFileType", "wav")
+        self.assertEqual(self.tavi("get", "AudioFileType").stdout.strip(), "wav")
+        self.assertEqual(json.loads(self.tavi("list", "--json").stdout), [])
+        write_tone(self.documents / "memo.wav", 1000, 2.5)
+        write_tone(self.documents / "other.wav", 1000, 0.5)
+        listed = {entry["filename"]: entry for entry in json.loads(self.tavi("list", "--json").stdout)}
+        self.assertEqual(set(listed), {"memo.wav", "other.wav"})
+        self.assertEqual(listed["memo.wav"]["duration"], "00:03")
+        self.assertIn("memo.wav", self.tavi("list").stdout)
+
+    def test_mistakes_are_told_on_standard_error(self):
+        for arguments in (["fly"], ["set", "AudioFileType"], ["set", "AudioFileType", "ogg"], ["get", "NoSuchKey"],
+                          ["--no-such-option"], ["import", "/nonexistent.m4a"]):
+            with self.subTest(arguments=arguments):
+                done = self.tavi(*arguments, check=False)
+                self.assertNotEqual(done.returncode, 0)
+                self.assertNotEqual(done.stderr.strip(), "")
+                self.assertEqual(done.stdout.strip(), "")
+
+
+class WithoutSound(AppTest):
+    with_sound = False
+
+    def test_without_a_sound_server_an_alert_says_so(self):
+        app = self.start()
+        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
+        before = self.desktop.picture()
+        self.tavi("record")
+        self.wait(lambda: sum(map(int.__ne__, self.desktop.picture(), before)) > 20_000, "the alert")
+        self.assertEqual(self.recordings(), [])
+        self.assertIsNone(app.poll())
+        self.assertEqual(self.desktop.stop(app), 0)
+
+
+if __name__ == "__main__":
+    PROGRAM = str(pathlib.Path(sys.argv.pop(1)).resolve())
+    unittest.main()

@@ -1,0 +1,183 @@
+"""Checks that the sources keep to the layers that docs/architecture.md draws.
+
+check.py ROOT        prints what is wrong in that tree; exit status 1 if anything is
+check.py --self-test plants one fault of each kind in a small tree of its own and sees that it is found
+"""
+
+import pathlib
+import re
+import sys
+import tempfile
+
+# Folders of src/ and what they may include from beside themselves. Every folder may include platform. The C++ of a
+# screen's qml/ folder, and an item that QML draws with (...Item), may include the screen, what it may include, and ui.
+MODULES = {
+    "platform": [],
+    "API/AudioTrimmerController/EZAudio": [],
+    "app/settings": [],
+    "app/cli": [],
+    "library/utility": [],
+    "trimming/waves": ["API/AudioTrimmerController/EZAudio"],
+    "cloud": [],
+    "watch": [],
+    "passcode": ["app/settings"],
+    "support": ["app/settings"],
+    "ui": [],
+    "recording": ["trimming/waves", "cloud", "watch", "app/settings", "library/utility"],
+    "trimming": ["trimming/waves", "API/AudioTrimmerController/EZAudio", "cloud", "app/settings", "library/utility"],
+    "library": ["trimming", "cloud", "app/settings", "library/utility"],
+    "app": ["recording", "library", "trimming", "passcode", "cloud", "watch", "support", "app/settings", "library/utility"],
+}
+FEATURE_TESTS = {name.split("/")[0] for name in MODULES}
+ENGINE = "API/AudioTrimmerController/EZAudio"
+
+# What only adapters may name: timers, stores, networks, buses and the system's clocks.
+RESERVED = re.compile(
+    r"\b(QTimer|QBasicTimer|QSettings|QElapsedTimer|QDeadlineTimer|QNetwork\w+|QDBus\w+|gettimeofday|clock_gettime"
+    r"|QDateTime::current\w+|QDate::current\w+|QTime::current\w+|(?:system|steady|high_resolution)_clock)\b")
+# Headers of a library, and the adapters that stand before it.
+LIBRARIES = [
+    (re.compile(r"^pulse/"), {"adapters/pulse"}),
+    (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
+    (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "main"}),
+]
+GRAPHICS = re.compile(r"^(Qt(Quick|Qml|Gui|Widgets)\b|QQ(uick|ml)|QGuiApplication|QPainter|QWindow|QImage)")
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+NOISE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
+
+
+def module_of(path):
+    """The folder of src/ that a path below it belongs to; None for none. "main" is what puts the adapters together: what
+    lies in src/ itself, and the library that main.cpp loads them from."""
+    parts = pathlib.PurePosixPath(path).parts
+    if len(parts) == 1 or parts[0] == "media":
+        return "main"
+    if parts[0] == "adapters":
+        return "/".join(parts[:2]) if len(parts) > 2 else None
+    found = max((name for name in MODULES if path.startswith(name + "/")), key=len, default=None)
+    if found and ("qml" in parts[len(found.split("/")):-1] or parts[-1].split(".")[0].endswith("Item")):
+        return found + "/qml"
+    return found
+
+
+def allowed(module):
+    """What a module may include, itself left out; None for everything."""
+    if module == "main":
+        return None
+    if module.startswith("adapters/"):
+        return {"platform", ENGINE}
+    if module.endswith("/qml"):
+        base = module[: -len("/qml")]
+        return {base, "ui", "ui/qml", "platform", *MODULES[base]}
+    return {"platform", *MODULES[module]}
+
+
+def check_includes(module, code):
+    may_include = allowed(module)
+    logic = not (module in ("main", "ui") or module.startswith("adapters/") or module.endswith("/qml"))
+    for kind, header in INCLUDE.findall(code):
+        if kind == '"':
+            target = module_of(header) if "/" in header else None
+            if target and target != module and may_include is not None and target not in may_include:
+                yield f'{module} must not include "{header}"'
+            continue
+        for pattern, owners in LIBRARIES:
+            if pattern.match(header) and module not in owners:
+                yield f"<{header}> belongs to {', '.join(sorted(owners))}"
+        if logic and GRAPHICS.match(header):
+            yield f"<{header}> draws; {module} holds no drawing"
+        if module == ENGINE and re.match(r"^(Qt?[A-Z]|Q[A-Z])", header):
+            yield f"<{header}> is Qt; the engine is plain C++"
+
+
+def check_source(path, code):
+    module = module_of(path)
+    if module is None:
+        yield "belongs to no folder that this check knows"
+        return
+    yield from check_includes(module, code)
+    if module != "main" and not module.startswith("adapters/"):
+        for name in sorted(set(RESERVED.findall(NOISE.sub(" ", code)))):
+            yield f"{name} is for adapters only"
+
+
+def check_test(path, code):
+    kind, folder = pathlib.PurePosixPath(path).parts[:2]
+    of_features = kind in ("ui", "support") or (kind == "unit" and folder in FEATURE_TESTS)
+    for _, header in INCLUDE.findall(code):
+        if header.startswith("adapters/") and of_features:
+            yield f'only tests of adapters may include "{header}"'
+
+
+def check(root):
+    faults = []
+    count = 0
+    for folder, checker in (("src", check_source), ("tests", check_test)):
+        for file in sorted((root / folder).rglob("*")):
+            if file.suffix in (".h", ".cpp"):
+                count += 1
+                path = file.relative_to(root / folder).as_posix()
+                faults += [f"{folder}/{path}: {fault}" for fault in checker(path, file.read_text(encoding="utf-8"))]
+    return faults, count
+
+
+CLEAN = {
+    "src/main.cpp": '#include "adapters/qt/QtRunLoop.h"\nQTimer* allowed;\n',
+    "src/adapters/pulse/Input.cpp": '#include <pulse/pulseaudio.h>\n#include "platform/AudioInput.h"\nQTimer t;\n',
+    "src/recording/AudioRecordVC.cpp": '#include "trimming/waves/WaveView.h"\n// no QTimer here\nauto s = "QSettings";\n',
+    "src/recording/qml/Item.cpp": '#include <QtQml/qqml.h>\n#include "recording/AudioRecordVC.h"\n#include "ui/qml/Shell.h"\n',
+    "src/trimming/waves/WaveViewItem.h": '#include <QQuickPaintedItem>\n#include "trimming/waves/WaveView.h"\n',
+    "src/app/settings/SettingsStore.cpp": '#include "app/settings/SettingsStore.h"\n#include <QString>\n',
+    "tests/unit/adapters/recorder/Recorder.cpp": '#include "adapters/recorder/Recorder.h"\n',
+    "tests/contract/Clock.cpp": '#include "adapters/qt/QtClock.h"\n',
+}
+PLANTED = {
+    "src/recording/Timer.cpp": "QTimer timer;\n",
+    "src/recording/Clock.cpp": "auto now = QDateTime::currentDateTime();\n",
+    "src/library/Clock.cpp": "auto now = std::chrono::steady_clock::now();\n",
+    "src/app/Bus.cpp": "void f(QDBusConnection);\n",
+    "src/recording/Adapter.cpp": '#include "adapters/qt/QtRunLoop.h"\n',
+    "src/recording/Library.cpp": '#include "library/VoiceMemoVC.h"\n',
+    "src/recording/Qml.cpp": '#include "recording/qml/Item.h"\n',
+    "src/recording/Paint.cpp": "#include <QPainter>\n",
+    "src/app/settings/Up.cpp": '#include "app/AppDelegate.h"\n',
+    "src/adapters/recorder/Chain.cpp": '#include "adapters/pulse/Input.h"\n',
+    "src/adapters/recorder/Codec.cpp": "extern \"C\" {\n#include <libavcodec/avcodec.h>\n}\n",
+    "src/adapters/qt/Sound.cpp": "#include <pulse/pulseaudio.h>\n",
+    "src/API/AudioTrimmerController/EZAudio/Qt.h": "#include <QString>\n",
+    "src/platform/Up.h": '#include "recording/AudioRecordVC.h"\n',
+    "src/elsewhere/Stray.cpp": "int stray;\n",
+    "tests/unit/recording/Real.cpp": '#include "adapters/qt/QtClock.h"\n',
+}
+
+
+def self_test():
+    def faults_of(files):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder)
+            for name, code in files.items():
+                (root / name).parent.mkdir(parents=True, exist_ok=True)
+                (root / name).write_text(code)
+            return check(root)[0]
+
+    wrong = [f"found in a clean tree: {fault}" for fault in faults_of(CLEAN)]
+    for name, code in PLANTED.items():
+        found = faults_of(CLEAN | {name: code})
+        if len(found) != 1 or not found[0].startswith(name + ":"):
+            wrong.append(f"planted in {name}, found {found}")
+    return wrong
+
+
+def main(arguments):
+    if arguments == ["--self-test"]:
+        faults, count = self_test(), len(PLANTED)
+    else:
+        faults, count = check(pathlib.Path(arguments[0]))
+        if count == 0:
+            faults = [f"no sources below {arguments[0]}"]
+    print("\n".join([*faults, f"{count} checked, {len(faults)} wrong"]))
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,112 @@
+#include <gmock/gmock.h>
+
+#include <QSet>
+
+#include "adapters/qt/QtAppContainer.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+
+namespace {
+
+std::unique_ptr<AppContainer> created(const QString& folder) {
+    auto made = QtAppContainer::create(folder);
+    if (!made) {
+        qFatal("%s", qPrintable(made.error().text));
+    }
+    return std::move(*made);
+}
+
+enum class Kind { Temporary, Below, BelowRelative, Xdg };
+
+class AppContainerContract : public ::testing::TestWithParam<Kind> {
+protected:
+    void SetUp() override {
+        m_workingDirectory = QDir::currentPath();
+        QDir::setCurrent(m_folder.path());
+        for (const auto& [name, folder] :
+             {std::pair("HOME", ""), std::pair("XDG_CACHE_HOME", "/cache"), std::pair("XDG_CONFIG_HOME", "/config"),
+              std::pair("XDG_DATA_HOME", "/data")}) {
+            m_environment.emplace_back(name, qgetenv(name));
+            qputenv(name, (m_folder.path() + QLatin1String(folder)).toUtf8());
+        }
+    }
+
+    void TearDown() override {
+        QDir::setCurrent(m_workingDirectory);
+        for (const auto& [name, value] : m_environment) {
+            value.isNull() ? qunsetenv(name) : qputenv(name, value);
+        }
+    }
+
+    std::unique_ptr<AppContainer> make() const {
+        switch (GetParam()) {
+            case Kind::Temporary:
+                return std::make_unique<TemporaryContainer>();
+            case Kind::Below:
+                return created(m_folder.filePath(QStringLiteral("new/one/")));
+            case Kind::BelowRelative:
+                return created(QStringLiteral("./other/../relative"));
+            case Kind::Xdg:
+                break;
+        }
+        return created(QString());
+    }
+
+    QTemporaryDir m_folder;
+
+private:
+    QString m_workingDirectory;
+    std::vector<std::pair<const char*, QByteArray>> m_environment;
+};
+
+TEST_P(AppContainerContract, FoldersExistAndAreApart) {
+    const auto container = make();
+    const QString group = container->groupContainerPath(QStringLiteral("group.One"));
+    const QStringList paths = {container->documentsPath(),
+                               container->cachesPath(),
+                               container->temporaryPath(),
+                               container->preferencesPath(),
+                               group,
+                               container->groupContainerPath(QStringLiteral("group.Two"))};
+    EXPECT_EQ(QSet<QString>(paths.begin(), paths.end()).size(), paths.size());
+    for (const QString& path : paths) {
+        SCOPED_TRACE(qPrintable(path));
+        EXPECT_TRUE(QDir::isAbsolutePath(path));
+        EXPECT_EQ(path, QDir::cleanPath(path));
+        EXPECT_TRUE(QFileInfo(path).isDir());
+        EXPECT_TRUE(QFile(path + QLatin1String("/probe")).open(QIODevice::WriteOnly));
+    }
+    EXPECT_EQ(container->groupContainerPath(QStringLiteral("group.One")), group);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, AppContainerContract,
+                         ::testing::Values(Kind::Temporary, Kind::Below, Kind::BelowRelative, Kind::Xdg));
+
+using QtAppContainerTest = AppContainerContract;
+INSTANTIATE_TEST_SUITE_P(Xdg, QtAppContainerTest, ::testing::Values(Kind::Xdg));
+
+TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
+    const auto xdg = created(QString());
+    EXPECT_EQ(xdg->documentsPath(), m_folder.filePath(QStringLiteral("Music/Voice Recordings")));
+    EXPECT_EQ(xdg->cachesPath(), m_folder.filePath(QStringLiteral("cache/com.quillfen.voicerecorder")));
+    EXPECT_EQ(xdg->preferencesPath(), m_folder.filePath(QStringLiteral("config/com.quillfen.voicerecorder")));
+    EXPECT_EQ(xdg->groupContainerPath(QStringLiteral("g")),
+              m_folder.filePath(QStringLiteral("data/com.quillfen.voicerecorder/Groups/g")));
+    const auto own = created(QStringLiteral("mine"));
+    EXPECT_EQ(own->documentsPath(), m_folder.filePath(QStringLiteral("mine/Documents")));
+    EXPECT_EQ(own->temporaryPath(), m_folder.filePath(QStringLiteral("mine/tmp")));
+    EXPECT_EQ(QFile::permissions(own->cachesPath()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+TEST_P(QtAppContainerTest, SaysWhichFolderCannotBeMade) {
+    QFile file(m_folder.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const auto container = QtAppContainer::create(QStringLiteral("file/below"));
+    ASSERT_FALSE(container.has_value());
+    EXPECT_TRUE(container.error().text.contains(file.fileName() + QLatin1String("/below")));
+}
+
+}  // namespace
+
+}  // namespace tavi::test

@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/pulse/PulseAudioInput.h"
+#include "adapters/pulse/PulseConnection.h"
+#include "adapters/qt/QtRunLoop.h"
+#include "adapters/recorder/CaptureRecorder.h"
+#include "support/EventLoop.h"
+#include "support/FakeAudioRecorder.h"
+#include "support/ManualRunLoop.h"
+#include "support/PrivatePulse.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+namespace {
+
+class FakeRecorderWorld {
+public:
+    AudioRecorders& recorders() { return m_recorders; }
+    void hear() { m_recorders.last()->capture(4800, -9.0F); }
+    void removeMicrophone() { m_recorders.last()->fail({QStringLiteral("gone")}); }
+    template <class Condition>
+    bool wait(Condition condition) {
+        m_runLoop.advance(2.0);
+        return condition();
+    }
+
+private:
+    ManualRunLoop m_runLoop;
+    FakeAudioRecorders m_recorders{m_runLoop};
+};
+
+class RealRecorderWorld {
+public:
+    AudioRecorders& recorders() { return m_recorders; }
+    void hear() {}
+    void removeMicrophone() { m_server.kill(); }
+    template <class Condition>
+    bool wait(Condition condition) {
+        return spinUntil(condition);
+    }
+
+private:
+    static QByteArray noise() {
+        QByteArray samples(48000 * 4, Qt::Uninitialized);
+        for (qsizetype i = 0; i < samples.size(); ++i) {
+            samples[i] = static_cast<char>(i * 7919 >> 3);
+        }
+        return samples;
+    }
+
+    PrivatePulse m_server;
+    ProcessHandle m_player = m_server.play(noise().repeated(60), 48000, 2);
+    QtRunLoop m_runLoop;
+    PulseAudioInputs m_inputs{std::make_shared<PulseConnection>()};
+    FfmpegAudioFileWriters m_writers;
+    CaptureRecorders m_recorders{m_inputs, m_writers, m_runLoop};
+};
+
+template <class World>
+class AudioRecorderContract : public ::testing::Test, public AudioRecorderDelegate {
+protected:
+    void audioRecorderDidFinishRecording(AudioRecorder&, const std::optional<Error>& error) override {
+        m_ends.push_back(error ? error->text : QString());
+    }
+    std::unique_ptr<AudioRecorder> made() {
+        auto recorder = m_world.recorders().recorderWithPath(m_path, {});
+        if (recorder) {
+            (*recorder)->setDelegate(this);
+            (*recorder)->setMeteringEnabled(true);
+            (*recorder)->prepareToRecord();
+        }
+        return recorder ? std::move(*recorder) : nullptr;
+    }
+    bool hearMore(const AudioRecorder& recorder) {
+        const std::int64_t before = recorder.framesRecorded();
+        m_world.hear();
+        return m_world.wait([&] { return recorder.framesRecorded() > before; });
+    }
+    bool waitForEnd() {
+        return m_world.wait([this] { return !m_ends.empty(); });
+    }
+
+    World m_world;
+    TemporaryContainer m_container;
+    QString m_path = m_container.cachesPath() + QStringLiteral("/vexmosounds.m4a");
+    std::vector<QString> m_ends;
+};
+
+using Worlds = ::testing::Types<FakeRecorderWorld, RealRecorderWorld>;
+TYPED_TEST_SUITE(AudioRecorderContract, Worlds);
+
+TYPED_TEST(AudioRecorderContract, RecordsBetweenRecordAndStopAndTellsOnce) {
+    const auto recorder = this->made();
+    ASSERT_TRUE(recorder);
+    EXPECT_FALSE(recorder->isRecording());
+    ASSERT_TRUE(recorder->record());
+    EXPECT_TRUE(recorder->isRecording());
+    ASSERT_TRUE(this->hearMore(*recorder));
+    recorder->pause();
+    EXPECT_FALSE(recorder->isRecording());
+    ASSERT_TRUE(recorder->record());
+    ASSERT_TRUE(this->hearMore(*recorder));
+    recorder->updateMeters();
+    EXPECT_GT(recorder->averagePowerForChannel(0), -60.0F);
+    EXPECT_LE(recorder->averagePowerForChannel(0), 0.0F);
+    recorder->stop();
+    recorder->stop();
+    EXPECT_FALSE(recorder->record());
+    EXPECT_TRUE(this->m_ends.empty()) << "told before stop() returned";
+    ASSERT_TRUE(this->waitForEnd());
+    recorder->waitUntilFinished();
+    EXPECT_EQ(this->m_ends, std::vector<QString>{QString()});
+    EXPECT_GT(QFile(this->m_path).size(), 0);
+}
+
+TYPED_TEST(AudioRecorderContract, ReplacesNoFile) {
+    QFile file(this->m_path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("a recording");
+    file.close();
+    EXPECT_FALSE(this->made());
+    EXPECT_EQ(file.size(), 11);
+}
+
+TYPED_TEST(AudioRecorderContract, TellsWhenTheMicrophoneIsGone) {
+    const auto recorder = this->made();
+    ASSERT_TRUE(recorder && recorder->record());
+    ASSERT_TRUE(this->hearMore(*recorder));
+    this->m_world.removeMicrophone();
+    ASSERT_TRUE(this->waitForEnd());
+    recorder->stop();
+    EXPECT_EQ(this->m_ends.size(), 1U);
+    EXPECT_FALSE(this->m_ends.front().isEmpty());
+    EXPECT_FALSE(recorder->isRecording());
+    EXPECT_GT(recorder->framesRecorded(), 0);
+}
+
+TYPED_TEST(AudioRecorderContract, WaitingEndsTheRecordingAndDroppingTellsNobody) {
+    auto recorder = this->made();
+    ASSERT_TRUE(recorder && recorder->record());
+    recorder->waitUntilFinished();
+    EXPECT_EQ(this->m_ends.size(), 1U);
+    recorder.reset();
+    QFile::remove(this->m_path);
+    recorder = this->made();
+    ASSERT_TRUE(recorder && recorder->record());
+    recorder.reset();
+    this->m_world.wait([] { return true; });
+    EXPECT_EQ(this->m_ends.size(), 1U);
+}
+
+}  // namespace
+}  // namespace tavi::test

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QtCore/qtestsupport_core.h>
+#include <future>
+#include <optional>
+
+#include "adapters/pulse/PulseAudioSession.h"
+#include "adapters/pulse/PulseConnection.h"
+#include "support/Fakes.h"
+#include "support/PrivatePulse.h"
+
+namespace tavi::test {
+namespace {
+
+class FakeSessionWorld {
+public:
+    AudioSession& session() { return m_session; }
+    void removeMicrophone() { m_session.inputAvailable = false; }
+    void removeServer() {
+        m_session.inputAvailable = false;
+        m_session.categoryResult = failure(QStringLiteral("no server"));
+    }
+    void answerQuestions() { m_session.answer(true); }
+
+private:
+    FakeAudioSession m_session;
+};
+
+class PulseSessionWorld {
+public:
+    AudioSession& session() { return m_session; }
+    void removeMicrophone() { m_server.unloadModule(QStringLiteral("module-remap-source")); }
+    void removeServer() { m_server.kill(); }
+    void answerQuestions() {}
+
+private:
+    PrivatePulse m_server;
+    PulseAudioSession m_session{std::make_shared<PulseConnection>()};
+};
+
+template <class World>
+class AudioSessionContract : public ::testing::Test {
+protected:
+    bool ask() {
+        std::promise<bool> answer;
+        m_world.session().requestRecordPermission([&answer](bool granted) { answer.set_value(granted); });
+        m_world.answerQuestions();
+        auto future = answer.get_future();
+        return future.wait_for(std::chrono::seconds(10)) == std::future_status::ready && future.get();
+    }
+    Result<void> setCategory() {
+        return m_world.session().setCategory(AudioSession::Category::PlayAndRecord,
+                                             AudioSession::CategoryOption::DefaultToSpeaker);
+    }
+
+    World m_world;
+};
+
+using Worlds = ::testing::Types<FakeSessionWorld, PulseSessionWorld>;
+TYPED_TEST_SUITE(AudioSessionContract, Worlds);
+
+TYPED_TEST(AudioSessionContract, RecordsWithAMicrophone) {
+    EXPECT_TRUE(this->ask());
+    EXPECT_TRUE(this->setCategory());
+    EXPECT_TRUE(this->m_world.session().setActive(true));
+    EXPECT_TRUE(this->m_world.session().isInputAvailable());
+    EXPECT_TRUE(this->ask());
+
+    this->m_world.removeMicrophone();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !this->m_world.session().isInputAvailable(); }));
+    EXPECT_TRUE(this->setCategory());
+}
+
+TYPED_TEST(AudioSessionContract, NobodyRefusesWithoutAServer) {
+    this->m_world.removeServer();
+    EXPECT_TRUE(this->ask());
+    EXPECT_FALSE(this->m_world.session().isInputAvailable());
+    const Result<void> category = this->setCategory();
+    ASSERT_FALSE(category);
+    EXPECT_FALSE(category.error().text.isEmpty());
+}
+
+}  // namespace
+}  // namespace tavi::test

@@ -1,0 +1,284 @@
+#include <gmock/gmock.h>
+
+#include <QDBusPendingCallWatcher>
+#include <QFile>
+
+#include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/DBusApplication.h"
+#include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/desktop/DesktopMailComposer.h"
+#include "support/EventLoop.h"
+#include "support/FakeDesktop.h"
+#include "support/Fakes.h"
+#include "support/PrivateBus.h"
+#include "support/RecordingDelegate.h"
+
+namespace tavi::test {
+
+namespace {
+
+enum class Kind { Fake, Portal, ScreenSaver, Nothing };
+
+QStringList namesOf(Kind kind) {
+    switch (kind) {
+        case Kind::Portal:
+            return {FakeDesktop::portal(), FakeDesktop::screenSaver()};
+        case Kind::ScreenSaver:
+            return {FakeDesktop::screenSaver()};
+        default:
+            return {};
+    }
+}
+
+/// A private bus with a desktop on it that has what the kind tells.
+class Desktop : public ::testing::TestWithParam<Kind> {
+protected:
+    bool isFake() const { return GetParam() == Kind::Fake; }
+    /// Waits until everything sent so far has been dealt with on both sides.
+    bool settle() {
+        bool answered = false;
+        QObject context;
+        for (int round = 0; round < 3; ++round) {
+            answered = false;
+            auto* watcher =
+                new QDBusPendingCallWatcher(m_client.asyncCall(QDBusMessage::createMethodCall(
+                                                m_service.baseService(), QStringLiteral("/"),
+                                                QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"))),
+                                            &context);
+            QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context, [&answered] { answered = true; });
+            if (!spinUntil([&answered] { return answered; })) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    PrivateBus m_bus;
+    QDBusConnection m_service = m_bus.connect();
+    QDBusConnection m_client = m_bus.connect();
+    FakeDesktop m_desktop{m_service, namesOf(GetParam())};
+};
+
+class IdleTimerContract : public Desktop {
+protected:
+    std::unique_ptr<IdleTimer> make() {
+        if (isFake()) {
+            return std::make_unique<FakeIdleTimer>();
+        }
+        return std::make_unique<DBusIdleTimer>(m_client, QStringLiteral("Recording"));
+    }
+    /// Whether the screen is kept on, as far as there is something that keeps it on.
+    bool isKeptOn(bool expected) {
+        const bool hasService = GetParam() == Kind::Portal || GetParam() == Kind::ScreenSaver;
+        return !hasService || spinUntil([&] { return m_desktop.inhibitions.size() == (expected ? 1 : 0); });
+    }
+};
+
+TEST_P(IdleTimerContract, KeepsTheScreenOnWhileDisabled) {
+    auto timer = make();
+    EXPECT_FALSE(timer->isIdleTimerDisabled());
+    timer->setIdleTimerDisabled(true);
+    EXPECT_TRUE(timer->isIdleTimerDisabled());
+    EXPECT_TRUE(isKeptOn(true));
+    timer->setIdleTimerDisabled(true);
+    ASSERT_TRUE(settle());
+    EXPECT_LE(m_desktop.inhibitions.size(), 1);
+    timer->setIdleTimerDisabled(false);
+    EXPECT_FALSE(timer->isIdleTimerDisabled());
+    EXPECT_TRUE(isKeptOn(false));
+    timer->setIdleTimerDisabled(true);
+    EXPECT_TRUE(isKeptOn(true));
+    timer.reset();
+    EXPECT_TRUE(isKeptOn(false));
+}
+
+TEST_P(IdleTimerContract, LastWishCountsBeforeTheAnswerComes) {
+    auto timer = make();
+    timer->setIdleTimerDisabled(true);
+    timer->setIdleTimerDisabled(false);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(isKeptOn(false));
+    timer->setIdleTimerDisabled(true);
+    timer->setIdleTimerDisabled(false);
+    timer->setIdleTimerDisabled(true);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(isKeptOn(true));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, IdleTimerContract,
+                         ::testing::Values(Kind::Fake, Kind::Portal, Kind::ScreenSaver, Kind::Nothing));
+
+using IdleTimerOnBus = IdleTimerContract;
+INSTANTIATE_TEST_SUITE_P(Portal, IdleTimerOnBus, ::testing::Values(Kind::Portal));
+
+TEST_P(IdleTimerOnBus, AsksAgainWhenTheDesktopComesBack) {
+    auto timer = make();
+    timer->setIdleTimerDisabled(true);
+    ASSERT_TRUE(isKeptOn(true));
+    EXPECT_EQ(m_desktop.inhibitFlags, 8U);
+    EXPECT_EQ(m_desktop.inhibitReason, QStringLiteral("Recording"));
+    m_desktop.disown(FakeDesktop::portal());
+    ASSERT_TRUE(settle());
+    m_desktop.inhibitions.clear();
+    m_desktop.own(FakeDesktop::portal());
+    EXPECT_TRUE(isKeptOn(true));
+}
+
+class MailComposerContract : public Desktop {
+public:
+    MailComposerContract() {
+        qputenv("PATH", m_programs.path().toUtf8());
+        QFile file(m_attachment);
+        if (!file.open(QIODevice::WriteOnly) || file.write("sound") != 5) {
+            qFatal("cannot write the attachment");
+        }
+    }
+    ~MailComposerContract() override { qputenv("PATH", m_path); }
+    MailComposerContract(const MailComposerContract&) = delete;
+    MailComposerContract& operator=(const MailComposerContract&) = delete;
+
+protected:
+    std::unique_ptr<MailComposer> make() {
+        if (isFake()) {
+            return std::make_unique<FakeMailComposer>();
+        }
+        if (GetParam() == Kind::ScreenSaver) {
+            // No portal, but an xdg-email; it takes the place of the user's whole mail program and writes down its
+            // call.
+            QFile script(m_programs.filePath(QStringLiteral("xdg-email")));
+            if (!script.open(QIODevice::WriteOnly)) {
+                qFatal("cannot write the program");
+            }
+            script.write(
+                "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"${0%/*}/call\"\nexit \"$(/bin/cat \"${0%/*}/exit\")\"\n");
+            script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            setExitCode("0");
+        }
+        auto composer = std::make_unique<DesktopMailComposer>(m_client);
+        EXPECT_TRUE(settle());
+        return composer;
+    }
+
+    void setExitCode(const char* code) const {
+        QFile file(m_programs.filePath(QStringLiteral("exit")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(code);
+    }
+
+    MailMessage message() const {
+        return {QStringLiteral("a@example.org"),
+                QStringLiteral("Tone; $(rm -rf /)"),
+                QStringLiteral("Body"),
+                {{m_attachment, QStringLiteral("audio/m4a"), QFileInfo(m_attachment).fileName()}}};
+    }
+
+    /// Composes and waits for the result; the text of the error, or "ok".
+    QString outcomeOf(MailComposer& composer, const MailMessage& mail) {
+        QString outcome;
+        composer.compose(mail, [&outcome](const Result<void>& result) {
+            outcome = result ? QStringLiteral("ok") : result.error().text;
+        });
+        EXPECT_TRUE(spinUntil([&outcome] { return !outcome.isEmpty(); }));
+        return outcome;
+    }
+
+    QByteArray m_path = qgetenv("PATH");
+    QTemporaryDir m_programs;
+    QString m_attachment = m_programs.filePath(QStringLiteral("-a 'b' \"c\" $(touch x);\n.m4a"));
+};
+
+TEST_P(MailComposerContract, HandsOverAMailWhereItCan) {
+    const auto composer = make();
+    if (GetParam() == Kind::Nothing) {
+        EXPECT_FALSE(composer->canSendMail());
+        EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("There is no mail program."));
+        return;
+    }
+    EXPECT_TRUE(composer->canSendMail());
+    EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("ok"));
+    if (GetParam() == Kind::Portal) {
+        EXPECT_THAT(m_desktop.mailAttachments, ::testing::ElementsAre("sound"));
+        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("subject")), message().subject);
+        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("body")), QStringLiteral("Body"));
+        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("addresses")).toStringList(), QStringList{message().recipient});
+    } else if (GetParam() == Kind::ScreenSaver) {
+        QFile call(m_programs.filePath(QStringLiteral("call")));
+        ASSERT_TRUE(call.open(QIODevice::ReadOnly));
+        EXPECT_EQ(QString::fromUtf8(call.readAll()),
+                  QStringLiteral("--utf8\n--subject\nTone; $(rm -rf /)\n--body\nBody\n--attach\n") + m_attachment +
+                      QStringLiteral("\na@example.org\n"));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, MailComposerContract,
+                         ::testing::Values(Kind::Fake, Kind::Portal, Kind::ScreenSaver, Kind::Nothing));
+
+using MailOnBus = MailComposerContract;
+INSTANTIATE_TEST_SUITE_P(Portal, MailOnBus, ::testing::Values(Kind::Portal));
+
+TEST_P(MailOnBus, TellsRefusalFromCancelling) {
+    const auto composer = make();
+    MailMessage missing = message();
+    missing.attachments.front().path = QStringLiteral("/nowhere/a.m4a");
+    EXPECT_EQ(outcomeOf(*composer, missing), QStringLiteral("There is no file “/nowhere/a.m4a” to attach."));
+    m_desktop.mailResponse = 1;
+    EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("ok"));
+    m_desktop.mailResponse = 2;
+    EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("The desktop's mail program did not take the mail."));
+    m_desktop.disown(FakeDesktop::portal());
+    EXPECT_TRUE(spinUntil([&composer] { return !composer->canSendMail(); }));
+}
+
+TEST_P(MailOnBus, APortalWithoutMailIsNone) {
+    m_desktop.mailVersion = 0;
+    EXPECT_FALSE(make()->canSendMail());
+}
+
+using MailThroughProgram = MailComposerContract;
+INSTANTIATE_TEST_SUITE_P(XdgEmail, MailThroughProgram, ::testing::Values(Kind::ScreenSaver));
+
+TEST_P(MailThroughProgram, TellsWhyItFailed) {
+    const auto composer = make();
+    setExitCode("3");
+    EXPECT_EQ(outcomeOf(*composer, message()),
+              QStringLiteral("The mail could not be handed over: no mail program was found."));
+    QFile::remove(m_programs.filePath(QStringLiteral("xdg-email")));
+    EXPECT_TRUE(outcomeOf(*composer, message()).startsWith(QLatin1String("xdg-email could not be started")));
+    MailMessage hostile = message();
+    hostile.recipient = QStringLiteral("--attach=/etc/passwd@");
+    EXPECT_FALSE(XdgEmail::arguments(hostile).contains(hostile.recipient));
+}
+
+class ApplicationContract : public Desktop {};
+
+TEST_P(ApplicationContract, KeepsShortcutItemsAndTellsTheDelegate) {
+    const QList<ShortcutItem> items = {{QStringLiteral("Record"), QStringLiteral("Record Audio"), {}, {}},
+                                       {QStringLiteral("Recordings"), QStringLiteral("Recordings"), {}, {}}};
+    FakeApplication fake;
+    DBusApplication real(m_service, PrivateBus::none(), busNameForContainer(QString()));
+    Application& application = isFake() ? static_cast<Application&>(fake) : real;
+    EXPECT_TRUE(application.shortcutItems().isEmpty());
+    application.setShortcutItems(items);
+    EXPECT_EQ(application.shortcutItems(), items);
+    RecordingDelegate delegate;
+    application.setDelegate(&delegate);
+    if (isFake()) {
+        fake.delegate->applicationOpenURL(QUrl(QStringLiteral("tavirecordstop:")));
+    } else {
+        ASSERT_EQ(real.claim(), DBusApplication::Claim::First);
+        real.launchFinished();
+        QDBusMessage call = QDBusMessage::createMethodCall(busNameForContainer(QString()), kApplicationObjectPath,
+                                                           kApplicationInterface, QStringLiteral("Open"));
+        m_client.asyncCall(call << QStringList{QStringLiteral("TaviRecordStop:")} << QVariantMap());
+    }
+    ASSERT_TRUE(spinUntil([&delegate] { return !delegate.calls.isEmpty(); }));
+    EXPECT_EQ(delegate.calls, QStringList{QStringLiteral("open tavirecordstop:")});
+    application.setShortcutItems({});
+    EXPECT_TRUE(application.shortcutItems().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ApplicationContract, ::testing::Values(Kind::Fake, Kind::Nothing));
+
+}  // namespace
+
+}  // namespace tavi::test

@@ -1,0 +1,140 @@
+#include <gmock/gmock.h>
+
+#include <thread>
+
+#include "adapters/qt/QtRunLoop.h"
+#include "support/EventLoop.h"
+#include "support/ManualRunLoop.h"
+
+namespace tavi::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+
+struct Manual {
+    std::unique_ptr<ManualRunLoop> loop = std::make_unique<ManualRunLoop>();
+
+    template <class Condition>
+    bool passUntil(Condition condition) {
+        for (int step = 0; step < 10'000 && !condition(); ++step) {
+            loop->advance(0.001);
+        }
+        return condition();
+    }
+};
+
+struct Real {
+    std::unique_ptr<QtRunLoop> loop = std::make_unique<QtRunLoop>();
+
+    template <class Condition>
+    bool passUntil(Condition condition) {
+        return spinUntil(condition);
+    }
+};
+
+template <class Driver>
+class RunLoopContract : public ::testing::Test {
+protected:
+    Driver m_driver;
+};
+
+using Drivers = ::testing::Types<Manual, Real>;
+TYPED_TEST_SUITE(RunLoopContract, Drivers);
+
+TYPED_TEST(RunLoopContract, DispatchesToTheMainThreadInOrderAndLater) {
+    auto& loop = *this->m_driver.loop;
+    std::vector<int> order;
+    std::thread::id thread;
+    for (int i = 0; i < 3; ++i) {
+        loop.dispatchMain([&order, i] { order.push_back(i); });
+    }
+    EXPECT_TRUE(order.empty());
+    loop.dispatchBackground([&] {
+        for (int i = 3; i < 100; ++i) {
+            loop.dispatchMain([&order, i] { order.push_back(i); });
+        }
+        loop.dispatchMain([&thread] { thread = std::this_thread::get_id(); });
+    });
+    ASSERT_TRUE(this->m_driver.passUntil([&thread] { return thread != std::thread::id(); }));
+    EXPECT_EQ(thread, std::this_thread::get_id());
+    EXPECT_EQ(order.size(), 100U);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+}
+
+TYPED_TEST(RunLoopContract, CallsWhatIsDueInItsOrder) {
+    auto& loop = *this->m_driver.loop;
+    std::vector<std::string> order;
+    loop.scheduledTimer(0.09, false, [&order] { order.emplace_back("late"); });
+    loop.dispatchAfter(0.05, [&order] { order.emplace_back("after"); });
+    loop.scheduledTimer(0.01, false, [&order] { order.emplace_back("early"); });
+    loop.dispatchMain([&order] { order.emplace_back("now"); });
+    ASSERT_TRUE(this->m_driver.passUntil([&order] { return order.size() == 4; }));
+    EXPECT_THAT(order, ElementsAre("now", "early", "after", "late"));
+}
+
+TYPED_TEST(RunLoopContract, RepeatsUntilInvalidatedWhoeverHoldsTheHandle) {
+    auto& loop = *this->m_driver.loop;
+    int dropped = 0;
+    int stopped = 0;
+    loop.scheduledTimer(0.002, true, [&dropped] { ++dropped; });
+    std::shared_ptr<Timer> handle;
+    const auto token = std::make_shared<int>();
+    handle = loop.scheduledTimer(0.002, true, [&handle, &stopped, token] {
+        ++stopped;
+        handle->invalidate();
+        handle->invalidate();
+        // What it captured is still there.
+        EXPECT_GT(token.use_count(), 1);
+    });
+    EXPECT_TRUE(handle->isValid());
+    ASSERT_TRUE(this->m_driver.passUntil([&dropped] { return dropped >= 5; }));
+    EXPECT_EQ(stopped, 1);
+    EXPECT_FALSE(handle->isValid());
+    handle->invalidate();
+}
+
+TYPED_TEST(RunLoopContract, ATimerThatFiredOnceIsNoLongerValid) {
+    auto& loop = *this->m_driver.loop;
+    bool fired = false;
+    const auto timer = loop.scheduledTimer(0.0, false, [&fired] { fired = true; });
+    ASSERT_TRUE(this->m_driver.passUntil([&fired] { return fired; }));
+    EXPECT_FALSE(timer->isValid());
+}
+
+TYPED_TEST(RunLoopContract, DropsWhatIsPendingWhenItGoes) {
+    const auto token = std::make_shared<int>();
+    auto calls = std::make_shared<int>(0);
+    const auto call = [token, calls] { ++*calls; };
+    const auto timer = this->m_driver.loop->scheduledTimer(0.0, true, call);
+    this->m_driver.loop->dispatchMain(call);
+    this->m_driver.loop->dispatchAfter(0.0, call);
+    this->m_driver.loop.reset();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(*calls, 0);
+    timer->invalidate();
+}
+
+TEST(QtRunLoop, KeepsToTheGridWhateverCallsTake) {
+    using std::chrono::milliseconds;
+    struct Case {
+        int interval;
+        int called;
+        int expected;
+    };
+    // A timer that was due at 0; all in milliseconds.
+    const Case cases[] = {
+        {100, 0, 100},      {100, 99, 100},    {100, 100, 200},     {100, 1234, 1300},  {1000, 40, 1000},
+        {1000, 3500, 1000}, {1000, 999, 1000}, {5000, 12000, 5000}, {10, 1'000, 1'010},
+    };
+    const QtRunLoop::TimePoint due{std::chrono::hours(1)};
+    for (const Case& test : cases) {
+        EXPECT_EQ(QtRunLoop::nextDue(due, milliseconds(test.interval), due + milliseconds(test.called)),
+                  due + milliseconds(test.expected))
+            << test.interval << " called at " << test.called;
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test

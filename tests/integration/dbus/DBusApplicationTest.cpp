@@ -1,0 +1,195 @@
+#include "adapters/dbus/DBusApplication.h"
+
+#include <gmock/gmock.h>
+
+#include <QGuiApplication>
+#include <QRasterWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <thread>
+
+#include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/HandOver.h"
+#include "adapters/dbus/InstanceLock.h"
+#include "adapters/dbus/SessionLock.h"
+#include "support/EventLoop.h"
+#include "support/FakeDesktop.h"
+#include "support/PrivateBus.h"
+#include "support/RecordingDelegate.h"
+
+namespace tavi::test {
+
+namespace {
+
+using Kind = ActivationRequest::Kind;
+
+QString line(const QStringList& calls) {
+    return calls.join(QLatin1String(", "));
+}
+
+class DBusApplicationTest : public ::testing::Test {
+protected:
+    DBusApplicationTest() {
+        m_application.setDelegate(&m_delegate);
+        m_application.setShortcutItems({{QStringLiteral("Record"), QStringLiteral("Record Audio"), {}, {}},
+                                        {QStringLiteral("Recordings"), QStringLiteral("Recordings"), {}, {}}});
+    }
+
+    /// Hands over from a second participant on the bus while the first one's event loop runs; "ok" or the error.
+    QString handedOver(const ActivationRequest& request,
+                       std::chrono::milliseconds patience = std::chrono::seconds(20)) {
+        const QDBusConnection second = m_bus.connect();
+        std::atomic<bool> done = false;
+        Result<void> result;
+        std::thread caller([&] {
+            result = handOver(second, m_name, request, patience);
+            done = true;
+        });
+        EXPECT_TRUE(spinUntil([&done] { return done.load(); }));
+        caller.join();
+        return result ? QStringLiteral("ok") : result.error().text;
+    }
+
+    /// Waits until the delegate has been told exactly this, all in all since the last time.
+    void expectCalls(const char* expected) {
+        spinUntil([&] { return line(m_delegate.calls).size() >= qsizetype(qstrlen(expected)); });
+        EXPECT_EQ(line(m_delegate.take()).toStdString(), expected);
+    }
+
+    PrivateBus m_bus;
+    QDBusConnection m_desktopSide = m_bus.connect();
+    FakeDesktop m_desktop{m_desktopSide, {FakeDesktop::screenSaver(), FakeDesktop::login()}};
+    QString m_name = busNameForContainer(QString());
+    RecordingDelegate m_delegate;
+    DBusApplication m_application{m_bus.connect(), m_bus.connect(), m_name};
+};
+
+TEST_F(DBusApplicationTest, SecondStartHandsOverToTheFirst) {
+    ASSERT_EQ(m_application.claim(), DBusApplication::Claim::First);
+    DBusApplication second(m_bus.connect(), PrivateBus::none(), m_name);
+    EXPECT_EQ(second.claim(), DBusApplication::Claim::AlreadyRunning);
+    QRasterWindow window;
+    m_application.setWindow(&window);
+
+    // Before the launch has finished, calls are taken and wait.
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("RECORD")}), QStringLiteral("ok"));
+    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("TaviRecordStart:")}, {}}), QStringLiteral("ok"));
+    EXPECT_TRUE(m_delegate.calls.isEmpty());
+    window.show();
+    ASSERT_TRUE(spinUntil([&window] { return window.isExposed(); }));
+    EXPECT_TRUE(m_delegate.calls.isEmpty());
+    m_application.launchFinished();
+    expectCalls("shortcut Record, open tavirecordstart:, active");
+
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("library")}), QStringLiteral("ok"));
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("Stop")}), QStringLiteral("ok"));
+    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")}, {}}),
+              QStringLiteral("ok"));
+    expectCalls("shortcut Recordings, open tavirecordstop:, open file:///tmp/a b%25.wav, open file:///x.wav");
+
+    EXPECT_TRUE(handedOver({Kind::Action, {}, QStringLiteral("dance")}).contains(QStringLiteral("no action “dance”")));
+    EXPECT_TRUE(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}).contains(QStringLiteral("“a.wav”")));
+    EXPECT_TRUE(m_delegate.calls.isEmpty());
+}
+
+TEST_F(DBusApplicationTest, ActivateShowsAHiddenWindow) {
+    // The second start comes before the first has got the name.
+    QTimer::singleShot(100, &m_application,
+                       [this] { EXPECT_EQ(m_application.claim(), DBusApplication::Claim::First); });
+    QRasterWindow window;
+    m_application.setWindow(&window);
+    m_application.launchFinished();
+    EXPECT_TRUE(m_delegate.calls.isEmpty());
+    EXPECT_EQ(handedOver({}), QStringLiteral("ok"));
+    EXPECT_TRUE(window.isVisible());
+    expectCalls("active");
+}
+
+TEST_F(DBusApplicationTest, AnInstanceThatIsGoneIsAnError) {
+    EXPECT_TRUE(handedOver({}, std::chrono::milliseconds(1))
+                    .startsWith(QLatin1String("The instance that is already running did not take")));
+    DBusApplication busless(PrivateBus::none(), PrivateBus::none(), m_name);
+    EXPECT_EQ(busless.claim(), DBusApplication::Claim::NoBus);
+}
+
+TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
+    QRasterWindow window;
+    m_application.setWindow(&window);
+    m_application.launchFinished();
+    window.show();
+    expectCalls("active");
+    window.requestActivate();
+    ASSERT_TRUE(spinUntil([] { return QGuiApplication::applicationState() == Qt::ApplicationActive; }));
+    window.hide();
+    expectCalls("resign, background");
+    window.show();
+    window.requestActivate();
+    expectCalls("foreground, active");
+    window.showMinimized();
+    expectCalls("resign, background");
+    window.showNormal();
+    window.requestActivate();
+    expectCalls("foreground, active");
+
+    ASSERT_TRUE(spinUntil([this] { return m_desktop.isWatched; }));
+    m_desktop.setScreenSaverActive(true);
+    expectCalls("resign, background");
+    m_desktop.setScreenSaverActive(false);
+    expectCalls("foreground, active");
+    m_desktop.setLockedHint(true);
+    expectCalls("resign, background");
+    // Locked twice over: only the last unlocking counts.
+    m_desktop.emitSessionSignal(QStringLiteral("Lock"));
+    m_desktop.setLockedHint(false);
+    m_desktop.emitSessionSignal(QStringLiteral("Unlock"));
+    expectCalls("foreground, active");
+    Q_EMIT QCoreApplication::instance()->aboutToQuit({});
+    window.hide();
+    expectCalls("terminate");
+}
+
+TEST_F(DBusApplicationTest, ARequestToLockEndsWhenTheUserIsBack) {
+    SessionLock lock(PrivateBus::none(), m_bus.connect());
+    ASSERT_TRUE(spinUntil([this] { return m_desktop.isWatched; }));
+    m_desktop.emitSessionSignal(QStringLiteral("Lock"));
+    ASSERT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
+    lock.userIsBack();
+    EXPECT_FALSE(lock.isLocked());
+    m_desktop.setLockedHint(true);
+    ASSERT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
+    lock.userIsBack();
+    EXPECT_TRUE(lock.isLocked());
+}
+
+TEST(BusName, IsOneForEachFolder) {
+    const QTemporaryDir folder;
+    const QString name = busNameForContainer(folder.path());
+    ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(QStringLiteral("link"))));
+    EXPECT_EQ(busNameForContainer(folder.filePath(QStringLiteral("link/"))), name);
+    EXPECT_NE(busNameForContainer(folder.path() + QLatin1String("x")), name);
+    EXPECT_TRUE(name.startsWith(busNameForContainer({}) + QLatin1String(".c")));
+}
+
+TEST(InstanceLock, KeepsASecondOneOutUntilItIsGone) {
+    const QTemporaryDir folder;
+    auto first = InstanceLock::take(folder.path());
+    ASSERT_TRUE(first.has_value());
+    const auto second = InstanceLock::take(folder.path());
+    ASSERT_FALSE(second.has_value());
+    EXPECT_TRUE(second.error().text.contains(QString::number(QCoreApplication::applicationPid())));
+    InstanceLock moved = std::move(*first);
+    EXPECT_FALSE(InstanceLock::take(folder.path()).has_value());
+    { const InstanceLock gone = std::move(moved); }
+    EXPECT_TRUE(InstanceLock::take(folder.path()).has_value());
+    EXPECT_FALSE(InstanceLock::take(folder.path() + QLatin1String("/absent")).has_value());
+}
+
+}  // namespace
+
+}  // namespace tavi::test
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleMock(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

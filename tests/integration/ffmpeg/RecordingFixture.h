@@ -1,0 +1,110 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "adapters/ffmpeg/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "support/SoundProbe.h"
+
+namespace tavi::test {
+
+struct Type {
+    const char* extension;
+    std::uint32_t formatID;
+    const char* codec;
+    const char* container;
+    /// Frames in a packet: how much a file may be longer than what was written.
+    int packet;
+    /// Frames that stand before the first one written.
+    int priming;
+    double decibels;
+};
+
+inline constexpr std::array<Type, 5> kTypes{{
+    {"m4a", kAudioFormatAppleLossless, "alac", "mov,mp4,m4a,3gp,3g2,mj2", 1, 0, 0.5},
+    {"wav", kAudioFormatLinearPCM, "pcm_u8", "wav", 1, 0, 1.5},
+    {"caf", kAudioFormatAppleIMA4, "adpcm_ima_qt", "caf", 64, 0, 1.5},
+    {"mp4", kAudioFormatMPEG4AAC, "aac", "mov,mp4,m4a,3gp,3g2,mj2", 1024, 0, 0.5},
+    {"AAC", kAudioFormatMPEG4AAC, "aac", "aac", 1024, 1024, 0.5},
+}};
+
+struct Quality {
+    double rate;
+    int channels;
+    int value;
+};
+
+inline constexpr std::array<Quality, 3> kQualities{{{8000, 1, 0}, {16000, 2, 64}, {44100, 2, 127}}};
+
+inline AudioRecordSettings settingsFor(const Type& type, const Quality& quality) {
+    AudioRecordSettings settings;
+    settings.formatID = type.formatID;
+    settings.sampleRate = quality.rate;
+    settings.numberOfChannels = quality.channels;
+    settings.encoderAudioQuality = quality.value;
+    settings.sampleRateConverterAudioQuality = quality.value;
+    return settings;
+}
+
+/// Makes recordings in a folder of its own.
+class RecordingFixture : public ::testing::Test {
+protected:
+    QString pathFor(const Type& type, const char* name = "recording") const {
+        return m_folder.filePath(QString::fromLatin1(name) + QLatin1Char('.') + QString::fromLatin1(type.extension));
+    }
+
+    /// Interleaved frames of a tone that peaks at one half; only on the left where leftOnly.
+    static std::vector<float> tone(const AudioInputFormat& format, std::size_t frames, bool leftOnly = false,
+                                   double hertz = 1000) {
+        std::vector<float> samples;
+        samples.reserve(frames * static_cast<std::size_t>(format.channels));
+        for (std::size_t i = 0; i < frames; ++i) {
+            const double phase = 2 * std::numbers::pi * hertz * static_cast<double>(i) / format.sampleRate;
+            const auto value = static_cast<float>(0.5 * std::sin(phase));
+            samples.push_back(value);
+            if (format.channels == 2) {
+                samples.push_back(leftOnly ? 0.0F : value);
+            }
+        }
+        return samples;
+    }
+
+    /// Hands samples over in blocks of odd sizes; stops at the first failure.
+    static Result<void> writeBlocks(AudioFileWriter& writer, const std::vector<float>& samples, int channels) {
+        constexpr std::array<std::size_t, 6> kBlocks = {1, 479, 4801, 7, 1024, 9999};
+        const std::size_t frames = samples.size() / static_cast<std::size_t>(channels);
+        for (std::size_t at = 0, block = 0; at < frames; ++block) {
+            const std::size_t count = std::min(kBlocks[block % kBlocks.size()], frames - at);
+            const float* start = samples.data() + at * static_cast<std::size_t>(channels);
+            if (Result<void> result = writer.write(start, count); !result) {
+                return result;
+            }
+            at += count;
+        }
+        return {};
+    }
+
+    std::unique_ptr<AudioFileWriter> begin(const QString& path, const AudioRecordSettings& settings,
+                                           PwriteFunction pwrite = systemPwrite()) {
+        auto writer = FfmpegAudioFileWriters(std::move(pwrite)).create(path, settings);
+        if (!writer || !(*writer)->setInputFormat(kStereo)) {
+            ADD_FAILURE() << "cannot record to " << qPrintable(path);
+            return nullptr;
+        }
+        return std::move(*writer);
+    }
+
+    static constexpr AudioInputFormat kStereo{48000, 2};
+
+    QTemporaryDir m_folder;
+    FfmpegAudioDuration m_durations;
+};
+
+}  // namespace tavi::test

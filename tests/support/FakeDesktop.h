@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QSet>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace tavi::test {
+
+/// A desktop on a private bus, as far as the program talks with one: portal (mail, inhibit), screen saver, login
+/// manager. Which of them exist is the set of names that a test lets it own.
+class FakeDesktop : public QDBusVirtualObject {
+public:
+    static QString portal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
+    static QString screenSaver() { return QStringLiteral("org.freedesktop.ScreenSaver"); }
+    static QString login() { return QStringLiteral("org.freedesktop.login1"); }
+
+    FakeDesktop(const QDBusConnection& bus, const QStringList& names);
+    ~FakeDesktop() override;
+
+    /// Comes (back) with that name, or goes.
+    void own(const QString& name);
+    void disown(const QString& name);
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+    void setScreenSaverActive(bool active);
+    void setLockedHint(bool locked);
+    /// "Lock" or "Unlock" of the login session.
+    void emitSessionSignal(const QString& name);
+
+    /// Whether the login session's lock has been asked for, by one who listens to its signals.
+    bool isWatched = false;
+    /// What keeps the screen on at present: paths of portal requests, cookies of the screen saver.
+    QSet<QString> inhibitions;
+    quint32 inhibitFlags = 0;
+    QString inhibitReason;
+
+    /// The portal's answer to a mail.
+    quint32 mailResponse = 0;
+    quint32 mailVersion = 4;
+    /// The last mail: its options, and the contents of its attachments.
+    QVariantMap mail;
+    QList<QByteArray> mailAttachments;
+
+private:
+    QVariantList answer(const QDBusMessage& message, bool& known);
+    QString requestPath(const QDBusMessage& message, const QVariantMap& options) const;
+    void takeMail(const QDBusMessage& message);
+
+    QDBusConnection m_bus;
+    bool m_screenSaverActive = false;
+    bool m_lockedHint = false;
+    quint32 m_lastCookie = 0;
+};
+
+}  // namespace tavi::test

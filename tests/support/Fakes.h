@@ -1,0 +1,134 @@
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QStringList>
+
+#include "platform/Application.h"
+#include "platform/AudioDuration.h"
+#include "platform/AudioRecorder.h"
+#include "platform/AudioSession.h"
+#include "platform/IdleTimer.h"
+#include "platform/MailComposer.h"
+#include "platform/Presenter.h"
+#include "platform/TabBar.h"
+#include "platform/UserDefaults.h"
+#include "support/Printers.h"
+
+namespace tavi::test {
+
+/// Settings in memory, with a record of the writes in their order.
+class FakeUserDefaults : public UserDefaults {
+public:
+    QVariant objectForKey(const QString& key) const override { return m_values.value(key); }
+    void setObject(const QVariant& value, const QString& key) override {
+        m_values.insert(key, value);
+        writes.append(key);
+    }
+    void removeObjectForKey(const QString& key) override { m_values.remove(key); }
+    bool synchronize() override {
+        writes.append(QStringLiteral("synchronize"));
+        return true;
+    }
+
+    /// Keys written, and "synchronize" where that was called.
+    QStringList writes;
+
+private:
+    QMap<QString, QVariant> m_values;
+};
+
+/// Records what was presented; a test answers by calling an action's handler.
+class FakePresenter : public Presenter {
+public:
+    void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
+    void presentActionSheet(Alert sheet) override { sheets.push_back(std::move(sheet)); }
+
+    std::vector<Alert> alerts;
+    std::vector<Alert> sheets;
+};
+
+class FakeTabBar : public TabBar {
+public:
+    int selectedIndex() const override { return m_index; }
+    void setSelectedIndex(int index) override { m_index = index; }
+    bool isUserInteractionEnabled() const override { return m_enabled; }
+    void setUserInteractionEnabled(bool enabled) override { m_enabled = enabled; }
+
+private:
+    int m_index = 0;
+    bool m_enabled = true;
+};
+
+/// A sound system that answers as it is told.
+class FakeAudioSession : public AudioSession {
+public:
+    void requestRecordPermission(std::function<void(bool)> answer) override { questions.push_back(std::move(answer)); }
+    Result<void> setCategory(Category category, CategoryOption) override {
+        lastCategory = category;
+        return categoryResult;
+    }
+    Result<void> setActive(bool active) override {
+        isActive = active;
+        return {};
+    }
+    bool isInputAvailable() const override { return inputAvailable; }
+
+    /// Answers every open question.
+    void answer(bool granted) {
+        for (const auto& question : std::exchange(questions, {})) {
+            question(granted);
+        }
+    }
+
+    std::vector<std::function<void(bool)>> questions;
+    Category lastCategory = Category::Playback;
+    Result<void> categoryResult;
+    bool isActive = false;
+    bool inputAvailable = true;
+};
+
+class FakeIdleTimer : public IdleTimer {
+public:
+    void setIdleTimerDisabled(bool disabled) override { m_disabled = disabled; }
+    bool isIdleTimerDisabled() const override { return m_disabled; }
+
+private:
+    bool m_disabled = false;
+};
+
+class FakeMailComposer : public MailComposer {
+public:
+    bool canSendMail() const override { return canSend; }
+    void compose(const MailMessage& message, std::function<void(Result<void>)> completion) override {
+        messages.push_back(message);
+        completion(Result<void>{});
+    }
+
+    bool canSend = true;
+    std::vector<MailMessage> messages;
+};
+
+class FakeApplication : public Application {
+public:
+    void setDelegate(ApplicationDelegate* newDelegate) override { delegate = newDelegate; }
+    QList<ShortcutItem> shortcutItems() const override { return m_items; }
+    void setShortcutItems(const QList<ShortcutItem>& items) override { m_items = items; }
+
+    ApplicationDelegate* delegate = nullptr;
+
+private:
+    QList<ShortcutItem> m_items;
+};
+
+/// Durations by file name; 0 for any other.
+class FakeAudioDuration : public AudioDuration {
+public:
+    double durationOfFile(const QString& path) const override {
+        return seconds.value(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+    }
+
+    QMap<QString, double> seconds;
+};
+
+}  // namespace tavi::test

@@ -1,0 +1,150 @@
+#include "support/SoundProbe.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libavutil/samplefmt.h>
+}
+
+#include <QFile>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+
+namespace tavi::test {
+
+namespace {
+
+struct Closer {
+    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
+    void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
+    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
+    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
+};
+
+template <class T>
+using Handle = std::unique_ptr<T, Closer>;
+
+float sampleAt(const AVFrame& frame, int channel, int index) {
+    const auto format = static_cast<AVSampleFormat>(frame.format);
+    const bool isPlanar = av_sample_fmt_is_planar(format) != 0;
+    const std::uint8_t* plane = frame.extended_data[isPlanar ? channel : 0];
+    const int at = isPlanar ? index : index * frame.ch_layout.nb_channels + channel;
+    switch (av_get_packed_sample_fmt(format)) {
+        case AV_SAMPLE_FMT_U8:
+            return (static_cast<float>(plane[at]) - 128.0F) / 128.0F;
+        case AV_SAMPLE_FMT_S16:
+            return static_cast<float>(reinterpret_cast<const std::int16_t*>(plane)[at]) / 32768.0F;
+        case AV_SAMPLE_FMT_S32:
+            return static_cast<float>(reinterpret_cast<const std::int32_t*>(plane)[at]) / 2147483648.0F;
+        case AV_SAMPLE_FMT_FLT:
+            return reinterpret_cast<const float*>(plane)[at];
+        default:
+            return NAN;
+    }
+}
+
+void decodePackets(AVFormatContext& input, int stream, AVCodecContext& decoder, Sound& sound) {
+    const Handle<AVPacket> packet(av_packet_alloc());
+    const Handle<AVFrame> frame(av_frame_alloc());
+    bool isFirst = true;
+    for (bool isEnd = false; !isEnd;) {
+        isEnd = av_read_frame(&input, packet.get()) < 0;
+        if (!isEnd && packet->stream_index != stream) {
+            av_packet_unref(packet.get());
+            continue;
+        }
+        avcodec_send_packet(&decoder, isEnd ? nullptr : packet.get());
+        av_packet_unref(packet.get());
+        while (avcodec_receive_frame(&decoder, frame.get()) >= 0) {
+            if (isFirst && frame->pts != AV_NOPTS_VALUE) {
+                sound.start = static_cast<double>(frame->pts) * av_q2d(input.streams[stream]->time_base);
+            }
+            isFirst = false;
+            for (int channel = 0; channel < sound.channels; ++channel) {
+                auto& samples = sound.planes[static_cast<std::size_t>(channel)];
+                for (int i = 0; i < frame->nb_samples; ++i) {
+                    samples.push_back(sampleAt(*frame, channel, i));
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::optional<Sound> decodeSound(const QString& path, double fromSeconds) {
+    AVFormatContext* context = nullptr;
+    if (avformat_open_input(&context, QFile::encodeName(path).constData(), nullptr, nullptr) < 0) {
+        return std::nullopt;
+    }
+    const Handle<AVFormatContext> input(context);
+    avformat_find_stream_info(context, nullptr);
+    const AVCodec* codec = nullptr;
+    const int index = av_find_best_stream(context, AVMEDIA_TYPE_AUDIO, -1, -1, &codec, 0);
+    if (index < 0) {
+        return std::nullopt;
+    }
+    const AVStream* stream = context->streams[index];
+    const Handle<AVCodecContext> decoder(avcodec_alloc_context3(codec));
+    avcodec_parameters_to_context(decoder.get(), stream->codecpar);
+    decoder->pkt_timebase = stream->time_base;
+    if (avcodec_open2(decoder.get(), codec, nullptr) < 0) {
+        return std::nullopt;
+    }
+    Sound sound;
+    sound.codec = avcodec_get_name(stream->codecpar->codec_id);
+    sound.container = context->iformat->name;
+    sound.rate = stream->codecpar->sample_rate;
+    sound.channels = stream->codecpar->ch_layout.nb_channels;
+    sound.planes.resize(static_cast<std::size_t>(sound.channels));
+    if (context->duration != AV_NOPTS_VALUE) {
+        sound.duration = static_cast<double>(context->duration) / AV_TIME_BASE;
+    }
+    if (fromSeconds > 0) {
+        const auto time = static_cast<std::int64_t>(fromSeconds / av_q2d(stream->time_base));
+        if (av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) < 0) {
+            return std::nullopt;
+        }
+    }
+    decodePackets(*context, index, *decoder, sound);
+    return sound;
+}
+
+double levelOf(std::span<const float> samples) {
+    double sum = 0;
+    for (const float sample : samples) {
+        sum += static_cast<double>(sample) * static_cast<double>(sample);
+    }
+    const double mean = samples.empty() ? 0 : sum / static_cast<double>(samples.size());
+    return 10 * std::log10(std::max(mean, 1e-20));
+}
+
+double frequencyOf(std::span<const float> samples, int rate) {
+    // Only a crossing that comes from well below counts: noise crosses often.
+    const double threshold = 0.3 * std::pow(10, levelOf(samples) / 20);
+    double first = 0;
+    double last = 0;
+    int crossings = 0;
+    bool wasLow = false;
+    for (std::size_t i = 1; i < samples.size(); ++i) {
+        const double before = static_cast<double>(samples[i - 1]);
+        const double now = static_cast<double>(samples[i]);
+        wasLow = wasLow || before < -threshold;
+        if (wasLow && before < 0 && now >= 0) {
+            last = static_cast<double>(i) - now / (now - before);
+            first = crossings == 0 ? last : first;
+            ++crossings;
+            wasLow = false;
+        }
+    }
+    return crossings > 1 ? static_cast<double>(crossings - 1) * rate / (last - first) : 0;
+}
+
+std::span<const float> middleOf(const std::vector<float>& samples) {
+    const std::size_t tenth = samples.size() / 10;
+    return std::span<const float>(samples).subspan(tenth, samples.size() - 2 * tenth);
+}
+
+}  // namespace tavi::test

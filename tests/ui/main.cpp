@@ -1,0 +1,39 @@
+#include <gmock/gmock.h>
+
+#include <QtQml/qqmlextensionplugin.h>
+#include <QAccessible>
+#include <QFont>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include "ui/Texts.h"
+
+Q_IMPORT_QML_PLUGIN(TaviPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
+
+namespace {
+
+/// What QML complains of, a binding loop or a missing property, is a fault.
+void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        ADD_FAILURE() << qPrintable(text);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleMock(&argc, argv);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
+    tavi::installTexts(application);
+    // As with a screen reader on the desktop.
+    QAccessible::setActive(true);
+    qInstallMessageHandler(failOnWarning);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,115 @@
+#include "app/AppDelegate.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+
+#include "support/FakeAudioRecorder.h"
+#include "support/Fakes.h"
+#include "support/ManualRunLoop.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+
+namespace {
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    /// Whether a session exists after what was asked for has been done.
+    bool isRecordingAfterAnswer() {
+        session.answer(true);
+        runLoop.drain();
+        return screen.isRecording();
+    }
+
+    FakeApplication application;
+    FakeIdleTimer idleTimer;
+    FakeUserDefaults defaults;
+    FakeUserDefaults sharedDefaults;
+    SettingsStore settings{defaults};
+    TemporaryContainer container;
+    FakeAudioSession session;
+    FakeTabBar tabBar;
+    ManualRunLoop runLoop;
+    FakePresenter presenter;
+    FakeMailComposer mail;
+    FakeAudioRecorders recorders{runLoop};
+    AudioRecordVC screen{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
+    AppDelegate delegate{{application, idleTimer, settings, sharedDefaults, container, session, tabBar, screen}};
+};
+
+}  // namespace
+
+TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
+    EXPECT_TRUE(delegate.applicationDidFinishLaunching({}));
+    const QString sync = QStringLiteral("synchronize");
+    EXPECT_EQ(defaults.writes.join(QLatin1Char(' ')),
+              QStringLiteral("DefaultValSetting AUDIO AudioFileType AudioSegmentCount AudioQualityType "
+                             "AudioQualityTypeIndex QuickMail Iclound synchronize Sort synchronize"));
+    EXPECT_EQ(sharedDefaults.writes, (QStringList{settingskey::kAppStart, sync}));
+    EXPECT_TRUE(sharedDefaults.boolForKey(settingskey::kAppStart));
+    EXPECT_TRUE(idleTimer.isIdleTimerDisabled());
+    EXPECT_TRUE(QDir(container.documentsPath() + QStringLiteral("/ICloud")).exists());
+    session.answer(false);
+    EXPECT_TRUE(presenter.alerts.empty()) << "a refusal at start-up shows nothing";
+
+    defaults.removeObjectForKey(settingskey::kSort);
+    defaults.removeObjectForKey(settingskey::kAudio);
+    defaults.writes.clear();
+    const QList<ShortcutItem> own{{QStringLiteral("Other"), QStringLiteral("Other"), {}, {}}};
+    application.setShortcutItems(own);
+    delegate.applicationDidFinishLaunching({});
+    EXPECT_EQ(defaults.writes, (QStringList{settingskey::kSort, sync}));
+    EXPECT_EQ(application.shortcutItems(), own);
+
+    delegate.applicationWillTerminate();
+    EXPECT_FALSE(sharedDefaults.boolForKey(settingskey::kAppStart));
+}
+
+TEST_F(AppDelegateTest, ALaunchingQuickActionRunsOnceAtActivation) {
+    tabBar.setSelectedIndex(2);
+    EXPECT_FALSE(delegate.applicationDidFinishLaunching({QStringLiteral("Recordings")}));
+    EXPECT_EQ(tabBar.selectedIndex(), 2);
+    delegate.applicationDidBecomeActive();
+    EXPECT_EQ(tabBar.selectedIndex(), 1);
+    tabBar.setSelectedIndex(2);
+    delegate.applicationDidBecomeActive();
+    EXPECT_EQ(tabBar.selectedIndex(), 2);
+
+    bool handled = true;
+    delegate.applicationPerformActionForShortcutItem(application.shortcutItems().first(),
+                                                     [&handled](bool result) { handled = result; });
+    EXPECT_FALSE(handled);
+    EXPECT_EQ(tabBar.selectedIndex(), 0);
+    EXPECT_TRUE(isRecordingAfterAnswer());
+}
+
+TEST_F(AppDelegateTest, UrlsChooseTabsAndDriveTheRecording) {
+    const struct {
+        const char* url;
+        int tab;
+        bool isRecording;
+        bool isRunning;
+    } cases[] = {{"TaviliteConnect://x", 1, false, false}, {"tavirecordstart:", 0, true, true},
+                 {"https://example.org/", 2, true, true},  {"TaviRecordStart://", 0, true, false},
+                 {"TAVIRECORDSTOP:", 0, false, false},     {"file:///tmp/a.m4a", 1, false, false},
+                 {"TaviRecordStop:", 0, false, false}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.url);
+        tabBar.setSelectedIndex(2);
+        EXPECT_TRUE(delegate.applicationOpenURL(QUrl(QString::fromLatin1(row.url))));
+        EXPECT_EQ(isRecordingAfterAnswer(), row.isRecording);
+        EXPECT_EQ(screen.isRecordingRunning(), row.isRunning);
+        EXPECT_EQ(tabBar.selectedIndex(), row.tab);
+    }
+}
+
+TEST_F(AppDelegateTest, TheEndOfTheProgramSavesTheSession) {
+    delegate.applicationDidFinishLaunching({});
+    screen.playAndPauseRecording(nullptr);
+    ASSERT_TRUE(isRecordingAfterAnswer());
+    delegate.applicationWillTerminate();
+    EXPECT_EQ(QDir(container.documentsPath()).entryList(QDir::Files).size(), 1);
+}
+
+}  // namespace tavi::test

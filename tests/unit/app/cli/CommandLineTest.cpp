@@ -1,0 +1,90 @@
+#include "app/cli/CommandLine.h"
+
+#include <gmock/gmock.h>
+
+namespace tavi::test {
+
+namespace {
+
+using Command = CommandLine::Command;
+
+QStringList words(const char* line) {
+    return QString::fromUtf8(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+}
+
+TEST(CommandLine, UnderstandsEveryCommand) {
+    struct Case {
+        const char* arguments;
+        Command command;
+        const char* container = "";
+        const char* key = "";
+        const char* value = "";
+        const char* urls = "";
+        bool json = false;
+    };
+    const Case cases[] = {
+        {"", Command::Open},
+        {"--container|/tmp/a b", Command::Open, "/tmp/a b"},
+        {"--container=dir|record", Command::Record, "dir"},
+        {"stop", Command::Stop},
+        {"--|library", Command::Library},
+        {"list", Command::List},
+        {"list|--json", Command::List, "", "", "", "", true},
+        {"get|AudioFileType", Command::Get, "", "AudioFileType"},
+        {"set|RewindSong|-5", Command::Set, "", "RewindSong", "-5"},
+        {"set|note|--help", Command::Set, "", "note", "--help"},
+        {"TaviRecordStart:", Command::Url, "", "", "", "tavirecordstart:"},
+        {"taviRECORDstop://x?y=1|TaviliteConnect://", Command::Url, "", "", "",
+         "tavirecordstop://x?y=1 taviliteconnect://"},
+        {"--help", Command::Help},
+        {"record|-h", Command::Help},
+        {"--container|d|--version|nonsense", Command::Version, "d"},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.arguments);
+        const auto line = parseCommandLine(words(test.arguments));
+        ASSERT_TRUE(line.has_value()) << qPrintable(line.error().text);
+        EXPECT_EQ(line->command, test.command);
+        EXPECT_EQ(line->container, QLatin1String(test.container));
+        EXPECT_EQ(line->key, QLatin1String(test.key));
+        EXPECT_EQ(line->value, QLatin1String(test.value));
+        EXPECT_EQ(QUrl::toStringList(line->urls).join(QLatin1Char(' ')), QLatin1String(test.urls));
+        EXPECT_EQ(line->json, test.json);
+    }
+    EXPECT_EQ(parseCommandLine({QStringLiteral("set"), QStringLiteral("k"), QString()})->value, QString());
+}
+
+TEST(CommandLine, SaysWhatIsWrong) {
+    struct Case {
+        const char* arguments;
+        const char* error;
+    };
+    const Case cases[] = {
+        {"--container", "--container needs a folder"},
+        {"--container=", "--container needs a folder"},
+        {"--colour", "unknown option “--colour”"},
+        {"frobnicate", "unknown command “frobnicate”"},
+        {"record|now", "“record” does not take “now”"},
+        {"get", "“get” needs the key of a setting"},
+        {"set|key", "“set” needs the key of a setting and its value"},
+        {"set|key|value|more", "“set” does not take “more”"},
+        {"list|--xml", "“list” does not take “--xml”"},
+        {"import|a.wav", "files cannot be imported from the command line"},
+        {"file:///tmp/a.wav", "files cannot be imported from the command line: “file:///tmp/a.wav”"},
+        {"music/a.wav", "files cannot be imported from the command line: “music/a.wav”"},
+        {"https://example.org/", "the scheme of “https://example.org/” is not one that the recorder opens"},
+        {"TaviRecordStop:|stop", "unknown command “stop”"},
+        {"TaviRecordStop://[", "“TaviRecordStop://[” is not a valid URL"},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.arguments);
+        const auto line = parseCommandLine(words(test.arguments));
+        ASSERT_FALSE(line.has_value());
+        EXPECT_EQ(line.error().text.toStdString(), test.error);
+    }
+    EXPECT_FALSE(parseCommandLine({QStringLiteral("get"), QString()}).has_value());
+}
+
+}  // namespace
+
+}  // namespace tavi::test
