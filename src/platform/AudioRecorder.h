@@ -5,23 +5,10 @@
 #include <memory>
 #include <optional>
 
+#include "platform/AudioTypes.h"
 #include "platform/Error.h"
 
 namespace tavi {
-
-/// A four-character code as the audio file formats spell it, such as 'alac'.
-constexpr std::uint32_t fourCharacterCode(const char (&text)[5]) {
-    std::uint32_t code = 0;
-    for (int i = 0; i < 4; ++i) {
-        code = code << 8 | static_cast<unsigned char>(text[i]);
-    }
-    return code;
-}
-
-inline constexpr std::uint32_t kAudioFormatLinearPCM = fourCharacterCode("lpcm");
-inline constexpr std::uint32_t kAudioFormatAppleIMA4 = fourCharacterCode("ima4");
-inline constexpr std::uint32_t kAudioFormatMPEG4AAC = fourCharacterCode("aac ");
-inline constexpr std::uint32_t kAudioFormatAppleLossless = fourCharacterCode("alac");
 
 /// What a recording is written as.
 struct AudioRecordSettings {
