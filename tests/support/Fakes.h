@@ -11,6 +11,7 @@
 #include "platform/IdleTimer.h"
 #include "platform/MailComposer.h"
 #include "platform/Presenter.h"
+#include "platform/RemoteControl.h"
 #include "platform/TabBar.h"
 #include "platform/UserDefaults.h"
 #include "support/Printers.h"
@@ -73,6 +74,11 @@ public:
         return {};
     }
     bool isInputAvailable() const override { return inputAvailable; }
+    Result<QString> currentRoute() const override { return route; }
+    Result<void> overrideOutputAudioPort(PortOverride port) override {
+        overrides.push_back(port);
+        return categoryResult;
+    }
 
     /// Answers every open question.
     void answer(bool granted) {
@@ -86,6 +92,9 @@ public:
     Result<void> categoryResult;
     bool isActive = false;
     bool inputAvailable = true;
+    Result<QString> route = QStringLiteral("Speaker");
+    /// What was asked for, in its order.
+    std::vector<PortOverride> overrides;
 };
 
 class FakeIdleTimer : public IdleTimer {
@@ -119,6 +128,28 @@ public:
 
 private:
     QList<ShortcutItem> m_items;
+};
+
+/// Keeps what the desktop would show; a test sends what a user would press there.
+class FakeRemoteControl : public RemoteControl {
+public:
+    void setDelegate(RemoteControlDelegate* newDelegate) override { delegate = newDelegate; }
+    void beginReceivingRemoteControlEvents() override { isReceiving = true; }
+    void endReceivingRemoteControlEvents() override { isReceiving = false; }
+    void setNowPlayingInfo(const NowPlayingInfo& newInfo) override { info = newInfo; }
+    void currentTimeDidJump() override { ++jumps; }
+
+    /// What the user presses; nothing happens where no events are received.
+    void send(RemoteControlEvent::Subtype subtype, double value = 0.0) {
+        if (isReceiving && delegate != nullptr) {
+            delegate->remoteControlReceivedWithEvent({subtype, value});
+        }
+    }
+
+    RemoteControlDelegate* delegate = nullptr;
+    bool isReceiving = false;
+    NowPlayingInfo info;
+    int jumps = 0;
 };
 
 /// Durations by file name; 0 for any other.

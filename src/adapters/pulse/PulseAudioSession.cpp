@@ -43,4 +43,12 @@ bool PulseAudioSession::isInputAvailable() const {
     return m_connection->isInputAvailable();
 }
 
+Result<QString> PulseAudioSession::currentRoute() const {
+    return tl::unexpected(pulseError(PA_ERR_CONNECTIONREFUSED));
+}
+
+Result<void> PulseAudioSession::overrideOutputAudioPort(PortOverride) {
+    return {};
+}
+
 }  // namespace tavi

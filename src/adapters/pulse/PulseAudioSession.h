@@ -20,6 +20,8 @@ public:
     /// Always succeeds: streams take and leave the devices by themselves.
     Result<void> setActive(bool active) override;
     bool isInputAvailable() const override;
+    Result<QString> currentRoute() const override;
+    Result<void> overrideOutputAudioPort(PortOverride port) override;
 
 private:
     std::shared_ptr<PulseConnection> m_connection;
