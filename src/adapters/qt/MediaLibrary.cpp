@@ -33,4 +33,12 @@ double MediaLibrary::durationOfFile(const QString& path) const {
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
 }
 
+Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int channels) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->tempos.create(sampleRate, channels);
+}
+
 }  // namespace tavi

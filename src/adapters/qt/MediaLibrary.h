@@ -4,6 +4,7 @@
 
 #include "platform/AudioDuration.h"
 #include "platform/AudioFileWriter.h"
+#include "platform/AudioTempo.h"
 
 namespace tavi {
 
@@ -11,12 +12,13 @@ namespace tavi {
 ///
 /// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
 /// start of the program to its first picture, so the window does not wait for them. Any thread.
-class MediaLibrary : public AudioFileWriters, public AudioDuration {
+class MediaLibrary : public AudioFileWriters, public AudioDuration, public AudioTempos {
 public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
         AudioFileWriters& writers;
         const AudioDuration& durations;
+        AudioTempos& tempos;
     };
     using Entry = const Adapters* (*)();
 
@@ -32,6 +34,8 @@ public:
     Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
     /// 0 when the library cannot be loaded.
     double durationOfFile(const QString& path) const override;
+    /// Fails when the library cannot be loaded.
+    Result<std::unique_ptr<AudioTempo>> create(int sampleRate, int channels) override;
 
 private:
     const Adapters* adapters() const;
