@@ -1,5 +1,6 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QDBusConnection>
+#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -14,8 +15,11 @@
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/dbus/MprisRemoteControl.h"
 #include "adapters/desktop/DesktopMailComposer.h"
+#include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioInput.h"
+#include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseAudioSession.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/qt/MediaLibrary.h"
@@ -28,6 +32,9 @@
 #include "app/Commands.h"
 #include "app/SettingVC.h"
 #include "app/cli/CommandLine.h"
+#include "library/PlayerPanel.h"
+#include "library/RecordingLister.h"
+#include "library/RecordingOrder.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
 #include "ui/AlertPresenter.h"
@@ -107,10 +114,11 @@ int runCommand(int& argc, char** argv, const CommandLine& line, const AppContain
         }
     } else {
         const MediaLibrary media;
-        NotificationCenter notifications;
-        VoiceMemoVC library({files.store, container, media, notifications});
-        library.getAlltheFiles();
-        print(recordingsText(library.arrRecordings(), line.json));
+        QtRunLoop runLoop;
+        RecordingLister lister(media, runLoop);
+        auto recordings = lister.list(QFile::encodeName(container.documentsPath()), RecordingLister::Lengths::Measured);
+        sortRecordings(recordings, files.store.sort());
+        print(recordingsText(recordings, line.json));
     }
     return EXIT_SUCCESS;
 }
@@ -184,7 +192,12 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
 
     AudioRecordVC recording(
         {audioSession, audioRecorders, files.store, container, runLoop, presenter, tabBar, mailComposer});
-    VoiceMemoVC library({files.store, container, media, notifications});
+    PulseAudioOutputs audioOutputs(pulse);
+    FilePlayers audioPlayers(media, media, audioOutputs, runLoop);
+    MprisRemoteControl remoteControl(bus);
+    RecordingLister lister(media, runLoop);
+    PlayerPanel player({audioPlayers, audioSession, remoteControl, files.store, runLoop});
+    VoiceMemoVC library({files.store, container, notifications, lister, remoteControl}, player);
     SettingVC settings({files.store, runLoop, presenter});
     AppDelegate delegate({desktop, idleTimer, files.store, files.shared, container, audioSession, tabBar, recording});
 
@@ -206,6 +219,12 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
         runLoop.dispatchBackground([&media] { media.load(); });
     };
     QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);
+    QObject::connect(&library, &VoiceMemoVC::raiseRequested, window, [window] {
+        window->showNormal();
+        window->raise();
+        window->requestActivate();
+    });
+    QObject::connect(&library, &VoiceMemoVC::quitRequested, window, &QWindow::close);
     desktop.setDelegate(&delegate);
     desktop.setWindow(window);
     for (const QUrl& url : urlsOf(line)) {
@@ -227,10 +246,7 @@ int runBesideOther(int& argc, char** argv, const CommandLine& line, const Error&
 }
 
 int run(int& argc, char** argv) {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
+    const QList<QByteArray> arguments(argv + 1, argv + argc);
     const auto line = parseCommandLine(arguments);
     if (!line) {
         return reportFailure(line.error(), kUsageExitCode);

@@ -5,7 +5,7 @@ target_link_libraries(tavi PRIVATE
   tavi_app tavi_command_line
   tavi_main_ui tavi_main_uiplugin tavi_uiplugin tavi_waves_uiplugin tavi_recording_uiplugin tavi_library_uiplugin
   tavi_app_uiplugin
-  tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_dbus tavi_adapter_desktop
+  tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_player tavi_adapter_dbus tavi_adapter_desktop
   tavi_warnings)
 # Without it the program starts and can neither record nor tell durations.
 add_dependencies(tavi tavi_media)

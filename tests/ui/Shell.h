@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -10,6 +11,7 @@
 #include "app/SettingVC.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "support/FakeAudioPlayer.h"
 #include "support/FakeAudioRecorder.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
@@ -50,6 +52,14 @@ public:
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
         return window->grabWindow();
+    }
+
+    /// Lets QML's own animations run for that many milliseconds.
+    void settleFor(int milliseconds) const {
+        for (const QDeadlineTimer deadline(milliseconds); !deadline.hasExpired();) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+        }
+        settle();
     }
 
     void resize(const QSize& size) const {
@@ -122,7 +132,11 @@ public:
     TabBarController tabBar;
     AlertPresenter presenter;
     AudioRecordVC recording{{session, recorders, store, container, runLoop, presenter, tabBar, mail}};
-    VoiceMemoVC library{{store, container, durations, notifications}};
+    FakeRemoteControl remoteControl;
+    FakeAudioPlayers players{runLoop};
+    RecordingLister lister{durations, runLoop};
+    PlayerPanel player{{players, session, remoteControl, store, runLoop}};
+    VoiceMemoVC library{{store, container, notifications, lister, remoteControl}, player};
     SettingVC settings{{store, runLoop, presenter}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;

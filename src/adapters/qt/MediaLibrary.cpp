@@ -41,4 +41,20 @@ Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int cha
     return loaded->tempos.create(sampleRate, channels);
 }
 
+AudioStatus MediaLibrary::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
+                                 std::unique_ptr<AudioConverter>& converter) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.create(input, output, converter) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::formatInfo(AudioStreamBasicDescription& format) const {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.formatInfo(format) : kAudioFileUnspecifiedError;
+}
+
 }  // namespace tavi
