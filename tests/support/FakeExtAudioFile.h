@@ -2,88 +2,175 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <map>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "platform/ExtAudioFile.h"
 
 namespace tavi::test {
 
-/// Sound that a test made up, and what goes wrong with its file.
+/// A sound file in memory: one plane of samples a channel.
 struct FakeSound {
-    double sampleRate = 48000.0;
-    std::uint32_t channels = 1;
-    /// Interleaved.
-    std::vector<float> samples;
-    /// Frames that are really there; the length stays what the samples make it.
-    std::atomic<std::int64_t> readable = std::numeric_limits<std::int64_t>::max();
+    double rate = 44100;
+    std::vector<std::vector<float>> planes;
+    AudioFileInfo info;
+    /// Frames that the file claims to have; what it holds where less than 0.
+    std::int64_t claimedFrames = -1;
+    bool isRandomAccess = true;
+    /// What is to happen while a file is read, such as a call on another thread.
+    std::function<void()> onRead;
     std::atomic<AudioStatus> readStatus = kAudioNoError;
+    /// Frames that are really there; the length stays what the planes make it.
+    std::atomic<std::int64_t> readable = std::numeric_limits<std::int64_t>::max();
 
-    std::int64_t frames() const { return static_cast<std::int64_t>(samples.size()) / channels; }
+    std::int64_t frames() const { return planes.empty() ? 0 : static_cast<std::int64_t>(planes.front().size()); }
 };
 
-/// A file of such sound, which is read as it is: interleaved floats at its own rate.
+/// Converts by taking the nearest frame at or before, and the mean of channels that are too many.
 class FakeExtAudioFile : public ExtAudioFile {
 public:
-    explicit FakeExtAudioFile(std::shared_ptr<FakeSound> sound) : m_sound(std::move(sound)) {}
+    FakeExtAudioFile(std::shared_ptr<const FakeSound> sound, std::vector<std::uint32_t>& reads)
+        : m_sound(std::move(sound)), m_reads(reads) {}
 
     AudioStatus fileDataFormat(AudioStreamBasicDescription& format) const override {
         format = {};
-        format.sampleRate = m_sound->sampleRate;
-        format.channelsPerFrame = m_sound->channels;
+        format.sampleRate = m_sound->rate;
+        format.formatID = kAudioFormatLinearPCM;
+        format.formatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked;
+        format.framesPerPacket = 1;
+        format.channelsPerFrame = static_cast<std::uint32_t>(m_sound->planes.size());
+        format.bytesPerFrame = format.bytesPerPacket = 4 * format.channelsPerFrame;
+        format.bitsPerChannel = 32;
         return kAudioNoError;
     }
     AudioStatus fileLengthFrames(std::int64_t& frames) const override {
-        frames = m_sound->frames();
+        frames = m_sound->claimedFrames < 0 ? m_sound->frames() : m_sound->claimedFrames;
         return kAudioNoError;
     }
-    AudioStatus fileMaxPacketSize(std::uint32_t&) const override { return kAudioFileUnspecifiedError; }
-    AudioStatus infoDictionary(AudioFileInfo&) const override { return kAudioNoError; }
+    AudioStatus fileMaxPacketSize(std::uint32_t& bytes) const override {
+        bytes = 4 * static_cast<std::uint32_t>(m_sound->planes.size());
+        return kAudioNoError;
+    }
+    AudioStatus infoDictionary(AudioFileInfo& info) const override {
+        info = m_sound->info;
+        return kAudioNoError;
+    }
+    bool isRandomAccess() const override { return m_sound->isRandomAccess; }
     AudioStatus setClientDataFormat(const AudioStreamBasicDescription& format) override {
-        const bool isOurs = format.sampleRate == m_sound->sampleRate && format.channelsPerFrame == m_sound->channels &&
-                            format.formatFlags == (kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked);
-        return isOurs ? kAudioNoError : kAudioFileUnsupportedDataFormatError;
+        if (format.formatID != kAudioFormatLinearPCM || format.channelsPerFrame > 8 || format.sampleRate < 1) {
+            return kAudioFileUnsupportedDataFormatError;
+        }
+        std::int64_t frame = 0;
+        tell(frame);
+        m_client = format;
+        return seek(frame);
     }
     AudioStatus read(std::uint32_t& frames, AudioBufferList& data) override {
-        const std::int64_t end = std::min(m_sound->frames(), m_sound->readable.load());
-        frames = static_cast<std::uint32_t>(std::clamp<std::int64_t>(end - m_frame, 0, frames));
-        const std::size_t size = sizeof(float) * m_sound->channels * frames;
-        std::memcpy(data.buffers[0].data, m_sound->samples.data() + m_frame * m_sound->channels, size);
-        data.buffers[0].dataByteSize = static_cast<std::uint32_t>(size);
-        m_frame += frames;
-        return m_sound->readStatus;
+        const std::uint32_t wanted = std::exchange(frames, 0);
+        if (m_client.channelsPerFrame == 0) {
+            return kAudioParameterError;
+        }
+        m_reads.push_back(wanted);
+        if (m_sound->onRead) {
+            m_sound->onRead();
+        }
+        if (const AudioStatus status = m_sound->readStatus; status != kAudioNoError) {
+            return status;
+        }
+        const std::int64_t end = clientFrame(std::min(m_sound->frames(), m_sound->readable.load()));
+        frames = static_cast<std::uint32_t>(std::clamp<std::int64_t>(end - m_position, 0, wanted));
+        const bool isPlanar = (m_client.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
+        for (std::uint32_t channel = 0; channel < m_client.channelsPerFrame; ++channel) {
+            AudioBuffer& buffer = data.buffers[isPlanar ? channel : 0];
+            for (std::uint32_t i = 0; i < frames; ++i) {
+                store(buffer, isPlanar ? i : i * m_client.channelsPerFrame + channel, sample(channel, m_position + i));
+            }
+            buffer.dataByteSize = frames * m_client.bytesPerFrame;
+        }
+        m_position += frames;
+        m_sought = frames > 0 ? -1 : m_sought;
+        return kAudioNoError;
     }
     AudioStatus seek(std::int64_t frame) override {
-        m_frame = std::min(frame, m_sound->frames());
-        return frame < 0 ? kAudioParameterError : kAudioNoError;
+        if (frame < 0) {
+            return kAudioParameterError;
+        }
+        m_sought = std::min(frame, m_sound->frames());
+        m_position = clientFrame(m_sought);
+        return kAudioNoError;
     }
     AudioStatus tell(std::int64_t& frame) const override {
-        frame = m_frame;
+        const double rate = m_client.sampleRate > 0 ? m_client.sampleRate : m_sound->rate;
+        frame = m_sought >= 0 ? m_sought
+                              : static_cast<std::int64_t>(static_cast<double>(m_position) * m_sound->rate / rate);
         return kAudioNoError;
     }
 
 private:
-    std::shared_ptr<FakeSound> m_sound;
-    std::int64_t m_frame = 0;
+    std::int64_t clientFrame(std::int64_t frame) const {
+        const double rate = m_client.sampleRate > 0 ? m_client.sampleRate : m_sound->rate;
+        return static_cast<std::int64_t>(std::ceil(static_cast<double>(frame) * rate / m_sound->rate));
+    }
+    float sample(std::uint32_t channel, std::int64_t position) const {
+        const double at = static_cast<double>(position) * m_sound->rate / m_client.sampleRate;
+        const auto& planes = m_sound->planes;
+        if (m_client.channelsPerFrame < planes.size()) {
+            float sum = 0;
+            for (const auto& plane : planes) {
+                sum += plane[static_cast<std::size_t>(at)];
+            }
+            return sum / static_cast<float>(planes.size());
+        }
+        return planes[planes.size() == 1 ? 0 : channel][static_cast<std::size_t>(at)];
+    }
+    void store(AudioBuffer& buffer, std::uint32_t at, float value) const {
+        if ((m_client.formatFlags & kAudioFormatFlagIsFloat) != 0) {
+            static_cast<float*>(buffer.data)[at] = value;
+        } else {
+            static_cast<std::int16_t*>(buffer.data)[at] =
+                static_cast<std::int16_t>(std::clamp(std::lround(value * 32768.0F), -32768L, 32767L));
+        }
+    }
+
+    std::shared_ptr<const FakeSound> m_sound;
+    std::vector<std::uint32_t>& m_reads;
+    AudioStreamBasicDescription m_client;
+    std::int64_t m_position = 0;
+    std::int64_t m_sought = 0;
 };
 
-/// Opens the files that a test put here.
+/// Files by their paths. Whoever opens them outlives none of them.
 class FakeExtAudioFiles : public ExtAudioFiles {
 public:
     AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override {
+        file.reset();
+        ++opened;
+        if (failingOpens > 0 && opened >= failingOpens) {
+            return kAudioFilePermissionsError;
+        }
         const auto found = sounds.find(path);
         if (found == sounds.end()) {
             return kAudioFileFileNotFoundError;
         }
-        file = std::make_unique<FakeExtAudioFile>(found->second);
+        if (found->second->planes.empty()) {
+            return kAudioFileUnsupportedFileTypeError;
+        }
+        reads.emplace_back(std::make_unique<std::vector<std::uint32_t>>());
+        file = std::make_unique<FakeExtAudioFile>(found->second, *reads.back());
         return kAudioNoError;
     }
 
     std::map<std::string, std::shared_ptr<FakeSound>> sounds;
+    /// What each file that was opened has been asked for.
+    std::vector<std::unique_ptr<std::vector<std::uint32_t>>> reads;
+    int opened = 0;
+    /// From this opening on all fail; 0 for none.
+    int failingOpens = 0;
 };
 
 }  // namespace tavi::test

@@ -41,9 +41,8 @@ class RealPlayerWorld {
 public:
     RealPlayerWorld() {
         const auto sound = std::make_shared<FakeSound>();
-        sound->channels = 2;
-        sound->sampleRate = 44100.0;
-        sound->samples.resize(static_cast<std::size_t>(kSeconds * 2.0 * 44100.0), 0.1F);
+        sound->rate = 44100.0;
+        sound->planes.assign(2, std::vector<float>(static_cast<std::size_t>(kSeconds * 44100.0), 0.1F));
         m_files.sounds["recording"] = sound;
     }
     AudioPlayers& players() { return m_players; }

@@ -30,12 +30,13 @@ protected:
 
     std::unique_ptr<AudioPlayer> made(double seconds, double startHertz, double endHertz, double rate = kRate) {
         m_sound = std::make_shared<FakeSound>();
-        m_sound->sampleRate = rate;
+        m_sound->rate = rate;
+        std::vector<float>& samples = m_sound->planes.emplace_back();
         const auto frames = static_cast<std::size_t>(seconds * rate);
         for (std::size_t i = 0; i < frames; ++i) {
             const double time = static_cast<double>(i) / rate;
             const double turns = startHertz * time + (endHertz - startHertz) * time * time / (2.0 * seconds);
-            m_sound->samples.push_back(static_cast<float>(0.5 * std::sin(2.0 * std::numbers::pi * turns)));
+            samples.push_back(static_cast<float>(0.5 * std::sin(2.0 * std::numbers::pi * turns)));
         }
         m_files.sounds["recording"] = m_sound;
         auto player = m_players.playerWithContentsOfURL("recording");
@@ -109,7 +110,7 @@ protected:
             double sum = 0.0;
             for (std::size_t i = 0; i < samples.size() && sum < least; i += 3) {
                 const auto difference =
-                    static_cast<double>(samples[i] - m_sound->samples[static_cast<std::size_t>(place) + i]);
+                    static_cast<double>(samples[i] - m_sound->planes[0][static_cast<std::size_t>(place) + i]);
                 sum += difference * difference;
             }
             if (sum < least) {
