@@ -54,9 +54,9 @@ public:
 
 private:
     PrivatePulse m_server;
-    QtRunLoop m_runLoop;
     FakeExtAudioFiles m_files;
     FfmpegAudioTempos m_tempos;
+    QtRunLoop m_runLoop;
     PulseAudioOutputs m_outputs{std::make_shared<PulseConnection>()};
     FilePlayers m_players{m_files, m_tempos, m_outputs, m_runLoop};
 };

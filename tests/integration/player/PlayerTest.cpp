@@ -125,9 +125,9 @@ protected:
     QTemporaryDir m_folder;
     QString m_path;
     ProcessHandle m_listener;
-    QtRunLoop m_runLoop;
     FakeExtAudioFiles m_files;
     FfmpegAudioTempos m_tempos;
+    QtRunLoop m_runLoop;
     PulseAudioOutputs m_outputs{std::make_shared<PulseConnection>()};
     FilePlayers m_players{m_files, m_tempos, m_outputs, m_runLoop};
     std::shared_ptr<FakeSound> m_sound;
