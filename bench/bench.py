@@ -36,7 +36,7 @@ def row(what, value, unit, beside=None, aim=None):
         measure = value / beside if beside else float("inf")
         line += f" beside {beside:>9.2f}  ratio {measure:>5.2f}"
     if aim is not None:
-        line += f"  aim <= {aim:<6g} {'met' if measure <= aim else 'MISSED'}"
+        line += f"  aim <= {aim:<6.4g} {'met' if measure <= aim else 'MISSED'}"
     print(line, flush=True)
 
 
@@ -284,7 +284,7 @@ def listing(binaries):
     row("one new file", value["one-new"], "ms", aim=100)
 
 
-OWN = {"library_bench"}
+OWN = {"library_bench", "ring_bench", "waveform_bench"}
 
 
 @bench
@@ -294,6 +294,16 @@ def parts(binaries):
         if program.name not in OWN:
             for name, (value, unit) in figures(program).items():
                 row(f"{program.name}: {name}", value, unit)
+
+
+@bench
+def ring(binaries):
+    """Time that the engine's ring takes for a block from one processor to the other, and for a message one way."""
+    values = {name: value for name, (value, _) in figures(binaries / "ring_bench").items()}
+    for name, what, aim in (("block-512", "block of 512 bytes", 1 / 0.85), ("block-4096", "block of 4 KiB", 1 / 0.95),
+                            ("block-65536", "block of 64 KiB", 1 / 0.95), ("one-way", "message, one way", 1.15)):
+        row(f"{what}, beside libjack's ring", values[name], "ns", values[f"{name}-jack"], aim=aim)
+        row(f"{what}, beside Boost's queue", values[name], "ns", values[f"{name}-boost"])
 
 
 def main(binaries, *names):

@@ -16,3 +16,11 @@ if(TAGLIB_FOUND)
     tavi_library tavi_adapter_ffmpeg tavi_adapter_qt PkgConfig::FFMPEG PkgConfig::TAGLIB tavi_warnings)
   target_compile_definitions(library_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 endif()
+
+# Beside the rings of others, whose packages only scripts/bench installs.
+pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
+find_package(Boost QUIET)
+if(JACK_FOUND AND Boost_FOUND)
+  add_executable(ring_bench ring_bench.cpp)
+  target_link_libraries(ring_bench PRIVATE tavi_engine PkgConfig::JACK Boost::headers tavi_warnings)
+endif()
