@@ -306,6 +306,17 @@ def ring(binaries):
         row(f"{what}, beside Boost's queue", values[name], "ns", values[f"{name}-boost"])
 
 
+@bench
+def waveform(binaries):
+    """The waveform of an hour by type of file, beside FFmpeg's program decoding it into a pipe with a small reducer."""
+    values = {name: value for name, (value, _) in figures(binaries / "waveform_bench").items()}
+    for name, aim in (("wav", 0.12), ("ima4", 0.03), ("aac", 0.35), ("lossless", 0.65), ("lossless-16k", 0.75),
+                      ("aac-16k", 0.75), ("wav-8k", 0.75), ("aac-8k", 0.75)):
+        row(f"waveform of an hour, {name}", values[name], "s", values[f"{name}-ffmpeg"], aim=aim)
+        row("  most that a point differs", values[f"{name}-difference"], "%")
+        row("  most memory", values[f"{name}-memory"], "MB", aim=64)
+
+
 def main(binaries, *names):
     unknown = [name for name in names if name not in BENCHES]
     if unknown:

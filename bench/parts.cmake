@@ -24,3 +24,7 @@ if(JACK_FOUND AND Boost_FOUND)
   add_executable(ring_bench ring_bench.cpp)
   target_link_libraries(ring_bench PRIVATE tavi_engine PkgConfig::JACK Boost::headers tavi_warnings)
 endif()
+
+add_executable(waveform_bench waveform_bench.cpp)
+target_link_libraries(waveform_bench PRIVATE tavi_engine tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
+target_compile_definitions(waveform_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
