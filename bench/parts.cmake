@@ -2,3 +2,8 @@ add_executable(recorder_bench recorder_bench.cpp)
 target_include_directories(recorder_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(recorder_bench PRIVATE tavi_adapter_recorder tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
 target_compile_definitions(recorder_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+add_executable(plot_bench plot_bench.cpp)
+target_include_directories(plot_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(plot_bench PRIVATE tavi_waves_painting tavi_warnings)
+target_compile_definitions(plot_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
