@@ -21,10 +21,13 @@ public:
     virtual ~ExtAudioFile() = default;
 
     virtual AudioStatus fileDataFormat(AudioStreamBasicDescription& format) const = 0;
-    /// The exact length. Where a header does not tell it this may read through the file.
+    /// The exact length; of a container that counts in units coarser than frames, to these units. Where a header does
+    /// not tell it this may read through the file.
     virtual AudioStatus fileLengthFrames(std::int64_t& frames) const = 0;
     virtual AudioStatus fileMaxPacketSize(std::uint32_t& bytes) const = 0;
     virtual AudioStatus infoDictionary(AudioFileInfo& info) const = 0;
+    /// Whether seek() costs much less than reading up to there, so that several readers can share the work on a file.
+    virtual bool isRandomAccess() const = 0;
 
     /// Chooses what read() delivers: linear PCM, 32-bit float or 16-bit signed integer, interleaved or not, at any rate
     /// and with 1 to 8 channels. Mono goes to every channel as it is; more channels are mixed into fewer by the usual
@@ -35,7 +38,9 @@ public:
     /// in the middle is skipped as the decoder can; a file that became shorter ends early.
     virtual AudioStatus read(std::uint32_t& frames, AudioBufferList& data) = 0;
     /// Goes to a frame, exact to the sample: what is read from there is what reading from the start would have given.
-    /// Positions behind the end are the end; a negative one fails with kAudioParameterError.
+    /// Where the rates differ the next client frame is the first that does not stand before that frame, which is number
+    /// ceil(frame * client rate / file rate) from the start. Positions behind the end are the end; a negative one fails
+    /// with kAudioParameterError.
     virtual AudioStatus seek(std::int64_t frame) = 0;
     /// The frame that read() delivers next.
     virtual AudioStatus tell(std::int64_t& frame) const = 0;

@@ -19,10 +19,13 @@ FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
 }
 
 FileDescriptor FileDescriptor::open(const QString& path, int flags, mode_t mode) {
-    const QByteArray name = QFile::encodeName(path);
+    return open(QFile::encodeName(path).toStdString(), flags, mode);
+}
+
+FileDescriptor FileDescriptor::open(const std::string& path, int flags, mode_t mode) {
     int fd = -1;
     do {
-        fd = ::open(name.constData(), flags | O_CLOEXEC, mode);
+        fd = ::open(path.c_str(), flags | O_CLOEXEC, mode);
     } while (fd < 0 && errno == EINTR);
     return FileDescriptor(fd);
 }

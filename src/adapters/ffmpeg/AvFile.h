@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "adapters/ffmpeg/AvHandles.h"
+#include "platform/ExtAudioFile.h"
+
+namespace tavi {
+
+/// A sound file in the hands of libavformat, which reads it through a descriptor and opens nothing else. Prints
+/// nothing. One thread at a time.
+class AvFile {
+public:
+    /// Borrows the descriptor. On failure file is left empty and a code of kAudioFile... tells why.
+    static AudioStatus open(int fd, std::unique_ptr<AvFile>& file);
+
+    AvFile(const AvFile&) = delete;
+    AvFile& operator=(const AvFile&) = delete;
+    ~AvFile();
+
+    AVFormatContext& context() { return *m_input; }
+    /// The track of sound that plays when nothing is chosen.
+    AVStream& stream() { return *m_input->streams[m_stream]; }
+    /// The next packet of that track; false at the end.
+    bool next(AVPacket& packet);
+    AudioFileInfo info();
+
+private:
+    explicit AvFile(int fd);
+
+    static int readPacket(void* opaque, std::uint8_t* data, int size);
+    static std::int64_t seekTo(void* opaque, std::int64_t offset, int whence);
+
+    int m_fd;
+    std::int64_t m_offset = 0;
+    AvIo m_io;
+    AvInput m_input;
+    int m_stream = -1;
+};
+
+}  // namespace tavi

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/ExtAudioFile.h"
+
+namespace tavi {
+
+/// Sound files of all types that FFmpeg knows; those that are recorded most are read by faster ways of our own.
+class FfmpegExtAudioFiles : public ExtAudioFiles {
+public:
+    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override;
+};
+
+}  // namespace tavi

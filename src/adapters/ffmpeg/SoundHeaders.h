@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace tavi {
+
+/// What a WAV or RF64 file (EBU Tech 3306) of linear PCM says about itself.
+struct WavHeader {
+    bool isFloat = false;
+    std::uint32_t sampleRate = 0;
+    std::uint32_t channels = 0;
+    std::uint32_t bitsPerSample = 0;
+    std::uint32_t frameBytes = 0;
+    /// Which loudspeakers the channels are for (WAVE_FORMAT_EXTENSIBLE); 0 where that is not said.
+    std::uint32_t channelMask = 0;
+    std::int64_t dataOffset = 0;
+    /// Whole frames that are there: a length that was never filled in, or that reaches behind the end, is cut there.
+    std::int64_t frames = 0;
+};
+
+/// Nothing for files of another type or codec, and for those that make no sense.
+std::optional<WavHeader> readWavHeader(int fd);
+
+/// What a CAF file (Apple Core Audio Format 1.0) says about itself.
+struct CafHeader {
+    double sampleRate = 0;
+    std::uint32_t formatID = 0;
+    std::uint32_t formatFlags = 0;
+    /// 0 where packets vary.
+    std::uint32_t packetBytes = 0;
+    std::uint32_t packetFrames = 0;
+    std::uint32_t channels = 0;
+    std::int64_t dataOffset = 0;
+    /// What is there of it.
+    std::int64_t dataBytes = 0;
+    std::int64_t primingFrames = 0;
+    /// Frames that are meant to be heard; -1 where the file does not tell.
+    std::int64_t frames = -1;
+};
+
+std::optional<CafHeader> readCafHeader(int fd);
+
+}  // namespace tavi

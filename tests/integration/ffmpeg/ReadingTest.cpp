@@ -1,0 +1,171 @@
+#include <QProcess>
+
+#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "integration/ffmpeg/RecordingFixture.h"
+#include "support/ClientBuffers.h"
+
+namespace tavi::test {
+
+namespace {
+
+/// Files that FFmpeg's program makes of a WAV file: what others bring in.
+struct Foreign {
+    const char* name;
+    const char* arguments;
+    /// How far a sample after a seek may be from what one pass gives.
+    float tolerance;
+    /// Frames at 44,100 Hz more than what went in: 0 where the file knows about padding.
+    int more;
+    /// Frames that the container's clock, which ticks once a millisecond, may be wrong by.
+    int slack;
+};
+
+constexpr std::array<Foreign, 14> kForeign{{
+    {"cbr.mp3", "-c:a libmp3lame -b:a 96k", 1e-6F, 0, 0},
+    {"vbr.mp3", "-c:a libmp3lame -q:a 3", 1e-6F, 0, 0},
+    {"bare.mp3", "-c:a libmp3lame -b:a 96k -write_xing 0 -id3v2_version 0", 1e-6F, 1261, 0},
+    {"a.flac", "-c:a flac", 0, 0, 0},
+    {"vorbis.ogg", "-c:a libvorbis", 1e-6F, 0, 0},
+    {"opus.ogg", "-c:a libopus", 0.02F, 0, 0},
+    {"a.aiff", "-c:a pcm_s16be", 0, 0, 0},
+    {"s24.wav", "-c:a pcm_s24le", 0, 0, 0},
+    {"f32.wav", "-c:a pcm_f32le", 0, 0, 0},
+    {"rf64.wav", "-c:a pcm_s32le -rf64 always", 0, 0, 0},
+    {"adpcm.wav", "-c:a adpcm_ima_wav", 0, 856, 0},
+    {"plain.m4a", "-c:a aac -b:a 128k", 0.01F, 0, 0},
+    {"alac.caf", "-c:a alac", 0, 0, 0},
+    {"pcm.mka", "-c:a pcm_s16le", 0, 0, 45},
+}};
+
+class ReadingTest : public RecordingFixture {
+protected:
+    static constexpr std::size_t kFrames = 3 * 48000 + 77;
+
+    std::unique_ptr<ExtAudioFile> open(const QString& path) {
+        std::unique_ptr<ExtAudioFile> file;
+        EXPECT_EQ(m_files.open(QFile::encodeName(path).toStdString(), file), kAudioNoError) << qPrintable(path);
+        return file;
+    }
+
+    QString recorded(const Type& type, const Quality& quality) {
+        const QString path = pathFor(type);
+        QFile::remove(path);
+        const auto writer = begin(path, settingsFor(type, quality));
+        EXPECT_TRUE(writer && writeBlocks(*writer, tone(kStereo, kFrames), 2) && writer->finish());
+        return path;
+    }
+
+    QString converted(const Foreign& foreign, const QString& from) {
+        const QString path = m_folder.filePath(QString::fromLatin1(foreign.name));
+        const QStringList arguments = QString::fromLatin1(foreign.arguments).split(QLatin1Char(' '));
+        const int code =
+            QProcess::execute(QStringLiteral("ffmpeg"),
+                              QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"),
+                                          QStringLiteral("-y"), QStringLiteral("-i"), from} +
+                                  arguments + QStringList{path});
+        EXPECT_EQ(code, 0) << foreign.name;
+        return path;
+    }
+
+    /// Reads a file from start to end and from many places, in its own rate and another.
+    void expectExactSeeks(const QString& path, float tolerance, int slack = 0) {
+        const auto file = open(path);
+        ASSERT_TRUE(file);
+        AudioStreamBasicDescription format;
+        std::int64_t length = 0;
+        file->fileDataFormat(format);
+        ASSERT_EQ(file->fileLengthFrames(length), kAudioNoError);
+        for (const double rate : {format.sampleRate, format.sampleRate == 44100 ? 16000.0 : 44100.0}) {
+            const auto client = clientFormat(rate, format.channelsPerFrame);
+            ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
+            ASSERT_EQ(file->seek(0), kAudioNoError);
+            const auto all = readPlanes(*file, client);
+            const auto at = [&](std::int64_t frame) {
+                return static_cast<std::size_t>(std::ceil(static_cast<double>(frame) * rate / format.sampleRate));
+            };
+            EXPECT_NEAR(static_cast<double>(all[0].size()), static_cast<double>(at(length)), slack) << rate;
+            for (const std::int64_t frame : {length / 2, std::int64_t{1}, length - 5, std::int64_t{1024}, length / 3,
+                                             length / 3 + 7, std::int64_t{0}, length * 9 / 10, length}) {
+                ASSERT_EQ(file->seek(frame), kAudioNoError);
+                const auto part = readPlanes(*file, client, 3000);
+                ASSERT_EQ(part[0].size(),
+                          std::min<std::size_t>(3000, all[0].size() - std::min(at(frame), all[0].size())))
+                    << rate << " from " << frame;
+                float worst = 0;
+                for (std::size_t channel = 0; channel < all.size(); ++channel) {
+                    for (std::size_t i = 0; i < part[channel].size(); ++i) {
+                        worst = std::max(worst, std::abs(part[channel][i] - all[channel][at(frame) + i]));
+                    }
+                }
+                EXPECT_LE(worst, tolerance) << rate << " from " << frame;
+            }
+        }
+    }
+
+    /// How far, in dB below it, a file is from the tone of 1000 Hz that starts at a frame.
+    double errorOf(const QString& path, std::int64_t start) {
+        const auto file = open(path);
+        AudioStreamBasicDescription format;
+        file->fileDataFormat(format);
+        const auto client = clientFormat(format.sampleRate, 1);
+        file->setClientDataFormat(client);
+        file->seek(start + 4096);
+        auto samples = readPlanes(*file, client, 4096)[0];
+        for (std::size_t i = 0; i < samples.size(); ++i) {
+            const double phase = 2 * std::numbers::pi * 1000 * static_cast<double>(i + 4096) / format.sampleRate;
+            samples[i] -= static_cast<float>(0.5 * std::sin(phase));
+        }
+        return levelOf(samples) + 9.03;
+    }
+
+    FfmpegExtAudioFiles m_files;
+};
+
+TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
+    for (const Type& type : kTypes) {
+        for (const Quality& quality : kQualities) {
+            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
+            const QString path = recorded(type, quality);
+            const auto file = open(path);
+            ASSERT_TRUE(file);
+            AudioStreamBasicDescription format;
+            std::int64_t length = 0;
+            file->fileDataFormat(format);
+            file->fileLengthFrames(length);
+            EXPECT_EQ(format.sampleRate, quality.rate);
+            EXPECT_EQ(format.channelsPerFrame, static_cast<std::uint32_t>(quality.channels));
+            EXPECT_EQ(format.formatID, type.formatID);
+            const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
+            EXPECT_GE(length, written + type.priming);
+            const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
+            EXPECT_LT(length, written + type.priming + tail);
+            EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * quality.rate));
+            const bool isAac = type.formatID == kAudioFormatMPEG4AAC;
+            expectExactSeeks(path, isAac ? 0.01F : 0);
+            EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
+        }
+    }
+}
+
+TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
+    const QString wav = recorded(kTypes[0], kQualities[2]);
+    for (const Foreign& foreign : kForeign) {
+        SCOPED_TRACE(foreign.name);
+        const QString path = converted(foreign, wav);
+        expectExactSeeks(path, foreign.tolerance, foreign.slack);
+        AudioStreamBasicDescription format;
+        std::int64_t length = 0;
+        const auto file = open(path);
+        file->fileDataFormat(format);
+        file->fileLengthFrames(length);
+        const double frames = static_cast<double>(length) * 44100 / format.sampleRate;
+        EXPECT_NEAR(frames, kFrames * 44100.0 / 48000 + foreign.more, 1 + foreign.slack);
+        if (std::strcmp(foreign.name, "bare.mp3") != 0) {
+            EXPECT_LT(errorOf(path, 0), -20);
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test
