@@ -8,15 +8,13 @@
 #include "app/settings/SettingsStore.h"
 #include "library/RecordingEntry.h"
 #include "library/RecordingListModel.h"
+#include "library/utility/Notifications.h"
 #include "platform/AppContainer.h"
 #include "platform/AudioDuration.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Outlets.h"
 
 namespace tavi {
-
-/// Posted when the recordings in the documents folder have changed.
-inline constexpr QLatin1String kDataUpdatedNotification("DataUpdated");
 
 /// The library screen (tab 1): the recordings in the documents folder. Main thread only.
 ///
