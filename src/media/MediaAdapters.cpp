@@ -1,11 +1,15 @@
+#include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "adapters/qt/MediaLibrary.h"
 
 /// The library's one entry: its adapters, which live as long as the process.
 extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters() {
     static tavi::FfmpegAudioFileWriters writers;
     static const tavi::FfmpegAudioDuration durations;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations};
+    static tavi::FfmpegExtAudioFiles files;
+    static tavi::FfmpegAudioConverters converters;
+    static const tavi::MediaLibrary::Adapters adapters{writers, durations, files, converters};
     return &adapters;
 }

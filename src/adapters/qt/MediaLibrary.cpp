@@ -33,4 +33,22 @@ double MediaLibrary::durationOfFile(const QString& path) const {
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
 }
 
+AudioStatus MediaLibrary::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
+    file.reset();
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
+                                 std::unique_ptr<AudioConverter>& converter) {
+    converter.reset();
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.create(input, output, converter) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::formatInfo(AudioStreamBasicDescription& format) const {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.formatInfo(format) : kAudioFileUnspecifiedError;
+}
+
 }  // namespace tavi
