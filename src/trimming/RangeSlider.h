@@ -32,10 +32,10 @@ public:
 
     /// No side effects: the next layout places the thumbs.
     float minimumValue = 0.0F;
-    float maximumValue = 0.0F;
+    float maximumValue = 1.0F;
     float minimumRange = 0.0F;
     float selectedMinimumValue = 0.0F;
-    float selectedMaximumValue = 0.0F;
+    float selectedMaximumValue = 1.0F;
 
     float xForValue(float value) const;
     float valueForX(float x) const;
