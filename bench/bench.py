@@ -266,8 +266,9 @@ def parts(binaries):
     """What the benchmarks of single parts print, such as a simulated half hour at full speed."""
     for program in sorted(binaries.glob("*_bench")):
         done = subprocess.run([program], capture_output=True, text=True, check=True)
-        for name, value, unit in re.findall(r"^figure: (\S+) ([\d.]+) (\S+)", done.stdout, re.MULTILINE):
-            row(f"{program.name}: {name}", float(value), unit)
+        figures = re.findall(r"^figure: (\S+) ([\d.]+) (\S+)(?: beside ([\d.]+))?(?: aim ([\d.]+))?$", done.stdout, re.MULTILINE)
+        for name, value, unit, beside, aim in figures:
+            row(f"{program.name}: {name}", float(value), unit, float(beside) if beside else None, float(aim) if aim else None)
 
 
 def main(binaries, *names):

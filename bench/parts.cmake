@@ -2,3 +2,7 @@ add_executable(recorder_bench recorder_bench.cpp)
 target_include_directories(recorder_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(recorder_bench PRIVATE tavi_adapter_recorder tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
 target_compile_definitions(recorder_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+add_executable(export_bench export_bench.cpp)
+target_link_libraries(export_bench PRIVATE tavi_adapter_ffmpeg tavi_warnings)
+target_compile_definitions(export_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)

@@ -1,3 +1,4 @@
+#include "adapters/ffmpeg/FfmpegAssets.h"
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
 #include "adapters/qt/MediaLibrary.h"
@@ -6,6 +7,7 @@
 extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters() {
     static tavi::FfmpegAudioFileWriters writers;
     static const tavi::FfmpegAudioDuration durations;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations};
+    static tavi::FfmpegAssets assets;
+    static const tavi::MediaLibrary::Adapters adapters{writers, durations, assets, assets};
     return &adapters;
 }

@@ -2,6 +2,8 @@
 
 #include <mutex>
 
+#include "platform/AssetExportSession.h"
+#include "platform/AssetReader.h"
 #include "platform/AudioDuration.h"
 #include "platform/AudioFileWriter.h"
 
@@ -11,12 +13,14 @@ namespace tavi {
 ///
 /// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
 /// start of the program to its first picture, so the window does not wait for them. Any thread.
-class MediaLibrary : public AudioFileWriters, public AudioDuration {
+class MediaLibrary : public AudioFileWriters, public AudioDuration, public AssetExportSessions, public AssetReaders {
 public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
         AudioFileWriters& writers;
         const AudioDuration& durations;
+        AssetExportSessions& exportSessions;
+        AssetReaders& readers;
     };
     using Entry = const Adapters* (*)();
 
@@ -32,6 +36,12 @@ public:
     Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
     /// 0 when the library cannot be loaded.
     double durationOfFile(const QString& path) const override;
+    /// Without a track when the library cannot be loaded.
+    Asset assetWithURL(const QByteArray& path) override;
+    std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override;
+    /// These two fail when the library cannot be loaded.
+    Result<std::unique_ptr<AssetExportSession>> exportSession(const Asset& asset, AssetExportPreset preset) override;
+    Result<std::unique_ptr<AssetReader>> assetReader(const Asset& asset) override;
 
 private:
     const Adapters* adapters() const;
