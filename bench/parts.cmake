@@ -28,3 +28,7 @@ endif()
 add_executable(waveform_bench waveform_bench.cpp)
 target_link_libraries(waveform_bench PRIVATE tavi_engine tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
 target_compile_definitions(waveform_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+add_executable(export_bench export_bench.cpp)
+target_link_libraries(export_bench PRIVATE tavi_adapter_ffmpeg tavi_warnings)
+target_compile_definitions(export_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
