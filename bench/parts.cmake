@@ -8,6 +8,15 @@ target_include_directories(plot_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(plot_bench PRIVATE tavi_waves_painting tavi_warnings)
 target_compile_definitions(plot_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 
+# What is measured beside other libraries needs the packages of group "bench".
+pkg_check_modules(TAGLIB IMPORTED_TARGET taglib)
+if(TAGLIB_FOUND)
+  add_executable(library_bench library_bench.cpp)
+  target_link_libraries(library_bench PRIVATE
+    tavi_library tavi_adapter_ffmpeg tavi_adapter_qt PkgConfig::FFMPEG PkgConfig::TAGLIB tavi_warnings)
+  target_compile_definitions(library_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+endif()
+
 # Beside the rings of others, whose packages only scripts/bench installs.
 pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
 find_package(Boost QUIET)

@@ -1,6 +1,7 @@
 #include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/FfmpegAudioTempo.h"
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "adapters/qt/MediaLibrary.h"
 
@@ -8,8 +9,9 @@
 extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters() {
     static tavi::FfmpegAudioFileWriters writers;
     static const tavi::FfmpegAudioDuration durations;
+    static tavi::FfmpegAudioTempos tempos;
     static tavi::FfmpegExtAudioFiles files;
     static tavi::FfmpegAudioConverters converters;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations, files, converters};
+    static const tavi::MediaLibrary::Adapters adapters{writers, durations, tempos, files, converters};
     return &adapters;
 }

@@ -33,15 +33,21 @@ double MediaLibrary::durationOfFile(const QString& path) const {
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
 }
 
+Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int channels) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->tempos.create(sampleRate, channels);
+}
+
 AudioStatus MediaLibrary::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
-    file.reset();
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
 }
 
 AudioStatus MediaLibrary::create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                                  std::unique_ptr<AudioConverter>& converter) {
-    converter.reset();
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->converters.create(input, output, converter) : kAudioFileUnspecifiedError;
 }

@@ -5,6 +5,7 @@
 #include "platform/AudioConverter.h"
 #include "platform/AudioDuration.h"
 #include "platform/AudioFileWriter.h"
+#include "platform/AudioTempo.h"
 #include "platform/ExtAudioFile.h"
 
 namespace tavi {
@@ -13,12 +14,17 @@ namespace tavi {
 ///
 /// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
 /// start of the program to its first picture, so the window does not wait for them. Any thread.
-class MediaLibrary : public AudioFileWriters, public AudioDuration, public ExtAudioFiles, public AudioConverters {
+class MediaLibrary : public AudioFileWriters,
+                     public AudioDuration,
+                     public AudioTempos,
+                     public ExtAudioFiles,
+                     public AudioConverters {
 public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
         AudioFileWriters& writers;
         const AudioDuration& durations;
+        AudioTempos& tempos;
         ExtAudioFiles& files;
         AudioConverters& converters;
     };
@@ -36,7 +42,9 @@ public:
     Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
     /// 0 when the library cannot be loaded.
     double durationOfFile(const QString& path) const override;
-    /// These three fail with kAudioFileUnspecifiedError when the library cannot be loaded.
+    /// Fails when the library cannot be loaded.
+    Result<std::unique_ptr<AudioTempo>> create(int sampleRate, int channels) override;
+    /// They answer kAudioFileUnspecifiedError when the library cannot be loaded.
     AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override;
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override;

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <atomic>
 
+#include "adapters/ffmpeg/FfmpegAssets.h"
 #include "support/FakeAssets.h"
 #include "support/ManualRunLoop.h"
 
@@ -22,6 +23,28 @@ public:
 private:
     ManualRunLoop m_runLoop;
     FakeAssets m_assets{m_runLoop};
+};
+
+class FfmpegWorld {
+public:
+    explicit FfmpegWorld(const QString& folder) {
+        // A WAV file of 16-bit PCM.
+        QByteArray bytes("RIFF\xa4\x62\5\0WAVEfmt \x10\0\0\0\1\0\2\0\x44\xac\0\0\x10\xb1\2\0\4\0\x10\0data\x80\x62\5\0",
+                         44);
+        for (int sample = 1; sample <= 2 * 88200; ++sample) {
+            bytes.append(static_cast<char>(sample)).append(static_cast<char>(sample >> 8));
+        }
+        QFile file(folder + QStringLiteral("/sound.wav"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        }
+    }
+
+    AssetExportSessions& sessions() { return m_assets; }
+    AssetReaders& readers() { return m_assets; }
+
+private:
+    FfmpegAssets m_assets;
 };
 
 template <class World>
@@ -55,7 +78,7 @@ protected:
     std::atomic<int> m_completions = 0;
 };
 
-using Worlds = ::testing::Types<FakeWorld>;
+using Worlds = ::testing::Types<FakeWorld, FfmpegWorld>;
 TYPED_TEST_SUITE(AssetExportSessionContract, Worlds);
 
 TYPED_TEST(AssetExportSessionContract, TellsWhatAFileIs) {
