@@ -47,6 +47,9 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
 }
 
 AudioTrimmerViewController::~AudioTrimmerViewController() {
+    if (m_isLoading) {
+        m_services.waveforms.cancel();
+    }
     if (m_isDismissed) {
         m_export.waitUntilFinished();
     } else {
@@ -71,7 +74,7 @@ ButtonOutlet AudioTrimmerViewController::btnEditTrimmedVideo() const {
 }
 
 QString AudioTrimmerViewController::problem() const {
-    const bool isUnreadable = !m_isLoading && m_asset && m_asset->audioTracks.empty();
+    const bool isUnreadable = m_asset && m_asset->audioTracks.empty();
     return isUnreadable ? qtTrId("trimmer_unreadable") : QString();
 }
 
@@ -103,41 +106,33 @@ void AudioTrimmerViewController::loadFile() {
     // A length that no header tells takes reading all of the file.
     m_services.runLoop.dispatchBackground([self, services = m_services, path = filePath()] {
         const Asset asset = services.exports.assetWithURL(path);
-        const auto file = asset.audioTracks.empty()
-                              ? nullptr
-                              : EZAudioFile::audioFileWithURL(path.toStdString(), services.audioFiles);
-        services.runLoop.dispatchMain([self, asset, file] {
+        services.runLoop.dispatchMain([self, asset] {
             if (self) {
-                self->didLoad(asset, file);
+                self->didLoadAsset(asset);
             }
         });
     });
+    m_services.waveforms.load(filePath(), [self](const std::vector<float>& points) {
+        if (self) {
+            self->didLoadWaveform(points);
+        }
+    });
 }
 
-void AudioTrimmerViewController::didLoad(const Asset& asset, const std::shared_ptr<EZAudioFile>& file) {
-    m_isLoading = file != nullptr;
-    if (!m_asset) {
-        m_asset = asset;
-        m_lblTotalDuration = trimrules::timeFormatted(asset.duration.seconds(), true);
-        m_selection.setAudioDuration(asset.duration.seconds());
+void AudioTrimmerViewController::didLoadAsset(const Asset& asset) {
+    m_asset = asset;
+    m_lblTotalDuration = trimrules::timeFormatted(asset.duration.seconds(), true);
+    m_selection.setAudioDuration(asset.duration.seconds());
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::didLoadWaveform(const std::vector<float>& points) {
+    m_isLoading = false;
+    m_waveform = points;
+    if (!points.empty()) {
+        m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
     }
     Q_EMIT outletsChanged();
-    if (file == nullptr) {
-        return;
-    }
-    const QPointer<AudioTrimmerViewController> self(this);
-    // The reader holds itself weakly while it reads.
-    file->getWaveformDataWithCompletionBlock([self, file](float** waveformData, int length) {
-        if (!self) {
-            return;
-        }
-        self->m_isLoading = false;
-        if (waveformData != nullptr && length > 0) {
-            self->m_waveform.assign(waveformData[0], waveformData[0] + length);
-            self->m_audioPlot->updateBuffer(self->m_waveform.data(), static_cast<quint32>(length));
-        }
-        Q_EMIT self->outletsChanged();
-    });
 }
 
 void AudioTrimmerViewController::resetAudioPlayer() {

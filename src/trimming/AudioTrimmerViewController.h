@@ -8,13 +8,13 @@
 #include <optional>
 #include <vector>
 
-#include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 #include "platform/NotificationCenter.h"
 #include "trimming/ScratchRecorder.h"
 #include "trimming/TrimExport.h"
 #include "trimming/TrimPlayer.h"
 #include "trimming/TrimSelection.h"
 #include "trimming/waves/EZAudioPlot.h"
+#include "trimming/waves/WaveformLoader.h"
 
 namespace tavi {
 
@@ -46,7 +46,8 @@ public:
         AssetExportSessions& exports;
         AudioPlayers& players;
         ScratchRecorder::Services recorder;
-        EZAudioFile::Services audioFiles;
+        /// For the trimmer alone: another load would take the place of its own.
+        WaveformLoader& waveforms;
         DisplayRefreshes& refreshes;
         const AppContainer& container;
         NotificationCenter& notifications;
@@ -118,7 +119,8 @@ Q_SIGNALS:
 private:
     QByteArray filePath() const;
     void loadFile();
-    void didLoad(const Asset& asset, const std::shared_ptr<EZAudioFile>& file);
+    void didLoadAsset(const Asset& asset);
+    void didLoadWaveform(const std::vector<float>& points);
     void setupAudioPlot();
     void resetAudioPlayer();
     void trimAudioWithCompletion(std::function<void()> completion);
