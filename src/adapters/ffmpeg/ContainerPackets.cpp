@@ -100,7 +100,7 @@ std::int64_t ContainerPackets::declaredLength(int rate) {
         return av_rescale_q(stream.duration, stream.time_base, {1, rate});
     }
     if (isTold && !isGuessed && m_file->context().duration != AV_NOPTS_VALUE) {
-        return av_rescale_q(m_file->context().duration, AV_TIME_BASE_Q, {1, rate});
+        return av_rescale_q(m_file->context().duration, {1, AV_TIME_BASE}, {1, rate});
     }
     return m_hasExactTimes ? scannedLength(rate) : -1;
 }

@@ -20,6 +20,8 @@ constexpr int kMaximumChannels = 64;
 constexpr int kMaximumRate = 768000;
 /// Longer than any file.
 constexpr std::int64_t kMaximumLength = std::int64_t{1} << 50;
+/// Seconds of silence that may stand for packets that cannot be decoded.
+constexpr std::int64_t kLongestGap = 60;
 /// Packets in a row from which nothing can be decoded, after which a file counts as no sound.
 constexpr int kMaximumFailures = 4000;
 
@@ -221,6 +223,11 @@ void DecodedSource::place() {
     std::int64_t at = m_frameEnd;
     if (isExact) {
         at = framesOf(m_frame->pts) - m_origin;
+        if (m_isPlaced && at - m_frameEnd > kLongestGap * m_rate) {
+            // So much is not damage but a lie about the time.
+            m_origin += at - m_frameEnd;
+            at = m_frameEnd;
+        }
     } else if (!m_isPlaced) {
         at = -m_packets->primingFrames();
     }
@@ -317,6 +324,7 @@ void DecodedSource::seek(std::int64_t frame) {
         const std::int64_t time = av_rescale_q_rnd(from + m_origin, {1, m_rate}, m_packets->timeBase(), AV_ROUND_DOWN);
         avcodec_flush_buffers(m_decoder.get());
         m_isDraining = false;
+        m_isPlaced = false;
         if (m_packets->seek(time) && nextFrame() && m_frame->pts != AV_NOPTS_VALUE && m_frameStart <= frame) {
             return;
         }
