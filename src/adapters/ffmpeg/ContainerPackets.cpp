@@ -148,6 +148,12 @@ std::int64_t ContainerPackets::scannedLength(int rate) {
 }
 
 bool ContainerPackets::rewind() {
+    // Movies find their first packet again. Opening them once more would cost time and memory for their tables.
+    const AVIndexEntry* first = is("mov") ? avformat_index_get_entry(&m_file->stream(), 0) : nullptr;
+    if (first != nullptr && seek(first->timestamp)) {
+        m_isFresh = true;
+        return true;
+    }
     std::unique_ptr<AvFile> file;
     if (AvFile::open(m_fd, file) != kAudioNoError) {
         return false;
