@@ -132,7 +132,8 @@ std::optional<CafHeader> readCafHeader(int fd) {
     if (!(header.sampleRate >= 1 && header.sampleRate <= 1e6) || !hasData) {
         return std::nullopt;
     }
-    if (header.packetBytes > 0 && header.packetFrames > 0) {
+    constexpr std::uint32_t kMostPacketFrames = 1 << 20;
+    if (header.packetBytes > 0 && header.packetFrames > 0 && header.packetFrames <= kMostPacketFrames) {
         const std::int64_t frames = header.dataBytes / header.packetBytes * header.packetFrames;
         header.frames = validFrames > 0 ? std::min(validFrames, frames) : frames;
     } else if (validFrames > 0) {

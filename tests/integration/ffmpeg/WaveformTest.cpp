@@ -139,7 +139,15 @@ TEST_F(WaveformTest, WhatIsNoSoundIsSaidSo) {
         QString path;
         AudioStatus status;
     };
+    // IMA4 of a million channels.
+    const QByteArray channels =
+        QByteArray(
+            "caff\0\1\0\0desc\0\0\0\0\0\0\0\x20\x40\xbf\x40\0\0\0\0\0ima4\0\0\0\0\0\0\0\x44\0\0\0\x40\0\x10\0\1\0\0\0\0"
+            "data\xff\xff\xff\xff\xff\xff\xff\xff\0\0\0\1",
+            68) +
+        QByteArray(1400, '\1');
     const Case cases[] = {
+        {file(QStringLiteral("channels.caf"), channels), kAudioFileUnsupportedDataFormatError},
         {m_folder.filePath(QStringLiteral("missing.m4a")), kAudioFileFileNotFoundError},
         {m_folder.filePath(QStringLiteral("missing/a.m4a")), kAudioFileFileNotFoundError},
         {QStringLiteral("http://localhost/a.m4a"), kAudioFileFileNotFoundError},
