@@ -9,8 +9,8 @@ namespace {
 
 /// What the server holds, and how much of it is played before it asks for more. Half of the difference between the
 /// first and twice the second is what the device may hold, where nothing can be replaced any more.
-constexpr pa_usec_t kHeld = 250 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t kAskedFor = 100 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t kHeld = 500 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t kAskedFor = 225 * PA_USEC_PER_MSEC;
 /// What has to be there before the first frame is heard, and again when too little came.
 constexpr pa_usec_t kBeforeStart = 20 * PA_USEC_PER_MSEC;
 /// How long frames may be under way to the server: what it plays within that time is not replaced.

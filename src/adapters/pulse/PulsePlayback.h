@@ -12,7 +12,7 @@ namespace tavi {
 
 /// The loop thread's end of an output: a playback stream.
 ///
-/// The server holds a quarter of a second and asks for more ten times a second. Frames are written by their number in
+/// The server holds half a second and asks for more four times a second. Frames are written by their number in
 /// the stream, so that the server replaces what it holds already, and rewinds a device that can.
 class PulsePlayback : public PulseConnectionObserver,
                       public AudioOutputStream,
