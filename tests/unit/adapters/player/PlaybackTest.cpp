@@ -196,8 +196,15 @@ TEST_F(PlaybackTest, JumpsAndRatesTakeTheShortestWayWithoutAStep) {
         m_reader->setRate(rate);
         settle();
         // Heard no later than what the device had taken, and the little by which a rate is put off.
-        const std::int64_t at = m_clock.read().pieces[static_cast<std::size_t>(m_clock.read().count - 1)].start;
-        EXPECT_LE(at, m_stream.heard + kTaken + kRate / 40) << rate;
+        const PlaybackPosition position = m_clock.read();
+        const auto last = static_cast<std::size_t>(position.count - 1);
+        const PlaybackPosition::Piece& piece = position.pieces[last];
+        EXPECT_LE(piece.start, m_stream.heard + kTaken + kRate / 40) << rate;
+        EXPECT_EQ(piece.mediaPerFrame, rate);
+        if (last > 0) {
+            const PlaybackPosition::Piece& old = position.pieces[last - 1];
+            EXPECT_NEAR(old.media + static_cast<double>(piece.start - old.start) * old.mediaPerFrame, piece.media, 2.0);
+        }
         play(0.7);
         const std::int64_t target = std::int64_t{3} * kRate + std::llround(rate * 1000.0);
         const std::uint64_t number = m_reader->jump(target);
@@ -263,7 +270,11 @@ TEST_F(PlaybackTest, EndsWhatIsCutShortAndWhatHasNothingLeft) {
     wake();
     play(0.05);
     m_reader->jump(0);
-    wake();
+    while (m_reader->step(now())) {
+    }
+    m_feed.audioOutputDidWake();
+    m_feed.audioOutputDidReach(m_stream);
+    settle();
     play(1.0);
     EXPECT_EQ(m_ends.size(), 3U);
     EXPECT_NEAR(heardPlace(), 1.0 * kRate, kRate / 10.0);
