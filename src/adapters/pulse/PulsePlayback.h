@@ -47,6 +47,8 @@ private:
     void letGo();
     void fail(const Error& error);
     void startLimit(pa_usec_t duration);
+    void limitDidPass();
+    void watch();
     std::int64_t framesIn(pa_usec_t duration) const;
 
     PulseConnection& m_connection;
