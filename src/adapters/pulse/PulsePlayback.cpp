@@ -204,6 +204,7 @@ void PulsePlayback::readTiming() {
     }
     const auto frameSize = static_cast<std::int64_t>(pa_frame_size(pa_stream_get_sample_spec(m_stream.get())));
     const std::int64_t read = info->read_index / frameSize;
+    m_read = read;
     m_timing.isMoving = m_isRunning && info->playing != 0;
     m_timing.time = static_cast<std::int64_t>(pa_rtclock_now()) * 1000;
     m_timing.heard = read - framesIn(info->sink_usec);
@@ -221,9 +222,10 @@ void PulsePlayback::callAt(std::int64_t frame) {
     }
 }
 
-/// Looks again when that frame should be heard. The end of what was written has been heard when nothing moves.
+/// Looks again when that frame should be heard. The end of what was written has been heard when nothing moves. What the
+/// device has not taken has not been heard, whatever the estimate says: a stream that stops now would keep it.
 void PulsePlayback::checkReached() {
-    const std::int64_t left = m_reached - m_timing.heard;
+    const std::int64_t left = m_reached - std::min(m_timing.heard, m_read);
     if (left <= 0 || (m_isRunning && !m_timing.isMoving && m_reached <= m_timing.replaceable)) {
         m_reached = -1;
         m_reach.stop();

@@ -67,6 +67,8 @@ private:
     bool m_isStale = false;
     Timing m_timing;
     std::int64_t m_written = 0;
+    /// How many frames the device had taken.
+    std::int64_t m_read = 0;
     /// The frame that somebody waits for; negative for none.
     std::int64_t m_reached = -1;
 };
