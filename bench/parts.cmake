@@ -22,3 +22,15 @@ target_include_directories(player_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(player_bench PRIVATE
   tavi_adapter_player tavi_adapter_pulse tavi_adapter_ffmpeg tavi_adapter_qt tavi_test_pulse tavi_warnings)
 target_compile_definitions(player_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+# Beside the rings of others, whose packages only scripts/bench installs.
+pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
+find_package(Boost QUIET)
+if(JACK_FOUND AND Boost_FOUND)
+  add_executable(ring_bench ring_bench.cpp)
+  target_link_libraries(ring_bench PRIVATE tavi_engine PkgConfig::JACK Boost::headers tavi_warnings)
+endif()
+
+add_executable(waveform_bench waveform_bench.cpp)
+target_link_libraries(waveform_bench PRIVATE tavi_engine tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
+target_compile_definitions(waveform_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)

@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QPointer>
+#include <algorithm>
+#include <array>
 
 #include "library/PlayerRules.h"
 
@@ -20,11 +22,16 @@ const auto kPlayImage = QStringLiteral("play_player.png");
 const auto kPauseImage = QStringLiteral("pause_Player.png");
 const auto kEarpieceIsNext = QStringLiteral("headset.png");
 const auto kSpeakerIsNext = QStringLiteral("speaker.png");
-const auto kRouteTint = QStringLiteral("#c8252c");
+const auto kAccent = QStringLiteral("#c8252c");
 
 }  // namespace
 
-PlayerPanel::PlayerPanel(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
+PlayerPanel::PlayerPanel(const Services& services, QObject* parent)
+    : QObject(parent), m_services(services), m_audioPlot(EZAudioPlot::init(services.refreshes)) {
+    m_audioPlot->setShouldOptimizeForRealtimePlot(false);
+    m_audioPlot->setShouldFill(true);
+    m_audioPlot->setShouldMirror(true);
+    m_audioPlot->setColor(kAccent);
     m_lblSongMinTime.text = kNoTime;
     m_lblSongMaxTime.text = kNoTime;
     m_btnPlay.image = m_btnplaypuas.image = kPlayImage;
@@ -62,6 +69,7 @@ void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
         }
         m_urlPath = path;
         Q_EMIT urlPathChanged();
+        showWaveform();
     }
     // Without a sound system there is nothing to hear; the player says so itself when it is told to play.
     static_cast<void>(
@@ -78,6 +86,25 @@ void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
     m_lblSongMaxTime.text = playerrules::timeText(m_slider_player.maximumValue);
     Q_EMIT progressChanged();
     changed();
+}
+
+void PlayerPanel::showWaveform() {
+    constexpr quint32 kFlat = 2;
+    constexpr float kNearlyFull = 0.95F;
+    constexpr std::array<float, kFlat> kSilence{};
+    m_audioPlot->updateBuffer(kSilence.data(), kFlat);
+    if (!m_avPlayer) {
+        m_services.waveforms.cancel();
+        return;
+    }
+    m_services.waveforms.load(m_urlPath, [self = QPointer(this)](const std::vector<float>& points) {
+        if (self && !points.empty()) {
+            // Voices are far below full scale; the loudest place nearly fills the slider.
+            const float loudest = *std::max_element(points.begin(), points.end());
+            self->m_audioPlot->setGain(loudest > 0.0F ? kNearlyFull / loudest : 1.0F);
+            self->m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
+        }
+    });
 }
 
 void PlayerPanel::playOrPause(bool wasSelected) {
@@ -107,6 +134,7 @@ void PlayerPanel::drop() {
     }
     m_urlPath.clear();
     Q_EMIT urlPathChanged();
+    m_services.waveforms.cancel();
     m_services.remoteControl.endReceivingRemoteControlEvents();
     Q_EMIT progressChanged();
     changed();
@@ -228,7 +256,7 @@ void PlayerPanel::faster() {
 
 void PlayerPanel::playerSpeaker() {
     m_speakerButton.image = m_ishandset ? kEarpieceIsNext : kSpeakerIsNext;
-    m_speakerButton.tintColor = kRouteTint;
+    m_speakerButton.tintColor = kAccent;
     static_cast<void>(
         m_services.session.setCategory(AudioSession::Category::PlayAndRecord, AudioSession::CategoryOption::None));
     static_cast<void>(m_services.session.overrideOutputAudioPort(m_ishandset ? AudioSession::PortOverride::Speaker

@@ -9,6 +9,8 @@
 #include "platform/Outlets.h"
 #include "platform/RemoteControl.h"
 #include "platform/RunLoop.h"
+#include "trimming/waves/EZAudioPlot.h"
+#include "trimming/waves/WaveformLoader.h"
 
 namespace tavi {
 
@@ -28,6 +30,7 @@ class PlayerPanel : public QObject, private AudioPlayerDelegate {
     Q_PROPERTY(tavi::ButtonOutlet btnMedium READ btnMedium NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnFastPlay READ btnFastPlay NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet speakerButton READ speakerButton NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
     Q_PROPERTY(bool hasPlayer READ hasPlayer NOTIFY outletsChanged)
     Q_PROPERTY(bool isPlayerPlaying READ isPlayerPlaying NOTIFY outletsChanged)
     Q_PROPERTY(bool ishandset READ ishandset NOTIFY outletsChanged)
@@ -40,6 +43,8 @@ public:
         RemoteControl& remoteControl;
         const SettingsStore& settings;
         RunLoop& runLoop;
+        WaveformLoader& waveforms;
+        DisplayRefreshes& refreshes;
     };
 
     explicit PlayerPanel(const Services& services, QObject* parent = nullptr);
@@ -56,6 +61,8 @@ public:
     ButtonOutlet btnMedium() const { return m_btnMedium; }
     ButtonOutlet btnFastPlay() const { return m_btnFastPlay; }
     ButtonOutlet speakerButton() const { return m_speakerButton; }
+    /// The waveform of what is loaded, which appears when it is there.
+    EZAudioPlot* audioPlot() const { return m_audioPlot.get(); }
     /// False also where a file was loaded that cannot be played.
     bool hasPlayer() const { return m_avPlayer != nullptr; }
     bool isPlayerPlaying() const { return m_avPlayer != nullptr && m_avPlayer->isPlaying(); }
@@ -115,11 +122,13 @@ private:
     void goTo(double seconds);
     void toggleSpeed(ButtonOutlet& button, float rate);
     void applyRate(float rate);
+    void showWaveform();
     void runTick();
     void changed();
 
     Services m_services;
     std::unique_ptr<AudioPlayer> m_avPlayer;
+    std::unique_ptr<EZAudioPlot> m_audioPlot;
     QByteArray m_urlPath;
     int m_updateTimers = 0;
     std::shared_ptr<Timer> m_tick;

@@ -9,14 +9,12 @@
 #include "library/RecordingFilterModel.h"
 #include "library/RecordingListModel.h"
 #include "library/RecordingLister.h"
+#include "library/utility/Notifications.h"
 #include "platform/AppContainer.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Outlets.h"
 
 namespace tavi {
-
-/// Posted when the recordings in the documents folder have changed.
-inline constexpr QLatin1String kDataUpdatedNotification("DataUpdated");
 
 /// The library screen (tab 1): the recordings in the documents folder, and the player of one of them. Main thread only.
 ///

@@ -26,7 +26,7 @@ MODULES = {
     "ui": [],
     "recording": ["trimming/waves", "cloud", "watch", "app/settings", "library/utility"],
     "trimming": ["trimming/waves", "API/AudioTrimmerController/EZAudio", "cloud", "app/settings", "library/utility"],
-    "library": ["trimming", "cloud", "app/settings", "library/utility"],
+    "library": ["trimming", "trimming/waves", "cloud", "app/settings", "library/utility"],
     "app": ["recording", "library", "trimming", "passcode", "cloud", "watch", "support", "app/settings", "library/utility"],
 }
 FEATURE_TESTS = {name.split("/")[0] for name in MODULES}

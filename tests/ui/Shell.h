@@ -11,8 +11,11 @@
 #include "app/SettingVC.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
 #include "support/FakeAudioRecorder.h"
+#include "support/FakeDisplayRefresh.h"
+#include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
@@ -135,7 +138,11 @@ public:
     FakeRemoteControl remoteControl;
     FakeAudioPlayers players{runLoop};
     RecordingLister lister{durations, runLoop};
-    PlayerPanel player{{players, session, remoteControl, store, runLoop}};
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    FakeDisplayRefreshes refreshes;
+    WaveformLoader waveforms{{files, converters, runLoop}};
+    PlayerPanel player{{players, session, remoteControl, store, runLoop, waveforms, refreshes}};
     VoiceMemoVC library{{store, container, notifications, lister, remoteControl}, player};
     SettingVC settings{{store, runLoop, presenter}};
     QQmlApplicationEngine engine;

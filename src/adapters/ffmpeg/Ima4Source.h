@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "adapters/ffmpeg/Ima4Packet.h"
 #include "adapters/ffmpeg/PositionedIo.h"
 #include "adapters/ffmpeg/SoundHeaders.h"
 #include "adapters/ffmpeg/SoundSource.h"
@@ -10,11 +11,7 @@
 namespace tavi {
 
 /// IMA 4:1 ADPCM in CAF files, read in large blocks.
-///
-/// A packet of a channel is 34 bytes for 64 samples: two bytes with the upper nine bits of the sample before and seven
-/// bits of step index, then 64 codes of four bits, the low one of a byte first (Apple, Inside Macintosh: Sound, and the
-/// IMA's Recommended Practices of 1992). As the header rounds the sample, the one that was really decoded last is
-/// carried on where the two agree, and so every packet depends on all before it.
+/// A file that was cut declares the frames of its first packet that are not to be heard as priming.
 class Ima4Source : public SoundSource {
 public:
     /// Null for what it does not read; the descriptor is taken only on success.
@@ -28,12 +25,6 @@ public:
     /// As cheap as reading where it has not been before.
     void seek(std::int64_t frame) override;
 
-    /// What a channel carries from packet to packet.
-    struct State {
-        int sample = 0;
-        int step = 0;
-    };
-
 private:
     Ima4Source() = default;
 
@@ -46,9 +37,9 @@ private:
     std::vector<std::uint8_t> m_bytes;
     /// Decoded samples of one channel after the other, for kBlockPackets packets each.
     std::vector<float> m_samples;
-    std::vector<State> m_states;
+    std::vector<Ima4State> m_states;
     /// The states before every block that has been reached, kept for seeking.
-    std::vector<State> m_history;
+    std::vector<Ima4State> m_history;
     std::int64_t m_block = 0;
     std::size_t m_used = 0;
     std::size_t m_available = 0;

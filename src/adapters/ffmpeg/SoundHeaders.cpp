@@ -79,6 +79,8 @@ std::optional<WavHeader> readWavHeader(int fd) {
             longDataBytes = chunk.littleEndian(16, 8);
         } else if (chunk.is("fmt ")) {
             isLinear = readWavFormat(chunk, length, header);
+            header.formatOffset = offset + 8;
+            header.formatBytes = static_cast<std::uint32_t>(length);
         } else if (chunk.is("data")) {
             const auto there = static_cast<std::uint64_t>(size - offset - 8);
             const bool isOpen = length == 0xffffffff && longDataBytes == 0;
@@ -134,7 +136,8 @@ std::optional<CafHeader> readCafHeader(int fd) {
     }
     if (header.packetBytes > 0 && header.packetFrames > 0) {
         const std::int64_t frames = header.dataBytes / header.packetBytes * header.packetFrames;
-        header.frames = validFrames > 0 ? std::min(validFrames, frames) : frames;
+        const std::int64_t heard = std::max<std::int64_t>(0, frames - header.primingFrames);
+        header.frames = validFrames > 0 ? std::min(validFrames, heard) : heard;
     } else if (validFrames > 0) {
         header.frames = validFrames;
     }

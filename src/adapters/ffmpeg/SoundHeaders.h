@@ -14,6 +14,9 @@ struct WavHeader {
     std::uint32_t frameBytes = 0;
     /// Which loudspeakers the channels are for (WAVE_FORMAT_EXTENSIBLE); 0 where that is not said.
     std::uint32_t channelMask = 0;
+    /// The body of the chunk "fmt ".
+    std::int64_t formatOffset = 0;
+    std::uint32_t formatBytes = 0;
     std::int64_t dataOffset = 0;
     /// Whole frames that are there: a length that was never filled in, or that reaches behind the end, is cut there.
     std::int64_t frames = 0;

@@ -1,6 +1,7 @@
 import QtQuick
 import Tavi.Library
 import Tavi.Ui
+import Tavi.Waves
 import QtQuick.Templates as T
 
 /// Where the recording stands, on its waveform.
@@ -33,6 +34,12 @@ T.Slider {
             width: parent.width
             height: 2
             color: Theme.control
+        }
+
+        EZAudioPlotItem {
+            anchors.fill: parent
+            anchors.margins: 3
+            plot: control.player.audioPlot
         }
 
         FocusFrame {

@@ -11,11 +11,14 @@ namespace {
 
 using Polyline = PlotPath::Polyline;
 
-/// Device pixels a strip is wide. Qt's rasteriser takes time by the square of what crosses a line of pixels, so strips
-/// of a few hundred edges are many times faster than one area of thousands, and give the same pixels.
+/// Device pixels a strip is wide. Qt's rasteriser is several times slower on one area of thousands of edges than on
+/// strips of some hundred; at edges of pixels the strips give the same picture.
 constexpr double kStripWidth = 32.0;
 /// How far beyond its strip a line is followed, in line widths: a mitre may reach back from there.
 constexpr double kReach = 2.0;
+/// Cosine between the normals of two pieces of a line whose joint is still a mitre, as with Qt's own pens; sharper ones
+/// are cut off.
+constexpr double kSharpestMitre = -0.875;
 /// Device-independent pixels; what lies farther out is as good as there.
 constexpr double kFarOut = 16000.0;
 
@@ -38,33 +41,115 @@ QPolygonF piece(const Polyline& line, double left, double right) {
     return result;
 }
 
-/// Paints the layer between two x. Lines run from left to right, and start and end on the axis.
-void paintPart(QPainter& painter, const EZAudioPlotWaveformLayer& layer, double left, double right) {
-    if (!layer.fillColor.isEmpty()) {
-        QPainterPath area;
-        area.setFillRule(Qt::WindingFill);
-        for (const Polyline& line : layer.path().polylines) {
-            QPolygonF polygon = piece(line, left, right);
-            const double axis = line.points.front().y();
-            polygon << QPointF(polygon.back().x(), axis) << QPointF(polygon.front().x(), axis);
-            // From right to left, each edge comes to lie before those that the rasteriser already has.
-            std::reverse(polygon.begin(), polygon.end());
-            area.addPolygon(polygon);
-        }
-        painter.fillPath(area, QColor(layer.fillColor));
+enum class Side { Above, Below, Both };
+
+/// The side of its axis on which a line stays. One that is flat can be on either; the reflection then is below.
+Side sideOf(const Polyline& line, bool isReflection) {
+    const double axis = line.points.front().y();
+    const auto isAbove = [axis](const QPointF& point) { return !(point.y() > axis); };
+    const auto isBelow = [axis](const QPointF& point) { return !(point.y() < axis); };
+    const bool above = std::all_of(line.points.begin(), line.points.end(), isAbove);
+    const bool below = std::all_of(line.points.begin(), line.points.end(), isBelow);
+    if (above && below) {
+        return isReflection ? Side::Below : Side::Above;
     }
-    if (!layer.strokeColor.isEmpty()) {
-        painter.setPen(QPen(QColor(layer.strokeColor), layer.lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        painter.setBrush(Qt::NoBrush);
-        const double reach = kReach * layer.lineWidth;
-        for (const Polyline& line : layer.path().polylines) {
-            painter.drawPolyline(piece(line, left - reach, right + reach));
-            if (line.closed) {
-                painter.drawLine(line.points.back(), line.points.front());
+    return above ? Side::Above : below ? Side::Below : Side::Both;
+}
+
+/// A line moved away from its axis by reach, as the outer edge of a stroke of twice that width runs. It passes through
+/// the points at which the line bends inwards, so that the areas that it adds all turn the same way and none is a hole.
+QPolygonF outerEdge(const QPolygonF& line, Side lineSide, double reach) {
+    const double side = lineSide == Side::Above ? 1.0 : -1.0;
+    const auto outwards = [&line, side](qsizetype i) {
+        const QPointF along = line[i] - line[i - 1];
+        const double length = std::hypot(along.x(), along.y());
+        return length > 0.0 ? QPointF(along.y(), -along.x()) * (side / length) : QPointF(0.0, -side);
+    };
+    QPolygonF edge;
+    edge.reserve(3 * line.size());
+    edge << line.front();
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        const QPointF normal = outwards(i);
+        edge << line[i - 1] + normal * reach;
+        if (i + 1 == line.size()) {
+            edge << line[i] + normal * reach << line[i];
+            break;
+        }
+        const QPointF next = outwards(i + 1);
+        const double bend = (normal.x() * next.y() - normal.y() * next.x()) * side;
+        const double cosine = QPointF::dotProduct(normal, next);
+        if (bend > 0.0 && cosine >= kSharpestMitre) {
+            edge << line[i] + (normal + next) * (reach / (1.0 + cosine));
+        } else {
+            edge << line[i] + normal * reach;
+            if (bend <= 0.0) {
+                edge << line[i];
             }
         }
     }
+    return edge;
 }
+
+void addArea(QPainterPath& area, QPolygonF line, double axis) {
+    line << QPointF(line.back().x(), axis) << QPointF(line.front().x(), axis);
+    // From right to left, each edge comes to lie before those that the rasteriser already has.
+    std::reverse(line.begin(), line.end());
+    area.addPolygon(line);
+}
+
+/// Paints a layer part by part. Lines run from left to right, and start and end on the axis.
+class LayerPainter {
+public:
+    explicit LayerPainter(const EZAudioPlotWaveformLayer& layer)
+        : m_layer(layer), m_stroke(layer.strokeColor.isEmpty() ? QColor(Qt::transparent) : QColor(layer.strokeColor)) {
+        // Of a stroke in the colour of the area only the outer half is seen, and the area can take it in.
+        const bool merges = layer.fillColor == layer.strokeColor && m_stroke.alpha() == 255;
+        for (const Polyline& line : layer.path().polylines) {
+            m_sides.push_back(merges ? sideOf(line, !m_sides.empty()) : Side::Both);
+        }
+    }
+
+    /// What lies between two x.
+    void paint(QPainter& painter, double left, double right) const {
+        const double reach = kReach * m_layer.lineWidth;
+        QPainterPath area;
+        area.setFillRule(Qt::WindingFill);
+        std::vector<QPolygonF> lines;
+        for (std::size_t i = 0; i < m_sides.size(); ++i) {
+            const Polyline& line = m_layer.path().polylines[i];
+            const double axis = line.points.front().y();
+            QPolygonF points = piece(line, left - reach, right + reach);
+            if (m_sides[i] != Side::Both) {
+                addArea(area, outerEdge(points, m_sides[i], 0.5 * m_layer.lineWidth), axis);
+                continue;
+            }
+            if (!m_layer.fillColor.isEmpty()) {
+                addArea(area, points, axis);
+            }
+            lines.push_back(std::move(points));
+        }
+        if (!area.isEmpty()) {
+            painter.fillPath(area, QColor(m_layer.fillColor));
+        }
+        if (m_stroke.alpha() > 0) {
+            painter.setPen(QPen(m_stroke, m_layer.lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+            for (const QPolygonF& line : lines) {
+                painter.drawPolyline(line);
+            }
+            for (const Polyline& line : m_layer.path().polylines) {
+                if (line.closed) {
+                    painter.drawLine(line.points.back(), line.points.front());
+                }
+            }
+        }
+    }
+
+private:
+    const EZAudioPlotWaveformLayer& m_layer;
+    QColor m_stroke;
+    /// Where each line may be merged into the area; Both where it may not.
+    std::vector<Side> m_sides;
+};
 
 }  // namespace
 
@@ -77,12 +162,13 @@ void paintPlot(QPainter& painter, const EZAudioPlot& plot) {
     if (layer.path().isEmpty() || bounds.isEmpty()) {
         return;
     }
+    const LayerPainter layerPainter(layer);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform& transform = painter.deviceTransform();
     if (transform.type() > QTransform::TxScale) {
         // Edges of strips would be seen where they are not edges of pixels.
-        paintPart(painter, layer, bounds.left(), bounds.right());
+        layerPainter.paint(painter, bounds.left(), bounds.right());
     } else {
         const QTransform back = transform.inverted();
         const QRectF device = transform.mapRect(bounds);
@@ -92,7 +178,7 @@ void paintPlot(QPainter& painter, const EZAudioPlot& plot) {
             const QRectF strip = back.mapRect(QRectF(x, top, kStripWidth, height));
             painter.save();
             painter.setClipRect(strip, Qt::IntersectClip);
-            paintPart(painter, layer, strip.left(), strip.right());
+            layerPainter.paint(painter, strip.left(), strip.right());
             painter.restore();
         }
     }

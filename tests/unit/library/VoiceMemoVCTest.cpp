@@ -8,7 +8,10 @@
 #include <map>
 
 #include "library/PlayerRules.h"
+#include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
+#include "support/FakeDisplayRefresh.h"
+#include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
@@ -57,10 +60,12 @@ protected:
     struct Library {
         explicit Library(VoiceMemoVCTest& test, const AudioDuration& lengths)
             : lister(lengths, test.runLoop),
-              player({test.players, test.session, test.remote, test.settings, test.runLoop}),
+              waveforms({test.files, test.converters, test.runLoop}),
+              player({test.players, test.session, test.remote, test.settings, test.runLoop, waveforms, test.refreshes}),
               vc({test.settings, test.container, test.notifications, lister, test.remote}, player) {}
 
         RecordingLister lister;
+        WaveformLoader waveforms;
         PlayerPanel player;
         VoiceMemoVC vc;
     };
@@ -70,6 +75,9 @@ protected:
     FakeAudioPlayers players{runLoop};
     FakeRemoteControl remote;
     FakeAudioDuration durations;
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    FakeDisplayRefreshes refreshes;
     NotificationCenter notifications;
     Library library{*this, durations};
     VoiceMemoVC& vc = library.vc;

@@ -2,12 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include <QFile>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "support/FakeDisplayRefresh.h"
+#include "support/Pictures.h"
 #include "trimming/waves/EZAudioPlotPainter.h"
 
 namespace tavi::test {
@@ -178,21 +178,6 @@ std::vector<float> speech() {
     return levels;
 }
 
-/// The part of pixels that differ visibly.
-double difference(const QImage& one, const QImage& other) {
-    int different = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = other.pixel(x, y);
-            const int far = std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                                      std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-            different += far > 8 ? 1 : 0;
-        }
-    }
-    return different / static_cast<double>(one.width() * one.height());
-}
-
 TEST(EZAudioPlotPainter, PaintsAWaveform) {
     Fixture fixture(QRectF(0, 0, 390, 200));
     fixture.plot->setBackgroundColor(QStringLiteral("#151515"));
@@ -201,13 +186,7 @@ TEST(EZAudioPlotPainter, PaintsAWaveform) {
     fixture.plot->setShouldMirror(true);
     fixture.feed(speech());
     const QImage picture = plotImage(*fixture.plot);
-    const QString golden = QStringLiteral(TAVI_PICTURES "/EZAudioPlot.png");
-    if (qEnvironmentVariableIsSet("TAVI_WRITE_PICTURES")) {
-        ASSERT_TRUE(picture.convertToFormat(QImage::Format_RGB32).save(golden));
-    }
-    const QImage expected(golden);
-    ASSERT_EQ(picture.size(), expected.size());
-    EXPECT_LT(difference(picture, expected), 0.005);
+    expectLooksLike(picture.convertToFormat(QImage::Format_RGB32), QStringLiteral(TAVI_PICTURES "/EZAudioPlot.png"));
 
     EXPECT_EQ(plotImage(*fixture.plot, 2.0).size(), QSize(780, 400));
     EXPECT_TRUE(plotImage(*Fixture(QRectF()).plot).isNull());
