@@ -281,7 +281,22 @@ def listing(binaries):
     row("one new file", value["one-new"], "ms", aim=100)
 
 
-OWN = {"library_bench", "ring_bench", "waveform_bench"}
+@bench
+def playing(binaries):
+    """Playing a recording beside ffplay, both at the same time: processor, wake-ups, underruns, and when a jump is heard."""
+    value = {name: number for name, (number, _) in figures(binaries / "player_bench").items()}
+    for rate in ("normal", "double"):
+        row(f"playing at {rate} rate", value[f"{rate}-processor"], "% core", value[f"{rate}-processor-ffplay"], aim=1.0)
+        row("  wake-ups", value[f"{rate}-wake-ups"], "a second", value[f"{rate}-wake-ups-ffplay"])
+        row("  gaps with all processors busy", value[f"{rate}-gaps-all-busy"], "in 20 s", aim=0)
+        row("  ffplay's then", value[f"{rate}-gaps-all-busy-ffplay"], "in 20 s")
+    row("wake-ups while paused", value["paused-wake-ups"], "in 10 s", aim=0)
+    row("jump to first sound from there", value["jump-heard-after"], "ms", aim=50)
+    row("  the slowest of them", value["jump-heard-after-at-most"], "ms", aim=50)
+    row("  the farthest off", value["jump-lands-off-by-at-most"], "ms", aim=10)
+
+
+OWN = {"library_bench", "player_bench", "ring_bench", "waveform_bench"}
 
 
 @bench

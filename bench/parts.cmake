@@ -17,6 +17,12 @@ if(TAGLIB_FOUND)
   target_compile_definitions(library_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 endif()
 
+add_executable(player_bench player_bench.cpp)
+target_include_directories(player_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(player_bench PRIVATE
+  tavi_adapter_player tavi_adapter_pulse tavi_adapter_ffmpeg tavi_adapter_qt tavi_test_pulse tavi_warnings)
+target_compile_definitions(player_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
 # Beside the rings of others, whose packages only scripts/bench installs.
 pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
 find_package(Boost QUIET)
