@@ -7,29 +7,34 @@
 #include <QQuickWindow>
 #include <chrono>
 #include <cstdio>
-#include <optional>
 
+#include "Headless.h"
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/dbus/MprisRemoteControl.h"
 #include "adapters/desktop/DesktopMailComposer.h"
+#include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioInput.h"
+#include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseAudioSession.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtAppContainer.h"
 #include "adapters/qt/QtRunLoop.h"
-#include "adapters/qt/QtUserDefaults.h"
 #include "adapters/qt/TerminationSignals.h"
+#include "adapters/quick/QuickDisplayRefreshes.h"
 #include "adapters/recorder/CaptureRecorder.h"
 #include "app/AppDelegate.h"
-#include "app/Commands.h"
 #include "app/SettingVC.h"
 #include "app/cli/CommandLine.h"
+#include "library/PlayerPanel.h"
+#include "library/RecordingLister.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "trimming/waves/WaveformLoader.h"
 #include "ui/AlertPresenter.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
@@ -65,54 +70,6 @@ void installTrace() {
         const auto micros = std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count();
         std::fprintf(stderr, "trace: %s %lld\n", qPrintable(text), static_cast<long long>(micros));
     });
-}
-
-int reportFailure(const Error& error, int exitCode = EXIT_FAILURE) {
-    std::fprintf(stderr, "tavi: %s\n", qUtf8Printable(error.text));
-    return exitCode;
-}
-
-void print(const QByteArray& text) {
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
-}
-
-/// The settings as files of a container.
-struct SettingsFiles {
-    explicit SettingsFiles(const AppContainer& container)
-        : standard(container.preferencesPath() + QStringLiteral("/settings.ini")),
-          shared(container.groupContainerPath(kApplicationGroup) + QStringLiteral("/settings.ini")) {}
-
-    QtUserDefaults standard;
-    QtUserDefaults shared;
-    SettingsStore store{standard};
-};
-
-/// Commands that read and write without the window.
-int runCommand(int& argc, char** argv, const CommandLine& line, const AppContainer& container) {
-    const QCoreApplication application(argc, argv);
-    SettingsFiles files(container);
-    // Otherwise the first launch would write its values over one that is set here before it.
-    files.store.writeFirstLaunchValues();
-    files.store.writeSortIfAbsent();
-    const Suites suites{files.standard, files.shared};
-    if (line.command == CommandLine::Command::Get) {
-        const auto text = settingText(suites, line.key);
-        if (!text) {
-            return reportFailure(text.error());
-        }
-        print(text->toUtf8() + '\n');
-    } else if (line.command == CommandLine::Command::Set) {
-        if (const auto written = writeSetting(suites, line.key, line.value); !written) {
-            return reportFailure(written.error());
-        }
-    } else {
-        const MediaLibrary media;
-        NotificationCenter notifications;
-        VoiceMemoVC library({files.store, container, media, notifications});
-        library.getAlltheFiles();
-        print(recordingsText(library.arrRecordings(), line.json));
-    }
-    return EXIT_SUCCESS;
 }
 
 /// What the running program is asked to do in place of this start.
@@ -184,7 +141,14 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
 
     AudioRecordVC recording(
         {audioSession, audioRecorders, files.store, container, runLoop, presenter, tabBar, mailComposer});
-    VoiceMemoVC library({files.store, container, media, notifications});
+    PulseAudioOutputs audioOutputs(pulse);
+    FilePlayers audioPlayers(media, media, audioOutputs, runLoop);
+    MprisRemoteControl remoteControl(bus);
+    RecordingLister lister(media, runLoop);
+    WaveformLoader waveforms({media, media, runLoop});
+    QuickDisplayRefreshes refreshes;
+    PlayerPanel player({audioPlayers, audioSession, remoteControl, files.store, runLoop, waveforms, refreshes});
+    VoiceMemoVC library({files.store, container, notifications, lister, remoteControl}, player);
     SettingVC settings({files.store, runLoop, presenter});
     AppDelegate delegate({desktop, idleTimer, files.store, files.shared, container, audioSession, tabBar, recording});
 
@@ -206,6 +170,13 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
         runLoop.dispatchBackground([&media] { media.load(); });
     };
     QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);
+    QObject::connect(&library, &VoiceMemoVC::raiseRequested, window, [window] {
+        window->showNormal();
+        window->raise();
+        window->requestActivate();
+    });
+    QObject::connect(&library, &VoiceMemoVC::quitRequested, window, &QWindow::close);
+    refreshes.setWindow(window);
     desktop.setDelegate(&delegate);
     desktop.setWindow(window);
     for (const QUrl& url : urlsOf(line)) {
@@ -227,10 +198,7 @@ int runBesideOther(int& argc, char** argv, const CommandLine& line, const Error&
 }
 
 int run(int& argc, char** argv) {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
+    const QList<QByteArray> arguments(argv + 1, argv + argc);
     const auto line = parseCommandLine(arguments);
     if (!line) {
         return reportFailure(line.error(), kUsageExitCode);
@@ -244,8 +212,8 @@ int run(int& argc, char** argv) {
     if (!container) {
         return reportFailure(container.error());
     }
-    if (line->command == Command::Get || line->command == Command::Set || line->command == Command::List) {
-        return runCommand(argc, argv, *line, **container);
+    if (isHeadless(line->command)) {
+        return runHeadless(argc, argv, *line, **container);
     }
     const auto lock = InstanceLock::take((*container)->cachesPath());
     if (!lock) {
@@ -259,6 +227,8 @@ int run(int& argc, char** argv) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
+    // A file that cannot be read is told to the user; it does not end the program.
+    tavi::EZAudioUtilities::setShouldExitOnCheckResultFail(false);
     tavi::installTrace();
     return tavi::run(argc, argv);
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QByteArray>
-#include <QHash>
 #include <QString>
+#include <array>
 
 namespace tavi {
 
@@ -22,12 +23,21 @@ inline constexpr QLatin1String kExtension("extension");
 inline constexpr QLatin1String kDuration("duration");
 }  // namespace entrykey
 
-/// What the library says about one file: a string-keyed record of strings.
+/// What the library says about one file: a string-keyed record of strings. Lists hold ten thousands of them, so the six
+/// keys have fixed places.
 class RecordingEntry {
 public:
-    /// The key's value; empty where there is none.
-    QString value(const QString& key) const { return m_values.value(key); }
-    void setValue(const QString& key, const QString& value) { m_values.insert(key, value); }
+    /// The key's value; empty for what is no key.
+    QString value(QAnyStringView key) const {
+        const std::size_t place = placeOf(key);
+        return place < kKeys.size() ? m_values[place] : QString();
+    }
+    /// Does nothing for what is no key.
+    void setValue(QAnyStringView key, const QString& value) {
+        if (const std::size_t place = placeOf(key); place < kKeys.size()) {
+            m_values[place] = value;
+        }
+    }
 
     /// The name as the file system has it, in bytes: what a path is made of. "filename" is only the name to show, as
     /// not every name is text.
@@ -37,7 +47,17 @@ public:
     bool operator==(const RecordingEntry&) const = default;
 
 private:
-    QHash<QString, QString> m_values;
+    static constexpr std::array kKeys = {entrykey::kFilename, entrykey::kSize,      entrykey::kFilesize,
+                                         entrykey::kModdate,  entrykey::kExtension, entrykey::kDuration};
+    static std::size_t placeOf(QAnyStringView key) {
+        std::size_t place = 0;
+        while (place < kKeys.size() && key != QAnyStringView(kKeys[place])) {
+            ++place;
+        }
+        return place;
+    }
+
+    std::array<QString, kKeys.size()> m_values;
     QByteArray m_nativeName;
 };
 

@@ -1,5 +1,7 @@
 #include "library/RecordingListModel.h"
 
+#include <algorithm>
+
 namespace tavi {
 
 int RecordingListModel::rowCount(const QModelIndex& parent) const {
@@ -28,12 +30,24 @@ QHash<int, QByteArray> RecordingListModel::roleNames() const {
 }
 
 void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) {
-    if (entries == m_entries) {
+    const auto hasSameName = [](const RecordingEntry& left, const RecordingEntry& right) {
+        return left.nativeName() == right.nativeName();
+    };
+    if (!std::equal(entries.begin(), entries.end(), m_entries.begin(), m_entries.end(), hasSameName)) {
+        beginResetModel();
+        m_entries = entries;
+        endResetModel();
         return;
     }
-    beginResetModel();
+    const auto [first, last] = std::mismatch(entries.begin(), entries.end(), m_entries.begin());
+    if (first == entries.end()) {
+        return;
+    }
+    const auto end = std::mismatch(entries.rbegin(), entries.rend(), m_entries.rbegin()).first.base();
+    const auto from = static_cast<int>(first - entries.begin());
+    const auto to = static_cast<int>(end - entries.begin()) - 1;
     m_entries = entries;
-    endResetModel();
+    Q_EMIT dataChanged(index(from), index(to));
 }
 
 }  // namespace tavi

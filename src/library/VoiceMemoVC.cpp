@@ -1,92 +1,32 @@
 #include "library/VoiceMemoVC.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
-
 #include <QDebug>
 #include <QFile>
+#include <QPointer>
 #include <algorithm>
-#include <cerrno>
-#include <cmath>
-#include <memory>
 
-#include "library/utility/Utility.h"
+#include "library/RecordingOrder.h"
 
 namespace tavi {
 
-namespace {
-
-// Codes of "Sort": a button's even code stands for ascending order, the odd one below it for descending.
-constexpr int kSortNameAscending = 2;
-constexpr int kSortDateAscending = 4;
-constexpr int kSortSizeAscending = 6;
-
-constexpr int kSecondsPerMinute = 60;
-
-/// Names in a folder in the order in which the file system gives them; none where it cannot be read.
-std::vector<QByteArray> namesInFolder(const QByteArray& folder) {
-    struct Closer {
-        void operator()(DIR* directory) const { ::closedir(directory); }
-    };
-    std::vector<QByteArray> names;
-    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.constData()));
-    if (!directory) {
-        return names;
-    }
-    // No other thread reads this stream, which is all that readdir(3) asks for.
-    while (const dirent* item = ::readdir(directory.get())) {  // NOLINT(concurrency-mt-unsafe)
-        const QByteArray name(item->d_name);
-        if (name != "." && name != "..") {
-            names.push_back(name);
-        }
-    }
-    return names;
+VoiceMemoVC::VoiceMemoVC(const Services& services, PlayerPanel& player, QObject* parent)
+    : QObject(parent), m_services(services), m_player(player) {
+    m_filter.setSourceModel(&m_tableView);
+    m_services.remoteControl.setDelegate(this);
+    connect(&m_player, &PlayerPanel::finished, this, &VoiceMemoVC::audioPlayerDidFinishPlaying);
 }
 
-bool isListed(const QByteArray& name) {
-    return name != "PrivateInbox" && name != "Inbox" && name != "ICloud" && name != ".DS_Store";
+VoiceMemoVC::~VoiceMemoVC() {
+    m_services.remoteControl.setDelegate(nullptr);
 }
-
-QString extensionOf(const QString& name) {
-    const auto dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot > 0 ? name.mid(dot + 1) : QString();
-}
-
-/// "mm:ss". Minutes are not wrapped into hours, on purpose: the list keeps one short form, and 3725 s read 62:05.
-QString durationText(double duration) {
-    const auto seconds = std::isfinite(duration) && duration > 0.0 ? static_cast<qint64>(duration) : qint64{0};
-    const auto twoDigits = [](qint64 number) { return QString::number(number).rightJustified(2, QLatin1Char('0')); };
-    return twoDigits(seconds / kSecondsPerMinute) + QLatin1Char(':') + twoDigits(seconds % kSecondsPerMinute);
-}
-
-/// Asks for the length of a file whose path may be no text.
-double durationAt(const AudioDuration& durations, const QByteArray& path) {
-    const QString text = QFile::decodeName(path);
-    if (QFile::encodeName(text) == path) {
-        return durations.durationOfFile(text);
-    }
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0) {
-        return 0.0;
-    }
-    // The kernel's own name of an open file is text whatever the file is called.
-    const double duration = durations.durationOfFile(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
-    ::close(descriptor);
-    return duration;
-}
-
-}  // namespace
-
-VoiceMemoVC::VoiceMemoVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {}
 
 int VoiceMemoVC::numberOfSections() const {
     return m_services.settings.isCloudSyncOn() ? 2 : 1;
 }
 
 int VoiceMemoVC::numberOfRowsInSection(int section) const {
-    return section == 0 ? static_cast<int>(m_arrRecordings.size()) : 0;
+    return static_cast<int>((section == 0 ? m_arrRecordings : m_arrIcloudFiles).size());
 }
 
 void VoiceMemoVC::viewDidLoad() {
@@ -96,85 +36,66 @@ void VoiceMemoVC::viewDidLoad() {
     m_btnSortDate.title = qtTrId("Date");
     m_btnSortSize.title = qtTrId("Size");
     Q_EMIT outletsChanged();
-    getAlltheFiles();
+    rebuild(RecordingLister::Lengths::Known);
     connect(&m_services.notifications, &NotificationCenter::posted, this, &VoiceMemoVC::notificationPosted,
             Qt::UniqueConnection);
 }
 
 void VoiceMemoVC::viewWillAppear() {
-    getAlltheFiles();
+    rebuild(RecordingLister::Lengths::Known);
     resetCell();
 }
 
 void VoiceMemoVC::getAlltheFiles() {
-    m_arrRecordings.clear();
-    const QByteArray folder = QFile::encodeName(m_services.container.documentsPath()) + '/';
-    for (const QByteArray& name : namesInFolder(folder)) {
-        const QByteArray path = folder + name;
-        if (isListed(name) && ::access(path.constData(), F_OK) == 0) {
-            m_arrRecordings.push_back(entryOf(name, path));
+    rebuild(RecordingLister::Lengths::Measured);
+}
+
+void VoiceMemoVC::rebuild(RecordingLister::Lengths lengths) {
+    const QByteArray expanded = expandedName();
+    m_arrRecordings = m_services.lister.list(QFile::encodeName(m_services.container.documentsPath()), lengths);
+    setDefaultSortingButton();
+    reloadTable();
+    follow(expanded);
+    if (!m_services.lister.isComplete()) {
+        m_services.lister.measure([self = QPointer(this)] {
+            if (self) {
+                self->durationsArrived();
+            }
+        });
+    }
+}
+
+void VoiceMemoVC::durationsArrived() {
+    for (RecordingEntry& entry : m_arrRecordings) {
+        if (m_services.lister.wasOpen(entry.nativeName())) {
+            entry.setValue(entrykey::kDuration, m_services.lister.durationText(entry.nativeName()));
         }
     }
-    setDefaultSortingButton();
     reloadTable();
 }
 
-RecordingEntry VoiceMemoVC::entryOf(const QByteArray& name, const QByteArray& path) {
-    const double megabytes = Utility::getFileSize(path);
-    const QString filename = QFile::decodeName(name);
-    RecordingEntry entry;
-    entry.setNativeName(name);
-    entry.setValue(entrykey::kSize, Utility::fixed(megabytes, 6));
-    entry.setValue(entrykey::kFilename, filename);
-    entry.setValue(entrykey::kModdate, Utility::getTheFormatDate(Utility::getFileModificationDate(path)));
-    entry.setValue(entrykey::kFilesize, Utility::displaySize(megabytes));
-    entry.setValue(entrykey::kExtension, extensionOf(filename));
-    entry.setValue(entrykey::kDuration, durationText(durationOf(path)));
-    return entry;
+void VoiceMemoVC::setSearchText(const QString& text) {
+    m_filter.setText(text);
+    Q_EMIT outletsChanged();
 }
 
-double VoiceMemoVC::durationOf(const QByteArray& path) {
-    struct stat attributes = {};
-    // Folders are listed like files, on purpose: a stray one is seen, and has no length. A pipe would block its reader.
-    if (::stat(path.constData(), &attributes) != 0 || !S_ISREG(attributes.st_mode)) {
-        return 0.0;
-    }
-    QByteArray identity;
-    for (const auto part : {static_cast<qint64>(attributes.st_dev), static_cast<qint64>(attributes.st_ino),
-                            static_cast<qint64>(attributes.st_size), static_cast<qint64>(attributes.st_mtim.tv_sec),
-                            static_cast<qint64>(attributes.st_mtim.tv_nsec)}) {
-        identity += QByteArray::number(part) + ':';
-    }
-    const auto known = m_knownDurations.constFind(identity);
-    if (known != m_knownDurations.constEnd()) {
-        return *known;
-    }
-    const double duration = durationAt(m_services.durations, path);
-    m_knownDurations.insert(identity, duration);
-    return duration;
+void VoiceMemoVC::reloadTable() {
+    m_tableView.setEntries(m_arrRecordings);
 }
 
 void VoiceMemoVC::setDefaultSortingButton() {
     const int code = m_services.settings.sort();
-    const bool ascending = code % 2 == 0;
-    switch (code) {
-        case kSortNameAscending - 1:
-        case kSortNameAscending:
-            m_btnSortName.selected = ascending;
-            sortByName();
-            break;
-        case kSortDateAscending - 1:
-        case kSortDateAscending:
-            m_btnSortDate.selected = ascending;
-            sortByDate();
-            break;
-        case kSortSizeAscending - 1:
-        case kSortSizeAscending:
-            m_btnSortSize.selected = ascending;
-            sortBySize();
-            break;
-        default:
-            break;
+    const QString key = sortKeyOf(code);
+    const auto sort = [&](ButtonOutlet& button, void (VoiceMemoVC::*by)(QObject*)) {
+        button.selected = code % 2 == 0;
+        (this->*by)(nullptr);
+    };
+    if (key == entrykey::kFilename) {
+        sort(m_btnSortName, &VoiceMemoVC::sortByName);
+    } else if (key == entrykey::kModdate) {
+        sort(m_btnSortDate, &VoiceMemoVC::sortByDate);
+    } else if (key == entrykey::kSize) {
+        sort(m_btnSortSize, &VoiceMemoVC::sortBySize);
     }
 }
 
@@ -205,20 +126,167 @@ void VoiceMemoVC::sortBy(ButtonOutlet& button, int evenCode, const QString& key,
 }
 
 void VoiceMemoVC::excludeSortingFolders(const QString& key, bool ascending) {
-    // The texts are compared, not what they stand for, on purpose: the order that users know has the day of the month
-    // first, and 10.5 MB before 9 MB.
-    std::stable_sort(m_arrRecordings.begin(), m_arrRecordings.end(),
-                     [&key, ascending](const RecordingEntry& left, const RecordingEntry& right) {
-                         const int order = QString::compare(left.value(key), right.value(key), Qt::CaseSensitive);
-                         return ascending ? order < 0 : order > 0;
-                     });
+    const QByteArray expanded = expandedName();
+    sortRecordings(m_arrRecordings, key, ascending);
     reloadTable();
+    follow(expanded);
+}
+
+QByteArray VoiceMemoVC::expandedName() const {
+    const bool isOne = m_selectedIndex >= 0 && static_cast<std::size_t>(m_selectedIndex) < m_arrRecordings.size();
+    return isOne ? m_arrRecordings[static_cast<std::size_t>(m_selectedIndex)].nativeName() : QByteArray();
+}
+
+void VoiceMemoVC::follow(const QByteArray& name) {
+    if (name.isEmpty() || expandedName() == name) {
+        return;
+    }
+    const auto found = std::find_if(m_arrRecordings.begin(), m_arrRecordings.end(),
+                                    [&name](const RecordingEntry& entry) { return entry.nativeName() == name; });
+    const bool isThere = found != m_arrRecordings.end();
+    m_selectedIndex = isThere ? static_cast<int>(found - m_arrRecordings.begin()) : -1;
+    m_selectRow = isThere ? m_selectedIndex : kNoRow;
+    Q_EMIT selectionChanged();
+}
+
+void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
+    if (row < 0 || row >= numberOfRowsInSection(section)) {
+        return;
+    }
+    m_section = QString::number(section);
+    viewAnimation();
+    if (row != m_selectedIndex) {
+        m_selectRow = row;
+        if (m_selectedIndex != -1) {
+            teardown();
+        }
+        m_selectedIndex = row;
+        expandRow(section, row);
+    } else {
+        m_selectRow = kNoRow;
+        viewAnimationRemove();
+        m_selectedIndex = -1;
+        teardown();
+    }
+    Q_EMIT selectionChanged();
+}
+
+void VoiceMemoVC::expandRow(int section, int row) {
+    m_player.prepareForRow();
+    const QByteArray path = pathOf(section != 0, row);
+    if (!path.isEmpty()) {
+        m_player.initAudioWithUrl(path);
+        playAudio(row, m_player.btnPlay().selected);
+        m_player.setBtnPlaySelected(true);
+    }
+}
+
+QByteArray VoiceMemoVC::pathOf(bool inCloud, int row) const {
+    const auto& list = inCloud ? m_arrIcloudFiles : m_arrRecordings;
+    if (row < 0 || static_cast<std::size_t>(row) >= list.size()) {
+        return {};
+    }
+    QByteArray path = QFile::encodeName(m_services.container.documentsPath()) + (inCloud ? "/ICloud/" : "/") +
+                      list[static_cast<std::size_t>(row)].nativeName();
+    return ::access(path.constData(), F_OK) == 0 ? path : QByteArray();
+}
+
+QString VoiceMemoVC::playingName() const {
+    const QByteArray& path = m_player.urlPath();
+    return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
+}
+
+/// Closes what is open in the player.
+void VoiceMemoVC::teardown() {
+    m_player.drop();
+    m_isPlaying = false;
+    Q_EMIT selectionChanged();
+}
+
+void VoiceMemoVC::playAudio(int tag, bool selected) {
+    if (!m_isPlaying) {
+        // The setting chooses the list, whatever section the row is of, on purpose: a row of the list that it does not
+        // choose keeps what has been loaded for it.
+        const QByteArray path = pathOf(!m_services.settings.isCloudSyncOn(), tag);
+        if (!path.isEmpty()) {
+            m_player.initAudioWithUrl(path);
+        }
+        m_isPlaying = true;
+        m_selectedIndex = tag;
+        Q_EMIT selectionChanged();
+    }
+    m_player.playOrPause(selected);
+}
+
+void VoiceMemoVC::spacePressed(int row) {
+    if (m_isPlaying) {
+        playAudio(m_selectedIndex, m_player.btnplaypuas().selected);
+    } else {
+        didSelectRowAtIndexPath(0, row);
+    }
+}
+
+void VoiceMemoVC::stopAudio() {
+    m_selectRow = kNoRow;
+    viewAnimationRemove();
+    teardown();
+    resetCell();
+}
+
+void VoiceMemoVC::playerClose() {
+    stopAudio();
+    m_player.setBtnPlaySelected(false);
+}
+
+void VoiceMemoVC::viewAnimation() {
+    m_isPanelShown = true;
+    Q_EMIT selectionChanged();
+}
+
+void VoiceMemoVC::viewAnimationRemove() {
+    m_isPanelShown = false;
+    Q_EMIT selectionChanged();
+}
+
+void VoiceMemoVC::audioPlayerDidFinishPlaying() {
+    m_player.showEnd();
+    resetCell();
+}
+
+void VoiceMemoVC::remoteControlReceivedWithEvent(const RemoteControlEvent& event) {
+    using Subtype = RemoteControlEvent::Subtype;
+    const bool isHeard = m_player.isPlayerPlaying();
+    const auto press = [this] { playAudio(m_selectedIndex, m_player.btnplaypuas().selected); };
+    switch (event.subtype) {
+        case Subtype::Play:
+            return isHeard ? void() : press();
+        case Subtype::Pause:
+            return isHeard ? press() : void();
+        case Subtype::TogglePlayPause:
+            return press();
+        case Subtype::Stop:
+            return stopAudio();
+        case Subtype::SkipForward:
+            return m_player.forwardSkip();
+        case Subtype::SkipBackward:
+            return m_player.backSkip();
+        case Subtype::Seek:
+            return m_player.progressSliderMoved(m_player.currentTime() + event.value);
+        case Subtype::SetPosition:
+            return m_player.progressSliderMoved(event.value);
+        case Subtype::SetRate:
+            return m_player.setRate(event.value);
+        case Subtype::Raise:
+            return Q_EMIT raiseRequested();
+        case Subtype::Quit:
+            return Q_EMIT quitRequested();
+    }
 }
 
 void VoiceMemoVC::resetCell() {
     if (m_selectedIndex != -1) {
         m_selectedIndex = -1;
-        Q_EMIT selectedIndexChanged();
+        Q_EMIT selectionChanged();
     }
     reloadTable();
 }

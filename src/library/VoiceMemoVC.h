@@ -1,46 +1,55 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
-#include <QVariant>
 #include <vector>
 
 #include "app/settings/SettingsStore.h"
+#include "library/PlayerPanel.h"
 #include "library/RecordingEntry.h"
+#include "library/RecordingFilterModel.h"
 #include "library/RecordingListModel.h"
+#include "library/RecordingLister.h"
+#include "library/utility/Notifications.h"
 #include "platform/AppContainer.h"
-#include "platform/AudioDuration.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Outlets.h"
 
 namespace tavi {
 
-/// Posted when the recordings in the documents folder have changed.
-inline constexpr QLatin1String kDataUpdatedNotification("DataUpdated");
-
-/// The library screen (tab 1): the recordings in the documents folder. Main thread only.
+/// The library screen (tab 1): the recordings in the documents folder, and the player of one of them. Main thread only.
 ///
 /// There is no index: the list is the folder, read again whenever the screen appears or hears "DataUpdated".
-class VoiceMemoVC : public QObject {
+class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnSortName READ btnSortName NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnSortDate READ btnSortDate NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnSortSize READ btnSortSize NOTIFY outletsChanged)
     Q_PROPERTY(QString headerText READ headerText NOTIFY outletsChanged)
-    Q_PROPERTY(QAbstractListModel* tableView READ tableView CONSTANT)
-    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
+    Q_PROPERTY(QAbstractItemModel* tableView READ tableView CONSTANT)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::PlayerPanel* player READ player CONSTANT)
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
+    Q_PROPERTY(int selectRow READ selectRow NOTIFY selectionChanged)
+    Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY selectionChanged)
+    Q_PROPERTY(QString playingName READ playingName NOTIFY selectionChanged)
+    Q_PROPERTY(bool isPanelShown READ isPanelShown NOTIFY selectionChanged)
 
 public:
     /// What the screen works with; all of it must outlive the screen.
     struct Services {
         SettingsStore& settings;
         const AppContainer& container;
-        const AudioDuration& durations;
         NotificationCenter& notifications;
+        RecordingLister& lister;
+        RemoteControl& remoteControl;
     };
+    /// What selectRow() is when no row's icon is highlighted.
+    static constexpr int kNoRow = 500;
 
-    explicit VoiceMemoVC(const Services& services, QObject* parent = nullptr);
+    /// Player and services must outlive the screen.
+    VoiceMemoVC(const Services& services, PlayerPanel& player, QObject* parent = nullptr);
+    ~VoiceMemoVC() override;
 
     QString title() const { return m_title; }
     /// A selected sort button stands for ascending order.
@@ -48,15 +57,30 @@ public:
     ButtonOutlet btnSortDate() const { return m_btnSortDate; }
     ButtonOutlet btnSortSize() const { return m_btnSortSize; }
     QString headerText() const { return m_headerText; }
-    QAbstractListModel* tableView() { return &m_tableView; }
+    /// The rows that the search leaves.
+    QAbstractItemModel* tableView() { return &m_filter; }
+    /// Shows only rows whose names hold this text, in any case; it changes neither order nor arrRecordings().
+    QString searchText() const { return m_filter.text(); }
+    void setSearchText(const QString& text);
+    PlayerPanel* player() { return &m_player; }
     /// Row of the expanded recording; -1 for none.
     int selectedIndex() const { return m_selectedIndex; }
-    /// The local recordings in the order shown.
+    /// Row whose icon is highlighted.
+    int selectRow() const { return m_selectRow; }
+    /// Number of the tapped row's section.
+    const QString& section() const { return m_section; }
+    /// Whether a recording is loaded in the player, also while it is paused.
+    bool isPlaying() const { return m_isPlaying; }
+    /// Name of the file in the player, to show.
+    QString playingName() const;
+    bool isPanelShown() const { return m_isPanelShown; }
+    /// The local recordings in the order shown, and those of the cloud's folder.
     const std::vector<RecordingEntry>& arrRecordings() const { return m_arrRecordings; }
+    const std::vector<RecordingEntry>& arrIcloudFiles() const { return m_arrIcloudFiles; }
 
     /// 1 while the cloud is off, 2 while it is on.
     int numberOfSections() const;
-    /// Rows of section 0, the local recordings; no other section has rows.
+    /// Rows of section 0, the local recordings, and of any other, the cloud's.
     int numberOfRowsInSection(int section) const;
 
 public Q_SLOTS:
@@ -72,6 +96,17 @@ public Q_SLOTS:
     void sortByName(QObject* sender = nullptr);
     void sortByDate(QObject* sender = nullptr);
     void sortBySize(QObject* sender = nullptr);
+    /// A tap on a row: opens it and plays its recording, or, on the open one, closes it.
+    void didSelectRowAtIndexPath(int section, int row);
+    /// A press on a play button of that row and state: loads a recording if none is loaded, and plays or pauses.
+    void playAudio(int tag, bool selected);
+    /// The space bar: plays or pauses what is loaded; without, plays the recording of a row.
+    void spacePressed(int row);
+    void stopAudio();
+    void playerClose();
+    /// Slides the player's panel in and out.
+    void viewAnimation();
+    void viewAnimationRemove();
     /// Collapses the expanded row and reloads the table.
     void resetCell();
     /// Reads the folder again and reloads the table.
@@ -84,16 +119,28 @@ public:
 
 Q_SIGNALS:
     void outletsChanged();
-    void selectedIndexChanged();
+    void selectionChanged();
+    /// The desktop asks for the window, or for the program's end.
+    void raiseRequested();
+    void quitRequested();
 
 private Q_SLOTS:
     void notificationPosted(const QString& name);
+    void audioPlayerDidFinishPlaying();
 
 private:
+    void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override;
+    double remoteControlCurrentTime() const override { return m_player.currentTime(); }
     void sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender);
-    RecordingEntry entryOf(const QByteArray& name, const QByteArray& path);
-    double durationOf(const QByteArray& path);
-    void reloadTable() { m_tableView.setEntries(m_arrRecordings); }
+    void rebuild(RecordingLister::Lengths lengths);
+    void durationsArrived();
+    QByteArray pathOf(bool inCloud, int row) const;
+    void expandRow(int section, int row);
+    void teardown();
+    /// The expanded recording's native name; after a change of the list the expanded row is again the one of that name.
+    QByteArray expandedName() const;
+    void follow(const QByteArray& name);
+    void reloadTable();
 
     Services m_services;
     QString m_title;
@@ -102,10 +149,15 @@ private:
     ButtonOutlet m_btnSortDate;
     ButtonOutlet m_btnSortSize;
     std::vector<RecordingEntry> m_arrRecordings;
+    std::vector<RecordingEntry> m_arrIcloudFiles;
     RecordingListModel m_tableView;
+    RecordingFilterModel m_filter;
+    PlayerPanel& m_player;
+    QString m_section;
     int m_selectedIndex = -1;
-    /// Seconds by the identity of a file and of its contents, as decoding a long recording's length takes its time.
-    QHash<QByteArray, double> m_knownDurations;
+    int m_selectRow = kNoRow;
+    bool m_isPlaying = false;
+    bool m_isPanelShown = false;
 };
 
 }  // namespace tavi

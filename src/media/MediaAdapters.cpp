@@ -1,13 +1,19 @@
 #include "adapters/ffmpeg/FfmpegAssets.h"
+#include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/FfmpegAudioTempo.h"
+#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "adapters/qt/MediaLibrary.h"
 
 /// The library's one entry: its adapters, which live as long as the process.
 extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters() {
     static tavi::FfmpegAudioFileWriters writers;
     static const tavi::FfmpegAudioDuration durations;
+    static tavi::FfmpegAudioTempos tempos;
+    static tavi::FfmpegExtAudioFiles files;
+    static tavi::FfmpegAudioConverters converters;
     static tavi::FfmpegAssets assets;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations, assets, assets};
+    static const tavi::MediaLibrary::Adapters adapters{writers, durations, tempos, files, converters, assets, assets};
     return &adapters;
 }

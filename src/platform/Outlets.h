@@ -42,4 +42,17 @@ public:
     bool operator==(const ButtonOutlet&) const = default;
 };
 
+/// What a screen says about one of its sliders; QML draws it. The least value is 0.
+struct SliderOutlet {
+    Q_GADGET
+    Q_PROPERTY(double value MEMBER value)
+    Q_PROPERTY(double maximumValue MEMBER maximumValue)
+
+public:
+    double value = 0.0;
+    double maximumValue = 0.0;
+
+    bool operator==(const SliderOutlet&) const = default;
+};
+
 }  // namespace tavi

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/Clock.h"
+#include "platform/DispatchQueues.h"
 
 namespace tavi {
 
@@ -18,12 +19,8 @@ public:
 };
 
 /// The main thread's event loop and the background threads beside it.
-///
-/// Callbacks must hold their owner weakly: they may run after the owner is gone.
-class RunLoop {
+class RunLoop : public DispatchQueues {
 public:
-    virtual ~RunLoop() = default;
-
     virtual const Clock& clock() const = 0;
 
     /// Calls on the main thread after interval seconds, and then every interval seconds if it repeats. Main thread
@@ -31,10 +28,6 @@ public:
     virtual std::shared_ptr<Timer> scheduledTimer(double interval, bool repeats, std::function<void()> callback) = 0;
     /// Calls on the main thread after that many seconds. Any thread.
     virtual void dispatchAfter(double seconds, std::function<void()> callback) = 0;
-    /// Calls on the main thread, in the order of asking, never before this returns. Any thread.
-    virtual void dispatchMain(std::function<void()> callback) = 0;
-    /// Calls on some background thread, at the same time as other such calls. Any thread.
-    virtual void dispatchBackground(std::function<void()> callback) = 0;
 };
 
 }  // namespace tavi

@@ -10,7 +10,8 @@ import sys
 import tempfile
 
 # Folders of src/ and what they may include from beside themselves. Every folder may include platform. The C++ of a
-# screen's qml/ folder, and an item that QML draws with (...Item), may include the screen, what it may include, and ui.
+# screen's qml/ folder, an item that QML draws with (...Item) and what paints for one (...Painter) may include the
+# screen, what it may include, and ui.
 MODULES = {
     "platform": [],
     "API/AudioTrimmerController/EZAudio": [],
@@ -25,7 +26,7 @@ MODULES = {
     "ui": [],
     "recording": ["trimming/waves", "cloud", "watch", "app/settings", "library/utility"],
     "trimming": ["trimming/waves", "API/AudioTrimmerController/EZAudio", "cloud", "app/settings", "library/utility"],
-    "library": ["trimming", "cloud", "app/settings", "library/utility"],
+    "library": ["trimming", "trimming/waves", "cloud", "app/settings", "library/utility"],
     "app": ["recording", "library", "trimming", "passcode", "cloud", "watch", "support", "app/settings", "library/utility"],
 }
 FEATURE_TESTS = {name.split("/")[0] for name in MODULES}
@@ -55,7 +56,7 @@ def module_of(path):
     if parts[0] == "adapters":
         return "/".join(parts[:2]) if len(parts) > 2 else None
     found = max((name for name in MODULES if path.startswith(name + "/")), key=len, default=None)
-    if found and ("qml" in parts[len(found.split("/")):-1] or parts[-1].split(".")[0].endswith("Item")):
+    if found and ("qml" in parts[len(found.split("/")):-1] or parts[-1].split(".")[0].endswith(("Item", "Painter"))):
         return found + "/qml"
     return found
 
@@ -127,6 +128,7 @@ CLEAN = {
     "src/recording/AudioRecordVC.cpp": '#include "trimming/waves/WaveView.h"\n// no QTimer here\nauto s = "QSettings";\n',
     "src/recording/qml/Item.cpp": '#include <QtQml/qqml.h>\n#include "recording/AudioRecordVC.h"\n#include "ui/qml/Shell.h"\n',
     "src/trimming/waves/WaveViewItem.h": '#include <QQuickPaintedItem>\n#include "trimming/waves/WaveView.h"\n',
+    "src/trimming/waves/EZAudioPlotPainter.h": '#include <QPainter>\n#include "trimming/waves/EZAudioPlot.h"\n',
     "src/app/settings/SettingsStore.cpp": '#include "app/settings/SettingsStore.h"\n#include <QString>\n',
     "tests/unit/adapters/recorder/Recorder.cpp": '#include "adapters/recorder/Recorder.h"\n',
     "tests/contract/Clock.cpp": '#include "adapters/qt/QtClock.h"\n',

@@ -2,6 +2,7 @@
 
 #include <QMap>
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "platform/AudioPlayer.h"
@@ -51,7 +52,7 @@ public:
     }
     void setCurrentTime(double seconds) override {
         settle();
-        m_time = std::clamp(seconds, 0.0, m_duration);
+        m_time = std::isnan(seconds) ? m_time : std::clamp(seconds, 0.0, m_duration);
         run();
     }
     double duration() const override { return m_duration; }
@@ -62,7 +63,7 @@ public:
     }
     void setRate(float rate) override {
         settle();
-        m_rate = std::clamp(rate, 0.5F, 2.0F);
+        m_rate = std::isnan(rate) ? m_rate : std::clamp(rate, 0.5F, 2.0F);
         run();
     }
     float rate() const override { return m_rate; }

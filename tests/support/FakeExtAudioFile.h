@@ -1,9 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <vector>
@@ -22,7 +24,9 @@ struct FakeSound {
     bool isRandomAccess = true;
     /// What is to happen while a file is read, such as a call on another thread.
     std::function<void()> onRead;
-    AudioStatus readStatus = kAudioNoError;
+    std::atomic<AudioStatus> readStatus = kAudioNoError;
+    /// Frames that are really there; the length stays what the planes make it.
+    std::atomic<std::int64_t> readable = std::numeric_limits<std::int64_t>::max();
 
     std::int64_t frames() const { return planes.empty() ? 0 : static_cast<std::int64_t>(planes.front().size()); }
 };
@@ -75,10 +79,10 @@ public:
         if (m_sound->onRead) {
             m_sound->onRead();
         }
-        if (m_sound->readStatus != kAudioNoError) {
-            return m_sound->readStatus;
+        if (const AudioStatus status = m_sound->readStatus; status != kAudioNoError) {
+            return status;
         }
-        const std::int64_t end = clientFrame(m_sound->frames());
+        const std::int64_t end = clientFrame(std::min(m_sound->frames(), m_sound->readable.load()));
         frames = static_cast<std::uint32_t>(std::clamp<std::int64_t>(end - m_position, 0, wanted));
         const bool isPlanar = (m_client.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
         for (std::uint32_t channel = 0; channel < m_client.channelsPerFrame; ++channel) {

@@ -46,6 +46,22 @@ void fillLibrary(const Shell& shell) {
     }
 }
 
+void play(Shell& shell) {
+    fillLibrary(shell);
+    shell.players.seconds["2024_Feb_12_09_15_00.m4a"] = 245.0;
+    shell.library.viewWillAppear();
+    const auto& list = shell.library.arrRecordings();
+    for (std::size_t row = 0; row < list.size(); ++row) {
+        if (list[row].nativeName() == "2024_Feb_12_09_15_00.m4a") {
+            shell.library.didSelectRowAtIndexPath(0, static_cast<int>(row));
+        }
+    }
+    // Past the panel's way in.
+    shell.settleFor(700);
+    shell.runLoop.advance(75.0);
+    shell.player.fastAudio(&shell.library);
+}
+
 void presentAlert(Shell& shell, const QString& message) {
     shell.presenter.presentAlert({QStringLiteral("Delete Recording"),
                                   message,
@@ -60,6 +76,11 @@ const State kStates[] = {
     {"paused", 0, [](Shell& s) { record(s), s.startRecording(); }},
     {"empty", 1, {}},
     {"list", 1, [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(); }},
+    {"playing", 1, play},
+    {"unplayable", 1,
+     [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(), s.library.didSelectRowAtIndexPath(0, 1); }},
+    {"found", 1,
+     [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(), s.library.setSearchText(QStringLiteral("1")); }},
     {"settings", 2, {}},
     {"sheet", 2, [](Shell& s) { s.settings.showExtentionActionsheet(); }},
     {"alert", 0, [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -10,7 +11,11 @@
 #include "app/SettingVC.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "support/FakeAudioConverter.h"
+#include "support/FakeAudioPlayer.h"
 #include "support/FakeAudioRecorder.h"
+#include "support/FakeDisplayRefresh.h"
+#include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
@@ -50,6 +55,14 @@ public:
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
         return window->grabWindow();
+    }
+
+    /// Lets QML's own animations run for that many milliseconds.
+    void settleFor(int milliseconds) const {
+        for (const QDeadlineTimer deadline(milliseconds); !deadline.hasExpired();) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+        }
+        settle();
     }
 
     void resize(const QSize& size) const {
@@ -122,7 +135,15 @@ public:
     TabBarController tabBar;
     AlertPresenter presenter;
     AudioRecordVC recording{{session, recorders, store, container, runLoop, presenter, tabBar, mail}};
-    VoiceMemoVC library{{store, container, durations, notifications}};
+    FakeRemoteControl remoteControl;
+    FakeAudioPlayers players{runLoop};
+    RecordingLister lister{durations, runLoop};
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    FakeDisplayRefreshes refreshes;
+    WaveformLoader waveforms{{files, converters, runLoop}};
+    PlayerPanel player{{players, session, remoteControl, store, runLoop, waveforms, refreshes}};
+    VoiceMemoVC library{{store, container, notifications, lister, remoteControl}, player};
     SettingVC settings{{store, runLoop, presenter}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;

@@ -3,6 +3,8 @@
 #include <memory>
 
 #include "Shell.h"
+#include "support/FakeDisplayRefresh.h"
+#include "trimming/waves/EZAudioPlotItem.h"
 #include "trimming/waves/WaveViewItem.h"
 
 namespace tavi::test {
@@ -153,6 +155,33 @@ TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {
     }
     EXPECT_TRUE(shown(5));
     EXPECT_FALSE(shown(8));
+}
+
+TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {
+    FakeDisplayRefreshes refreshes;
+    const auto plot = EZAudioPlot::init(refreshes);
+    plot->setShouldOptimizeForRealtimePlot(false);
+    plot->setShouldFill(true);
+    plot->setBackgroundColor(QStringLiteral("#000000"));
+    QQuickWindow window;
+    window.resize(100, 100);
+    EZAudioPlotItem item(window.contentItem());
+    item.setPlot(plot.get());
+    item.setSize({80.0, 60.0});
+    window.show();
+    EXPECT_EQ(plot->bounds(), QRectF(0.0, 0.0, 80.0, 60.0));
+    const std::vector<float> samples(80, 0.5F);
+    const auto redAt = [&window](int x, int y) {
+        QCoreApplication::processEvents();
+        return window.grabWindow().pixelColor(x, y).red();
+    };
+    EXPECT_EQ(redAt(40, 20), 0);
+    plot->updateBuffer(samples.data(), 80);
+    EXPECT_EQ(redAt(40, 20), 255);
+    EXPECT_EQ(redAt(40, 10), 0);
+    item.setSize({80.0, 100.0});
+    EXPECT_EQ(redAt(40, 30), 255);
+    EXPECT_EQ(redAt(40, 20), 0);
 }
 
 }  // namespace

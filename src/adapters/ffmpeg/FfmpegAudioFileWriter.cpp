@@ -8,6 +8,7 @@ extern "C" {
 
 #include <QFile>
 #include <algorithm>
+#include <string_view>
 
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
 #include "adapters/ffmpeg/Mp4Finalizer.h"
@@ -19,7 +20,6 @@ namespace {
 constexpr int kIoBufferBytes = 64 * 1024;
 /// Frames in one encoder frame where the codec takes any number.
 constexpr int kFreeFrameSize = 4096;
-constexpr int kIma4PacketFrames = 64;
 
 // Errors stay in the file and never reach FFmpeg, which would drop every later write.
 int writeToFile(void* opaque, std::uint8_t* data, int size) {
@@ -144,7 +144,7 @@ Result<void> FfmpegAudioFileWriter::openContainer() {
         av_dict_set(&options, "movflags", "empty_moov+delay_moov+frag_custom+default_base_moof+skip_trailer", 0);
         // The default of milliseconds would round the edit list.
         av_dict_set_int(&options, "movie_timescale", m_format.sampleRate, 0);
-    } else if (m_format.codec == AV_CODEC_ID_PCM_U8) {
+    } else if (m_format.muxer == std::string_view("wav")) {
         av_dict_set(&options, "rf64", "auto", 0);
     }
     if (code >= 0) {

@@ -26,10 +26,8 @@ public:
     /// Gives up to that many frames; 0 when it needs more input, or after finish() at the end.
     std::size_t read(float* const* planes, std::size_t frames);
 
-    /// Output frames that stand before the end of that many input frames.
+    /// How many output frames stand before an input frame; so the number of the first that does not.
     std::int64_t outputFrames(std::int64_t inputFrames) const;
-    /// The first output frame that does not stand before an input frame.
-    std::int64_t outputFrameFor(std::int64_t inputFrame) const { return outputFrames(inputFrame); }
     /// The last input frame that does not stand behind an output frame.
     std::int64_t inputFrameFor(std::int64_t outputFrame) const;
 

@@ -52,13 +52,21 @@ Result<RecordingFormat> recordingFormat(const QString& path, const AudioRecordSe
             format.isFragmented = true;
             return format;
         case kAudioFormatLinearPCM:
-            if (settings.linearPCMBitDepth != 8 || settings.linearPCMIsFloat) {
-                return failure(QStringLiteral("Only 8-bit linear PCM can be recorded."));
-            }
-            format.codec = AV_CODEC_ID_PCM_U8;
-            format.sampleFormat = AV_SAMPLE_FMT_U8;
             format.muxer = "wav";
-            return format;
+            if (settings.linearPCMIsFloat || settings.linearPCMIsBigEndian) {
+                return failure(QStringLiteral("A WAV file takes little-endian integers."));
+            }
+            if (settings.linearPCMBitDepth == 8) {
+                format.codec = AV_CODEC_ID_PCM_U8;
+                format.sampleFormat = AV_SAMPLE_FMT_U8;
+                return format;
+            }
+            if (settings.linearPCMBitDepth == 16) {
+                format.codec = AV_CODEC_ID_PCM_S16LE;
+                format.sampleFormat = AV_SAMPLE_FMT_S16;
+                return format;
+            }
+            return failure(QStringLiteral("Only 8-bit and 16-bit linear PCM can be recorded."));
         case kAudioFormatAppleIMA4:
             format.codec = AV_CODEC_ID_ADPCM_IMA_QT;
             format.sampleFormat = AV_SAMPLE_FMT_S16P;

@@ -13,7 +13,7 @@ namespace tavi {
 /// | formatID | encoder                                 | container                                       |
 /// |----------|-----------------------------------------|-------------------------------------------------|
 /// | 'alac'   | Apple Lossless, 16 bit                  | M4A, fragmented while it grows                  |
-/// | 'lpcm'   | 8-bit unsigned PCM                      | WAV, as RF64 (EBU Tech 3306) from 4 GiB on      |
+/// | 'lpcm'   | 8-bit unsigned or 16-bit signed PCM     | WAV, as RF64 (EBU Tech 3306) from 4 GiB on      |
 /// | 'ima4'   | IMA 4:1 ADPCM in packets of 64 frames   | CAF                                             |
 /// | 'aac '   | AAC-LC                                  | ADTS for paths that end in ".aac", else MP4,    |
 /// |          |                                         | fragmented while it grows                       |

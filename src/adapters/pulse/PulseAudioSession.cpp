@@ -1,6 +1,10 @@
 #include "adapters/pulse/PulseAudioSession.h"
 
+#include <semaphore>
+#include <utility>
+
 #include "adapters/pulse/PulseConnection.h"
+#include "adapters/pulse/PulseRoute.h"
 
 namespace tavi {
 
@@ -8,11 +12,23 @@ namespace {
 
 /// Less than a frame of the screen; a local server needs a few milliseconds.
 constexpr std::chrono::milliseconds kAnswerLimit{14};
+/// At the end of the program nobody looks at the screen.
+constexpr std::chrono::milliseconds kLeaveLimit{200};
 
 }  // namespace
 
 PulseAudioSession::PulseAudioSession(std::shared_ptr<PulseConnection> connection)
-    : m_connection(std::move(connection)) {}
+    : m_connection(std::move(connection)), m_route(std::make_shared<PulseRoute>(*m_connection)) {}
+
+PulseAudioSession::~PulseAudioSession() {
+    if (m_isOverridden) {
+        const auto done = std::make_shared<std::binary_semaphore>(0);
+        m_connection->perform([route = m_route, done] { route->restore([done] { done->release(); }); });
+        // The connection may end next, and what it was told last must have got through.
+        static_cast<void>(done->try_acquire_for(kLeaveLimit));
+    }
+    m_connection->perform([route = std::move(m_route)] { route->forget(); });
+}
 
 void PulseAudioSession::requestRecordPermission(std::function<void(bool)> answer) {
     m_connection->connect([answer = std::move(answer)](PulseConnection::State state) {
@@ -20,7 +36,15 @@ void PulseAudioSession::requestRecordPermission(std::function<void(bool)> answer
     });
 }
 
-Result<void> PulseAudioSession::setCategory(Category, CategoryOption) {
+Result<void> PulseAudioSession::setCategory(Category category, CategoryOption) {
+    m_category = category;
+    if (category == Category::Playback && std::exchange(m_isOverridden, false)) {
+        m_connection->perform([route = m_route] { route->restore(); });
+    }
+    return waitForServer();
+}
+
+Result<void> PulseAudioSession::waitForServer() {
     m_connection->connect();
     switch (m_connection->waitForState(kAnswerLimit)) {
         case PulseConnection::State::Ready:
@@ -44,11 +68,25 @@ bool PulseAudioSession::isInputAvailable() const {
 }
 
 Result<QString> PulseAudioSession::currentRoute() const {
-    return tl::unexpected(pulseError(PA_ERR_CONNECTIONREFUSED));
+    const QString route = m_connection->route();
+    return route.isEmpty() ? Result<QString>(tl::unexpected(pulseError(PA_ERR_CONNECTIONREFUSED))) : route;
 }
 
-Result<void> PulseAudioSession::overrideOutputAudioPort(PortOverride) {
-    return {};
+Result<void> PulseAudioSession::overrideOutputAudioPort(PortOverride port) {
+    const Result<void> server = waitForServer();
+    if (server) {
+        m_isOverridden = true;
+        m_connection->perform([route = m_route, port, category = m_category] {
+            if (port == PortOverride::Speaker) {
+                route->useSpeaker();
+            } else if (category == Category::PlayAndRecord) {
+                route->useReceiver();
+            } else {
+                route->restore();
+            }
+        });
+    }
+    return server;
 }
 
 }  // namespace tavi

@@ -31,6 +31,41 @@ PulseSource described(const pa_source_info& info) {
     return {QByteArray(info.name), info.index, info.monitor_of_sink != PA_INVALID_INDEX, isUnplugged};
 }
 
+PulsePortKind kindOf(const pa_sink_port_info& port) {
+    switch (port.type) {
+        case PA_DEVICE_PORT_TYPE_SPEAKER:
+            return PulsePortKind::Speaker;
+        case PA_DEVICE_PORT_TYPE_HEADPHONES:
+            return PulsePortKind::Headphones;
+        case PA_DEVICE_PORT_TYPE_HEADSET:
+            return PulsePortKind::Headset;
+        case PA_DEVICE_PORT_TYPE_HANDSET:
+        case PA_DEVICE_PORT_TYPE_EARPIECE:
+            return PulsePortKind::Earpiece;
+        default:
+            return pulsePortKindFromWords(port.name);
+    }
+}
+
+PulseSink described(const pa_sink_info& info) {
+    PulseSink sink;
+    sink.name = info.name;
+    sink.index = info.index;
+    sink.card = info.card;
+    sink.description = QString::fromUtf8(info.description);
+    sink.activePort = info.active_port != nullptr ? info.active_port->name : "";
+    // Null when there is none.
+    sink.kind = pulsePortKindFromWords(pa_proplist_gets(info.proplist, PA_PROP_DEVICE_FORM_FACTOR));
+    for (std::uint32_t i = 0; i < info.n_ports; ++i) {
+        const pa_sink_port_info& port = *info.ports[i];
+        const auto availability = port.available == PA_PORT_AVAILABLE_NO    ? PulsePort::Availability::No
+                                  : port.available == PA_PORT_AVAILABLE_YES ? PulsePort::Availability::Yes
+                                                                            : PulsePort::Availability::Unknown;
+        sink.ports.push_back({port.name, kindOf(port), availability, QString::fromUtf8(port.description)});
+    }
+    return sink;
+}
+
 }  // namespace
 
 Error pulseError(int code) {
@@ -54,6 +89,7 @@ Error pulseError(int code) {
 
 PulseConnection::PulseConnection()
     : m_chosenSource(qgetenv("PULSE_SOURCE")),
+      m_chosenSink(qgetenv("PULSE_SINK")),
       m_wakeDescriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       m_loop(pa_mainloop_new()) {
     if (m_wakeDescriptor < 0 || !m_loop) {
@@ -102,6 +138,11 @@ PulseConnection::State PulseConnection::waitForState(std::chrono::milliseconds l
     return m_state;
 }
 
+QString PulseConnection::route() const {
+    const std::lock_guard lock(m_mutex);
+    return m_route;
+}
+
 void PulseConnection::perform(std::function<void()> work) {
     {
         const std::lock_guard lock(m_mutex);
@@ -134,6 +175,7 @@ void PulseConnection::run() {
     m_waiters.clear();
     m_observers.clear();
     m_serverQuery = {};
+    m_sinkQuery = {};
     m_sourceQuery = {};
     m_limit.reset();
     m_context.reset();
@@ -177,9 +219,11 @@ void PulseConnection::begin() {
 void PulseConnection::end(int code) {
     m_limit->stop();
     m_serverQuery = {};
+    m_sinkQuery = {};
     m_sourceQuery = {};
     m_isStale = false;
     m_sources = {};
+    m_sinks = {};
     m_inputAvailable = false;
     const auto observers = std::exchange(m_observers, {});
     const PulseContextHandle context = std::exchange(m_context, nullptr);
@@ -199,6 +243,7 @@ void PulseConnection::setState(State state) {
     {
         const std::lock_guard lock(m_mutex);
         m_state = state;
+        m_route = m_sinks.route(m_chosenSink);
     }
     m_stateChanged.notify_all();
 }
@@ -216,8 +261,9 @@ void PulseConnection::tellWaiters() {
 void PulseConnection::contextDidChangeState() {
     switch (pa_context_get_state(m_context.get())) {
         case PA_CONTEXT_READY: {
-            constexpr auto kWanted = static_cast<pa_subscription_mask_t>(
-                PA_SUBSCRIPTION_MASK_SOURCE | PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_CARD);
+            constexpr auto kWanted =
+                static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SOURCE | PA_SUBSCRIPTION_MASK_SINK |
+                                                    PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_CARD);
             pulseForget(pa_context_subscribe(m_context.get(), kWanted, nullptr, nullptr));
             refresh();
             break;
@@ -238,7 +284,8 @@ void PulseConnection::refresh() {
     }
     m_isStale = false;
     m_arriving = {};
-    // The server answers in the order of asking, so that the end of the list ends both.
+    m_arrivingSinks = {};
+    // The server answers in the order of asking, so that the end of the last list ends all.
     m_serverQuery = PulseOperation(pa_context_get_server_info(
         m_context.get(),
         [](pa_context*, const pa_server_info* info, void* userdata) {
@@ -246,7 +293,21 @@ void PulseConnection::refresh() {
             if (info != nullptr && info->default_source_name != nullptr) {
                 self.m_arriving.defaultName = info->default_source_name;
             }
+            if (info != nullptr && info->default_sink_name != nullptr) {
+                self.m_arrivingSinks.defaultName = info->default_sink_name;
+            }
             self.m_serverQuery.finish();
+        },
+        this));
+    m_sinkQuery = PulseOperation(pa_context_get_sink_info_list(
+        m_context.get(),
+        [](pa_context*, const pa_sink_info* info, int isLast, void* userdata) {
+            auto& self = *static_cast<PulseConnection*>(userdata);
+            if (isLast == 0) {
+                self.m_arrivingSinks.list.push_back(described(*info));
+            } else {
+                self.m_sinkQuery.finish();
+            }
         },
         this));
     m_sourceQuery = PulseOperation(pa_context_get_source_info_list(
@@ -257,14 +318,15 @@ void PulseConnection::refresh() {
                 self.m_arriving.list.push_back(described(*info));
             } else {
                 self.m_sourceQuery.finish();
-                self.publishSources();
+                self.publish();
             }
         },
         this));
 }
 
-void PulseConnection::publishSources() {
+void PulseConnection::publish() {
     m_sources = std::exchange(m_arriving, {});
+    m_sinks = std::exchange(m_arrivingSinks, {});
     m_inputAvailable = m_sources.isInputAvailable(m_chosenSource);
     m_limit->stop();
     setState(State::Ready);

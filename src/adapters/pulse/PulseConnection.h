@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "adapters/pulse/PulseHandles.h"
+#include "adapters/pulse/PulseSinks.h"
 #include "adapters/pulse/PulseSources.h"
 #include "platform/Error.h"
 
@@ -33,7 +34,7 @@ public:
     enum class State {
         Unconnected,  ///< Not tried yet, no server, or the server ended.
         Connecting,
-        Ready,    ///< Connected, and the sources are known.
+        Ready,    ///< Connected, and the sources and sinks are known.
         Refused,  ///< The server does not let us in.
     };
 
@@ -50,6 +51,8 @@ public:
     State waitForState(std::chrono::milliseconds limit) const;
     /// Whether there is something to record from, as the server said last; false without a server. Any thread.
     bool isInputAvailable() const { return m_inputAvailable.load(); }
+    /// What sound comes out of, as the server said last; empty without a server. Any thread.
+    QString route() const;
     /// Runs work on the loop's thread, in order. Any thread.
     void perform(std::function<void()> work);
 
@@ -61,6 +64,9 @@ public:
     const PulseSources& sources() const { return m_sources; }
     /// The source that the user's environment asks for; empty for the server's default.
     const QByteArray& chosenSource() const { return m_chosenSource; }
+    const PulseSinks& sinks() const { return m_sinks; }
+    /// The sink that the user's environment asks for; empty for the server's default.
+    const QByteArray& chosenSink() const { return m_chosenSink; }
     void addObserver(std::shared_ptr<PulseConnectionObserver> observer);
     void removeObserver(const PulseConnectionObserver* observer);
 
@@ -74,15 +80,17 @@ private:
     void tellWaiters();
     void contextDidChangeState();
     void refresh();
-    void publishSources();
+    void publish();
 
     const QByteArray m_chosenSource;
+    const QByteArray m_chosenSink;
     std::atomic<bool> m_inputAvailable = false;
     int m_wakeDescriptor = -1;
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_stateChanged;
     State m_state = State::Unconnected;
+    QString m_route;
     std::vector<std::function<void()>> m_pending;
 
     PulseMainloopHandle m_loop;
@@ -92,10 +100,13 @@ private:
     std::vector<std::function<void(State)>> m_waiters;
     std::vector<std::shared_ptr<PulseConnectionObserver>> m_observers;
     PulseOperation m_serverQuery;
+    PulseOperation m_sinkQuery;
     PulseOperation m_sourceQuery;
     bool m_isStale = false;
     PulseSources m_sources;
     PulseSources m_arriving;
+    PulseSinks m_sinks;
+    PulseSinks m_arrivingSinks;
 
     std::thread m_thread;
 };

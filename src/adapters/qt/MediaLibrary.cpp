@@ -33,6 +33,30 @@ double MediaLibrary::durationOfFile(const QString& path) const {
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
 }
 
+Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int channels) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->tempos.create(sampleRate, channels);
+}
+
+AudioStatus MediaLibrary::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
+                                 std::unique_ptr<AudioConverter>& converter) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.create(input, output, converter) : kAudioFileUnspecifiedError;
+}
+
+AudioStatus MediaLibrary::formatInfo(AudioStreamBasicDescription& format) const {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->converters.formatInfo(format) : kAudioFileUnspecifiedError;
+}
+
 Asset MediaLibrary::assetWithURL(const QByteArray& path) {
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->exportSessions.assetWithURL(path) : Asset{path, {}, {}};

@@ -4,8 +4,11 @@
 
 #include "platform/AssetExportSession.h"
 #include "platform/AssetReader.h"
+#include "platform/AudioConverter.h"
 #include "platform/AudioDuration.h"
 #include "platform/AudioFileWriter.h"
+#include "platform/AudioTempo.h"
+#include "platform/ExtAudioFile.h"
 
 namespace tavi {
 
@@ -13,12 +16,21 @@ namespace tavi {
 ///
 /// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
 /// start of the program to its first picture, so the window does not wait for them. Any thread.
-class MediaLibrary : public AudioFileWriters, public AudioDuration, public AssetExportSessions, public AssetReaders {
+class MediaLibrary : public AudioFileWriters,
+                     public AudioDuration,
+                     public AudioTempos,
+                     public ExtAudioFiles,
+                     public AudioConverters,
+                     public AssetExportSessions,
+                     public AssetReaders {
 public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
         AudioFileWriters& writers;
         const AudioDuration& durations;
+        AudioTempos& tempos;
+        ExtAudioFiles& files;
+        AudioConverters& converters;
         AssetExportSessions& exportSessions;
         AssetReaders& readers;
     };
@@ -36,6 +48,13 @@ public:
     Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
     /// 0 when the library cannot be loaded.
     double durationOfFile(const QString& path) const override;
+    /// Fails when the library cannot be loaded.
+    Result<std::unique_ptr<AudioTempo>> create(int sampleRate, int channels) override;
+    /// They answer kAudioFileUnspecifiedError when the library cannot be loaded.
+    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override;
+    AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
+                       std::unique_ptr<AudioConverter>& converter) override;
+    AudioStatus formatInfo(AudioStreamBasicDescription& format) const override;
     /// Without a track when the library cannot be loaded.
     Asset assetWithURL(const QByteArray& path) override;
     std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override;

@@ -22,13 +22,15 @@ struct Word {
     QLatin1String needs;
 };
 
-constexpr std::array<Word, 6> kWords = {{
+constexpr std::array<Word, 8> kWords = {{
     {QLatin1String("record"), Command::Record, 0, {}},
     {QLatin1String("stop"), Command::Stop, 0, {}},
     {QLatin1String("library"), Command::Library, 0, {}},
     {QLatin1String("list"), Command::List, 0, {}},
     {QLatin1String("get"), Command::Get, 1, QLatin1String("the key of a setting")},
     {QLatin1String("set"), Command::Set, 2, QLatin1String("the key of a setting and its value")},
+    {QLatin1String("waveform"), Command::Waveform, 1, QLatin1String("a file")},
+    {QLatin1String("trim"), Command::Trim, 1, QLatin1String("a file")},
 }};
 
 bool isHelp(const QString& argument) {
@@ -122,11 +124,92 @@ Result<CommandLine> withArguments(CommandLine line, const Word& word, QStringLis
     return line;
 }
 
+/// A number that an option names, from least to most.
+Result<double> numberOf(const QString& option, const QString& text, double least, double most) {
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (!isNumber || !(number >= least && number <= most)) {
+        return failure(
+            QStringLiteral("%1 needs a number from %2 to %3, not “%4”").arg(option).arg(least).arg(most).arg(text));
+    }
+    return number;
+}
+
+/// Takes the value that follows an option of "waveform" or "trim".
+Result<void> takeValue(CommandLine& line, const QString& option, const QByteArray& value) {
+    constexpr double kMostPoints = 8192;
+    constexpr double kMostSeconds = 1e9;
+    const QString text = QString::fromLocal8Bit(value);
+    if (option == QLatin1String("--png") || option == QLatin1String("--out")) {
+        line.output = value;
+        return value.isEmpty() ? failure(QStringLiteral("%1 needs a file").arg(option)) : Result<void>();
+    }
+    const bool isPoints = option == QLatin1String("--points");
+    const auto number = numberOf(option, text, isPoints ? 1 : 0, isPoints ? kMostPoints : kMostSeconds);
+    if (!number) {
+        return tl::unexpected(number.error());
+    }
+    if (isPoints) {
+        line.points = static_cast<int>(*number);
+    } else {
+        (option == QLatin1String("--from") ? line.from : line.to) = *number;
+    }
+    return {};
+}
+
+/// "waveform FILE" and "trim FILE", their options before or behind the file.
+Result<CommandLine> withFile(CommandLine line, const Word& word, const QList<QByteArray>& arguments) {
+    line.command = word.command;
+    const QStringList valued =
+        word.command == Command::Trim
+            ? QStringList{QStringLiteral("--from"), QStringLiteral("--to"), QStringLiteral("--out")}
+            : QStringList{QStringLiteral("--points"), QStringLiteral("--png")};
+    QStringList given;
+    bool onlyFiles = false;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString text = QString::fromLocal8Bit(arguments.at(i));
+        if (!onlyFiles && isHelp(text)) {
+            line.command = Command::Help;
+            return line;
+        }
+        if (!onlyFiles && text == QLatin1String("--")) {
+            onlyFiles = true;
+        } else if (!onlyFiles && valued.contains(text)) {
+            if (++i == arguments.size()) {
+                return failure(QStringLiteral("%1 needs a value").arg(text));
+            }
+            if (const auto taken = takeValue(line, text, arguments.at(i)); !taken) {
+                return tl::unexpected(taken.error());
+            }
+            given.append(text);
+        } else if (!onlyFiles && text == QLatin1String("--json") && word.command == Command::Waveform) {
+            line.json = true;
+        } else if ((!onlyFiles && text.startsWith(QLatin1Char('-')) && text.size() > 1) || !line.file.isEmpty()) {
+            return failure(QStringLiteral("“%1” does not take “%2”").arg(QString(word.name), text));
+        } else {
+            line.file = arguments.at(i);
+        }
+    }
+    if (line.file.isEmpty()) {
+        return failure(QStringLiteral("“%1” needs %2").arg(word.name, word.needs));
+    }
+    if (word.command == Command::Trim && !(given.contains(valued.at(0)) && given.contains(valued.at(1)))) {
+        return failure(QStringLiteral("“trim” needs --from and --to"));
+    }
+    if (line.json && !line.output.isEmpty()) {
+        return failure(QStringLiteral("“waveform” prints or draws, not both"));
+    }
+    return line;
+}
+
 }  // namespace
 
-Result<CommandLine> parseCommandLine(const QStringList& arguments) {
+Result<CommandLine> parseCommandLine(const QList<QByteArray>& arguments) {
     CommandLine line;
-    QStringList rest = arguments;
+    QStringList rest;
+    for (const QByteArray& argument : arguments) {
+        rest.append(QString::fromLocal8Bit(argument));
+    }
     if (const auto taken = takeOptions(rest, line); !taken) {
         return tl::unexpected(taken.error());
     }
@@ -135,6 +218,9 @@ Result<CommandLine> parseCommandLine(const QStringList& arguments) {
     }
     for (const Word& word : kWords) {
         if (rest.first() == word.name) {
+            if (word.command == Command::Waveform || word.command == Command::Trim) {
+                return withFile(std::move(line), word, arguments.mid(arguments.size() - rest.size() + 1));
+            }
             return withArguments(std::move(line), word, rest.mid(1));
         }
     }
@@ -162,6 +248,12 @@ QString helpText() {
         "  get KEY          print a setting\n"
         "  set KEY VALUE    change a setting; on and off are true and false\n"
         "  list [--json]    print the recordings, one a line or as JSON\n"
+        "  waveform FILE [--points N] [--json | --png OUT]\n"
+        "                   print the loudness of a sound file in N points, 1024 if not\n"
+        "                   said otherwise, a line each or as JSON, or draw it\n"
+        "  trim FILE --from SECONDS --to SECONDS [--out FILE]\n"
+        "                   copy a part of a recording into a new one: among the\n"
+        "                   recordings, or where --out says\n"
         "\n"
         "Options, before the command:\n"
         "  --container DIR  store everything below DIR: recordings, settings, caches.\n"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -27,6 +28,10 @@ struct CommandLine {
         Set,
         /// Print the recordings.
         List,
+        /// Print or draw the waveform of a file.
+        Waveform,
+        /// Cut a file down to a part.
+        Trim,
         Help,
         Version,
     };
@@ -39,16 +44,25 @@ struct CommandLine {
     /// For Get and Set.
     QString key;
     QString value;
-    /// For List.
+    /// For List and Waveform.
     bool json = false;
+    /// For Waveform and Trim: paths as the bytes that were given, which need not be text. The picture or the new file
+    /// is output, empty where none is named.
+    QByteArray file;
+    QByteArray output;
+    /// For Waveform.
+    int points = 1024;
+    /// For Trim. Seconds.
+    double from = 0.0;
+    double to = 0.0;
 };
 
 /// Exit code of a program that was called wrongly.
 inline constexpr int kUsageExitCode = 2;
 
-/// Reads the arguments that follow the program's name. The error is one line for the standard error stream, without the
-/// program's name. Looks at nothing but the arguments.
-Result<CommandLine> parseCommandLine(const QStringList& arguments);
+/// Reads the arguments that follow the program's name, in the encoding of the locale. The error is one line for the
+/// standard error stream, without the program's name. Looks at nothing but the arguments.
+Result<CommandLine> parseCommandLine(const QList<QByteArray>& arguments);
 
 /// For "--help" and "--version"; they end with a line break.
 QString helpText();

@@ -97,6 +97,14 @@ void SettingsStore::setForwardSeconds(double seconds) {
     write(settingskey::kForwardSong, seconds);
 }
 
+double SettingsStore::storedRewindSeconds() const {
+    return m_defaults.objectForKey(settingskey::kRewindSong).toDouble();
+}
+
+double SettingsStore::storedForwardSeconds() const {
+    return m_defaults.objectForKey(settingskey::kForwardSong).toDouble();
+}
+
 bool SettingsStore::isThemeWhite() const {
     return m_defaults.stringForKey(settingskey::kThemeColor) == QLatin1String("WHITE");
 }

@@ -65,6 +65,9 @@ public:
     /// Seconds that the player skips forward: the stored value, or 30 where that is 0 or absent.
     double forwardSeconds() const;
     void setForwardSeconds(double seconds);
+    /// The two as they are stored, 0 where absent.
+    double storedRewindSeconds() const;
+    double storedForwardSeconds() const;
 
     /// Whether the library tints its buttons for a white ground.
     bool isThemeWhite() const;

@@ -2,6 +2,7 @@
 
 #include <QtQml/qqml.h>
 
+#include "library/PlayerPanel.h"
 #include "library/VoiceMemoVC.h"
 
 namespace tavi {
@@ -11,6 +12,13 @@ struct VoiceMemoVCForeign {
     QML_FOREIGN(tavi::VoiceMemoVC)
     QML_NAMED_ELEMENT(VoiceMemoVC)
     QML_UNCREATABLE("The program has one.")
+};
+
+struct PlayerPanelForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::PlayerPanel)
+    QML_NAMED_ELEMENT(PlayerPanel)
+    QML_UNCREATABLE("The library screen has one.")
 };
 
 }  // namespace tavi

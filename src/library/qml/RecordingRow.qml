@@ -4,27 +4,52 @@ import Tavi.Ui
 
 /// One recording: its name, and what is known of it; beside each other where there is room.
 Item {
-    id: row
+    id: root
 
     required property int index
     required property string nameText
     required property string detailText
+    /// The row of the table, which a search may show elsewhere.
+    required property int row
+    required property VoiceMemoVC screen
+    readonly property bool expanded: screen.selectedIndex === row
     readonly property bool wide: width >= 640
 
     width: ListView.view.width
     height: wide ? 56 : 68
     Accessible.role: Accessible.ListItem
     Accessible.name: nameText
-    Accessible.description: detailText
+    Accessible.description: expanded ? detailText + " | " + (screen.player.isPlayerPlaying ? qsTrId("a11y_row_playing") : qsTrId("a11y_row_paused"))
+                                     : detailText
+    Accessible.onPressAction: screen.didSelectRowAtIndexPath(0, row)
 
     Rectangle {
         anchors.fill: parent
         anchors.bottomMargin: 1
-        visible: row.ListView.isCurrentItem && row.ListView.view.activeFocus
-        color: Theme.header
+        readonly property bool marked: root.ListView.isCurrentItem && root.ListView.view.activeFocus
+
+        visible: marked || root.expanded || tap.pressed
+        color: tap.pressed ? Theme.control : Theme.header
         border.color: Theme.focus
-        border.width: 2
-        radius: 8
+        border.width: marked ? 2 : 0
+        radius: marked ? 8 : 0
+    }
+
+    Rectangle {
+        width: 3
+        height: root.height - 1
+        visible: root.expanded
+        color: Theme.accent
+    }
+
+    TapHandler {
+        id: tap
+
+        onTapped: {
+            root.ListView.view.currentIndex = root.index
+            root.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
+            root.screen.didSelectRowAtIndexPath(0, root.row)
+        }
     }
 
     Icon {
@@ -35,17 +60,17 @@ Item {
         width: 40
         height: 40
         name: "music.png"
-        color: Theme.accent
+        color: root.screen.selectRow === root.row ? Theme.text : Theme.accent
     }
 
     Label {
         id: name
 
         x: icon.x + icon.width + 12
-        y: row.wide ? 0 : 13
-        width: (row.wide ? detail.x - 24 : row.width - Theme.margin) - x
-        height: row.wide ? row.height : 22
-        text: row.nameText
+        y: root.wide ? 0 : 13
+        width: (root.wide ? detail.x - 24 : root.width - Theme.margin) - x
+        height: root.wide ? root.height : 22
+        text: root.nameText
         color: Theme.lightGrey
         font.pixelSize: 15
         elide: Text.ElideMiddle
@@ -56,21 +81,21 @@ Item {
     Label {
         id: detail
 
-        x: row.wide ? row.width - width - Theme.margin : name.x
-        y: row.wide ? 0 : 36
-        width: row.wide ? 300 : name.width
-        height: row.wide ? row.height : 18
-        text: row.detailText
+        x: root.wide ? root.width - width - Theme.margin : name.x
+        y: root.wide ? 0 : 36
+        width: root.wide ? 300 : name.width
+        height: root.wide ? root.height : 18
+        text: root.detailText
         font.pixelSize: 13
         elide: Text.ElideRight
         maximumLineCount: 1
-        horizontalAlignment: row.wide ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: root.wide ? Text.AlignRight : Text.AlignLeft
     }
 
     Rectangle {
         x: name.x
-        y: row.height - 1
-        width: row.width - x
+        y: root.height - 1
+        width: root.width - x
         height: 1
         color: Theme.hairline
     }

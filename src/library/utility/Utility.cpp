@@ -32,9 +32,13 @@ Color Utility::getColor(const QString& hex) {
     return Color{part(0), part(2), part(4), 1.0};
 }
 
+double Utility::megabytes(qint64 bytes) {
+    return static_cast<double>(bytes) * kMegabytesPerByte;
+}
+
 double Utility::getFileSize(const QByteArray& path) {
     const auto attributes = attributesOf(path);
-    return attributes ? static_cast<double>(attributes->st_size) * kMegabytesPerByte : 0.0;
+    return attributes ? megabytes(attributes->st_size) : 0.0;
 }
 
 double Utility::getFileSize(const QString& path) {

@@ -24,6 +24,8 @@ public:
 
     /// The colour of six hexadecimal digits: red, green, blue, without "#". A part that is no such number counts as 0.
     static Color getColor(const QString& hex);
+    /// Megabytes of 2^20 bytes.
+    static double megabytes(qint64 bytes);
     /// Size of the item at the path in megabytes of 2^20 bytes; 0 when it cannot be read.
     static double getFileSize(const QByteArray& path);
     static double getFileSize(const QString& path);

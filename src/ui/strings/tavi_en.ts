@@ -344,5 +344,85 @@
         <source></source>
         <translation>Sorts the recordings; again turns the order round</translation>
     </message>
+    <message id="library_search">
+        <source></source>
+        <translation>Find recordings</translation>
+    </message>
+    <message id="library_search_none">
+        <source></source>
+        <translation>No recording has this in its name</translation>
+    </message>
+    <message id="player_nothing">
+        <source></source>
+        <translation>Choose a recording to play it</translation>
+    </message>
+    <message id="player_nothing_hint">
+        <source></source>
+        <translation>It plays here, with its waveform, at the speed you like.</translation>
+    </message>
+    <message id="player_unplayable">
+        <source></source>
+        <translation>This file cannot be played</translation>
+    </message>
+    <message id="a11y_play">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="a11y_stop_playing">
+        <source></source>
+        <translation>Stop playing</translation>
+    </message>
+    <message id="a11y_skip_back">
+        <source></source>
+        <translation>Skip back, %1</translation>
+    </message>
+    <message id="a11y_skip_forward">
+        <source></source>
+        <translation>Skip forward, %1</translation>
+    </message>
+    <message id="a11y_slow">
+        <source></source>
+        <translation>Half speed</translation>
+    </message>
+    <message id="a11y_normal">
+        <source></source>
+        <translation>Normal speed</translation>
+    </message>
+    <message id="a11y_fast">
+        <source></source>
+        <translation>Double speed</translation>
+    </message>
+    <message id="a11y_to_earpiece">
+        <source></source>
+        <translation>Send the sound to the earpiece</translation>
+    </message>
+    <message id="a11y_to_speaker">
+        <source></source>
+        <translation>Send the sound to the loudspeaker</translation>
+    </message>
+    <message id="a11y_position">
+        <source></source>
+        <translation>Position</translation>
+    </message>
+    <message id="a11y_position_value">
+        <source></source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="a11y_close_player">
+        <source></source>
+        <translation>Close the player</translation>
+    </message>
+    <message id="a11y_clear_search">
+        <source></source>
+        <translation>Clear the search</translation>
+    </message>
+    <message id="a11y_row_playing">
+        <source></source>
+        <translation>playing</translation>
+    </message>
+    <message id="a11y_row_paused">
+        <source></source>
+        <translation>paused</translation>
+    </message>
 </context>
 </TS>

@@ -19,6 +19,7 @@ public:
     void removeServer() {
         m_session.inputAvailable = false;
         m_session.categoryResult = failure(QStringLiteral("no server"));
+        m_session.route = failure(QStringLiteral("no server"));
     }
     void answerQuestions() { m_session.answer(true); }
 
@@ -71,6 +72,19 @@ TYPED_TEST(AudioSessionContract, RecordsWithAMicrophone) {
     EXPECT_TRUE(this->setCategory());
 }
 
+TYPED_TEST(AudioSessionContract, ADeviceWithoutAChoiceKeepsItsRoute) {
+    AudioSession& session = this->m_world.session();
+    ASSERT_TRUE(this->ask());
+    ASSERT_TRUE(session.setCategory(AudioSession::Category::PlayAndRecord, AudioSession::CategoryOption::None));
+    const Result<QString> route = session.currentRoute();
+    ASSERT_TRUE(route);
+    EXPECT_FALSE(route->isEmpty());
+    for (const auto port : {AudioSession::PortOverride::None, AudioSession::PortOverride::Speaker}) {
+        EXPECT_TRUE(session.overrideOutputAudioPort(port));
+        EXPECT_EQ(session.currentRoute().value_or(QString()), *route);
+    }
+}
+
 TYPED_TEST(AudioSessionContract, NobodyRefusesWithoutAServer) {
     this->m_world.removeServer();
     EXPECT_TRUE(this->ask());
@@ -78,6 +92,8 @@ TYPED_TEST(AudioSessionContract, NobodyRefusesWithoutAServer) {
     const Result<void> category = this->setCategory();
     ASSERT_FALSE(category);
     EXPECT_FALSE(category.error().text.isEmpty());
+    EXPECT_FALSE(this->m_world.session().currentRoute());
+    EXPECT_FALSE(this->m_world.session().overrideOutputAudioPort(AudioSession::PortOverride::Speaker));
 }
 
 }  // namespace

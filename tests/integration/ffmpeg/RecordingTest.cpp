@@ -68,6 +68,21 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
     }
 }
 
+TEST_F(RecordingTest, SixteenBitPcmIsRecordedAtElevenKilohertz) {
+    const Type type{"wav", kAudioFormatLinearPCM, "pcm_s16le", "wav", 1, 0, 0.1};
+    AudioRecordSettings settings = settingsFor(type, {11025, 1, 127});
+    settings.linearPCMBitDepth = 16;
+    const auto writer = begin(pathFor(type), settings);
+    ASSERT_TRUE(writer && writeBlocks(*writer, tone(kStereo, 96000, false, 440), 2) && writer->finish());
+    const auto sound = decodeSound(pathFor(type));
+    ASSERT_TRUE(sound);
+    EXPECT_EQ(sound->codec, type.codec);
+    EXPECT_EQ(sound->rate, 11025);
+    EXPECT_NEAR(static_cast<double>(sound->frames()), 22050, 1);
+    EXPECT_NEAR(levelOf(middleOf(sound->planes[0])), 20 * std::log10(0.5 / std::sqrt(2.0)), type.decibels);
+    EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 440, 1);
+}
+
 TEST_F(RecordingTest, SeekingInAFinishedFileLeadsToTheSoundThatBelongsThere) {
     std::vector<float> noise(200000);
     std::mt19937 random(5);

@@ -7,7 +7,13 @@
 #include <fstream>
 #include <map>
 
+#include "library/PlayerRules.h"
+#include "support/FakeAudioConverter.h"
+#include "support/FakeAudioPlayer.h"
+#include "support/FakeDisplayRefresh.h"
+#include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
+#include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
 
 namespace tavi::test {
@@ -50,9 +56,32 @@ protected:
     TemporaryContainer container;
     FakeUserDefaults defaults;
     SettingsStore settings{defaults};
+    /// A screen with all that it needs.
+    struct Library {
+        explicit Library(VoiceMemoVCTest& test, const AudioDuration& lengths)
+            : lister(lengths, test.runLoop),
+              waveforms({test.files, test.converters, test.runLoop}),
+              player({test.players, test.session, test.remote, test.settings, test.runLoop, waveforms, test.refreshes}),
+              vc({test.settings, test.container, test.notifications, lister, test.remote}, player) {}
+
+        RecordingLister lister;
+        WaveformLoader waveforms;
+        PlayerPanel player;
+        VoiceMemoVC vc;
+    };
+
+    ManualRunLoop runLoop;
+    FakeAudioSession session;
+    FakeAudioPlayers players{runLoop};
+    FakeRemoteControl remote;
     FakeAudioDuration durations;
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    FakeDisplayRefreshes refreshes;
     NotificationCenter notifications;
-    VoiceMemoVC vc{{settings, container, durations, notifications}};
+    Library library{*this, durations};
+    VoiceMemoVC& vc = library.vc;
+    PlayerPanel& player = library.player;
 };
 
 TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
@@ -93,7 +122,8 @@ TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
     const std::string path = container.documentsPath().toStdString() + "/x\xff.m4a";
     std::ofstream(path) << "12345";
     const SizeInsteadOfDuration sizes;
-    VoiceMemoVC screen{{settings, container, sizes, notifications}};
+    Library other(*this, sizes);
+    VoiceMemoVC& screen = other.vc;
     screen.getAlltheFiles();
     EXPECT_TRUE(std::filesystem::remove(path));
     ASSERT_EQ(screen.arrRecordings().size(), 1U);
@@ -146,7 +176,8 @@ TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyAndStoresNothing) {
     }
     for (const int code : {0, 7, -1}) {
         defaults.setObject(code, settingskey::kSort);
-        VoiceMemoVC fresh{{settings, container, durations, notifications}};
+        Library other(*this, durations);
+        VoiceMemoVC& fresh = other.vc;
         fresh.getAlltheFiles();
         EXPECT_EQ(fresh.numberOfRowsInSection(0), 3);
         EXPECT_FALSE(fresh.btnSortName().selected || fresh.btnSortDate().selected || fresh.btnSortSize().selected);
@@ -203,6 +234,222 @@ TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndLeavesAnUnchangedTableAlone) {
     notifications.postNotification(kDataUpdatedNotification);
     EXPECT_THAT(names(), UnorderedElementsAre("a.m4a", "b.m4a"));
     EXPECT_EQ(resets, 1);
+}
+
+TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
+    for (int i = 0; i < 100; ++i) {
+        const QByteArray name = QByteArray::number(i) + ".m4a";
+        add(name.constData(), 1000 + i);
+        durations.seconds[QString::fromLatin1(name)] = 60.0 + i;
+    }
+    const auto open = [this] {
+        return std::count_if(vc.arrRecordings().begin(), vc.arrRecordings().end(), [](const auto& entry) {
+            return entry.value(entrykey::kDuration) == QLatin1String("--:--");
+        });
+    };
+    vc.viewDidLoad();
+    vc.viewWillAppear();
+    EXPECT_EQ(vc.numberOfRowsInSection(0), 100);
+    EXPECT_EQ(open(), 100);
+    vc.setSearchText(QStringLiteral("9.M4"));
+    EXPECT_EQ(names().size(), 10U);
+    runLoop.drain();
+    EXPECT_EQ(open(), 0);
+    for (int row = 0; row < vc.tableView()->rowCount(); ++row) {
+        const std::string seconds = text(row, RecordingListModel::DetailTextRole).substr(7, 5);
+        const int number = std::stoi(text(row, RecordingListModel::NameTextRole));
+        EXPECT_EQ(seconds, playerrules::timeText(60.0 + number).toStdString());
+    }
+    // Whoever asks for the list itself gets it whole.
+    Library fresh(*this, durations);
+    fresh.vc.viewDidLoad();
+    fresh.vc.getAlltheFiles();
+    EXPECT_EQ(fresh.vc.arrRecordings()[0].value(entrykey::kDuration).left(2), QStringLiteral("01"));
+}
+
+/// Two recordings, a.m4a of 40 s and b.m4a of 3725 s, in this order.
+class PlayingTest : public VoiceMemoVCTest {
+protected:
+    PlayingTest() {
+        add("a.m4a", 1000);
+        add("b.m4a", 2000);
+        add("text.txt", 3000);
+        players.seconds = {{"a.m4a", 40.0}, {"b.m4a", 3725.0}};
+        defaults.setObject(2, settingskey::kSort);
+        // Without the cloud's list the row's own recording is what plays.
+        settings.setCloudSyncOn(true);
+        vc.viewDidLoad();
+        vc.viewWillAppear();
+    }
+
+    void expectPlaying(int row, const char* file, bool isHeard) {
+        EXPECT_EQ(vc.selectedIndex(), row);
+        EXPECT_EQ(vc.playingName(), QLatin1String(file));
+        EXPECT_TRUE(vc.isPlaying());
+        EXPECT_EQ(player.isPlayerPlaying(), isHeard);
+        EXPECT_EQ(player.btnplaypuas().image,
+                  isHeard ? QStringLiteral("pause_Player.png") : QStringLiteral("play_player.png"));
+        EXPECT_EQ(remote.info.playbackState,
+                  isHeard ? NowPlayingInfo::PlaybackState::Playing : NowPlayingInfo::PlaybackState::Paused);
+    }
+};
+
+TEST_F(PlayingTest, rowsOpenAndCloseThePlayer) {
+    vc.didSelectRowAtIndexPath(0, 1);
+    expectPlaying(1, "b.m4a", true);
+    EXPECT_TRUE(vc.isPanelShown() && remote.isReceiving);
+    EXPECT_EQ(vc.section(), QStringLiteral("0"));
+    runLoop.advance(61.5);
+    EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("01:01"));
+    EXPECT_EQ(player.lblSongMaxTime().text, QStringLiteral("62:05"));
+    EXPECT_NEAR(player.slider_player().value, 61.5, 0.02);
+
+    // Sorting takes the open row along.
+    QObject button;
+    vc.sortByName(&button);
+    expectPlaying(0 + 1, "b.m4a", true);
+    EXPECT_EQ(vc.selectRow(), 1);
+
+    vc.didSelectRowAtIndexPath(0, 2);
+    expectPlaying(2, "a.m4a", true);
+    EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("00:00"));
+    vc.didSelectRowAtIndexPath(0, 2);
+    EXPECT_EQ(vc.selectedIndex(), -1);
+    EXPECT_EQ(vc.selectRow(), VoiceMemoVC::kNoRow);
+    EXPECT_FALSE(vc.isPlaying() || vc.isPanelShown() || player.hasPlayer() || remote.isReceiving);
+
+    // What is no recording opens a panel without sound.
+    vc.didSelectRowAtIndexPath(0, 0);
+    EXPECT_TRUE(vc.isPanelShown());
+    EXPECT_FALSE(player.hasPlayer());
+    player.forwardSkip();
+    player.progressSliderMoved(1.0);
+    vc.playAudio(0, true);
+    vc.playerClose();
+    EXPECT_FALSE(vc.isPanelShown());
+}
+
+TEST_F(PlayingTest, theEndCollapsesTheRowAndKeepsThePlayer) {
+    vc.didSelectRowAtIndexPath(0, 0);
+    runLoop.advance(40.5);
+    EXPECT_EQ(vc.selectedIndex(), -1);
+    EXPECT_TRUE(vc.isPlaying() && vc.isPanelShown());
+    EXPECT_FALSE(player.btnplaypuas().selected || player.btnPlay().selected);
+    EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("00:40"));
+    vc.playAudio(-1, false);
+    EXPECT_TRUE(player.isPlayerPlaying());
+    EXPECT_LT(player.currentTime(), 1.0);
+    // Appearing again collapses the row; the sound goes on.
+    vc.viewWillAppear();
+    EXPECT_TRUE(player.isPlayerPlaying());
+}
+
+TEST_F(PlayingTest, aHundredLoadsMakeOneTickAndNoneWhilePaused) {
+    for (int i = 0; i < 50; ++i) {
+        vc.didSelectRowAtIndexPath(0, 0);
+        vc.didSelectRowAtIndexPath(0, 0);
+    }
+    EXPECT_EQ(player.updateTimers(), 100);
+    EXPECT_EQ(runLoop.activeTimers(), 0U);
+    vc.didSelectRowAtIndexPath(0, 0);
+    EXPECT_EQ(runLoop.activeTimers(), 2U) << "the tick and the fake player's end";
+    vc.playAudio(0, player.btnPlay().selected);
+    EXPECT_EQ(runLoop.activeTimers(), 0U);
+}
+
+TEST_F(PlayingTest, skipsGoByTheirStepsOrNotAtAll) {
+    const struct {
+        double rewind, forward, from, back, ahead;
+        const char* backLabel;
+        const char* forwardLabel;
+    } rows[] = {{0, 0, 5, 5, 35, "10 Sec", "30 Sec"},
+                {0, 15, 25, 15, 40, "10 Sec", "30 Sec"},
+                {0, 0, 25, 15, 25, "10 Sec", "30 Sec"},
+                {2.5, 15, 20, 17.5, 35, "2 Sec", "15 Sec"},
+                {20, 0, 10, 10, 40, "20 Sec", "0 Sec"}};
+    for (const auto& row : rows) {
+        defaults.setObject(row.rewind, settingskey::kRewindSong);
+        defaults.setObject(row.forward, settingskey::kForwardSong);
+        vc.didSelectRowAtIndexPath(0, 0);
+        vc.playAudio(0, true);
+        EXPECT_EQ(player.lblBackwardSec().text, QLatin1String(row.backLabel));
+        EXPECT_EQ(player.lblForwardSec().text, QLatin1String(row.forwardLabel));
+        player.progressSliderMoved(row.from);
+        player.backSkip();
+        EXPECT_EQ(player.slider_player().value, row.back);
+        player.progressSliderMoved(row.from);
+        player.forwardSkip();
+        EXPECT_EQ(player.currentTime(), row.ahead);
+        EXPECT_EQ(player.lblSongMinTime().text, playerrules::timeText(row.ahead));
+        vc.stopAudio();
+    }
+}
+
+TEST_F(PlayingTest, speedsToggleAndExcludeEachOther) {
+    vc.didSelectRowAtIndexPath(0, 0);
+    QObject button;
+    const auto states = [this] {
+        return std::string() + (player.btnSlow().selected ? 's' : '-') + (player.btnMedium().selected ? 'm' : '-') +
+               (player.btnFastPlay().selected ? 'f' : '-') + std::to_string(players.last()->rate()).substr(0, 3);
+    };
+    const struct {
+        void (PlayerPanel::*tap)(QObject*);
+        const char* after;
+    } taps[] = {{&PlayerPanel::fastAudio, "--f2.0"},   {&PlayerPanel::fastAudio, "---1.0"},
+                {&PlayerPanel::slowAudio, "s--0.5"},   {&PlayerPanel::mediumAudio, "-m-1.0"},
+                {&PlayerPanel::mediumAudio, "---1.0"}, {&PlayerPanel::fastAudio, "--f2.0"}};
+    for (const auto& [tap, after] : taps) {
+        (player.*tap)(&button);
+        EXPECT_EQ(states(), after);
+    }
+    remote.send(RemoteControlEvent::Subtype::SetRate, 0.5);
+    EXPECT_EQ(states(), "s--0.5");
+    EXPECT_EQ(remote.info.playbackRate, 0.5);
+}
+
+TEST_F(PlayingTest, theDesktopsControlsDoWhatTheButtonsDo) {
+    using Subtype = RemoteControlEvent::Subtype;
+    vc.didSelectRowAtIndexPath(0, 0);
+    EXPECT_EQ(remote.info.title, QStringLiteral("a.m4a"));
+    EXPECT_EQ(remote.info.playbackDuration, 40.0);
+    remote.send(Subtype::Play);
+    expectPlaying(0, "a.m4a", true);
+    remote.send(Subtype::Pause);
+    remote.send(Subtype::Pause);
+    expectPlaying(0, "a.m4a", false);
+    remote.send(Subtype::SetPosition, 25.0);
+    remote.send(Subtype::SkipBackward);
+    remote.send(Subtype::Seek, -5.0);
+    EXPECT_EQ(player.currentTime(), 10.0);
+    EXPECT_EQ(remote.jumps, 3);
+    remote.send(Subtype::TogglePlayPause);
+    expectPlaying(0, "a.m4a", true);
+    remote.send(Subtype::Stop);
+    EXPECT_FALSE(vc.isPlaying() || remote.isReceiving);
+}
+
+TEST_F(PlayingTest, theRouteButtonTurnsBetweenEarpieceAndSpeaker) {
+    using Override = AudioSession::PortOverride;
+    const std::pair<const char*, Override> presses[] = {
+        {"speaker.png", Override::None}, {"headset.png", Override::Speaker}, {"speaker.png", Override::None}};
+    for (const auto& [image, override] : presses) {
+        player.playerSpeaker();
+        EXPECT_EQ(player.speakerButton().image, QLatin1String(image));
+        EXPECT_EQ(session.overrides.back(), override);
+        EXPECT_EQ(player.ishandset(), override == Override::None);
+    }
+    session.route = QStringLiteral("Headphones");
+    EXPECT_TRUE(player.isHeadsetPluggedIn());
+    session.route = QStringLiteral("Speaker");
+    EXPECT_FALSE(player.isHeadsetPluggedIn());
+}
+
+TEST_F(PlayingTest, theCloudSettingChoosesTheListThatPlays) {
+    // Off, the cloud's list is asked, which has no such row: what the row has loaded stays and plays.
+    settings.setCloudSyncOn(false);
+    vc.didSelectRowAtIndexPath(0, 1);
+    expectPlaying(1, "b.m4a", true);
+    EXPECT_EQ(player.updateTimers(), 1);
 }
 
 }  // namespace

@@ -8,8 +8,10 @@ namespace {
 
 using Command = CommandLine::Command;
 
-QStringList words(const char* line) {
-    return QString::fromUtf8(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+QList<QByteArray> words(const char* line) {
+    QList<QByteArray> words = QByteArray(line).split('|');
+    words.removeAll(QByteArray());
+    return words;
 }
 
 TEST(CommandLine, UnderstandsEveryCommand) {
@@ -51,7 +53,21 @@ TEST(CommandLine, UnderstandsEveryCommand) {
         EXPECT_EQ(QUrl::toStringList(line->urls).join(QLatin1Char(' ')), QLatin1String(test.urls));
         EXPECT_EQ(line->json, test.json);
     }
-    EXPECT_EQ(parseCommandLine({QStringLiteral("set"), QStringLiteral("k"), QString()})->value, QString());
+    EXPECT_EQ(parseCommandLine({"set", "k", ""})->value, QString());
+}
+
+TEST(CommandLine, ReadsWhatIsDoneWithAFile) {
+    const auto wave = parseCommandLine(words("--container|d|waveform|--points|7|a\xff b.wav|--png|out.png"));
+    ASSERT_TRUE(wave.has_value());
+    EXPECT_EQ(wave->command, Command::Waveform);
+    EXPECT_EQ(wave->file, "a\xff b.wav");
+    EXPECT_EQ(wave->output, "out.png");
+    EXPECT_EQ(wave->points, 7);
+    const auto trim = parseCommandLine(words("trim|--to|2.5|--from|0.25|--|-x.m4a"));
+    ASSERT_TRUE(trim.has_value());
+    EXPECT_EQ(trim->file, "-x.m4a");
+    EXPECT_EQ(trim->from, 0.25);
+    EXPECT_EQ(trim->to, 2.5);
 }
 
 TEST(CommandLine, SaysWhatIsWrong) {
@@ -69,6 +85,14 @@ TEST(CommandLine, SaysWhatIsWrong) {
         {"set|key", "“set” needs the key of a setting and its value"},
         {"set|key|value|more", "“set” does not take “more”"},
         {"list|--xml", "“list” does not take “--xml”"},
+        {"waveform", "“waveform” needs a file"},
+        {"waveform|a|b", "“waveform” does not take “b”"},
+        {"waveform|a|--from|1", "“waveform” does not take “--from”"},
+        {"waveform|a|--points|0", "--points needs a number from 1 to 8192, not “0”"},
+        {"waveform|a|--json|--png|b", "“waveform” prints or draws, not both"},
+        {"trim|a|--from|1", "“trim” needs --from and --to"},
+        {"trim|a|--from|x|--to|2", "--from needs a number from 0 to 1e+09, not “x”"},
+        {"trim|a|--from|1|--to", "--to needs a value"},
         {"import|a.wav", "files cannot be imported from the command line"},
         {"file:///tmp/a.wav", "files cannot be imported from the command line: “file:///tmp/a.wav”"},
         {"music/a.wav", "files cannot be imported from the command line: “music/a.wav”"},
@@ -82,7 +106,7 @@ TEST(CommandLine, SaysWhatIsWrong) {
         ASSERT_FALSE(line.has_value());
         EXPECT_EQ(line.error().text.toStdString(), test.error);
     }
-    EXPECT_FALSE(parseCommandLine({QStringLiteral("get"), QString()}).has_value());
+    EXPECT_FALSE(parseCommandLine({"get", ""}).has_value());
 }
 
 }  // namespace

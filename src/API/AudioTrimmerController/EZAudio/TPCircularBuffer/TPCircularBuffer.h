@@ -52,6 +52,12 @@ void TPCircularBufferClear(TPCircularBuffer* buffer);
 
 namespace detail {
 
+/// (offset + count) mod length. Most steps wrap nothing, and a division costs as much as copying a small block.
+inline std::int32_t advanced(std::int32_t offset, std::int32_t count, std::int32_t length) {
+    const std::int32_t sum = offset + count;
+    return sum >= 0 && sum < length ? sum : sum % length;
+}
+
 inline std::int32_t addToFillCount(TPCircularBuffer* buffer, std::int32_t count) {
     if (buffer->atomic) {
         return std::atomic_ref(buffer->fillCount).fetch_add(count, std::memory_order_seq_cst) + count;
@@ -74,7 +80,7 @@ inline void* TPCircularBufferHead(TPCircularBuffer* buffer, std::int32_t* availa
 
 /// Hands count bytes written at the head to the consumer. Producer side.
 inline void TPCircularBufferProduce(TPCircularBuffer* buffer, std::int32_t count) {
-    buffer->head = (buffer->head + count) % buffer->length;
+    buffer->head = detail::advanced(buffer->head, count, buffer->length);
     if (detail::addToFillCount(buffer, count) > buffer->length) {
         TPCircularBufferAssertionFailed("buffer->fillCount <= buffer->length", "TPCircularBufferProduce",
                                         "TPCircularBuffer.h", 145);
@@ -89,7 +95,7 @@ inline void* TPCircularBufferTail(TPCircularBuffer* buffer, std::int32_t* availa
 
 /// Gives count bytes read at the tail back to the producer. Consumer side.
 inline void TPCircularBufferConsume(TPCircularBuffer* buffer, std::int32_t count) {
-    buffer->tail = (buffer->tail + count) % buffer->length;
+    buffer->tail = detail::advanced(buffer->tail, count, buffer->length);
     if (detail::addToFillCount(buffer, -count) < 0) {
         TPCircularBufferAssertionFailed("buffer->fillCount >= 0", "TPCircularBufferConsume", "TPCircularBuffer.h", 109);
     }

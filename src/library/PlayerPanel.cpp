@@ -1,0 +1,310 @@
+#include "library/PlayerPanel.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QPointer>
+#include <algorithm>
+#include <array>
+
+#include "library/PlayerRules.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr double kTick = 0.01;
+constexpr float kSlow = 0.5F;
+constexpr float kNormal = 1.0F;
+constexpr float kFast = 2.0F;
+
+const auto kNoTime = QStringLiteral("00:00");
+const auto kPlayImage = QStringLiteral("play_player.png");
+const auto kPauseImage = QStringLiteral("pause_Player.png");
+const auto kEarpieceIsNext = QStringLiteral("headset.png");
+const auto kSpeakerIsNext = QStringLiteral("speaker.png");
+const auto kAccent = QStringLiteral("#c8252c");
+
+}  // namespace
+
+PlayerPanel::PlayerPanel(const Services& services, QObject* parent)
+    : QObject(parent), m_services(services), m_audioPlot(EZAudioPlot::init(services.refreshes)) {
+    m_audioPlot->setShouldOptimizeForRealtimePlot(false);
+    m_audioPlot->setShouldFill(true);
+    m_audioPlot->setShouldMirror(true);
+    m_audioPlot->setColor(kAccent);
+    m_lblSongMinTime.text = kNoTime;
+    m_lblSongMaxTime.text = kNoTime;
+    m_btnPlay.image = m_btnplaypuas.image = kPlayImage;
+    m_speakerButton.image = kEarpieceIsNext;
+}
+
+PlayerPanel::~PlayerPanel() {
+    if (m_tick) {
+        m_tick->invalidate();
+    }
+}
+
+double PlayerPanel::currentTime() const {
+    return m_avPlayer ? m_avPlayer->currentTime() : 0.0;
+}
+
+void PlayerPanel::prepareForRow() {
+    const double rewind = m_services.settings.storedRewindSeconds();
+    const double forward = m_services.settings.storedForwardSeconds();
+    m_lblBackwardSec.text = playerrules::backLabel(rewind);
+    m_lblForwardSec.text = playerrules::forwardLabel(rewind, forward);
+    m_btnSlow.selected = m_btnMedium.selected = m_btnFastPlay.selected = false;
+    changed();
+}
+
+void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
+    if (isPlayerPlaying()) {
+        m_avPlayer->stop();
+    }
+    // A file that has just been loaded, and not been touched since, need not be opened twice.
+    if (!m_avPlayer || m_urlPath != path || m_avPlayer->currentTime() > 0.0) {
+        m_avPlayer.reset();
+        if (auto player = m_services.players.playerWithContentsOfURL(path)) {
+            m_avPlayer = std::move(*player);
+        }
+        m_urlPath = path;
+        Q_EMIT urlPathChanged();
+        showWaveform();
+    }
+    // Without a sound system there is nothing to hear; the player says so itself when it is told to play.
+    static_cast<void>(
+        m_services.session.setCategory(AudioSession::Category::Playback, AudioSession::CategoryOption::None));
+    static_cast<void>(m_services.session.setActive(true));
+    if (m_avPlayer) {
+        m_services.remoteControl.beginReceivingRemoteControlEvents();
+        m_avPlayer->setDelegate(this);
+        m_avPlayer->setEnableRate(true);
+        m_avPlayer->setMeteringEnabled(true);
+    }
+    ++m_updateTimers;
+    m_slider_player = {0.0, m_avPlayer ? m_avPlayer->duration() : 0.0};
+    m_lblSongMaxTime.text = playerrules::timeText(m_slider_player.maximumValue);
+    Q_EMIT progressChanged();
+    changed();
+}
+
+void PlayerPanel::showWaveform() {
+    constexpr quint32 kFlat = 2;
+    constexpr float kNearlyFull = 0.95F;
+    constexpr std::array<float, kFlat> kSilence{};
+    m_audioPlot->updateBuffer(kSilence.data(), kFlat);
+    if (!m_avPlayer) {
+        m_services.waveforms.cancel();
+        return;
+    }
+    m_services.waveforms.load(m_urlPath, [self = QPointer(this)](const std::vector<float>& points) {
+        if (self && !points.empty()) {
+            // Voices are far below full scale; the loudest place nearly fills the slider.
+            const float loudest = *std::max_element(points.begin(), points.end());
+            self->m_audioPlot->setGain(loudest > 0.0F ? kNearlyFull / loudest : 1.0F);
+            self->m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
+        }
+    });
+}
+
+void PlayerPanel::playOrPause(bool wasSelected) {
+    if (isPlayerPlaying()) {
+        m_avPlayer->pause();
+    } else if (m_avPlayer) {
+        m_avPlayer->setDelegate(this);
+        m_avPlayer->prepareToPlay();
+        m_avPlayer->play();
+    }
+    m_btnplaypuas.selected = !wasSelected;
+    changed();
+}
+
+void PlayerPanel::setBtnPlaySelected(bool selected) {
+    m_btnPlay.selected = selected;
+    changed();
+}
+
+void PlayerPanel::drop() {
+    m_lblSongMinTime.text = kNoTime;
+    m_slider_player.value = 0.0;
+    if (m_avPlayer) {
+        m_avPlayer->pause();
+        m_avPlayer->stop();
+        m_avPlayer.reset();
+    }
+    m_urlPath.clear();
+    Q_EMIT urlPathChanged();
+    m_services.waveforms.cancel();
+    m_services.remoteControl.endReceivingRemoteControlEvents();
+    Q_EMIT progressChanged();
+    changed();
+}
+
+void PlayerPanel::showEnd() {
+    m_btnplaypuas.selected = false;
+    changed();
+}
+
+void PlayerPanel::updateCurrentTime() {
+    if (isPlayerPlaying()) {
+        showProgress();
+    }
+}
+
+void PlayerPanel::showProgress() {
+    const double now = currentTime();
+    m_slider_player.value = now;
+    playerTimeDelegate(playerrules::timeText(now), playerrules::timeText(m_avPlayer ? m_avPlayer->duration() : 0.0));
+}
+
+void PlayerPanel::playerTimeDelegate(const QString& elapsed, const QString& total) {
+    m_lblSongMinTime.text = elapsed;
+    m_lblSongMaxTime.text = total;
+    if (elapsed == total && m_btnPlay.selected) {
+        setBtnPlaySelected(false);
+    }
+    Q_EMIT progressChanged();
+}
+
+void PlayerPanel::goTo(double seconds) {
+    if (m_avPlayer) {
+        m_avPlayer->setCurrentTime(seconds);
+        m_services.remoteControl.currentTimeDidJump();
+        showProgress();
+    }
+}
+
+void PlayerPanel::progressSliderMoved(double value) {
+    goTo(value);
+}
+
+void PlayerPanel::backSkip() {
+    const float step = playerrules::backStep(m_services.settings.storedRewindSeconds());
+    if (const auto target = playerrules::backTarget(currentTime(), step)) {
+        goTo(*target);
+    }
+}
+
+void PlayerPanel::forwardSkip() {
+    const float step = playerrules::forwardStep(m_services.settings.storedForwardSeconds());
+    const double duration = m_avPlayer ? m_avPlayer->duration() : 0.0;
+    if (const auto target = playerrules::forwardTarget(currentTime(), duration, step)) {
+        goTo(*target);
+    }
+}
+
+void PlayerPanel::toggleSpeed(ButtonOutlet& button, float rate) {
+    const bool isOn = !button.selected;
+    m_btnSlow.selected = m_btnMedium.selected = m_btnFastPlay.selected = false;
+    button.selected = isOn;
+    if (m_avPlayer) {
+        m_avPlayer->setRate(isOn ? rate : kNormal);
+    }
+    changed();
+}
+
+void PlayerPanel::slowAudio(QObject* sender) {
+    if (sender) {
+        toggleSpeed(m_btnSlow, kSlow);
+    } else {
+        applyRate(kSlow);
+    }
+}
+
+void PlayerPanel::mediumAudio(QObject* sender) {
+    if (sender) {
+        toggleSpeed(m_btnMedium, kNormal);
+    } else {
+        applyRate(kNormal);
+    }
+}
+
+void PlayerPanel::fastAudio(QObject* sender) {
+    if (sender) {
+        toggleSpeed(m_btnFastPlay, kFast);
+    } else {
+        applyRate(kFast);
+    }
+}
+
+void PlayerPanel::applyRate(float rate) {
+    if (m_avPlayer) {
+        m_avPlayer->setRate(rate);
+    }
+    changed();
+}
+
+void PlayerPanel::setRate(double rate) {
+    const auto value = static_cast<float>(rate);
+    m_btnSlow.selected = value == kSlow;
+    m_btnMedium.selected = false;
+    m_btnFastPlay.selected = value == kFast;
+    applyRate(value);
+}
+
+void PlayerPanel::slower() {
+    if (m_avPlayer) {
+        setRate(static_cast<double>(m_avPlayer->rate() > kNormal ? kNormal : kSlow));
+    }
+}
+
+void PlayerPanel::faster() {
+    if (m_avPlayer) {
+        setRate(static_cast<double>(m_avPlayer->rate() < kNormal ? kNormal : kFast));
+    }
+}
+
+void PlayerPanel::playerSpeaker() {
+    m_speakerButton.image = m_ishandset ? kEarpieceIsNext : kSpeakerIsNext;
+    m_speakerButton.tintColor = kAccent;
+    static_cast<void>(
+        m_services.session.setCategory(AudioSession::Category::PlayAndRecord, AudioSession::CategoryOption::None));
+    static_cast<void>(m_services.session.overrideOutputAudioPort(m_ishandset ? AudioSession::PortOverride::Speaker
+                                                                             : AudioSession::PortOverride::None));
+    m_ishandset = !m_ishandset;
+    Q_EMIT outletsChanged();
+}
+
+bool PlayerPanel::isHeadsetPluggedIn() const {
+    const auto route = m_services.session.currentRoute();
+    return route && route->contains(QLatin1String("Head"));
+}
+
+void PlayerPanel::audioPlayerDidFinishPlaying(AudioPlayer& /*player*/, bool successfully) {
+    if (successfully) {
+        showProgress();
+    }
+    changed();
+    Q_EMIT finished();
+}
+
+void PlayerPanel::runTick() {
+    if (isPlayerPlaying() && !m_tick) {
+        m_tick = m_services.runLoop.scheduledTimer(kTick, true, [self = QPointer(this)] {
+            if (self) {
+                self->updateCurrentTime();
+            }
+        });
+    } else if (!isPlayerPlaying() && m_tick) {
+        m_tick->invalidate();
+        m_tick.reset();
+    }
+}
+
+void PlayerPanel::changed() {
+    const bool isPlaying = isPlayerPlaying();
+    m_btnPlay.image = m_btnplaypuas.image = isPlaying ? kPauseImage : kPlayImage;
+    runTick();
+    if (m_avPlayer) {
+        NowPlayingInfo info;
+        info.identifier = QString::fromLatin1(QCryptographicHash::hash(m_urlPath, QCryptographicHash::Sha1).toHex());
+        info.title = QFile::decodeName(m_urlPath.mid(m_urlPath.lastIndexOf('/') + 1));
+        info.playbackDuration = m_avPlayer->duration();
+        info.playbackState = isPlaying ? NowPlayingInfo::PlaybackState::Playing : NowPlayingInfo::PlaybackState::Paused;
+        info.playbackRate = static_cast<double>(m_avPlayer->rate());
+        m_services.remoteControl.setNowPlayingInfo(info);
+    }
+    Q_EMIT outletsChanged();
+}
+
+}  // namespace tavi

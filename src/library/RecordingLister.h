@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QLocale>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "library/RecordingEntry.h"
+#include "platform/AudioDuration.h"
+#include "platform/RunLoop.h"
+
+struct stat;
+
+namespace tavi {
+
+/// Makes the entries of a folder's files. Main thread only.
+///
+/// There is no index file: how long each file plays is remembered in memory, for as long as the file and its contents
+/// are the same. Finding that out for ten thousand files takes a moment, so a list can be had without it and completed
+/// in the background.
+class RecordingLister {
+public:
+    /// Both must outlive the lister.
+    RecordingLister(const AudioDuration& durations, RunLoop& runLoop) : m_durations(durations), m_runLoop(runLoop) {}
+
+    enum class Lengths {
+        /// Every length is found out before list() returns.
+        Measured,
+        /// Where there are many lengths to find out they show as "--:--", and measure() goes on with them.
+        Known,
+    };
+
+    /// The entries of the folder in the order in which the file system gives the names, without the names that are
+    /// never listed. What cannot be read is an empty list, 0 KB or 00:00. Ends a measure() that is still going on.
+    std::vector<RecordingEntry> list(const QByteArray& folder, Lengths lengths);
+
+    /// Whether the last list() left lengths open.
+    bool isComplete() const { return m_open.empty(); }
+    /// Finds out in the background what the last list() left open, and calls update on the main thread as more is
+    /// known, the last time with everything.
+    void measure(std::function<void()> update);
+    /// Whether the last list() left a file's length open, by its native name.
+    bool wasOpen(const QByteArray& nativeName) const { return m_openByName.contains(nativeName); }
+    /// The length of a file that list() left open, by its native name: "mm:ss" if it is known by now, else "--:--".
+    QString durationText(const QByteArray& nativeName) const;
+
+private:
+    /// A file and its contents, as far as the file system tells them apart.
+    struct Identity {
+        quint64 device = 0;
+        quint64 node = 0;
+        qint64 size = 0;
+        qint64 seconds = 0;
+        qint64 nanoseconds = 0;
+
+        bool operator==(const Identity&) const = default;
+        friend std::size_t qHash(const Identity& identity, std::size_t seed) {
+            return qHashMulti(seed, identity.node, identity.size, identity.seconds, identity.nanoseconds);
+        }
+    };
+    struct OpenFile {
+        QByteArray name;
+        QByteArray path;
+        Identity identity;
+    };
+    /// One run of measure(); it is over when nobody holds it any more.
+    struct Pass {
+        std::function<void()> update;
+        std::size_t done = 0;
+    };
+
+    RecordingEntry entryOf(const QByteArray& name, const QByteArray& path, const struct stat& attributes);
+    QString dateText(const struct stat& attributes);
+    void measureNext();
+    void measureNow();
+
+    const AudioDuration& m_durations;
+    RunLoop& m_runLoop;
+    /// Seconds.
+    QHash<Identity, double> m_known;
+    /// Dates as shown by the minute, for as long as language and time zone are the same.
+    QHash<qint64, QString> m_dates;
+    QLocale m_datesLocale;
+    QByteArray m_datesZone;
+    /// What the last list() left open.
+    std::vector<OpenFile> m_open;
+    QHash<QByteArray, Identity> m_openByName;
+    std::shared_ptr<Pass> m_pass;
+};
+
+}  // namespace tavi

@@ -1,0 +1,134 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+
+#include "app/settings/SettingsStore.h"
+#include "platform/AppContainer.h"
+#include "platform/AssetExportSession.h"
+#include "platform/AudioPlayer.h"
+#include "platform/Outlets.h"
+#include "platform/Presenter.h"
+#include "platform/RunLoop.h"
+#include "trimming/RangeSlider.h"
+#include "trimming/waves/SCWaveformView.h"
+
+namespace tavi {
+
+/// The screen that exports whole seconds of a recording, always as M4A data. Main thread only.
+class AudioTrim : public QObject, private AudioPlayerDelegate {
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString lblFileName READ lblFileName CONSTANT)
+    Q_PROPERTY(QString accentColor READ accentColor CONSTANT)
+    Q_PROPERTY(tavi::RangeSlider* rangeSlider READ rangeSlider CONSTANT)
+    Q_PROPERTY(tavi::SCWaveformView* waveformView READ waveformView CONSTANT)
+    Q_PROPERTY(tavi::ButtonOutlet btnSave READ btnSave CONSTANT)
+    Q_PROPERTY(tavi::ButtonOutlet btnTrim READ btnTrim NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::ButtonOutlet btnStop READ btnStop NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::ButtonOutlet btnPlay READ btnPlay NOTIFY outletsChanged)
+    /// The text below the progress indicator; empty while none is shown.
+    Q_PROPERTY(QString indicatorText READ indicatorText NOTIFY outletsChanged)
+    Q_PROPERTY(QString lblCurrentTime READ lblCurrentTime NOTIFY timeChanged)
+    Q_PROPERTY(QString lblDuration READ lblDuration NOTIFY timeChanged)
+    Q_PROPERTY(double currentTime READ currentTime NOTIFY timeChanged)
+    Q_PROPERTY(double duration READ duration NOTIFY timeChanged)
+
+public:
+    /// What the screen works with; all of it must outlive the screen.
+    struct Services {
+        AssetExportSessions& exports;
+        AssetReaders& readers;
+        AudioPlayers& players;
+        SettingsStore& settings;
+        const AppContainer& container;
+        Presenter& presenter;
+        RunLoop& runLoop;
+    };
+
+    /// fileName is the recording's full path, in the name's own bytes; section the list's section that it comes from.
+    AudioTrim(const Services& services, QByteArray fileName, QString section, QObject* parent = nullptr);
+    ~AudioTrim() override;
+
+    QString title() const { return qtTrId("trimming_audio"); }
+    QString lblFileName() const;
+    QString accentColor() const;
+    RangeSlider* rangeSlider() { return &m_rangeSlider; }
+    SCWaveformView* waveformView() { return &m_waveformView; }
+    ButtonOutlet btnSave() const;
+    ButtonOutlet btnTrim() const;
+    ButtonOutlet btnStop() const;
+    ButtonOutlet btnPlay() const;
+    QString indicatorText() const { return m_indicatorText; }
+    QString lblCurrentTime() const;
+    QString lblDuration() const;
+    double currentTime() const { return m_player ? m_player->currentTime() : 0.0; }
+    double duration() const { return m_player ? m_player->duration() : 0.0; }
+    /// The stretch to keep, as the slider said last.
+    double leftValue() const { return m_leftValue; }
+    double rightValue() const { return m_rightValue; }
+    QByteArray outputPath() const { return m_outputPath; }
+
+    /// Called when the list of recordings is to be read again; may outlive the screen.
+    void setTrimDelegate(std::function<void()> reloadTableViewDataSource) {
+        m_reloadTableViewDataSource = std::move(reloadTableViewDataSource);
+    }
+    /// Saves the file at a path as a cloud document of that name. Without one nothing is saved there.
+    void setSaveToCloud(std::function<void(const QByteArray& path, const QString& name)> save) {
+        m_saveToCloud = std::move(save);
+    }
+    /// Exports whole seconds into the file at that path. False, with nothing exported, for a file without sound.
+    bool exportAsset(const Asset& asset, const QByteArray& path);
+    /// Moves the new file into a folder, and closes.
+    void addTrimFileWithFilePath(const QString& folder);
+    /// Deletes a file of the documents folder, and closes.
+    void removeFile(const QString& fileName);
+
+public Q_SLOTS:
+    void viewDidLoad();
+    void updateRangeLabel();
+    void playOriginalAudio();
+    void playTrimmedAudio();
+    void stopAudio();
+    /// The position slider was moved.
+    void playerSliderMoved(double seconds);
+    void trimAudio();
+    void backButtonpressed();
+    void closeButtonpressed() { close(); }
+
+Q_SIGNALS:
+    void outletsChanged();
+    void timeChanged();
+    /// The screen is to leave.
+    void closed();
+
+private:
+    void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override;
+    bool makePlayer(const QByteArray& path);
+    void startTimer();
+    void stopTimer();
+    void leaveToCloud();
+    void saveImagesInIPhone(const QString& name);
+    void reloadList() const;
+    void close();
+
+    Services m_services;
+    QByteArray m_fileName;
+    QString m_section;
+    RangeSlider m_rangeSlider;
+    SCWaveformView m_waveformView;
+    std::unique_ptr<AudioPlayer> m_player;
+    std::shared_ptr<Timer> m_timer;
+    std::function<void()> m_reloadTableViewDataSource;
+    std::function<void(const QByteArray&, const QString&)> m_saveToCloud;
+    QByteArray m_outputPath;
+    QString m_indicatorText;
+    double m_leftValue = 0.0;
+    double m_rightValue = 0.0;
+    bool m_isTrimEnabled = false;
+    bool m_isTrimmed = false;
+    bool m_isTrimDone = false;
+};
+
+}  // namespace tavi

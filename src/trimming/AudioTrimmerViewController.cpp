@@ -1,0 +1,307 @@
+#include "trimming/AudioTrimmerViewController.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+
+#include "library/utility/DateTexts.h"
+#include "library/utility/Notifications.h"
+#include "trimming/AudioTrimmerStage.h"
+
+namespace tavi {
+
+namespace {
+
+QByteArray nameOf(const QByteArray& path) {
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+}  // namespace
+
+void AudioTrimmerViewController::presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter,
+                                                               const QByteArray& strUrl, const QVariantMap& dicGetData,
+                                                               const QByteArray& getFfName, Completion completion) {
+    stage.show(std::make_unique<AudioTrimmerViewController>(
+        stage.services(), Input{strUrl, dicGetData, getFfName, std::move(completion), presenter, false}));
+}
+
+void AudioTrimmerViewController::pushAudioTrimmerController(AudioTrimmerStage& stage, const QByteArray& strUrl,
+                                                            Completion completion) {
+    stage.show(std::make_unique<AudioTrimmerViewController>(
+        stage.services(), Input{strUrl, {}, nameOf(strUrl), std::move(completion), nullptr, true}));
+}
+
+AudioTrimmerViewController::AudioTrimmerViewController(const Services& services, Input input, QObject* parent)
+    : QObject(parent),
+      m_services(services),
+      m_input(std::move(input)),
+      m_audioPlot(EZAudioPlot::init(services.refreshes)),
+      m_player({services.players, services.runLoop}, filePath(), m_selection),
+      m_export(services.exports, services.runLoop),
+      m_recorder(services.recorder, services.container, [this] { didFinishRecording(); }) {
+    connect(&m_selection, &TrimSelection::panned, &m_player, &TrimPlayer::stopAudioPlayer);
+    connect(&m_player, &TrimPlayer::prepared, this, [this](double duration) {
+        m_lblTotalDuration = trimrules::timeFormatted(duration, true);
+        Q_EMIT outletsChanged();
+    });
+}
+
+AudioTrimmerViewController::~AudioTrimmerViewController() {
+    if (m_isLoading) {
+        m_services.waveforms.cancel();
+    }
+    if (m_isDismissed) {
+        m_export.waitUntilFinished();
+    } else {
+        m_export.cancel();
+    }
+}
+
+QByteArray AudioTrimmerViewController::filePath() const {
+    QByteArray path = m_input.getUrl;
+    return path.replace("file://", "");
+}
+
+QString AudioTrimmerViewController::fileText() const {
+    return QFile::decodeName(m_input.getFileName);
+}
+
+ButtonOutlet AudioTrimmerViewController::btnEditTrimmedVideo() const {
+    ButtonOutlet button;
+    button.title = m_areEditingControlsHidden ? qtTrId("trimmer_edit") : qtTrId("trimmer_trim");
+    button.selected = m_areEditingControlsHidden;
+    return button;
+}
+
+QString AudioTrimmerViewController::problem() const {
+    const bool isUnreadable = m_asset && m_asset->audioTracks.empty();
+    return isUnreadable ? qtTrId("trimmer_unreadable") : QString();
+}
+
+void AudioTrimmerViewController::viewDidLoad() {
+    m_lblTotalDuration = m_input.getDictData.value(QStringLiteral("duration")).toString();
+    m_selection.calculateAudioTrimTime();
+    setupAudioPlot();
+}
+
+void AudioTrimmerViewController::setupAudioPlot() {
+    m_audioPlot->setBackgroundColor(QStringLiteral("black"));
+    m_audioPlot->setColor(QStringLiteral("#d41b28"));
+    m_audioPlot->setPlotType(EZPlot::Buffer);
+    m_audioPlot->setShouldFill(true);
+    m_audioPlot->setShouldMirror(true);
+    m_audioPlot->setShouldOptimizeForRealtimePlot(false);
+    if (!m_waveform.empty()) {
+        // The recording is never changed: it need not be read again.
+        m_audioPlot->updateBuffer(m_waveform.data(), static_cast<quint32>(m_waveform.size()));
+    } else if (!m_isLoading) {
+        loadFile();
+    }
+}
+
+void AudioTrimmerViewController::loadFile() {
+    m_isLoading = true;
+    Q_EMIT outletsChanged();
+    const QPointer<AudioTrimmerViewController> self(this);
+    // A length that no header tells takes reading all of the file.
+    m_services.runLoop.dispatchBackground([self, services = m_services, path = filePath()] {
+        const Asset asset = services.exports.assetWithURL(path);
+        services.runLoop.dispatchMain([self, asset] {
+            if (self) {
+                self->didLoadAsset(asset);
+            }
+        });
+    });
+    m_services.waveforms.load(filePath(), [self](const std::vector<float>& points) {
+        if (self) {
+            self->didLoadWaveform(points);
+        }
+    });
+}
+
+void AudioTrimmerViewController::didLoadAsset(const Asset& asset) {
+    m_asset = asset;
+    m_lblTotalDuration = trimrules::timeFormatted(asset.duration.seconds(), true);
+    m_selection.setAudioDuration(asset.duration.seconds());
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::didLoadWaveform(const std::vector<float>& points) {
+    m_isLoading = false;
+    m_waveform = points;
+    if (!points.empty()) {
+        m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
+    }
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::resetAudioPlayer() {
+    m_player.drop();
+    setupAudioPlot();
+    m_player.prepareToPlayAudio();
+    m_selection.putThumbsAtTheEnds();
+}
+
+void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> completion) {
+    if (m_strTrimmedAudioURL.isEmpty()) {
+        const QString date = fileBaseName(m_services.runLoop.clock().now(), QLocale());
+        m_strTrimmedAudioURL =
+            QFile::encodeName(m_services.container.documentsPath() + QStringLiteral("/Trim_%1.").arg(date)) +
+            trimrules::pathExtension(nameOf(m_input.getFileName));
+    }
+    const Asset asset = m_asset ? *m_asset : m_services.exports.assetWithURL(filePath());
+    m_export.start(
+        asset, m_strTrimmedAudioURL, trimrules::outputFileType(m_input.getFileName), m_selection.times(),
+        [this, completion = std::move(completion)](AssetExportStatus status) { exportEnded(status, completion); });
+}
+
+void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std::function<void()>& completion) {
+    if (!m_abandonedPath.isEmpty()) {
+        // It may have been over before it could be given up.
+        QFile::remove(QFile::decodeName(m_abandonedPath));
+        postDataUpdated();
+        return;
+    }
+    if (status == AssetExportStatus::Completed) {
+        // Before the completion, on purpose: what waits for the first export's completion finds the second one begun,
+        // and a caller is told again whenever the file is written anew.
+        done();
+        completion();
+        return;
+    }
+    if (!QFile::exists(QFile::decodeName(m_strTrimmedAudioURL))) {
+        // An export that was given up has taken the earlier file with it.
+        m_isAudioTrimmed = false;
+        m_areEditingControlsHidden = false;
+        if (m_isDismissed) {
+            postDataUpdated();
+        }
+        Q_EMIT outletsChanged();
+    }
+}
+
+void AudioTrimmerViewController::didTrim() {
+    m_isAudioTrimmed = true;
+    resetAudioPlayer();
+    m_areEditingControlsHidden = true;
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::btnUploadTapped() {
+    if (!m_export.isRunning()) {
+        done();
+    }
+}
+
+void AudioTrimmerViewController::done() {
+    if (!QFile::exists(QFile::decodeName(filePath()))) {
+        return;
+    }
+    m_player.stopAudioPlayer();
+    if (m_isAudioTrimmed) {
+        dismissAudioTrimmer(m_strTrimmedAudioURL);
+        return;
+    }
+    trimAudioWithCompletion([this] {
+        didTrim();
+        dismissAudioTrimmer(m_strTrimmedAudioURL);
+    });
+}
+
+void AudioTrimmerViewController::btnTrimFinalAudio() {
+    if (!m_export.isRunning()) {
+        trimAudioWithCompletion([this] { didTrim(); });
+    }
+}
+
+void AudioTrimmerViewController::btnEditTrimmedVideoTapped() {
+    if (!m_areEditingControlsHidden) {
+        btnTrimFinalAudio();
+        return;
+    }
+    m_isAudioTrimmed = false;
+    resetAudioPlayer();
+    m_areEditingControlsHidden = false;
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::btnCancelTapped() {
+    if (m_export.isRunning()) {
+        m_abandonedPath = m_strTrimmedAudioURL;
+        m_export.cancel();
+    }
+    m_strTrimmedAudioURL.clear();
+    m_player.drop();
+    dismissAudioTrimmer({});
+}
+
+void AudioTrimmerViewController::dismissAudioTrimmer(const QByteArray& path) {
+    m_isDismissed = true;
+    if (m_input.completionBlock) {
+        m_input.completionBlock(!path.isEmpty(), path);
+    }
+    if (!m_input.isPushAudioTrimmer) {
+        postDataUpdated();
+    }
+    Q_EMIT dismissed();
+}
+
+void AudioTrimmerViewController::postDataUpdated() {
+    m_services.notifications.postNotification(kDataUpdatedNotification, QVariant::fromValue<QObject*>(this));
+}
+
+void AudioTrimmerViewController::startRecording() {
+    if (!m_recorder.prepareToRecordAudio()) {
+        return;
+    }
+    m_isDoneHidden = true;
+    m_recorder.record();
+    m_isRecordingViewHidden = false;
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::stopRecording() {
+    m_recorder.stop();
+    m_isDoneHidden = false;
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::didFinishRecording() {
+    const QPointer<AudioTrimmerViewController> self(this);
+    m_services.runLoop.dispatchBackground(
+        [self, services = m_services, original = m_recorder.strOriginalAudioURL(), copy = m_recorder.strAudioURL()] {
+            const double duration = services.exports.assetWithURL(QFile::encodeName(original)).duration.seconds();
+            ScratchRecorder::replaceCopy(original, copy);
+            services.runLoop.dispatchMain([self, duration] {
+                if (self) {
+                    self->didCopyRecording(duration);
+                }
+            });
+        });
+}
+
+void AudioTrimmerViewController::didCopyRecording(double duration) {
+    m_selection.setAudioDuration(duration);
+    m_recorder.activatePlayback();
+    m_isDoneHidden = false;
+    m_isRecordingViewHidden = true;
+    m_areEditingControlsHidden = false;
+    resetAudioPlayer();
+    Q_EMIT outletsChanged();
+}
+
+void AudioTrimmerViewController::btnResetAudioTapped() {
+    resetAudioPlayer();
+    m_areEditingControlsHidden = false;
+    Q_EMIT outletsChanged();
+    startRecording();
+}
+
+void AudioTrimmerViewController::btnResetTapped() {
+    m_isAudioTrimmed = false;
+    ScratchRecorder::replaceCopy(m_recorder.strOriginalAudioURL(), m_recorder.strAudioURL());
+    resetAudioPlayer();
+    Q_EMIT outletsChanged();
+}
+
+}  // namespace tavi

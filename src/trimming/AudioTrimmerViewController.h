@@ -1,0 +1,158 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QVariantMap>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/NotificationCenter.h"
+#include "trimming/ScratchRecorder.h"
+#include "trimming/TrimExport.h"
+#include "trimming/TrimPlayer.h"
+#include "trimming/TrimSelection.h"
+#include "trimming/waves/EZAudioPlot.h"
+#include "trimming/waves/WaveformLoader.h"
+
+namespace tavi {
+
+class AudioTrimmerStage;
+
+/// The screen that cuts a recording down to a stretch, in a new file. The recording is never changed. Main thread only.
+///
+/// Paths and URLs are bytes that need not be text; a URL is "file://" and the path, or the path alone.
+class AudioTrimmerViewController : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
+    Q_PROPERTY(tavi::TrimSelection* selection READ selection CONSTANT)
+    Q_PROPERTY(tavi::TrimPlayer* player READ player CONSTANT)
+    Q_PROPERTY(tavi::TrimExport* exporter READ exporter CONSTANT)
+    Q_PROPERTY(QString fileText READ fileText CONSTANT)
+    Q_PROPERTY(tavi::LabelOutlet lblTotalDuration READ lblTotalDuration NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::ButtonOutlet btnEditTrimmedVideo READ btnEditTrimmedVideo NOTIFY outletsChanged)
+    Q_PROPERTY(bool isDoneHidden READ isDoneHidden NOTIFY outletsChanged)
+    Q_PROPERTY(bool areEditingControlsHidden READ areEditingControlsHidden NOTIFY outletsChanged)
+    Q_PROPERTY(bool isRecordingViewHidden READ isRecordingViewHidden NOTIFY outletsChanged)
+    Q_PROPERTY(bool isEditingViewHidden READ isEditingViewHidden NOTIFY outletsChanged)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY outletsChanged)
+    /// Why the recording cannot be trimmed, in one line; empty where it can.
+    Q_PROPERTY(QString problem READ problem NOTIFY outletsChanged)
+
+public:
+    /// What the screen works with; all of it must outlive the screen.
+    struct Services {
+        AssetExportSessions& exports;
+        AudioPlayers& players;
+        ScratchRecorder::Services recorder;
+        /// For the trimmer alone: another load would take the place of its own.
+        WaveformLoader& waveforms;
+        DisplayRefreshes& refreshes;
+        const AppContainer& container;
+        NotificationCenter& notifications;
+        RunLoop& runLoop;
+    };
+    /// Told when the screen closes: with the new file, or without one. A completed export tells it several times.
+    using Completion = std::function<void(bool success, const QByteArray& path)>;
+
+    struct Input {
+        QByteArray getUrl;
+        /// Its "duration" is the text of the list.
+        QVariantMap getDictData;
+        QByteArray getFileName;
+        Completion completionBlock;
+        QPointer<QObject> refreshDelegate;
+        bool isPushAudioTrimmer = false;
+    };
+
+    /// Shows the trimmer over the presenting screen, on the stage.
+    static void presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter, const QByteArray& strUrl,
+                                              const QVariantMap& dicGetData, const QByteArray& getFfName,
+                                              Completion completion);
+    /// Shows it as the next screen instead.
+    static void pushAudioTrimmerController(AudioTrimmerStage& stage, const QByteArray& strUrl, Completion completion);
+
+    AudioTrimmerViewController(const Services& services, Input input, QObject* parent = nullptr);
+    /// Waits for the running export of a file that its caller has been told of; gives any other up.
+    ~AudioTrimmerViewController() override;
+
+    EZAudioPlot* audioPlot() { return m_audioPlot.get(); }
+    TrimSelection* selection() { return &m_selection; }
+    TrimPlayer* player() { return &m_player; }
+    TrimExport* exporter() { return &m_export; }
+    QString fileText() const;
+    LabelOutlet lblTotalDuration() const { return {m_lblTotalDuration, {}, false}; }
+    /// Selected while the editing controls are hidden.
+    ButtonOutlet btnEditTrimmedVideo() const;
+    bool isDoneHidden() const { return m_isDoneHidden; }
+    bool areEditingControlsHidden() const { return m_areEditingControlsHidden; }
+    bool isRecordingViewHidden() const { return m_isRecordingViewHidden; }
+    bool isEditingViewHidden() const { return !m_isRecordingViewHidden; }
+    bool isLoading() const { return m_isLoading; }
+    QString problem() const;
+
+    const Input& input() const { return m_input; }
+    bool isAudioTrimmed() const { return m_isAudioTrimmed; }
+    /// Where exports go; empty before the first one.
+    QByteArray strTrimmedAudioURL() const { return m_strTrimmedAudioURL; }
+
+public Q_SLOTS:
+    void viewDidLoad();
+    void btnCancelTapped();
+    void btnUploadTapped();
+    void btnPlayPauseTapped() { m_player.playOrPause(); }
+    void btnResetTapped();
+    void btnTrimFinalAudio();
+    void btnEditTrimmedVideoTapped();
+    void btnStartRecordingTapped() { startRecording(); }
+    void btnStopRecordingTapped() { stopRecording(); }
+    void btnResetAudioTapped();
+    /// Gives a running export up; the screen stays.
+    void cancelExport() { m_export.cancel(); }
+
+Q_SIGNALS:
+    void outletsChanged();
+    /// The screen is to leave; comes again with every further closing.
+    void dismissed();
+
+private:
+    QByteArray filePath() const;
+    void loadFile();
+    void didLoadAsset(const Asset& asset);
+    void didLoadWaveform(const std::vector<float>& points);
+    void setupAudioPlot();
+    void resetAudioPlayer();
+    void trimAudioWithCompletion(std::function<void()> completion);
+    void exportEnded(AssetExportStatus status, const std::function<void()>& completion);
+    void didTrim();
+    void done();
+    void dismissAudioTrimmer(const QByteArray& path);
+    void postDataUpdated();
+    void startRecording();
+    void stopRecording();
+    void didFinishRecording();
+    void didCopyRecording(double duration);
+
+    Services m_services;
+    Input m_input;
+    std::unique_ptr<EZAudioPlot> m_audioPlot;
+    TrimSelection m_selection;
+    TrimPlayer m_player;
+    TrimExport m_export;
+    ScratchRecorder m_recorder;
+    std::optional<Asset> m_asset;
+    std::vector<float> m_waveform;
+    QByteArray m_strTrimmedAudioURL;
+    /// Where an export writes that was cancelled with the screen.
+    QByteArray m_abandonedPath;
+    QString m_lblTotalDuration;
+    bool m_isLoading = false;
+    bool m_isAudioTrimmed = false;
+    bool m_areEditingControlsHidden = false;
+    bool m_isDoneHidden = false;
+    bool m_isRecordingViewHidden = true;
+    bool m_isDismissed = false;
+};
+
+}  // namespace tavi

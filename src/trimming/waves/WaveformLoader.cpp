@@ -1,0 +1,137 @@
+#include "trimming/waves/WaveformLoader.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <utility>
+
+namespace tavi {
+
+namespace {
+
+constexpr std::size_t kRemembered = 8;
+
+/// A file and its contents, as far as the file system tells them apart; empty for what is not there.
+QByteArray identityOf(const QByteArray& path) {
+    struct stat attributes = {};
+    QByteArray identity;
+    if (::stat(path.constData(), &attributes) == 0) {
+        for (const auto part : {static_cast<qint64>(attributes.st_dev), static_cast<qint64>(attributes.st_ino),
+                                static_cast<qint64>(attributes.st_size), static_cast<qint64>(attributes.st_mtim.tv_sec),
+                                static_cast<qint64>(attributes.st_mtim.tv_nsec)}) {
+            identity += QByteArray::number(part) + ':';
+        }
+    }
+    return identity;
+}
+
+/// A file that is at its end as soon as nobody wants it any more.
+class AbandonedFile : public ExtAudioFile {
+public:
+    AbandonedFile(std::unique_ptr<ExtAudioFile> file, const std::atomic<bool>& isAbandoned)
+        : m_file(std::move(file)), m_isAbandoned(isAbandoned) {}
+
+    AudioStatus fileDataFormat(AudioStreamBasicDescription& format) const override {
+        return m_file->fileDataFormat(format);
+    }
+    AudioStatus fileLengthFrames(std::int64_t& frames) const override { return m_file->fileLengthFrames(frames); }
+    AudioStatus fileMaxPacketSize(std::uint32_t& bytes) const override { return m_file->fileMaxPacketSize(bytes); }
+    AudioStatus infoDictionary(AudioFileInfo& info) const override { return m_file->infoDictionary(info); }
+    bool isRandomAccess() const override { return m_file->isRandomAccess(); }
+    AudioStatus setClientDataFormat(const AudioStreamBasicDescription& format) override {
+        return m_file->setClientDataFormat(format);
+    }
+    AudioStatus read(std::uint32_t& frames, AudioBufferList& data) override {
+        if (m_isAbandoned) {
+            frames = 0;
+            return kAudioNoError;
+        }
+        return m_file->read(frames, data);
+    }
+    AudioStatus seek(std::int64_t frame) override { return m_isAbandoned ? kAudioNoError : m_file->seek(frame); }
+    AudioStatus tell(std::int64_t& frame) const override { return m_file->tell(frame); }
+
+private:
+    std::unique_ptr<ExtAudioFile> m_file;
+    const std::atomic<bool>& m_isAbandoned;
+};
+
+class AbandonableFiles : public ExtAudioFiles {
+public:
+    explicit AbandonableFiles(ExtAudioFiles& files) : m_files(files) {}
+
+    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override {
+        const AudioStatus status = m_files.open(path, file);
+        if (file) {
+            file = std::make_unique<AbandonedFile>(std::move(file), isAbandoned);
+        }
+        return status;
+    }
+
+    std::atomic<bool> isAbandoned = false;
+
+private:
+    ExtAudioFiles& m_files;
+};
+
+}  // namespace
+
+struct WaveformLoader::Job {
+    explicit Job(ExtAudioFiles& openedBy) : files(openedBy) {}
+
+    AbandonableFiles files;
+};
+
+void WaveformLoader::cancel() {
+    if (m_job) {
+        m_job->files.isAbandoned = true;
+        m_job.reset();
+    }
+}
+
+void WaveformLoader::load(const QByteArray& path, Completion completion) {
+    cancel();
+    const auto job = std::make_shared<Job>(m_services.files);
+    m_job = job;
+    const QByteArray identity = identityOf(path);
+    const auto finish = [this, job, completion = std::move(completion)](const std::vector<float>& points) {
+        m_job.reset();
+        completion(points);
+    };
+    // The loader lives for as long as its job is not abandoned.
+    const auto known = std::find_if(m_results.begin(), m_results.end(),
+                                    [&](const Result& result) { return result.identity == identity; });
+    if (!identity.isEmpty() && known != m_results.end()) {
+        m_results.splice(m_results.begin(), m_results, known);
+        m_services.queues.dispatchMain([finish, job, points = known->points] {
+            if (!job->files.isAbandoned) {
+                finish(points);
+            }
+        });
+        return;
+    }
+    m_services.queues.dispatchBackground(
+        [this, path, identity, finish, job, &queues = m_services.queues, &converters = m_services.converters] {
+            std::vector<float> points;
+            const auto file = EZAudioFile::audioFileWithURL(path.toStdString(), {job->files, converters, queues});
+            if (const auto data = file && file->totalFrames() > 0 ? file->getWaveformData() : nullptr) {
+                const float* first = data->bufferForChannel(0);
+                points.assign(first, first + data->bufferSize());
+                // What lies behind the end of a short file has no level.
+                std::replace_if(
+                    points.begin(), points.end(), [](float point) { return std::isnan(point); }, 0.0F);
+            }
+            queues.dispatchMain([this, identity, finish, job, points = std::move(points)] {
+                if (job->files.isAbandoned) {
+                    return;
+                }
+                m_results.push_front({identity, points});
+                m_results.resize(std::min(m_results.size(), kRemembered));
+                finish(points);
+            });
+        });
+}
+
+}  // namespace tavi

@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "adapters/ffmpeg/FfmpegAudioTempo.h"
+#include "adapters/player/FilePlayer.h"
+#include "adapters/pulse/PulseAudioOutput.h"
+#include "adapters/pulse/PulseConnection.h"
+#include "adapters/qt/QtRunLoop.h"
+#include "support/EventLoop.h"
+#include "support/FakeAudioPlayer.h"
+#include "support/FakeExtAudioFile.h"
+#include "support/ManualRunLoop.h"
+#include "support/PrivatePulse.h"
+
+namespace tavi::test {
+namespace {
+
+constexpr double kSeconds = 4.0;
+
+class FakePlayerWorld {
+public:
+    FakePlayerWorld() { m_players.seconds["recording"] = kSeconds; }
+    AudioPlayers& players() { return m_players; }
+    void removeServer() { m_players.last()->fail(); }
+    template <class Condition>
+    bool wait(Condition condition) {
+        for (int tick = 0; tick < 1000 && !condition(); ++tick) {
+            m_runLoop.advance(0.01);
+        }
+        return condition();
+    }
+
+private:
+    ManualRunLoop m_runLoop;
+    FakeAudioPlayers m_players{m_runLoop};
+};
+
+class RealPlayerWorld {
+public:
+    RealPlayerWorld() {
+        const auto sound = std::make_shared<FakeSound>();
+        sound->rate = 44100.0;
+        sound->planes.assign(2, std::vector<float>(static_cast<std::size_t>(kSeconds * 44100.0), 0.1F));
+        m_files.sounds["recording"] = sound;
+    }
+    AudioPlayers& players() { return m_players; }
+    void removeServer() { m_server.kill(); }
+    template <class Condition>
+    bool wait(Condition condition) {
+        return spinUntil(condition);
+    }
+
+private:
+    PrivatePulse m_server;
+    FakeExtAudioFiles m_files;
+    FfmpegAudioTempos m_tempos;
+    QtRunLoop m_runLoop;
+    PulseAudioOutputs m_outputs{std::make_shared<PulseConnection>()};
+    FilePlayers m_players{m_files, m_tempos, m_outputs, m_runLoop};
+};
+
+template <class World>
+class AudioPlayerContract : public ::testing::Test, public AudioPlayerDelegate {
+protected:
+    void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override {
+        EXPECT_FALSE(player.isPlaying());
+        m_ends.push_back(successfully);
+        if (m_dropsAtEnd) {
+            m_player.reset();
+        }
+    }
+    void make() {
+        auto player = m_world.players().playerWithContentsOfURL("recording");
+        ASSERT_TRUE(player);
+        m_player = std::move(*player);
+        m_player->setDelegate(this);
+        m_player->setEnableRate(true);
+    }
+    bool waitForTime(double seconds) {
+        return m_world.wait([&] { return m_player->currentTime() >= seconds; });
+    }
+    bool waitForEnds(std::size_t count) {
+        return m_world.wait([&] { return m_ends.size() >= count; });
+    }
+
+    World m_world;
+    std::unique_ptr<AudioPlayer> m_player;
+    std::vector<bool> m_ends;
+    bool m_dropsAtEnd = false;
+};
+
+using Worlds = ::testing::Types<FakePlayerWorld, RealPlayerWorld>;
+TYPED_TEST_SUITE(AudioPlayerContract, Worlds);
+
+TYPED_TEST(AudioPlayerContract, PlaysToTheEndOnceAndFromTheBeginningAgain) {
+    EXPECT_FALSE(this->m_world.players().playerWithContentsOfURL("nowhere"));
+    this->make();
+    EXPECT_EQ(this->m_player->duration(), kSeconds);
+    EXPECT_EQ(this->m_player->currentTime(), 0.0);
+    EXPECT_FALSE(this->m_player->isPlaying());
+    this->m_player->setCurrentTime(3.5);
+    ASSERT_TRUE(this->m_player->prepareToPlay());
+    EXPECT_EQ(this->m_player->currentTime(), 3.5);
+    ASSERT_TRUE(this->m_player->play());
+    ASSERT_TRUE(this->m_player->play());
+    EXPECT_TRUE(this->m_player->isPlaying());
+    ASSERT_TRUE(this->waitForTime(3.6));
+    ASSERT_TRUE(this->waitForEnds(1));
+    EXPECT_EQ(this->m_player->currentTime(), kSeconds);
+    EXPECT_EQ(this->m_ends, std::vector<bool>{true});
+
+    ASSERT_TRUE(this->m_player->play());
+    EXPECT_LT(this->m_player->currentTime(), 1.0);
+    ASSERT_TRUE(this->waitForTime(0.1));
+    this->m_player->setCurrentTime(kSeconds);
+    this->m_dropsAtEnd = true;
+    ASSERT_TRUE(this->waitForEnds(2));
+    EXPECT_EQ(this->m_ends, (std::vector<bool>{true, true}));
+}
+
+TYPED_TEST(AudioPlayerContract, StaysWhereItIsPausedStoppedOrPut) {
+    this->make();
+    ASSERT_TRUE(this->m_player->play());
+    ASSERT_TRUE(this->waitForTime(0.2));
+    for (const bool stops : {false, true}) {
+        stops ? this->m_player->stop() : this->m_player->pause();
+        EXPECT_FALSE(this->m_player->isPlaying());
+        const double paused = this->m_player->currentTime();
+        EXPECT_GE(paused, 0.2);
+        this->m_world.wait([tick = 0]() mutable { return ++tick > 3; });
+        EXPECT_EQ(this->m_player->currentTime(), paused);
+        this->m_player->setRate(2.0F);
+        EXPECT_EQ(this->m_player->currentTime(), paused);
+        ASSERT_TRUE(this->m_player->play());
+        ASSERT_TRUE(this->waitForTime(paused + 0.2));
+        EXPECT_LT(this->m_player->currentTime(), kSeconds);
+    }
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    this->m_player->pause();
+    for (const auto& [asked, got] : {std::pair{-1.0, 0.0}, {99.0, kSeconds}, {1.5, 1.5}, {nan, 1.5}}) {
+        this->m_player->setCurrentTime(asked);
+        EXPECT_EQ(this->m_player->currentTime(), got) << asked;
+    }
+    EXPECT_TRUE(this->m_ends.empty());
+}
+
+TYPED_TEST(AudioPlayerContract, HasARateBetweenHalfAndDouble) {
+    this->make();
+    for (const auto& [asked, got] : {std::pair{0.1F, 0.5F}, {9.0F, 2.0F}, {1.25F, 1.25F}}) {
+        this->m_player->setRate(asked);
+        EXPECT_EQ(this->m_player->rate(), got);
+    }
+    // Changes in a row, and changes together with jumps: the last of each counts.
+    ASSERT_TRUE(this->m_player->play());
+    for (const float rate : {0.5F, 2.0F, 0.75F, 2.0F}) {
+        this->m_player->setRate(rate);
+        this->m_player->setCurrentTime(3.0);
+        this->m_player->setRate(rate);
+    }
+    EXPECT_EQ(this->m_player->currentTime(), 3.0);
+    ASSERT_TRUE(this->waitForEnds(1));
+    EXPECT_EQ(this->m_ends, std::vector<bool>{true});
+}
+
+TYPED_TEST(AudioPlayerContract, MetersWhatIsPlayed) {
+    this->make();
+    this->m_player->setMeteringEnabled(true);
+    this->m_player->updateMeters();
+    EXPECT_EQ(this->m_player->averagePowerForChannel(0), -160.0F);
+    ASSERT_TRUE(this->m_player->play());
+    EXPECT_TRUE(this->m_world.wait([&] {
+        this->m_player->updateMeters();
+        return std::abs(this->m_player->averagePowerForChannel(0) + 20.0F) < 0.1F;
+    }));
+    EXPECT_EQ(this->m_player->averagePowerForChannel(7), -160.0F);
+}
+
+TYPED_TEST(AudioPlayerContract, TellsOnceWhenTheSoundSystemIsGone) {
+    this->make();
+    ASSERT_TRUE(this->m_player->play());
+    ASSERT_TRUE(this->waitForTime(0.1));
+    this->m_world.removeServer();
+    ASSERT_TRUE(this->waitForEnds(1));
+    this->m_player->stop();
+    this->m_world.wait([tick = 0]() mutable { return ++tick > 3; });
+    EXPECT_EQ(this->m_ends, std::vector<bool>{false});
+    EXPECT_FALSE(this->m_player->isPlaying());
+    EXPECT_LT(this->m_player->currentTime(), kSeconds);
+}
+
+}  // namespace
+}  // namespace tavi::test

@@ -1,0 +1,117 @@
+#include <gmock/gmock.h>
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include "adapters/quick/QuickDisplayRefreshes.h"
+#include "support/EventLoop.h"
+#include "support/FakeDisplayRefresh.h"
+
+namespace tavi::test {
+namespace {
+
+struct Fake {
+    FakeDisplayRefreshes refreshes;
+
+    bool showFrames(int count) {
+        for (int i = 0; i < count; ++i) {
+            refreshes.showFrame();
+        }
+        return true;
+    }
+};
+
+struct Real {
+    QQuickWindow window;
+    QuickDisplayRefreshes refreshes;
+
+    Real() {
+        refreshes.setWindow(&window);
+        window.resize(40, 40);
+        window.show();
+    }
+
+    bool showFrames(int count) {
+        int shown = 0;
+        QObject context;
+        QObject::connect(&window, &QQuickWindow::frameSwapped, &context, [this, &shown, count] {
+            if (++shown < count) {
+                window.update();
+            }
+        });
+        window.update();
+        return spinUntil([&shown, count] { return shown >= count; });
+    }
+};
+
+template <class Display>
+class DisplayRefreshContract : public ::testing::Test {
+protected:
+    Display m_display;
+};
+
+using Displays = ::testing::Types<Fake, Real>;
+TYPED_TEST_SUITE(DisplayRefreshContract, Displays);
+
+TYPED_TEST(DisplayRefreshContract, CallsBackOnEveryFrameWhileNotPaused) {
+    auto& display = this->m_display;
+    int calls = 0;
+    auto refresh = display.refreshes.create([&calls] { ++calls; });
+    EXPECT_TRUE(refresh->isPaused());
+    ASSERT_TRUE(display.showFrames(2));
+    EXPECT_EQ(calls, 0);
+    refresh->setPaused(false);
+    ASSERT_TRUE(display.showFrames(3));
+    EXPECT_GE(calls, 3);
+    refresh->setPaused(true);
+    calls = 0;
+    ASSERT_TRUE(display.showFrames(2));
+    EXPECT_EQ(calls, 0);
+    refresh->setPaused(false);
+    refresh.reset();
+    ASSERT_TRUE(display.showFrames(2));
+    EXPECT_EQ(calls, 0);
+}
+
+TYPED_TEST(DisplayRefreshContract, CallbacksMayDestroyRefreshes) {
+    auto& display = this->m_display;
+    std::unique_ptr<DisplayRefresh> first;
+    std::unique_ptr<DisplayRefresh> second;
+    int calls = 0;
+    first = display.refreshes.create([&, witness = std::make_shared<int>(1)] {
+        second.reset();
+        first.reset();
+        calls += *witness;
+    });
+    second = display.refreshes.create([&calls] { calls += 10; });
+    first->setPaused(false);
+    second->setPaused(false);
+    ASSERT_TRUE(display.showFrames(2));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(QuickDisplayRefreshes, KeepItsWindowDrawingOnlyWhileOneIsNotPaused) {
+    Real display;
+    int calls = 0;
+    const auto refresh = display.refreshes.create([&calls] { ++calls; });
+    refresh->setPaused(false);
+    EXPECT_TRUE(spinUntil([&calls] { return calls >= 5; }));
+    refresh->setPaused(true);
+    // The frame that is under way may still come.
+    ASSERT_TRUE(display.showFrames(2));
+    int frames = 0;
+    QObject::connect(&display.window, &QQuickWindow::frameSwapped, &display.window, [&frames] { ++frames; });
+    QDeadlineTimer while100(100);
+    spinUntil([&while100] { return while100.hasExpired(); });
+    EXPECT_EQ(frames, 0);
+}
+
+}  // namespace
+}  // namespace tavi::test
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleMock(&argc, argv);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,221 @@
+#include <gmock/gmock.h>
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCall>
+#include <QDBusVariant>
+
+#include "adapters/dbus/MprisRemoteControl.h"
+#include "support/EventLoop.h"
+#include "support/Fakes.h"
+#include "support/PrivateBus.h"
+
+namespace tavi::test {
+
+using Subtype = RemoteControlEvent::Subtype;
+
+/// Hears the signals of the player on the bus.
+class SignalEar : public QObject {
+    Q_OBJECT
+
+public Q_SLOTS:
+    void onPropertiesChanged(const QString&, const QVariantMap& changed, const QStringList&) { changes << changed; }
+    void onSeeked(qlonglong position) { jumps << position; }
+
+public:
+    QList<QVariantMap> changes;
+    QList<qlonglong> jumps;
+};
+
+namespace {
+
+const QString kName = QStringLiteral("org.mpris.MediaPlayer2.tavi");
+const QString kPath = QStringLiteral("/org/mpris/MediaPlayer2");
+const QString kRoot = QStringLiteral("org.mpris.MediaPlayer2");
+const QString kPlayer = QStringLiteral("org.mpris.MediaPlayer2.Player");
+
+/// What a user presses, and how the desktop says so.
+struct Press {
+    Subtype subtype;
+    double value;
+    const char* method;
+    QVariantList arguments;
+};
+
+QDBusMessage call(const QString& interface, const char* method, const QVariantList& arguments,
+                  const QString& name = kName) {
+    QDBusMessage message = QDBusMessage::createMethodCall(name, kPath, interface, QString::fromLatin1(method));
+    message.setArguments(arguments);
+    return message;
+}
+
+class RemoteControlContract : public ::testing::TestWithParam<bool>, public RemoteControlDelegate {
+protected:
+    void SetUp() override { m_control->setDelegate(this); }
+    void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override { m_events.push_back(event); }
+    double remoteControlCurrentTime() const override { return m_time; }
+
+    bool isFake() const { return GetParam(); }
+    /// The reply, once it is there.
+    QDBusMessage ask(const QDBusMessage& message) {
+        const QDBusPendingCall pending = m_desktop.asyncCall(message);
+        EXPECT_TRUE(spinUntil([&pending] { return pending.isFinished(); }));
+        return pending.reply();
+    }
+    QVariant property(const char* name, const QString& interface = kPlayer) {
+        const QDBusMessage reply =
+            ask(call(QStringLiteral("org.freedesktop.DBus.Properties"), "Get", {interface, QString::fromLatin1(name)}));
+        return reply.arguments().value(0).value<QDBusVariant>().variant();
+    }
+    bool isOnBus(const QString& name = kName) {
+        return ask(QDBusMessage::createMethodCall(
+                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"))
+                   << name)
+            .arguments()
+            .value(0)
+            .toBool();
+    }
+    void press(const Press& press) {
+        if (isFake()) {
+            m_fake.send(press.subtype, press.value);
+            return;
+        }
+        const bool isProgram = press.subtype == Subtype::Raise || press.subtype == Subtype::Quit;
+        const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+        ask(call(qstrcmp(press.method, "Set") == 0 ? properties
+                 : isProgram                       ? kRoot
+                                                   : kPlayer,
+                 press.method, press.arguments));
+    }
+    QVariant trackId() {
+        if (isFake()) {
+            return {};
+        }
+        const auto metadata = qdbus_cast<QVariantMap>(property("Metadata"));
+        return metadata.value(QStringLiteral("mpris:trackid"));
+    }
+
+    PrivateBus m_bus;
+    QDBusConnection m_program = m_bus.connect();
+    QDBusConnection m_desktop = m_bus.connect();
+    FakeRemoteControl m_fake;
+    MprisRemoteControl m_real{m_program};
+    RemoteControl* m_control = GetParam() ? static_cast<RemoteControl*>(&m_fake) : &m_real;
+    NowPlayingInfo m_info{QStringLiteral("/a/Ünsound.m4a"), QStringLiteral("Ünsound"), 62.5,
+                          NowPlayingInfo::PlaybackState::Playing, 1.0};
+    std::vector<RemoteControlEvent> m_events;
+    double m_time = 12.5;
+};
+
+TEST_P(RemoteControlContract, HandsOnWhatIsPressedWhileItReceives) {
+    const QVariant rate = QVariant::fromValue(QDBusVariant(2.0));
+    const QVariant halt = QVariant::fromValue(QDBusVariant(0.0));
+    m_control->setNowPlayingInfo(m_info);
+    press({Subtype::Play, 0.0, "Play", {}});
+    EXPECT_TRUE(m_events.empty());
+
+    m_control->beginReceivingRemoteControlEvents();
+    m_control->beginReceivingRemoteControlEvents();
+    const std::vector<Press> presses{
+        {Subtype::Play, 0.0, "Play", {}},
+        {Subtype::Pause, 0.0, "Pause", {}},
+        {Subtype::TogglePlayPause, 0.0, "PlayPause", {}},
+        {Subtype::Stop, 0.0, "Stop", {}},
+        {Subtype::SkipForward, 0.0, "Next", {}},
+        {Subtype::SkipBackward, 0.0, "Previous", {}},
+        {Subtype::Seek, -1.5, "Seek", {qlonglong{-1500000}}},
+        {Subtype::SetPosition, 62.5, "SetPosition", {trackId(), qlonglong{62500000}}},
+        {Subtype::SetRate, 2.0, "Set", {kPlayer, QStringLiteral("Rate"), rate}},
+        {Subtype::Pause, 0.0, "Set", {kPlayer, QStringLiteral("Rate"), halt}},
+        {Subtype::Raise, 0.0, "Raise", {}},
+        {Subtype::Quit, 0.0, "Quit", {}},
+    };
+    for (const Press& each : presses) {
+        press(each);
+        ASSERT_FALSE(m_events.empty()) << each.method;
+        EXPECT_EQ(m_events.back(), (RemoteControlEvent{each.subtype, each.value})) << each.method;
+    }
+    EXPECT_EQ(m_events.size(), presses.size());
+
+    m_control->endReceivingRemoteControlEvents();
+    press(presses.front());
+    EXPECT_EQ(m_events.size(), presses.size());
+    m_control->beginReceivingRemoteControlEvents();
+    m_control->setDelegate(nullptr);
+    press(presses.front());
+    EXPECT_EQ(m_events.size(), presses.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, RemoteControlContract, ::testing::Values(true, false));
+
+using RemoteControlOnBus = RemoteControlContract;
+INSTANTIATE_TEST_SUITE_P(Mpris, RemoteControlOnBus, ::testing::Values(false));
+
+TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
+    EXPECT_FALSE(isOnBus());
+    m_control->beginReceivingRemoteControlEvents();
+    EXPECT_TRUE(isOnBus());
+    EXPECT_EQ(property("PlaybackStatus"), QStringLiteral("Stopped"));
+    EXPECT_EQ(property("CanPlay"), false);
+    EXPECT_EQ(property("DesktopEntry", kRoot), QStringLiteral("com.quillfen.voicerecorder"));
+
+    SignalEar ear;
+    m_desktop.connect(kName, kPath, QStringLiteral("org.freedesktop.DBus.Properties"),
+                      QStringLiteral("PropertiesChanged"), &ear,
+                      SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+    m_desktop.connect(kName, kPath, kPlayer, QStringLiteral("Seeked"), &ear, SLOT(onSeeked(qlonglong)));
+    m_control->setNowPlayingInfo(m_info);
+    ASSERT_TRUE(spinUntil([&ear] { return !ear.changes.isEmpty(); }));
+    EXPECT_EQ(ear.changes[0].value(QStringLiteral("PlaybackStatus")), QStringLiteral("Playing"));
+    EXPECT_EQ(ear.changes[0].value(QStringLiteral("CanSeek")), true);
+    EXPECT_FALSE(ear.changes[0].contains(QStringLiteral("Rate")));
+    const auto metadata = qdbus_cast<QVariantMap>(property("Metadata"));
+    EXPECT_EQ(metadata.value(QStringLiteral("xesam:title")), QStringLiteral("Ünsound"));
+    EXPECT_EQ(metadata.value(QStringLiteral("mpris:length")), qlonglong{62500000});
+    EXPECT_EQ(metadata.value(QStringLiteral("mpris:length")).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(property("Position"), qlonglong{12500000});
+    EXPECT_EQ(property("MinimumRate"), 0.5);
+    EXPECT_EQ(property("MaximumRate"), 2.0);
+
+    m_info.playbackRate = 0.5;
+    m_control->setNowPlayingInfo(m_info);
+    m_control->setNowPlayingInfo(m_info);
+    m_time = 3.0;
+    m_control->currentTimeDidJump();
+    ASSERT_TRUE(spinUntil([&ear] { return !ear.jumps.isEmpty(); }));
+    EXPECT_EQ(ear.jumps, QList<qlonglong>{3000000});
+    ASSERT_EQ(ear.changes.size(), 2);
+    EXPECT_EQ(ear.changes[1], (QVariantMap{{QStringLiteral("Rate"), 0.5}}));
+
+    // Another recording's, one outside the recording, and rates that it does not have.
+    const QVariant fast = QVariant::fromValue(QDBusVariant(2.5));
+    press({Subtype::SetPosition,
+           0.0,
+           "SetPosition",
+           {QVariant::fromValue(QDBusObjectPath(QStringLiteral("/other"))), qlonglong{1}}});
+    press({Subtype::SetPosition, 0.0, "SetPosition", {trackId(), qlonglong{62500001}}});
+    press({Subtype::SetRate, 0.0, "Set", {kPlayer, QStringLiteral("Rate"), fast}});
+    EXPECT_TRUE(m_events.empty());
+    m_control->endReceivingRemoteControlEvents();
+    EXPECT_FALSE(isOnBus());
+}
+
+TEST_P(RemoteControlOnBus, TakesANameOfItsOwnBesideAnotherInstance) {
+    ASSERT_TRUE(m_desktop.registerService(kName));
+    const QString name = kName + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
+    m_control->beginReceivingRemoteControlEvents();
+    EXPECT_TRUE(spinUntil([&] { return isOnBus(name); }));
+    m_control->endReceivingRemoteControlEvents();
+    EXPECT_FALSE(isOnBus(name));
+    MprisRemoteControl lonely(PrivateBus::none());
+    lonely.beginReceivingRemoteControlEvents();
+    lonely.setNowPlayingInfo(m_info);
+    lonely.currentTimeDidJump();
+}
+
+}  // namespace
+}  // namespace tavi::test
+
+#include "RemoteControlContract.moc"

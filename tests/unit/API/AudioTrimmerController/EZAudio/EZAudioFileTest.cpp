@@ -1,0 +1,279 @@
+#include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
+#include "support/ClientBuffers.h"
+#include "support/FakeAudioConverter.h"
+#include "support/FakeExtAudioFile.h"
+#include "support/ManualRunLoop.h"
+
+namespace tavi::test {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+
+class Listener : public EZAudioFileDelegate {
+public:
+    void audioFileUpdatedPosition(EZAudioFile& file) override { positions.push_back(-file.frameIndex()); }
+    void audioFile(EZAudioFile&, std::int64_t position) override { positions.push_back(position); }
+    bool wantsAudio() const override { return wants; }
+    void audioFile(EZAudioFile&, float** audio, std::uint32_t size, std::uint32_t channels) override {
+        for (std::uint32_t channel = 0; channel < channels; ++channel) {
+            heard.insert(heard.end(), audio[channel], audio[channel] + size);
+        }
+    }
+
+    bool wants = false;
+    std::vector<std::int64_t> positions;
+    std::vector<float> heard;
+};
+
+class EZAudioFileTest : public ::testing::Test {
+protected:
+    EZAudioFileTest() { EZAudioUtilities::setShouldExitOnCheckResultFail(false); }
+    ~EZAudioFileTest() override { EZAudioUtilities::setShouldExitOnCheckResultFail(true); }
+
+    /// A file whose channels hold a slow swell and, at half its level, a saw.
+    std::shared_ptr<FakeSound> add(const char* path, double rate, std::size_t frames, std::size_t channels = 2) {
+        auto sound = std::make_shared<FakeSound>();
+        sound->rate = rate;
+        sound->planes.resize(channels);
+        for (std::size_t i = 0; i < frames; ++i) {
+            const float swell = 0.1F + static_cast<float>(i) / static_cast<float>(frames);
+            for (std::size_t channel = 0; channel < channels; ++channel) {
+                sound->planes[channel].push_back(channel == 0 ? swell : 0.5F * static_cast<float>(i % 100) / 100);
+            }
+        }
+        m_files.sounds[path] = sound;
+        return sound;
+    }
+    std::vector<std::vector<float>> waveform(EZAudioFile& file, std::uint32_t points) {
+        const auto data = file.getWaveformDataWithNumberOfPoints(points);
+        std::vector<std::vector<float>> result;
+        for (int channel = 0; data && channel < data->numberOfChannels(); ++channel) {
+            const float* values = data->bufferForChannel(channel);
+            result.emplace_back(values, values + data->bufferSize());
+        }
+        return result;
+    }
+
+    ManualRunLoop m_runLoop;
+    FakeExtAudioFiles m_files;
+    FakeAudioConverters m_converters;
+    EZAudioFile::Services m_services{m_files, m_converters, m_runLoop};
+};
+
+TEST_F(EZAudioFileTest, OpensWhatIsThereAndTellsItsLength) {
+    EXPECT_EQ(EZAudioFile::audioFileWithURL("missing", m_services), nullptr);
+    add("a", 8000, 12000, 1)->info["title"] = "Meeting";
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->clientFormat(), EZAudioFile::defaultClientFormat());
+    EXPECT_EQ(file->clientFormat().channelsPerFrame, 2U);
+    EXPECT_EQ(file->duration(), 1.5);
+    EXPECT_EQ(file->totalFrames(), 12000);
+    EXPECT_EQ(file->totalClientFrames(), 66150);
+    EXPECT_EQ(file->formattedDuration(), "00:02");
+    file->setCurrentTime(0.75);
+    EXPECT_EQ(file->frameIndex(), 6000);
+    EXPECT_EQ(file->currentTime(), 0.75);
+    EXPECT_EQ(file->formattedCurrentTime(), "00:01");
+    EXPECT_EQ(file->metadata().at("title"), "Meeting");
+    EXPECT_THAT(file->description(), ::testing::HasSubstr("url: a,\n    duration: 1.500000,\n    totalFrames: 12000,"));
+    file->setClientFormat(clientFormat(8000, 1));
+    EXPECT_EQ(file->totalClientFrames(), 12000);
+    EXPECT_EQ(file->copy()->totalFrames(), 12000);
+    EXPECT_EQ(file->copy()->frameIndex(), 0);
+
+    // What is no sound file gives a reader of nothing.
+    m_files.sounds["text"] = std::make_shared<FakeSound>();
+    const auto text = EZAudioFile::audioFileWithURL("text", m_services);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->duration(), 0);
+    EXPECT_EQ(text->getWaveformData(), nullptr);
+}
+
+TEST_F(EZAudioFileTest, ReadsAndTellsItsDelegate) {
+    add("a", 44100, 3000);
+    const auto listener = std::make_shared<Listener>();
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services, listener, clientFormat(44100, 2, true));
+    ClientBuffers buffers(file->clientFormat(), 1024);
+    std::uint32_t count = 99;
+    bool isEnd = true;
+    file->readFrames(700, &buffers.list(), &count, &isEnd);
+    EXPECT_EQ(count, 700U);
+    EXPECT_FALSE(isEnd);
+    EXPECT_TRUE(listener->heard.empty());
+    listener->wants = true;
+    file->seekToFrame(1900);
+    file->readFrames(1024, &buffers.list(), &count, &isEnd);
+    const auto& sound = *m_files.sounds["a"];
+    ASSERT_EQ(listener->heard.size(), 2048U);
+    EXPECT_EQ(listener->heard[1000], sound.planes[0][2900]) << "more frames than the converter's buffer has";
+    EXPECT_EQ(listener->heard[2047], sound.planes[1][2923]);
+    file->seekToFrame(3000);
+    file->readFrames(10, &buffers.list(), &count, &isEnd);
+    EXPECT_EQ(count, 0U);
+    EXPECT_TRUE(isEnd);
+    EXPECT_THAT(listener->positions, ElementsAre(-700, 700, -1900, 1900, -2924, 2924, -3000, 3000, -3000, 3000));
+}
+
+TEST_F(EZAudioFileTest, ATenSecondFileHas430FramesAPointAndKeepsItsPlace) {
+    const auto sound = add("a", 44100, 441000);
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services);
+    file->seekToFrame(777);
+    const auto points = waveform(*file, 1024);
+    EXPECT_EQ(file->frameIndex(), 777);
+    ASSERT_EQ(points.size(), 2U);
+    EXPECT_EQ(points[1].size(), 1024U);
+    EXPECT_EQ(m_files.reads[0]->size(), 1024U);
+    EXPECT_THAT(*m_files.reads[0], Each(430U));
+    EXPECT_FLOAT_EQ(points[0][5], EZAudioUtilities::RMS(sound->planes[0].data() + 5 * 430, 430));
+    // In one point, and in none.
+    EXPECT_NEAR(waveform(*file, 1)[1][0], EZAudioUtilities::RMS(sound->planes[1].data(), 441000), 1e-6);
+    EXPECT_EQ(waveform(*file, 0).at(1).size(), 0U);
+}
+
+TEST_F(EZAudioFileTest, PointsWithoutSamplesAreNoNumbers) {
+    add("short", 44100, 1000);
+    const auto brief = EZAudioFile::audioFileWithURL("short", m_services);
+    const auto points = waveform(*brief, 1024);
+    EXPECT_TRUE(std::all_of(points[0].begin(), points[0].end(), [](float value) { return std::isnan(value); }));
+    // A file that ends early.
+    add("cut", 44100, 5000)->claimedFrames = 10240;
+    const auto cut = waveform(*EZAudioFile::audioFileWithURL("cut", m_services), 1024);
+    EXPECT_FALSE(std::isnan(cut[0][499]));
+    EXPECT_TRUE(std::isnan(cut[0][500]));
+}
+
+TEST_F(EZAudioFileTest, InterleavedSoundCountsInPart) {
+    const auto sound = add("a", 44100, 1000);
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services, {}, clientFormat(44100, 2, true));
+    const auto points = waveform(*file, 10);
+    EXPECT_FLOAT_EQ(points[0][3], EZAudioUtilities::RMS(sound->planes[0].data() + 300, 50));
+    EXPECT_FLOAT_EQ(points[1][9], EZAudioUtilities::RMS(sound->planes[1].data() + 900, 50));
+}
+
+TEST_F(EZAudioFileTest, TwoReadersGiveWhatOneGives) {
+    for (const double rate : {8000.0, 44100.0}) {
+        const auto sound = add("a", rate, static_cast<std::size_t>(rate) * 31);
+        for (const std::int64_t claimed : {std::int64_t{-1}, std::int64_t(rate) * 33, std::int64_t(rate) * 70}) {
+            sound->claimedFrames = claimed;
+            sound->isRandomAccess = false;
+            m_files.opened = 0;
+            const auto one = waveform(*EZAudioFile::audioFileWithURL("a", m_services), 1001);
+            EXPECT_EQ(m_files.opened, 1);
+            sound->isRandomAccess = true;
+            const auto file = EZAudioFile::audioFileWithURL("a", m_services);
+            const auto two = waveform(*file, 1001);
+            EXPECT_EQ(m_files.opened, 3);
+            m_files.failingOpens = 4;
+            const auto alone = waveform(*file, 1001);
+            m_files.failingOpens = 0;
+            for (std::size_t i = 0; i < 1001; ++i) {
+                ASSERT_EQ(std::isnan(one[1][i]), std::isnan(two[1][i])) << rate << " " << i;
+                if (!std::isnan(one[1][i])) {
+                    ASSERT_EQ(one[0][i], two[0][i]) << rate << " " << i;
+                    ASSERT_EQ(one[1][i], two[1][i]) << rate << " " << i;
+                    ASSERT_EQ(one[1][i], alone[1][i]) << rate << " " << i;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(EZAudioFileTest, NobodyWaitsForTheLock) {
+    const auto sound = add("a", 44100, 20000);
+    const auto listener = std::make_shared<Listener>();
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services, listener);
+    ClientBuffers buffers(file->clientFormat(), 100);
+    std::uint32_t count = 99;
+    bool isEnd = true;
+    int inside = 0;
+    file->seekToFrame(42);
+    listener->positions.clear();
+    sound->onRead = [&] {
+        if (++inside == 1) {
+            file->readFrames(100, &buffers.list(), &count, &isEnd);
+            file->seekToFrame(7);
+            EXPECT_EQ(file->frameIndex(), 42);
+            EXPECT_EQ(file->getWaveformData(), nullptr);
+            int length = 5;
+            file->getWaveformDataWithCompletionBlock([&](float** data, int points) {
+                EXPECT_EQ(data, nullptr);
+                length = points;
+            });
+            m_runLoop.drain();
+            EXPECT_EQ(length, 0);
+        }
+    };
+    EXPECT_NE(file->getWaveformData(), nullptr);
+    EXPECT_EQ(count, 99U);
+    EXPECT_TRUE(isEnd);
+    EXPECT_TRUE(listener->positions.empty());
+    EXPECT_EQ(file->frameIndex(), 42);
+}
+
+TEST_F(EZAudioFileTest, CompletionsComeOnTheMainThreadOneByOneEvenWithoutTheReader) {
+    add("a", 44100, 20000);
+    auto file = EZAudioFile::audioFileWithURL("a", m_services);
+    std::vector<int> lengths;
+    const auto completion = [&](float** data, int length) { lengths.push_back(data != nullptr ? length : -length); };
+    file->getWaveformDataWithNumberOfPoints(10, completion);
+    file->getWaveformDataWithCompletionBlock(completion);
+    file->getWaveformDataWithNumberOfPoints(10, nullptr);
+    EXPECT_TRUE(lengths.empty());
+    m_runLoop.drain();
+    EXPECT_THAT(lengths, ElementsAre(10, 1024));
+    file->getWaveformDataWithCompletionBlock(completion);
+    file.reset();
+    m_runLoop.drain();
+    EXPECT_THAT(lengths, ElementsAre(10, 1024, 0));
+}
+
+TEST_F(EZAudioFileTest, AFailedReadIsReportedAndEndsThePass) {
+    const auto sound = add("a", 44100, 20000);
+    const auto file = EZAudioFile::audioFileWithURL("a", m_services);
+    sound->readStatus = kAudioFileInvalidFileError;
+    ::testing::internal::CaptureStderr();
+    const auto points = waveform(*file, 2);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "Error: Failed to read audio data from file waveform ('dta?')\n"
+              "Error: Failed to read audio data from file waveform ('dta?')\n");
+    EXPECT_TRUE(std::isnan(points[0][1]));
+}
+
+TEST(EZAudioFloatDataTest, KeepsACopyOfEachChannel) {
+    std::vector<float> left = {1, 2};
+    std::vector<float> right = {3, 4};
+    const float* both[] = {left.data(), right.data()};
+    const auto data = EZAudioFloatData::dataWithNumberOfChannels(2, both, 2);
+    right[1] = 9;
+    EXPECT_EQ(data->bufferForChannel(1)[1], 4);
+    EXPECT_EQ(data->bufferForChannel(2), nullptr);
+    EXPECT_EQ(data->bufferForChannel(-1), nullptr);
+}
+
+TEST(EZAudioFloatConverterTest, ACompressedFormatIsReportedAndConvertsNothing) {
+    EZAudioUtilities::setShouldExitOnCheckResultFail(false);
+    FakeAudioConverters converters;
+    AudioStreamBasicDescription format;
+    format.formatID = kAudioFormatMPEG4AAC;
+    format.sampleRate = 44100;
+    format.channelsPerFrame = 1;
+    ::testing::internal::CaptureStderr();
+    const auto converter = EZAudioFloatConverter::converterWithInputFormat(format, converters);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "Error: Failed to create new audio converter ('fmt?')\n");
+    ClientBuffers buffers(clientFormat(44100, 1), 4);
+    float value = 5;
+    float* planes[] = {&value};
+    converter->convertDataFromAudioBufferList(&buffers.list(), 1, planes);
+    EXPECT_EQ(value, 5);
+    EZAudioUtilities::setShouldExitOnCheckResultFail(true);
+}
+
+}  // namespace
+}  // namespace tavi::test

@@ -1,0 +1,210 @@
+#include "trimming/waves/EZAudioPlot.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "support/FakeDisplayRefresh.h"
+#include "support/Pictures.h"
+#include "trimming/waves/EZAudioPlotPainter.h"
+
+namespace tavi::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// A plot of 8 x 101 that draws what it is fed at once.
+struct Fixture {
+    explicit Fixture(const QRectF& frame = QRectF(5.0, 7.0, 8.0, 101.0))
+        : plot(EZAudioPlot::initWithFrame(refreshes, frame)) {
+        plot->setShouldOptimizeForRealtimePlot(false);
+        QObject::connect(plot.get(), &EZAudioPlot::needsDisplay, plot.get(), [this] { ++painted; });
+    }
+
+    void feed(const std::vector<float>& samples) const {
+        plot->updateBuffer(samples.data(), static_cast<quint32>(samples.size()));
+    }
+    const std::vector<PlotPath::Polyline>& lines() const { return plot->waveformLayer().path().polylines; }
+
+    FakeDisplayRefreshes refreshes;
+    std::unique_ptr<EZAudioPlot> plot;
+    int painted = 0;
+};
+
+TEST(EZAudioPlot, DrawsFedSamplesAsPolylines) {
+    // 101 high: the half height is rounded down to 50. With its axis below, a plot is twice the half height high.
+    struct Case {
+        bool fill;
+        bool mirror;
+        bool center;
+        std::vector<std::vector<QPointF>> lines;
+    };
+    const std::vector<QPointF> up = {{0, 50}, {2, 25}, {4, 75}, {6, 50}};
+    const std::vector<QPointF> down = {{0, 50}, {2, 75}, {4, 25}, {6, 50}};
+    const Case cases[] = {
+        {false, false, true, {up}},
+        {true, true, true, {up, down}},
+        {false, true, true, {up, down}},
+        {true, false, false, {{{0, 101}, {2, 51}, {4, 151}, {6, 101}}}},
+    };
+    for (const auto& [fill, mirror, center, lines] : cases) {
+        SCOPED_TRACE(::testing::Message() << fill << mirror << center);
+        Fixture fixture;
+        fixture.plot->setShouldFill(fill);
+        fixture.plot->setShouldMirror(mirror);
+        fixture.plot->setShouldCenterYAxis(center);
+        fixture.plot->setGain(2.0F);
+        fixture.feed({0.7F, 0.25F, -0.25F, 0.7F});
+        ASSERT_EQ(fixture.lines().size(), lines.size());
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            EXPECT_EQ(fixture.lines()[i].points, lines[i]);
+            EXPECT_EQ(fixture.lines()[i].closed, fill && i + 1 == lines.size());
+        }
+        EXPECT_EQ(fixture.plot->waveformLayer().fillColor, fill ? QStringLiteral("#ff0000") : QString());
+    }
+}
+
+TEST(EZAudioPlot, TakesAnyNumberOfPoints) {
+    Fixture fixture;
+    EXPECT_EQ(fixture.plot->pointCount(), 100U);
+    fixture.feed({0.7F});
+    EXPECT_THAT(fixture.lines().at(0).points, ElementsAre(QPointF(0, 50)));
+    fixture.feed({});
+    EXPECT_TRUE(fixture.plot->waveformLayer().path().isEmpty());
+    fixture.painted = 0;
+    fixture.plot->clear();
+    EXPECT_EQ(fixture.painted, 0);
+
+    fixture.feed(std::vector<float>(9000, 0.5F));
+    EXPECT_EQ(fixture.plot->pointCount(), 8192U);
+    fixture.plot->setRollingHistoryLength(7);
+    fixture.plot->clear();
+    EXPECT_EQ(fixture.lines().at(0).points.size(), 8192U);
+    EXPECT_EQ(fixture.lines().at(0).points[4000].y(), 50.0);
+    EXPECT_EQ(fixture.plot->rollingHistoryLength(), 512) << "clearing begins a new history";
+    // A type that is neither leaves the points as they are.
+    fixture.plot->setPlotType(2);
+    fixture.feed({0.5F, 0.5F, 0.5F});
+    EXPECT_EQ(fixture.plot->pointCount(), 8192U);
+}
+
+TEST(EZAudioPlot, RollsThroughTheLatestLevels) {
+    Fixture fixture;
+    EXPECT_EQ(fixture.plot->setRollingHistoryLength(9000), 8192);
+    EXPECT_EQ(fixture.plot->setRollingHistoryLength(4), 4);
+    fixture.plot->setPlotType(EZPlot::Rolling);
+    for (const float level : {0.2F, 0.4F, 0.6F, 0.8F, 1.0F, 0.3F}) {
+        fixture.feed({level, -level});
+    }
+    EXPECT_EQ(fixture.plot->pointCount(), 4U);
+    // The window stands as it was after the level before the last; its ends lie on the axis.
+    EXPECT_FLOAT_EQ(static_cast<float>(fixture.plot->points()[1].y()), 0.6F);
+    EXPECT_FLOAT_EQ(static_cast<float>(fixture.plot->points()[2].y()), 0.8F);
+    EXPECT_EQ(fixture.plot->points()[3].y(), 0.0);
+    EXPECT_EQ(fixture.plot->setRollingHistoryLength(-3), -3);
+    fixture.feed({0.5F});
+    EXPECT_EQ(fixture.plot->pointCount(), 0U);
+}
+
+TEST(EZAudioPlot, FollowsTheDisplayWhileOptimizedForRealtime) {
+    FakeDisplayRefreshes refreshes;
+    const auto plot = EZAudioPlot::initWithFrame(refreshes, QRectF(0, 0, 8, 100));
+    const std::vector<float> samples(4, 0.5F);
+    const auto drawn = [&plot] { return plot->waveformLayer().path().polylines.at(0).points.size(); };
+    plot->updateBuffer(samples.data(), 4);
+    EXPECT_EQ(drawn(), 100U);
+    refreshes.showFrame();
+    EXPECT_EQ(drawn(), 4U);
+    EXPECT_FALSE(plot->waveformLayer().pathAnimation());
+
+    // Turned on a second time it ends without a link.
+    plot->setShouldOptimizeForRealtimePlot(true);
+    EXPECT_EQ(plot->displayLink(), nullptr);
+    EXPECT_EQ(refreshes.count(), 0U);
+    plot->setShouldOptimizeForRealtimePlot(true);
+    ASSERT_NE(plot->displayLink(), nullptr);
+    EXPECT_FALSE(plot->displayLink()->stopped());
+    plot->setShouldOptimizeForRealtimePlot(false);
+    EXPECT_EQ(refreshes.count(), 0U);
+
+    const auto orphan = [&refreshes] {
+        QObject gone;
+        return EZAudioDisplayLink::displayLinkWithDelegate(refreshes, &gone);
+    }();
+    orphan->start();
+    refreshes.showFrame();
+    orphan->stop();
+    EXPECT_TRUE(orphan->displayLink().isPaused());
+}
+
+TEST(EZAudioPlot, AnimatesPathsUnlessItsTransactionDoesNot) {
+    Fixture fixture;
+    const auto& layer = fixture.plot->waveformLayer();
+    {
+        const LayerTransaction transaction(
+            {.animationDuration = 2.0, .animationTimingFunction = TimingFunction::EaseIn});
+        fixture.feed({0.5F, 0.5F, 0.5F});
+        ASSERT_TRUE(layer.pathAnimation());
+        EXPECT_EQ(layer.pathAnimation()->duration, 2.0);
+        EXPECT_EQ(layer.pathAnimation()->timingFunction, TimingFunction::EaseIn);
+        fixture.plot->setFrameSize({16.0, 40.0});
+        EXPECT_FALSE(layer.pathAnimation()) << "layout is not animated";
+    }
+    EXPECT_EQ(fixture.lines().at(0).points[1], QPointF(16.0 / 3.0, 10.0));
+    EXPECT_EQ(layer.actionForKey(QStringLiteral("path"))->duration, 0.25);
+    EXPECT_FALSE(layer.actionForKey(QStringLiteral("strokeColor")));
+}
+
+TEST(EZAudioPlot, SubclassesEndTheSetUp) {
+    struct Green : EZAudioPlot {
+        using EZAudioPlot::EZAudioPlot;
+        void setupPlot() override { setColor(QStringLiteral("#00ff00")); }
+    };
+    FakeDisplayRefreshes refreshes;
+    EXPECT_EQ(EZAudioPlot::init<Green>(refreshes)->waveformLayer().strokeColor, QStringLiteral("#00ff00"));
+}
+
+/// Words and pauses, every level another than its neighbours.
+std::vector<float> speech() {
+    std::vector<float> levels(1024);
+    std::uint32_t noise = 1;
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        noise = noise * 1664525U + 1013904223U;
+        const double word = std::max(0.0, std::sin(0.05 * static_cast<double>(i)));
+        levels[i] = static_cast<float>(0.6 * word * (0.4 + 0.6 * static_cast<double>(noise >> 8) / 16777216.0));
+    }
+    return levels;
+}
+
+TEST(EZAudioPlotPainter, PaintsAWaveform) {
+    Fixture fixture(QRectF(0, 0, 390, 200));
+    fixture.plot->setBackgroundColor(QStringLiteral("#151515"));
+    fixture.plot->setColor(QStringLiteral("#c8252c"));
+    fixture.plot->setShouldFill(true);
+    fixture.plot->setShouldMirror(true);
+    fixture.feed(speech());
+    const QImage picture = plotImage(*fixture.plot);
+    expectLooksLike(picture.convertToFormat(QImage::Format_RGB32), QStringLiteral(TAVI_PICTURES "/EZAudioPlot.png"));
+
+    EXPECT_EQ(plotImage(*fixture.plot, 2.0).size(), QSize(780, 400));
+    EXPECT_TRUE(plotImage(*Fixture(QRectF()).plot).isNull());
+}
+
+TEST(EZAudioPlotPainter, PaintsWhatIsNoNumberAsSilence) {
+    constexpr float kNone = std::numeric_limits<float>::quiet_NaN();
+    constexpr float kEndless = std::numeric_limits<float>::infinity();
+    QImage pictures[2];
+    for (const bool broken : {false, true}) {
+        Fixture fixture(QRectF(0, 0, 40, 20));
+        fixture.plot->setShouldFill(true);
+        fixture.plot->setShouldMirror(true);
+        fixture.feed({0.5F, 0.5F, broken ? kNone : 0.0F, 0.5F, broken ? kEndless : 2000.0F, 0.5F});
+        pictures[broken ? 1 : 0] = plotImage(*fixture.plot);
+    }
+    EXPECT_LT(difference(pictures[0], pictures[1]), 0.01);
+}
+
+}  // namespace
+}  // namespace tavi::test
