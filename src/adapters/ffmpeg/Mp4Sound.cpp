@@ -10,6 +10,9 @@ namespace {
 
 /// Tables of a day of sound, and little enough to hold.
 constexpr std::int64_t kMaximumMovieBytes = std::int64_t{24} << 20;
+constexpr std::uint64_t kMaximumPackets = std::uint64_t{8} << 20;
+/// Longer and larger than any file: sums of these do not overflow.
+constexpr std::int64_t kMost = std::int64_t{1} << 60;
 
 std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t offset, std::size_t size) {
     std::uint64_t value = 0;
@@ -126,7 +129,7 @@ bool Mp4Sound::readTables(std::span<const std::uint8_t> body) {
     m_times = *times;
     m_chunkRuns = *chunkRuns;
     m_chunks = *chunks;
-    return m_packetSize > 0 || m_packets <= m_sizes.size() / 4;
+    return m_packets <= kMaximumPackets && (m_packetSize > 0 || m_packets <= m_sizes.size() / 4);
 }
 
 namespace {
@@ -243,6 +246,9 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         const std::uint64_t count = numberAt(m_times, at, 4);
         const auto duration = static_cast<std::uint32_t>(numberAt(m_times, at + 4, 4));
         runs.push_back({packet, start, duration});
+        if (count > kMaximumPackets) {
+            return false;
+        }
         const std::int64_t length = static_cast<std::int64_t>(count) * duration;
         if (time >= start && duration > 0) {
             first =
@@ -250,7 +256,7 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         }
         packet += count;
         start += length;
-        if (start < 0 || start > std::int64_t{1} << 60) {
+        if (start > kMost) {
             return false;
         }
     }
@@ -276,6 +282,9 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         }
         for (; chunk < nextChunk; ++chunk) {
             auto offset = static_cast<std::int64_t>(numberAt(m_chunks, (chunk - 1) * m_chunkBytes, m_chunkBytes));
+            if (offset < 0 || offset > kMost) {
+                return false;
+            }
             for (std::uint64_t i = 0; i < perChunk; ++i, ++packet) {
                 if (packet >= end) {
                     return true;
