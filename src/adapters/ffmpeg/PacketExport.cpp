@@ -54,11 +54,12 @@ Result<bool> exportWavPackets(const ExportJob& job) {
     }
     const auto dataBytes = static_cast<std::uint64_t>(job.end - job.start) * header->frameBytes;
     const std::uint64_t padding = dataBytes & 1;
-    std::vector<std::uint8_t> format(header->formatBytes + (header->formatBytes & 1));
-    if (header->formatBytes > 4096 ||
-        readFully(job.source, format.data(), header->formatBytes, header->formatOffset) < header->formatBytes) {
+    std::vector<std::uint8_t> format(std::min(header->formatBytes, 4096U));
+    if (format.size() < header->formatBytes ||
+        readFully(job.source, format.data(), format.size(), header->formatOffset) < format.size()) {
         return damaged();
     }
+    format.resize(format.size() + (format.size() & 1));
     // Everything behind the first eight bytes.
     constexpr std::uint64_t kLongSizesBytes = 36;
     std::uint64_t size = 4 + 8 + format.size() + 8 + dataBytes + padding;
@@ -124,7 +125,7 @@ Result<void> copyCafChunks(const ExportJob& job) {
 Result<bool> exportCafPackets(const ExportJob& job) {
     const auto header = readCafHeader(job.source);
     const bool isLinear = header && header->formatID == kAudioFormatLinearPCM && header->packetFrames == 1;
-    const bool isIma4 = header && header->formatID == kAudioFormatAppleIMA4 &&
+    const bool isIma4 = header && header->formatID == kAudioFormatAppleIMA4 && header->channels <= 8 &&
                         header->packetFrames == kIma4PacketFrames &&
                         header->packetBytes == kIma4PacketBytes * header->channels;
     if (job.type != AssetFileType::CoreAudioFormat || !(isLinear || isIma4) || header->packetBytes == 0 ||
@@ -192,7 +193,9 @@ Result<bool> exportMp4Packets(const ExportJob& job) {
     std::int64_t origin = -1;
     std::int64_t last = -1;
     const bool isUnderstood = sound->forEachPacket(start, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
-        const bool isThere = packet.offset >= 0 && packet.offset <= size && packet.size <= size - packet.offset;
+        // Packets that share bytes could make a small file a large one.
+        const bool isThere = packet.size > 0 && packet.offset <= size && packet.size <= size - packet.offset &&
+                             bytes + packet.size <= size;
         if (isThere && (begin < end || last <= start)) {
             packets.push_back(packet);
             origin = origin < 0 ? begin : origin;

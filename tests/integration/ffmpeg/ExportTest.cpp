@@ -299,6 +299,42 @@ TEST_F(ExportTest, ExportsSideBySideAndCancelledOnesDoNotDisturbEachOther) {
     lost->reset();
 }
 
+TEST_F(ExportTest, DamagedRecordingsEndInAFileOrAFailureAndNothingElse) {
+    std::mt19937 random(11);
+    for (std::size_t index = 0; index < kTypes.size(); ++index) {
+        const QString path = recording(kTypes[index], kQualities[0]);
+        QFile source(path);
+        ASSERT_TRUE(source.open(QIODevice::ReadWrite));
+        const QByteArray whole = source.readAll();
+        for (int round = 0; round < 60; ++round) {
+            QByteArray damaged = whole;
+            for (auto count = random() % 6; count > 0; --count) {
+                // Headers stand at both ends.
+                const auto at = static_cast<qsizetype>(random() % 900);
+                const qsizetype place = random() % 2 == 0 ? at : std::max<qsizetype>(0, whole.size() - 1 - at * 2);
+                damaged[place] = static_cast<char>(random() % 3 == 0 ? 0xff : random());
+            }
+            damaged.truncate(random() % 5 == 0 ? static_cast<qsizetype>(random()) % whole.size() : whole.size());
+            source.resize(0);
+            source.seek(0);
+            ASSERT_TRUE(source.write(damaged) == damaged.size() && source.flush());
+            SCOPED_TRACE(testing::Message() << kTypes[index].extension << " " << round);
+            const auto session = this->session(path, target(), kEdges[index].type);
+            if (!session) {
+                continue;
+            }
+            session->setTimeRange({{1, 3}, {3, 1}});
+            const AssetExportStatus status = run(*session);
+            EXPECT_EQ(leftovers().size(), status == AssetExportStatus::Completed ? 1 : 0);
+            EXPECT_EQ(session->error().text.isEmpty(), status == AssetExportStatus::Completed);
+            // Nothing makes a stretch much longer than all.
+            EXPECT_LT(QFile(target()).size(), whole.size() + 4096);
+            QFile::remove(target());
+            heard(path);
+        }
+    }
+}
+
 }  // namespace
 
 }  // namespace tavi::test
