@@ -4,6 +4,9 @@ namespace tavi {
 
 namespace {
 
+/// What a key adds to its step, in seconds: the times of places are rounded down, and 12 s are not to read 11.99.
+constexpr double kAboveRounding = 1e-7;
+
 TrimThumb thumbOf(bool isLeft) {
     return isLeft ? TrimThumb::Left : TrimThumb::Right;
 }
@@ -82,7 +85,7 @@ void TrimSelection::endDrag(bool isLeft) {
 void TrimSelection::nudge(bool isLeft, double seconds) {
     if (m_audioDuration > 0.0) {
         beginDrag(isLeft);
-        drag(isLeft, seconds * m_containerWidth / m_audioDuration);
+        drag(isLeft, (seconds + kAboveRounding) * m_containerWidth / m_audioDuration);
         endDrag(isLeft);
     }
 }

@@ -29,6 +29,9 @@ class TrimSelection : public QObject {
     Q_PROPERTY(double lblStartX READ lblStartX NOTIFY timesChanged)
     Q_PROPERTY(double lblEndX READ lblEndX NOTIFY timesChanged)
     Q_PROPERTY(double labelWidth READ labelWidth CONSTANT)
+    Q_PROPERTY(double audioDuration READ audioDuration NOTIFY timesChanged)
+    Q_PROPERTY(double startTime READ startTime NOTIFY timesChanged)
+    Q_PROPERTY(double endTime READ endTime NOTIFY timesChanged)
     /// The two times with minutes, as they are spoken.
     Q_PROPERTY(QString spokenStart READ spokenStart NOTIFY timesChanged)
     Q_PROPERTY(QString spokenEnd READ spokenEnd NOTIFY timesChanged)
@@ -41,6 +44,8 @@ public:
     void setAudioDuration(double seconds);
     /// The stretch as it was computed last.
     const TrimTimes& times() const { return m_times; }
+    double startTime() const { return m_times.start; }
+    double endTime() const { return m_times.end; }
 
     double containerWidth() const { return m_containerWidth; }
     /// A new width keeps the stretch.

@@ -424,5 +424,101 @@
         <source></source>
         <translation>paused</translation>
     </message>
+    <message id="trimmer_title">
+        <source></source>
+        <translation>Trim</translation>
+    </message>
+    <message id="trimmer_done">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="trimmer_trim">
+        <source></source>
+        <translation>Trim</translation>
+    </message>
+    <message id="trimmer_edit">
+        <source></source>
+        <translation>Edit again</translation>
+    </message>
+    <message id="trimmer_reset">
+        <source></source>
+        <translation>Reset</translation>
+    </message>
+    <message id="trimmer_rerecord">
+        <source></source>
+        <translation>Re-record</translation>
+    </message>
+    <message id="trimmer_play">
+        <source></source>
+        <translation>Play the selection</translation>
+    </message>
+    <message id="trimmer_loading">
+        <source></source>
+        <translation>Reading the waveform…</translation>
+    </message>
+    <message id="trimmer_unreadable">
+        <source></source>
+        <translation>This recording cannot be read.</translation>
+    </message>
+    <message id="trimmer_total">
+        <source></source>
+        <translation>%1 in all</translation>
+    </message>
+    <message id="trimmer_exporting">
+        <source></source>
+        <translation>Saving the selection</translation>
+    </message>
+    <message id="trimmer_stop_recording">
+        <source></source>
+        <translation>Stop recording</translation>
+    </message>
+    <message id="a11y_trim_start">
+        <source></source>
+        <translation>Start of the selection</translation>
+    </message>
+    <message id="a11y_trim_end">
+        <source></source>
+        <translation>End of the selection</translation>
+    </message>
+    <message id="trimming_audio">
+        <source></source>
+        <translation>Trim Audio</translation>
+    </message>
+    <message id="trim_audio">
+        <source></source>
+        <translation>Trim Audio</translation>
+    </message>
+    <message id="save_trim_audio">
+        <source></source>
+        <translation>Do you want to go on with the trimmed recording?</translation>
+    </message>
+    <message id="trim_progress">
+        <source></source>
+        <translation>Trimming Audio</translation>
+    </message>
+    <message id="trim_play_trimmed">
+        <source></source>
+        <translation>Play Trimmed</translation>
+    </message>
+    <message id="trim_save">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="trim_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="Processing">
+        <source></source>
+        <translation>Processing</translation>
+    </message>
+    <message id="Yes">
+        <source></source>
+        <translation>Yes</translation>
+    </message>
+    <message id="No">
+        <source></source>
+        <translation>No</translation>
+    </message>
 </context>
 </TS>

@@ -166,6 +166,21 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
     }
 }
 
+TEST_F(ReadingTest, InterruptedRecordingsAreReadUpToTheirEnd) {
+    for (const Type& type : kTypes) {
+        SCOPED_TRACE(type.extension);
+        const auto writer = begin(pathFor(type), settingsFor(type, kQualities[1]));
+        ASSERT_TRUE(writer && writeBlocks(*writer, tone(kStereo, kFrames), 2));
+        const QString path = pathFor(type, "interrupted");
+        ASSERT_TRUE(QFile::copy(pathFor(type), path));
+        std::int64_t length = 0;
+        open(path)->fileLengthFrames(length);
+        EXPECT_GT(length, 8000);
+        EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * 16000));
+        expectExactSeeks(path, type.formatID == kAudioFormatMPEG4AAC ? 0.01F : 0);
+    }
+}
+
 TEST_F(ReadingTest, AppleLosslessIsDecodedBitByBit) {
     // Silence, noise of all levels, full scale and steps: the shortest and the longest codes.
     std::vector<float> samples;
