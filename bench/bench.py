@@ -3,7 +3,6 @@
 Each figure is a median over several rounds. Seconds differ from machine to machine; ratios hold better.
 """
 
-import os
 import pathlib
 import re
 import signal
@@ -263,20 +262,18 @@ def memory(binaries):
 
 
 def figures(program):
-    """What a benchmark of one part prints: values and units by name. Its test data are made once and kept."""
-    data = ROOT / "build/bench-data"
-    data.mkdir(parents=True, exist_ok=True)
-    done = subprocess.run([program], capture_output=True, text=True, check=True,
-                          env={**os.environ, "TAVI_BENCH_DATA": str(data)})
-    found = re.findall(r"^figure: (\S+) ([\d.]+) (\S+)", done.stdout, re.MULTILINE)
-    return {name: (float(value), unit) for name, value, unit in found}
+    """What a benchmark of one part prints: value, unit, value beside it and aim, by name. Test data are made once and kept."""
+    done = subprocess.run([program], capture_output=True, text=True, check=True)
+    found = re.findall(r"^figure: (\S+) ([\d.]+) (\S+)(?: beside ([\d.]+))?(?: aim ([\d.]+))?$", done.stdout, re.MULTILINE)
+    return {name: (float(value), unit, *(float(other) if other else None for other in more))
+            for name, value, unit, *more in found}
 
 
 @bench
 def listing(binaries):
     """Listing ten thousand recordings of all types with exact durations, beside libraries that tell durations."""
     found = figures(binaries / "library_bench")
-    value = {name: number for name, (number, _) in found.items()}
+    value = {name: figure[0] for name, figure in found.items()}
     row("files that TagLib has a length for", value["taglib-answered"], "files")
     row("first listing, beside libavformat", value["first"], "ms", value["libavformat"], aim=0.1)
     row("first listing, beside TagLib", value["first"], "ms", value["taglib"], aim=0.8)
@@ -284,7 +281,22 @@ def listing(binaries):
     row("one new file", value["one-new"], "ms", aim=100)
 
 
-OWN = {"library_bench", "ring_bench", "waveform_bench"}
+@bench
+def playing(binaries):
+    """Playing a recording beside ffplay, both at the same time: processor, wake-ups, underruns, and when a jump is heard."""
+    value = {name: number for name, (number, _) in figures(binaries / "player_bench").items()}
+    for rate in ("normal", "double"):
+        row(f"playing at {rate} rate", value[f"{rate}-processor"], "% core", value[f"{rate}-processor-ffplay"], aim=1.0)
+        row("  wake-ups", value[f"{rate}-wake-ups"], "a second", value[f"{rate}-wake-ups-ffplay"])
+        row("  gaps with all processors busy", value[f"{rate}-gaps-all-busy"], "in 20 s", aim=0)
+        row("  ffplay's then", value[f"{rate}-gaps-all-busy-ffplay"], "in 20 s")
+    row("wake-ups while paused", value["paused-wake-ups"], "in 10 s", aim=0)
+    row("jump to first sound from there", value["jump-heard-after"], "ms", aim=50)
+    row("  the slowest of them", value["jump-heard-after-at-most"], "ms", aim=50)
+    row("  the farthest off", value["jump-lands-off-by-at-most"], "ms", aim=10)
+
+
+OWN = {"library_bench", "player_bench", "ring_bench", "waveform_bench"}
 
 
 @bench
@@ -292,14 +304,14 @@ def parts(binaries):
     """What the other benchmarks of single parts print, such as a simulated half hour at full speed."""
     for program in sorted(binaries.glob("*_bench")):
         if program.name not in OWN:
-            for name, (value, unit) in figures(program).items():
-                row(f"{program.name}: {name}", value, unit)
+            for name, figure in figures(program).items():
+                row(f"{program.name}: {name}", *figure)
 
 
 @bench
 def ring(binaries):
     """Time that the engine's ring takes for a block from one processor to the other, and for a message one way."""
-    values = {name: value for name, (value, _) in figures(binaries / "ring_bench").items()}
+    values = {name: figure[0] for name, figure in figures(binaries / "ring_bench").items()}
     for name, what, aim in (("block-512", "block of 512 bytes", 1 / 0.85), ("block-4096", "block of 4 KiB", 1 / 0.95),
                             ("block-65536", "block of 64 KiB", 1 / 0.95), ("one-way", "message, one way", 1.15)):
         row(f"{what}, beside libjack's ring", values[name], "ns", values[f"{name}-jack"], aim=aim)
@@ -309,7 +321,7 @@ def ring(binaries):
 @bench
 def waveform(binaries):
     """The waveform of an hour by type of file, beside FFmpeg's program decoding it into a pipe with a small reducer."""
-    values = {name: value for name, (value, _) in figures(binaries / "waveform_bench").items()}
+    values = {name: figure[0] for name, figure in figures(binaries / "waveform_bench").items()}
     for name, aim in (("wav", 0.12), ("ima4", 0.03), ("aac", 0.35), ("lossless", 0.65), ("lossless-16k", 0.75),
                       ("aac-16k", 0.75), ("wav-8k", 0.75), ("aac-8k", 0.75)):
         row(f"waveform of an hour, {name}", values[name], "s", values[f"{name}-ffmpeg"], aim=aim)

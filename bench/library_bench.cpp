@@ -112,8 +112,7 @@ int askTagLib(const QStringList& paths) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     av_log_set_level(AV_LOG_QUIET);
-    const QString data = qEnvironmentVariable("TAVI_BENCH_DATA", QDir::tempPath());
-    const QString folder = data + QStringLiteral("/library");
+    const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/../bench-data/library");
     if (!QDir(folder).exists() && (!QDir().mkpath(folder) || !fill(folder))) {
         std::fprintf(stderr, "library_bench: cannot make recordings in %s\n", qPrintable(folder));
         return 1;

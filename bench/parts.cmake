@@ -17,6 +17,12 @@ if(TAGLIB_FOUND)
   target_compile_definitions(library_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 endif()
 
+add_executable(player_bench player_bench.cpp)
+target_include_directories(player_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(player_bench PRIVATE
+  tavi_adapter_player tavi_adapter_pulse tavi_adapter_ffmpeg tavi_adapter_qt tavi_test_pulse tavi_warnings)
+target_compile_definitions(player_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
 # Beside the rings of others, whose packages only scripts/bench installs.
 pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
 find_package(Boost QUIET)
@@ -34,3 +40,14 @@ target_include_directories(trimmer_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(trimmer_bench PRIVATE
   tavi_trimming_ui tavi_trimming_uiplugin tavi_waves_uiplugin tavi_uiplugin tavi_adapter_qt tavi_warnings)
 target_compile_definitions(trimmer_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+add_executable(export_bench export_bench.cpp)
+target_link_libraries(export_bench PRIVATE tavi_adapter_ffmpeg tavi_warnings)
+target_compile_definitions(export_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+add_executable(scroll_bench scroll_bench.cpp)
+target_include_directories(scroll_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(scroll_bench PRIVATE
+  tavi_main_ui tavi_main_uiplugin tavi_uiplugin tavi_waves_uiplugin tavi_recording_uiplugin tavi_library_uiplugin
+  tavi_app_uiplugin tavi_test_support Qt6::Quick tavi_warnings)
+target_compile_definitions(scroll_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)

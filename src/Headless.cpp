@@ -14,6 +14,8 @@
 #include "app/Commands.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
+#include "library/utility/DateTexts.h"
+#include "trimming/TrimRules.h"
 #include "trimming/waves/EZAudioPlotPainter.h"
 #include "trimming/waves/WaveformText.h"
 
@@ -114,6 +116,54 @@ int runWaveform(const CommandLine& line) {
     return EXIT_SUCCESS;
 }
 
+/// The part to keep, or why there is none.
+Result<AssetTimeRange> rangeOf(const CommandLine& line, const Asset& asset) {
+    const std::int32_t timescale = asset.duration.timescale;
+    if (!(line.to > line.from)) {
+        return failure(QStringLiteral("--to must be later than --from"));
+    }
+    if (line.from >= asset.duration.seconds()) {
+        return failure(QStringLiteral("it is only %1 s long").arg(asset.duration.seconds()));
+    }
+    return AssetTimeRange{AssetTime::withSeconds(line.from, timescale),
+                          AssetTime::withSeconds(line.to - line.from, timescale)};
+}
+
+int runTrim(const CommandLine& line, const AppContainer& container) {
+    MediaLibrary media;
+    const QtRunLoop runLoop;
+    std::unique_ptr<ExtAudioFile> probe;
+    if (const AudioStatus status = media.open(line.file.toStdString(), probe); status != kAudioNoError) {
+        return reportFile(line.file, openErrorText(status));
+    }
+    probe.reset();
+    const Asset asset = media.assetWithURL(line.file);
+    const auto range = rangeOf(line, asset);
+    if (!range) {
+        return reportFile(line.file, range.error().text);
+    }
+    const auto session = media.exportSession(asset, AssetExportPreset::Passthrough);
+    if (!session) {
+        return reportFile(line.file, session.error().text);
+    }
+    QByteArray output = line.output;
+    if (output.isEmpty()) {
+        output = QFile::encodeName(container.documentsPath() + QStringLiteral("/Trim_") +
+                                   fileBaseName(runLoop.clock().now(), QLocale()) + QLatin1Char('.')) +
+                 trimrules::pathExtension(line.file);
+    }
+    (*session)->setOutputURL(output);
+    (*session)->setOutputFileType(trimrules::outputFileType(line.file));
+    (*session)->setTimeRange(*range);
+    (*session)->exportAsynchronously([] {});
+    (*session)->waitUntilFinished();
+    if ((*session)->status() != AssetExportStatus::Completed) {
+        return reportFile(output, (*session)->error().text);
+    }
+    print(output + '\n');
+    return EXIT_SUCCESS;
+}
+
 }  // namespace
 
 int reportFailure(const Error& error, int exitCode) {
@@ -134,6 +184,9 @@ int runHeadless(int& argc, char** argv, const CommandLine& line, const AppContai
     const QCoreApplication application(argc, argv);
     if (line.command == Command::Waveform) {
         return runWaveform(line);
+    }
+    if (line.command == Command::Trim) {
+        return runTrim(line, container);
     }
     SettingsFiles files(container);
     // Otherwise the first launch would write its values over one that is set here before it.

@@ -1,3 +1,4 @@
+#include "adapters/ffmpeg/FfmpegAssets.h"
 #include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
@@ -12,6 +13,7 @@ extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters()
     static tavi::FfmpegAudioTempos tempos;
     static tavi::FfmpegExtAudioFiles files;
     static tavi::FfmpegAudioConverters converters;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations, tempos, files, converters};
+    static tavi::FfmpegAssets assets;
+    static const tavi::MediaLibrary::Adapters adapters{writers, durations, tempos, files, converters, assets, assets};
     return &adapters;
 }

@@ -30,7 +30,7 @@ public:
 
     /// Opens the file. False when that cannot be, with status() Failed; and when called twice.
     virtual bool startReading() = 0;
-    /// The next piece, at most about a second long. Nothing at the end and after a failure: status() is no longer
+    /// The next piece, at most some seconds long. Nothing at the end and after a failure: status() is no longer
     /// Reading then. Damage is skipped as the decoder can, and a file that became shorter ends early.
     virtual std::optional<SampleBuffer> copyNextSampleBuffer() = 0;
     virtual void cancelReading() = 0;

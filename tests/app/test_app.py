@@ -196,6 +196,97 @@ class Recording(AppTest):
         self.assert_holds_tone(self.wait_saved(2))
 
 
+class Playing(AppTest):
+    PLAYER = ("org.mpris.MediaPlayer2.tavi", "/org/mpris/MediaPlayer2", "org.mpris.MediaPlayer2.Player")
+
+    def setUp(self):
+        super().setUp()
+        self.documents.mkdir(parents=True)
+        write_tone(self.documents / "memo.wav", 1000, 40.0)
+        self.tavi("set", "RewindSong", "5")
+        self.tavi("set", "ForwardSong", "15")
+        self.start("library")
+
+    def player(self, name):
+        destination, path, interface = self.PLAYER
+        said = self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
+                                "org.freedesktop.DBus.Properties.Get", interface, name, check=False).stdout
+        value = re.search(r"<(?:\w+ )?'?([^'>]+)'?>", said)
+        return value and value.group(1)
+
+    def call(self, method, *arguments):
+        destination, path, interface = self.PLAYER
+        self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
+                         f"{interface}.{method}", *arguments)
+
+    def position(self):
+        return int(self.player("Position")) / 1e6
+
+    def wait_status(self, status):
+        self.wait(lambda: self.player("PlaybackStatus") == status, f"the player to be {status}")
+
+    def test_keys_and_the_desktops_controls_play_a_recording(self):
+        self.wait(lambda: self.desktop.colours() > 8, "the library")
+        self.assertIsNone(self.player("PlaybackStatus"))
+        self.desktop.keys("Down")
+        self.desktop.keys("Return")
+        self.wait_status("Playing")
+        self.wait(lambda: self.position() > 0.5, "the sound to go on")
+        self.desktop.keys("space")
+        self.wait_status("Paused")
+        start = self.position()
+        self.desktop.keys("l")
+        self.wait(lambda: self.position() > start, "the skip forward")
+        self.assertAlmostEqual(self.position(), start + 15.0, delta=0.01)
+        self.call("Previous")
+        self.assertAlmostEqual(self.position(), start + 10.0, delta=0.01)
+        # Behind the end a skip does nothing.
+        self.call("Seek", "20000000")
+        self.call("Next")
+        self.assertAlmostEqual(self.position(), start + 30.0, delta=0.01)
+        self.desktop.keys("greater")
+        self.wait(lambda: float(self.player("Rate")) == 2.0, "double speed")
+        self.call("PlayPause")
+        self.wait_status("Playing")
+        self.desktop.keys("Escape")
+        self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
+
+    def test_a_recording_deleted_while_it_plays_harms_nothing(self):
+        self.desktop.keys("Down")
+        self.desktop.keys("Return")
+        self.wait_status("Playing")
+        (self.documents / "memo.wav").unlink()
+        self.call("Seek", "20000000")
+        self.call("Stop")
+        self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
+
+
+class Files(AppTest):
+    def test_waveform_prints_and_draws(self):
+        shown = json.loads(self.tavi("waveform", self.tone, "--points", "10", "--json").stdout)
+        self.assertEqual((shown["channels"], shown["points"]), (2, 10))
+        for channel in shown["data"]:
+            # Two seconds of the tone in three of the file.
+            self.assertAlmostEqual(channel[3], 0.5 / 2 ** 0.5, delta=0.004)
+            self.assertLess(channel[9], 0.001)
+        picture = self.desktop.folder / "wave.png"
+        self.tavi("waveform", self.tone, "--png", picture)
+        self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
+
+
+    def test_trim_copies_a_part(self):
+        memo = write_tone(self.desktop.folder / "memo.wav", 1000, 3.0)
+        made = pathlib.Path(self.tavi("trim", memo, "--from", "0.5", "--to", "1.25").stdout.strip())
+        self.assertRegex(made.name, r"^Trim_\d{4}_[A-Z][a-z]{2}_\d\d_\d\d_\d\d_\d\d\.wav$")
+        self.assertEqual(self.recordings(), [made])
+        self.assertEqual(probe(made)["duration"], 0.75)
+        for faulty in (["--from", "2", "--to", "1"], ["--from", "9", "--to", "10"], ["--from", "0", "--to", "1", "--out", memo]):
+            done = self.tavi("trim", memo, *faulty, check=False)
+            self.assertEqual((done.returncode, done.stdout), (1, ""))
+            self.assertIn("memo.wav: ", done.stderr)
+        self.assertEqual(len(list(self.documents.iterdir())), 1)
+
+
 class Instance(AppTest):
     def test_a_second_start_hands_over_to_the_first(self):
         app = self.start()
@@ -220,7 +311,8 @@ class Instance(AppTest):
 
     def test_mistakes_are_told_on_standard_error(self):
         for arguments in (["fly"], ["set", "AudioFileType"], ["set", "AudioFileType", "ogg"], ["get", "NoSuchKey"],
-                          ["--no-such-option"], ["import", "/nonexistent.m4a"]):
+                          ["--no-such-option"], ["waveform", "/nonexistent.wav"], ["waveform", "/etc/passwd"],
+                          ["waveform", "/etc"], ["import", "/nonexistent.m4a"]):
             with self.subTest(arguments=arguments):
                 done = self.tavi(*arguments, check=False)
                 self.assertNotEqual(done.returncode, 0)

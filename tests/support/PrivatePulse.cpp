@@ -163,16 +163,16 @@ ProcessHandle PrivatePulse::play(const QByteArray& samples, int sampleRate, int 
                     QStringLiteral("--rate=%1").arg(sampleRate), QStringLiteral("--channels=%1").arg(channels), path});
 }
 
-ProcessHandle PrivatePulse::listen(const QString& path, int channels) const {
+ProcessHandle PrivatePulse::listen(const QString& path, int channels, const QString& sink) const {
     auto listener = std::make_unique<ChildProcess>(
-        QStringList{QStringLiteral("parec"), QStringLiteral("--raw"), QStringLiteral("--device=speaker.monitor"),
+        QStringList{QStringLiteral("parec"), QStringLiteral("--raw"), QStringLiteral("--device=%1.monitor").arg(sink),
                     QStringLiteral("--format=float32ne"), QStringLiteral("--rate=48000"),
                     QStringLiteral("--latency-msec=50"), QStringLiteral("--channels=%1").arg(channels), path});
     QElapsedTimer waited;
     waited.start();
     while (QFile(path).size() == 0) {
         if (waited.elapsed() > kPatience) {
-            qFatal("Nothing is heard from the speaker.");
+            qFatal("Nothing is heard from the sink.");
         }
         QThread::msleep(5);
     }

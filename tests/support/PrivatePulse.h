@@ -43,9 +43,9 @@ public:
     void moveRecording(const QString& source);
     /// Plays raw 16-bit samples of the native byte order into the microphone, until the handle goes away.
     ProcessHandle play(const QByteArray& samples, int sampleRate, int channels);
-    /// Writes what the speaker plays to a file, as interleaved floats at 48000 Hz, until the handle goes away. It has
-    /// begun when this returns.
-    ProcessHandle listen(const QString& path, int channels) const;
+    /// Writes what a sink plays to a file, as interleaved floats at 48000 Hz, until the handle goes away. It has begun
+    /// when this returns.
+    ProcessHandle listen(const QString& path, int channels, const QString& sink = QStringLiteral("speaker")) const;
     /// What pactl prints; fails the program when it fails.
     QString pactl(const QStringList& arguments) const;
 

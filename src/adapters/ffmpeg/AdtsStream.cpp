@@ -24,7 +24,7 @@ std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes) {
     AdtsFrame frame;
     frame.rate = kRates[rate];
     frame.blocks = (bytes[6] & 3) + 1;
-    frame.bytes = (bytes[3] & 3U) << 11 | bytes[4] << 3U | bytes[5] >> 5U;
+    frame.bytes = (bytes[3] & 3U) << 11 | std::uint32_t{bytes[4]} << 3 | std::uint32_t{bytes[5]} >> 5;
     return frame.bytes >= kAdtsHeaderBytes ? std::optional(frame) : std::nullopt;
 }
 

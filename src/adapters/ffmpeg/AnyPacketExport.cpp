@@ -138,10 +138,12 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     int code = 0;
     bool isAny = false;
     std::int64_t next = origin;
+    std::int64_t last = origin - 1;
     while (code >= 0 && !job.control.isCancelled() && input->next(*packet)) {
         const std::int64_t begin = packet->pts != AV_NOPTS_VALUE ? packet->pts : next;
         next = begin + packet->duration;
-        if (begin >= end) {
+        // One packet always follows the first that is heard: see there, in PacketExport.cpp.
+        if (begin >= end && last > start) {
             break;
         }
         if (next <= first) {
@@ -149,12 +151,13 @@ Result<void> exportAnyPackets(const ExportJob& job) {
         }
         packet->pts = packet->dts = begin - start;
         // The last one ends with the stretch.
-        packet->duration = std::min(packet->duration, end - begin);
+        packet->duration = begin < end ? std::min(packet->duration, end - begin) : packet->duration;
         // What the whole file leaves out at its ends is not at those of the stretch.
         av_packet_free_side_data(packet.get());
         job.control.setProgress(static_cast<double>(std::max<std::int64_t>(0, begin - start)) /
                                 static_cast<double>(end - start));
         isAny = true;
+        last = begin;
         code = output.write(*packet, timeBase);
     }
     if (code >= 0 && !isAny) {

@@ -16,6 +16,9 @@ namespace tavi {
 
 namespace {
 
+constexpr std::int64_t kMaximumChannels = 64;
+constexpr std::int64_t kMostPacketBytes = std::int64_t{1} << 30;
+
 /// Frames to leave out at the start and at the end of a packet, as libavformat tells its decoder.
 std::int64_t skippedFrames(const AVPacket& packet) {
     std::size_t size = 0;
@@ -41,7 +44,8 @@ AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& pa
     AVStream& stream = opened->m_file->stream();
     const std::int64_t rate = stream.codecpar->sample_rate;
     const AVRational base = stream.time_base;
-    if (rate <= 0 || base.num <= 0 || base.den <= 0) {
+    const std::int64_t channels = stream.codecpar->ch_layout.nb_channels;
+    if (rate <= 0 || base.num <= 0 || base.den <= 0 || channels > kMaximumChannels) {
         return kAudioFileUnsupportedDataFormatError;
     }
     opened->m_hasExactTimes = opened->tellsExactTimes();
@@ -53,7 +57,8 @@ AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& pa
     if (opened->m_maxPacketSize == 0) {
         // No codec makes more of a frame than its samples.
         const int frames = stream.codecpar->frame_size > 0 ? stream.codecpar->frame_size : 4096;
-        opened->m_maxPacketSize = static_cast<std::uint32_t>(frames * stream.codecpar->ch_layout.nb_channels * 4);
+        opened->m_maxPacketSize =
+            static_cast<std::uint32_t>(std::clamp<std::int64_t>(frames * channels * 4, 0, kMostPacketBytes));
     }
     if (opened->is("caf")) {
         const auto header = readCafHeader(fd);
@@ -100,7 +105,7 @@ std::int64_t ContainerPackets::declaredLength(int rate) {
         return av_rescale_q(stream.duration, stream.time_base, {1, rate});
     }
     if (isTold && !isGuessed && m_file->context().duration != AV_NOPTS_VALUE) {
-        return av_rescale_q(m_file->context().duration, AV_TIME_BASE_Q, {1, rate});
+        return av_rescale_q(m_file->context().duration, {1, AV_TIME_BASE}, {1, rate});
     }
     return m_hasExactTimes ? scannedLength(rate) : -1;
 }
@@ -121,7 +126,7 @@ std::int64_t ContainerPackets::movieLength(int rate) const {
     const std::int64_t size = regularFileSize(m_fd);
     for (int i = 0; i < entries; ++i) {
         const AVIndexEntry* entry = avformat_index_get_entry(&stream, i);
-        if (entry->pos + entry->size > size) {
+        if (entry->pos > size - entry->size) {
             return std::clamp<std::int64_t>(av_rescale_q(entry->timestamp, stream.time_base, frame), 0, length);
         }
     }
@@ -148,6 +153,12 @@ std::int64_t ContainerPackets::scannedLength(int rate) {
 }
 
 bool ContainerPackets::rewind() {
+    // Movies find their first packet again. Opening them once more would cost time and memory for their tables.
+    const AVIndexEntry* first = is("mov") ? avformat_index_get_entry(&m_file->stream(), 0) : nullptr;
+    if (first != nullptr && seek(first->timestamp)) {
+        m_isFresh = true;
+        return true;
+    }
     std::unique_ptr<AvFile> file;
     if (AvFile::open(m_fd, file) != kAudioNoError) {
         return false;

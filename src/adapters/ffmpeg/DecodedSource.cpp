@@ -20,6 +20,8 @@ constexpr int kMaximumChannels = 64;
 constexpr int kMaximumRate = 768000;
 /// Longer than any file.
 constexpr std::int64_t kMaximumLength = std::int64_t{1} << 50;
+/// Seconds of silence that may stand for packets that cannot be decoded.
+constexpr std::int64_t kLongestGap = 60;
 /// Packets in a row from which nothing can be decoded, after which a file counts as no sound.
 constexpr int kMaximumFailures = 4000;
 
@@ -144,6 +146,13 @@ AudioStatus DecodedSource::start() {
     if (avcodec_open2(m_decoder.get(), codec, nullptr) < 0) {
         return kAudioFileUnsupportedDataFormatError;
     }
+    if (parameters.codec_id == AV_CODEC_ID_ALAC && parameters.extradata != nullptr && m_decoder->sample_rate > 0) {
+        m_lossless = AlacDecoder::create(
+            std::span<const std::uint8_t>(parameters.extradata, static_cast<std::size_t>(parameters.extradata_size)));
+        if (m_lossless && m_lossless->channels() != parameters.ch_layout.nb_channels) {
+            m_lossless.reset();
+        }
+    }
     // What the decoder makes of it counts; headers know nothing of spectral band replication.
     m_hasFrame = decode();
     m_rate = m_hasFrame ? m_frame->sample_rate : parameters.sample_rate;
@@ -209,6 +218,9 @@ bool DecodedSource::decode() {
             return false;
         }
         m_isDraining = !m_packets->next(*m_packet);
+        if (!m_isDraining && decodeLossless()) {
+            return true;
+        }
         // What a damaged packet breaks is mended by the next.
         failures += avcodec_send_packet(m_decoder.get(), m_isDraining ? nullptr : m_packet.get()) < 0 ? 1 : 0;
         av_packet_unref(m_packet.get());
@@ -216,11 +228,43 @@ bool DecodedSource::decode() {
     return false;
 }
 
+bool DecodedSource::decodeLossless() {
+    // What is to be left out of a packet is libavcodec's to leave out.
+    if (!m_lossless || m_packet->size <= 0 || m_packet->side_data_elems > 0 ||
+        (m_packet->flags & AV_PKT_FLAG_DISCARD) != 0) {
+        return false;
+    }
+    static_assert(AlacDecoder::kPadding <= AV_INPUT_BUFFER_PADDING_SIZE);
+    const int count = m_lossless->decode(std::span(m_packet->data, static_cast<std::size_t>(m_packet->size)));
+    if (count == 0) {
+        return false;
+    }
+    av_frame_unref(m_frame.get());
+    m_frame->format = AV_SAMPLE_FMT_S16P;
+    m_frame->nb_samples = count;
+    m_frame->sample_rate = m_decoder->sample_rate;
+    m_frame->pts = m_packet->pts;
+    av_channel_layout_default(&m_frame->ch_layout, m_lossless->channels());
+    if (av_frame_get_buffer(m_frame.get(), 0) < 0) {
+        return false;
+    }
+    for (int channel = 0; channel < m_lossless->channels(); ++channel) {
+        const std::int32_t* from = m_lossless->samples(channel);
+        std::copy_n(from, count, reinterpret_cast<std::int16_t*>(m_frame->extended_data[channel]));
+    }
+    return true;
+}
+
 void DecodedSource::place() {
     const bool isExact = m_packets->hasExactTimes() && m_frame->pts != AV_NOPTS_VALUE;
     std::int64_t at = m_frameEnd;
     if (isExact) {
         at = framesOf(m_frame->pts) - m_origin;
+        if (m_isPlaced && at - m_frameEnd > kLongestGap * m_rate) {
+            // So much is not damage but a lie about the time.
+            m_origin += at - m_frameEnd;
+            at = m_frameEnd;
+        }
     } else if (!m_isPlaced) {
         at = -m_packets->primingFrames();
     }
@@ -317,6 +361,7 @@ void DecodedSource::seek(std::int64_t frame) {
         const std::int64_t time = av_rescale_q_rnd(from + m_origin, {1, m_rate}, m_packets->timeBase(), AV_ROUND_DOWN);
         avcodec_flush_buffers(m_decoder.get());
         m_isDraining = false;
+        m_isPlaced = false;
         if (m_packets->seek(time) && nextFrame() && m_frame->pts != AV_NOPTS_VALUE && m_frameStart <= frame) {
             return;
         }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "adapters/ffmpeg/AlacDecoder.h"
 #include "adapters/ffmpeg/PacketReader.h"
 #include "adapters/ffmpeg/PositionedIo.h"
 #include "adapters/ffmpeg/SoundSource.h"
@@ -35,6 +37,8 @@ private:
     bool nextFrame();
     /// Fills m_frame.
     bool decode();
+    /// Fills m_frame from m_packet without libavcodec; false where that is asked instead.
+    bool decodeLossless();
     void place();
     bool restart();
     /// What can be decoded of a length that is declared.
@@ -44,6 +48,8 @@ private:
     FileDescriptor m_file;
     std::unique_ptr<PacketReader> m_packets;
     AvCodec m_decoder;
+    /// Faster where the file is one of Apple Lossless as it is recorded.
+    std::optional<AlacDecoder> m_lossless;
     AvPacket m_packet;
     AvFrame m_frame;
     AudioStreamBasicDescription m_format;

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <vector>
-
+#include "adapters/ffmpeg/AssetSamples.h"
 #include "platform/AssetReader.h"
-#include "platform/ExtAudioFile.h"
 
 namespace tavi {
 
-/// Decodes through the reader of sound files.
+/// Reads by the fastest way that there is for the file.
 class FfmpegAssetReader : public AssetReader {
 public:
     explicit FfmpegAssetReader(const Asset& asset) : m_asset(asset) {}
@@ -19,15 +17,11 @@ public:
     Error error() const override { return m_error; }
 
 private:
-    bool fail(const QString& text);
-
     Asset m_asset;
     AssetReaderStatus m_status = AssetReaderStatus::Unknown;
     Error m_error;
-    std::unique_ptr<ExtAudioFile> m_file;
-    std::uint32_t m_channels = 0;
+    std::unique_ptr<AssetSamples> m_samples;
     std::int64_t m_position = 0;
-    std::vector<std::int16_t> m_samples;
 };
 
 }  // namespace tavi

@@ -1,13 +1,44 @@
 #include "adapters/ffmpeg/FfmpegAssets.h"
 
+#include <fcntl.h>
+
 #include <algorithm>
 #include <cmath>
 
 #include "adapters/ffmpeg/FfmpegAssetExportSession.h"
 #include "adapters/ffmpeg/FfmpegAssetReader.h"
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/HeaderDuration.h"
+#include "adapters/ffmpeg/Mp4Sound.h"
+#include "adapters/ffmpeg/PositionedIo.h"
 
 namespace tavi {
+
+namespace {
+
+/// From the header alone, where it tells all and the last packet is there: opening a decoder for hours of sound takes
+/// longer than copying them.
+std::optional<Asset> assetOfHeader(const QByteArray& path) {
+    const FileDescriptor file = FileDescriptor::open(path.toStdString(), O_RDONLY | O_NONBLOCK);
+    const std::int64_t size = file.isValid() ? regularFileSize(file.get()) : -1;
+    const auto sound = size > 0 ? Mp4Sound::open(file.get()) : std::nullopt;
+    const auto format = sound ? sound->format() : std::nullopt;
+    const auto seconds = format ? headerDuration(file.get()) : std::nullopt;
+    if (!seconds) {
+        return std::nullopt;
+    }
+    const std::int64_t frames = std::llround(*seconds * format->sampleRate);
+    bool isThere = false;
+    sound->forEachPacket(sound->start() + frames - 1, 0, [&](std::int64_t begin, const Mp4Packet& packet) {
+        isThere = sound->start() + frames <= begin + packet.duration && packet.offset <= size &&
+                  packet.size <= size - packet.offset;
+        return false;
+    });
+    const auto timescale = static_cast<std::int32_t>(format->sampleRate);
+    return isThere && frames > 0 ? std::optional(Asset{path, {frames, timescale}, {{{{*format}}}}}) : std::nullopt;
+}
+
+}  // namespace
 
 FfmpegAssets::FfmpegAssets() : m_threads(std::make_shared<ExportThreads>()) {}
 
@@ -16,6 +47,9 @@ FfmpegAssets::~FfmpegAssets() {
 }
 
 Asset FfmpegAssets::assetWithURL(const QByteArray& path) {
+    if (auto asset = assetOfHeader(path)) {
+        return *asset;
+    }
     Asset asset{path, {}, {}};
     std::unique_ptr<ExtAudioFile> file;
     AudioStreamBasicDescription format;

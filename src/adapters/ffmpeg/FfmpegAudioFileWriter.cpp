@@ -20,7 +20,6 @@ namespace {
 constexpr int kIoBufferBytes = 64 * 1024;
 /// Frames in one encoder frame where the codec takes any number.
 constexpr int kFreeFrameSize = 4096;
-constexpr int kIma4PacketFrames = 64;
 
 // Errors stay in the file and never reach FFmpeg, which would drop every later write.
 int writeToFile(void* opaque, std::uint8_t* data, int size) {

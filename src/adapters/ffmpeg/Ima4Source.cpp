@@ -11,36 +11,6 @@ constexpr std::size_t kPacketBytes = kIma4PacketBytes;
 constexpr std::size_t kPacketFrames = kIma4PacketFrames;
 constexpr std::size_t kBlockPackets = 256;
 constexpr std::size_t kBlockFrames = kBlockPackets * kPacketFrames;
-/// Decodes one packet of kCount channels side by side: each is a chain of dependent steps, and the processor works on
-/// all of them at the same time.
-template <std::size_t kCount>
-void decodePackets(const std::uint8_t* packets, Ima4State* states, float* samples) {
-    constexpr float kScale = 1.0F / 32768;
-    std::array<int, kCount> sample;
-    std::array<int, kCount> row;
-    for (std::size_t channel = 0; channel < kCount; ++channel) {
-        readIma4Header(packets + channel * kPacketBytes, states[channel]);
-        sample[channel] = states[channel].sample;
-        row[channel] = states[channel].step * 16;
-    }
-    const auto decode = [&](std::size_t channel, int code, std::size_t at) {
-        const Ima4Move move = kIma4Moves[static_cast<std::size_t>(row[channel] + code)];
-        sample[channel] = std::clamp(sample[channel] + move.difference, -32768, 32767);
-        row[channel] = move.next;
-        samples[channel * kBlockFrames + at] = static_cast<float>(sample[channel]) * kScale;
-    };
-    for (std::size_t byte = 0; byte < kPacketFrames / 2; ++byte) {
-        for (std::size_t channel = 0; channel < kCount; ++channel) {
-            const int codes = packets[channel * kPacketBytes + 2 + byte];
-            decode(channel, codes & 15, byte * 2);
-            decode(channel, codes >> 4, byte * 2 + 1);
-        }
-    }
-    for (std::size_t channel = 0; channel < kCount; ++channel) {
-        states[channel] = {sample[channel], row[channel] / 16};
-    }
-}
-
 }  // namespace
 
 std::unique_ptr<Ima4Source> Ima4Source::open(FileDescriptor& file) {
@@ -69,6 +39,7 @@ std::unique_ptr<Ima4Source> Ima4Source::open(FileDescriptor& file) {
 }
 
 bool Ima4Source::decodeBlock() {
+    constexpr float kScale = 1.0F / 32768;
     const std::size_t channels = m_states.size();
     const auto blockBytes = static_cast<std::int64_t>(m_bytes.size());
     const std::int64_t start = m_block * blockBytes;
@@ -87,11 +58,14 @@ bool Ima4Source::decodeBlock() {
         const std::uint8_t* bytes = m_bytes.data() + packet * m_header.packetBytes;
         float* samples = m_samples.data() + packet * kPacketFrames;
         std::size_t channel = 0;
+        const auto store = [&](std::size_t which, std::size_t at, int sample) {
+            samples[(channel + which) * kBlockFrames + at] = static_cast<float>(sample) * kScale;
+        };
         for (; channel + 2 <= channels; channel += 2) {
-            decodePackets<2>(bytes + channel * kPacketBytes, &m_states[channel], samples + channel * kBlockFrames);
+            decodeIma4Packets<2>(bytes + channel * kPacketBytes, &m_states[channel], store);
         }
         if (channel < channels) {
-            decodePackets<1>(bytes + channel * kPacketBytes, &m_states[channel], samples + channel * kBlockFrames);
+            decodeIma4Packets<1>(bytes + channel * kPacketBytes, &m_states[channel], store);
         }
     }
     ++m_block;

@@ -1,5 +1,7 @@
 #include "adapters/ffmpeg/Mp4Sound.h"
 
+#include <array>
+
 #include "adapters/ffmpeg/PositionedIo.h"
 
 namespace tavi {
@@ -8,6 +10,9 @@ namespace {
 
 /// Tables of a day of sound, and little enough to hold.
 constexpr std::int64_t kMaximumMovieBytes = std::int64_t{24} << 20;
+constexpr std::uint64_t kMaximumPackets = std::uint64_t{8} << 20;
+/// Longer and larger than any file: sums of these do not overflow.
+constexpr std::int64_t kMost = std::int64_t{1} << 60;
 
 std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t offset, std::size_t size) {
     std::uint64_t value = 0;
@@ -124,7 +129,84 @@ bool Mp4Sound::readTables(std::span<const std::uint8_t> body) {
     m_times = *times;
     m_chunkRuns = *chunkRuns;
     m_chunks = *chunks;
-    return m_packetSize > 0 || m_packets <= m_sizes.size() / 4;
+    return m_packets <= kMaximumPackets && (m_packetSize > 0 || m_packets <= m_sizes.size() / 4);
+}
+
+namespace {
+
+/// The contents of the descriptor in which others lie, by the way of their tags (ISO/IEC 14496-1, 7.2.6).
+std::span<const std::uint8_t> descriptor(Mp4Reader& reader, std::uint8_t tag) {
+    std::size_t length = 0;
+    bool isRight = reader.u8() == tag;
+    for (int i = 0; i < 4; ++i) {
+        const std::uint8_t byte = reader.u8();
+        length = length << 7 | (byte & 0x7fU);
+        if ((byte & 0x80) == 0) {
+            break;
+        }
+    }
+    isRight = isRight && length <= reader.rest().size();
+    return isRight ? reader.rest().first(length) : std::span<const std::uint8_t>{};
+}
+
+/// AAC-LC by its AudioSpecificConfig (ISO/IEC 14496-3, 1.6.2.1).
+std::optional<AudioStreamBasicDescription> aacFormat(std::span<const std::uint8_t> body, std::uint32_t timeScale) {
+    constexpr std::array<std::uint32_t, 13> kRates = {96000, 88200, 64000, 48000, 44100, 32000, 24000,
+                                                      22050, 16000, 12000, 11025, 8000,  7350};
+    constexpr std::uint32_t kHighestRateWithReplication = 24000;
+    Mp4Reader reader(body);
+    reader.skip(4);
+    descriptor(reader, 3);
+    reader.skip(3);
+    descriptor(reader, 4);
+    reader.skip(13);
+    const auto config = descriptor(reader, 5);
+    if (!reader.ok() || config.size() < 2) {
+        return std::nullopt;
+    }
+    const unsigned bits = static_cast<unsigned>(config[0]) << 8 | config[1];
+    const std::size_t rate = bits >> 7 & 15;
+    const bool isLowComplexity = bits >> 11 == 2 && (bits & 7) == 0;
+    // The extension that says so, or a rate that has none.
+    const bool isWithout = config.size() >= 5 && config[2] == 0x56 && config[3] == 0xe5 && (config[4] & 0x80) == 0;
+    AudioStreamBasicDescription format;
+    format.formatID = kAudioFormatMPEG4AAC;
+    format.channelsPerFrame = bits >> 3 & 15;
+    format.framesPerPacket = 1024;
+    format.sampleRate = rate < kRates.size() ? kRates[rate] : 0;
+    const bool isCertain = isWithout || (config.size() == 2 && format.sampleRate > kHighestRateWithReplication);
+    const bool isUsual = format.channelsPerFrame == 1 || format.channelsPerFrame == 2;
+    return isLowComplexity && isCertain && isUsual && format.sampleRate == timeScale ? std::optional(format)
+                                                                                     : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<AudioStreamBasicDescription> Mp4Sound::format() const {
+    // The entry's own fields (ISO/IEC 14496-12, 12.2.3.2), behind the headers of both boxes.
+    constexpr std::size_t kEntry = 16;
+    constexpr std::size_t kFields = 8 + 28;
+    const auto entry = m_description.subspan(kEntry);
+    if (entry.size() < kFields || numberAt(entry, 0, 4) != entry.size() || numberAt(entry, 16, 2) != 0) {
+        return std::nullopt;
+    }
+    const auto children = mp4Children(entry.subspan(kFields));
+    const bool isAac = m_coding == mp4Type("mp4a");
+    const Mp4Child* child = children ? findMp4Child(*children, isAac ? mp4Type("esds") : mp4Type("alac")) : nullptr;
+    if (child == nullptr) {
+        return std::nullopt;
+    }
+    if (isAac) {
+        return aacFormat(child->body, m_timeScale);
+    }
+    AudioStreamBasicDescription format;
+    format.formatID = kAudioFormatAppleLossless;
+    const bool isWhole = m_coding == mp4Type("alac") && child->body.size() >= 28;
+    format.framesPerPacket = isWhole ? static_cast<std::uint32_t>(numberAt(child->body, 4, 4)) : 0;
+    format.channelsPerFrame = isWhole ? child->body[13] : 0;
+    format.sampleRate = isWhole ? static_cast<double>(numberAt(child->body, 24, 4)) : 0;
+    const bool isSound = format.channelsPerFrame >= 1 && format.sampleRate == m_timeScale;
+    return isSound ? std::optional(format) : std::nullopt;
 }
 
 bool Mp4Sound::readEdits(std::span<const std::uint8_t> track) {
@@ -164,6 +246,9 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         const std::uint64_t count = numberAt(m_times, at, 4);
         const auto duration = static_cast<std::uint32_t>(numberAt(m_times, at + 4, 4));
         runs.push_back({packet, start, duration});
+        if (count > kMaximumPackets) {
+            return false;
+        }
         const std::int64_t length = static_cast<std::int64_t>(count) * duration;
         if (time >= start && duration > 0) {
             first =
@@ -171,7 +256,7 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         }
         packet += count;
         start += length;
-        if (start < 0 || start > std::int64_t{1} << 60) {
+        if (start > kMost) {
             return false;
         }
     }
@@ -197,6 +282,9 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         }
         for (; chunk < nextChunk; ++chunk) {
             auto offset = static_cast<std::int64_t>(numberAt(m_chunks, (chunk - 1) * m_chunkBytes, m_chunkBytes));
+            if (offset < 0 || offset > kMost) {
+                return false;
+            }
             for (std::uint64_t i = 0; i < perChunk; ++i, ++packet) {
                 if (packet >= end) {
                     return true;

@@ -32,6 +32,9 @@ public:
     /// The box "stsd" as it is, and the coding it names, such as "mp4a".
     std::span<const std::uint8_t> description() const { return m_description; }
     std::uint32_t coding() const { return m_coding; }
+    /// Rate and channels, where the description tells for certain what is decoded: for Apple Lossless, and for AAC
+    /// without the chance of spectral band replication, which only a decoder finds out.
+    std::optional<AudioStreamBasicDescription> format() const;
     /// The box "udta", with names and remarks; empty where there is none.
     std::span<const std::uint8_t> userData() const { return m_userData; }
 

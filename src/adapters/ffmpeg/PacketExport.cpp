@@ -1,6 +1,7 @@
 #include "adapters/ffmpeg/PacketExport.h"
 
 #include <array>
+#include <numeric>
 
 #include "adapters/ffmpeg/AdtsPackets.h"
 #include "adapters/ffmpeg/Ima4Cut.h"
@@ -15,6 +16,8 @@ namespace {
 /// Packets of AAC that a decoder hears before the first that is played: each overlaps with the one before.
 constexpr std::uint64_t kAacPreroll = 2;
 constexpr int kAacPacketFrames = 1024;
+// Where the heard part begins in the last packet of an M4A file, FFmpeg's demuxer plays nothing. So one packet always
+// follows the first that is heard, though it may be behind the end.
 
 std::vector<std::uint8_t> littleEndian(std::initializer_list<std::pair<std::uint64_t, int>> fields) {
     std::vector<std::uint8_t> bytes;
@@ -51,11 +54,12 @@ Result<bool> exportWavPackets(const ExportJob& job) {
     }
     const auto dataBytes = static_cast<std::uint64_t>(job.end - job.start) * header->frameBytes;
     const std::uint64_t padding = dataBytes & 1;
-    std::vector<std::uint8_t> format(header->formatBytes + (header->formatBytes & 1));
-    if (header->formatBytes > 4096 ||
-        readFully(job.source, format.data(), header->formatBytes, header->formatOffset) < header->formatBytes) {
+    std::vector<std::uint8_t> format(std::min(header->formatBytes, 4096U));
+    if (format.size() < header->formatBytes ||
+        readFully(job.source, format.data(), format.size(), header->formatOffset) < format.size()) {
         return damaged();
     }
+    format.resize(format.size() + (format.size() & 1));
     // Everything behind the first eight bytes.
     constexpr std::uint64_t kLongSizesBytes = 36;
     std::uint64_t size = 4 + 8 + format.size() + 8 + dataBytes + padding;
@@ -121,7 +125,7 @@ Result<void> copyCafChunks(const ExportJob& job) {
 Result<bool> exportCafPackets(const ExportJob& job) {
     const auto header = readCafHeader(job.source);
     const bool isLinear = header && header->formatID == kAudioFormatLinearPCM && header->packetFrames == 1;
-    const bool isIma4 = header && header->formatID == kAudioFormatAppleIMA4 &&
+    const bool isIma4 = header && header->formatID == kAudioFormatAppleIMA4 && header->channels <= 8 &&
                         header->packetFrames == kIma4PacketFrames &&
                         header->packetBytes == kIma4PacketBytes * header->channels;
     if (job.type != AssetFileType::CoreAudioFormat || !(isLinear || isIma4) || header->packetBytes == 0 ||
@@ -184,31 +188,41 @@ Result<bool> exportMp4Packets(const ExportJob& job) {
     const std::int64_t end = mediaTime(job.end);
     const std::uint64_t preroll = isAac ? kAacPreroll : 0;
     const std::int64_t size = regularFileSize(job.source);
-    const auto forEach = [&](const std::function<bool(const Mp4Packet&)>& visit) {
-        return sound->forEachPacket(
-            start, preroll, [&](std::int64_t begin, const Mp4Packet& packet) { return begin < end && visit(packet); });
-    };
+    std::vector<Mp4Packet> packets;
     std::int64_t bytes = 0;
-    bool isThere = true;
-    const bool isUnderstood = forEach([&](const Mp4Packet& packet) {
-        isThere = isThere && packet.offset >= 0 && packet.offset <= size && packet.size <= size - packet.offset;
-        bytes += packet.size;
-        return isThere;
+    std::int64_t origin = -1;
+    std::int64_t last = -1;
+    const bool isUnderstood = sound->forEachPacket(start, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
+        // Packets that share bytes could make a small file a large one.
+        const bool isThere = packet.size > 0 && packet.offset <= size && packet.size <= size - packet.offset &&
+                             bytes + packet.size <= size;
+        if (isThere && (begin < end || last <= start)) {
+            packets.push_back(packet);
+            origin = origin < 0 ? begin : origin;
+            last = begin;
+            bytes += packet.size;
+            return true;
+        }
+        return false;
     });
-    if (!isUnderstood || !isThere || bytes == 0) {
+    const std::int64_t there =
+        origin + std::accumulate(packets.begin(), packets.end(), std::int64_t{0},
+                                 [](std::int64_t sum, const Mp4Packet& packet) { return sum + packet.duration; });
+    if (!isUnderstood || packets.empty() || there < end) {
         return damaged();
+    }
+    if (last <= start) {
+        packets.push_back(packets.back());
     }
     Mp4SoundWriter writer(job.file);
     job.file.setControl(job.control, bytes);
-    std::int64_t origin = -1;
-    sound->forEachPacket(start, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
-        if (begin < end) {
-            origin = origin < 0 ? begin : origin;
-            writer.add(packet.size, packet.duration);
-            job.file.copy(job.source, packet.offset, packet.size);
+    for (const Mp4Packet& packet : packets) {
+        writer.add(packet.size, packet.duration);
+        job.file.copy(job.source, packet.offset, packet.size);
+        if (!job.file.result()) {
+            break;
         }
-        return begin < end && job.file.result().has_value();
-    });
+    }
     job.file.flush();
     writer.endAt(end - origin);
     writer.finish({sound->timeScale(), sound->description(), sound->userData(), start - origin, end - start});
@@ -225,11 +239,12 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
     const std::int64_t start = av_rescale(job.start, rate, job.rate);
     const std::int64_t end = av_rescale(job.end, rate, job.rate);
     const std::int64_t first = std::max<std::int64_t>(0, start / kAacPacketFrames - static_cast<int>(kAacPreroll));
-    const std::int64_t last = (end + kAacPacketFrames - 1) / kAacPacketFrames;
+    const std::int64_t last = std::max((end + kAacPacketFrames - 1) / kAacPacketFrames, start / kAacPacketFrames + 2);
     const AvPacket packet(av_packet_alloc());
     std::vector<std::uint8_t> gathered;
     std::array<std::uint8_t, 2> config{};
     std::uint32_t channels = 0;
+    std::uint32_t size = 0;
     std::int64_t origin = -1;
     Mp4SoundWriter writer(job.file);
     packets->seek(first);
@@ -249,8 +264,6 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
         config = own;
         channels = configuration == 7 ? 8 : configuration;
         origin = origin < 0 ? packet->pts * kAacPacketFrames : origin;
-        gathered.insert(gathered.end(), packet->data + headerBytes, packet->data + packet->size);
-        writer.add(static_cast<std::uint32_t>(packet->size - headerBytes), kAacPacketFrames);
         if (gathered.size() >= kGatheredBytes) {
             job.file.append(gathered);
             gathered.clear();
@@ -259,9 +272,17 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
                 break;
             }
         }
+        size = static_cast<std::uint32_t>(packet->size - headerBytes);
+        gathered.insert(gathered.end(), packet->data + headerBytes, packet->data + packet->size);
+        writer.add(size, kAacPacketFrames);
     }
     if (origin < 0) {
         return damaged();
+    }
+    if (writer.duration() <= start / kAacPacketFrames * kAacPacketFrames - origin + kAacPacketFrames) {
+        const std::vector<std::uint8_t> again(gathered.end() - size, gathered.end());
+        gathered.insert(gathered.end(), again.begin(), again.end());
+        writer.add(size, kAacPacketFrames);
     }
     job.file.append(gathered);
     if (writer.duration() < end - origin && job.file.result() && !job.control.isCancelled()) {

@@ -32,6 +32,8 @@ struct ExportJob {
 /// by an edit list in M4A; elsewhere from the packet at or before the      | |                            | writes    |
 /// start                                                                   |
 ///
+/// In the last row Vorbis in M4A starts with the packet after the start, as FFmpeg plays no part of its packets.
+///
 /// AAC gets two packets before the start that are decoded but not heard. Everything but the last row is copied in large
 /// blocks.
 Result<void> exportPackets(const ExportJob& job);

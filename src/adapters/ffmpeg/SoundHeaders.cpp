@@ -134,7 +134,8 @@ std::optional<CafHeader> readCafHeader(int fd) {
     if (!(header.sampleRate >= 1 && header.sampleRate <= 1e6) || !hasData) {
         return std::nullopt;
     }
-    if (header.packetBytes > 0 && header.packetFrames > 0) {
+    constexpr std::uint32_t kMostPacketFrames = 1 << 20;
+    if (header.packetBytes > 0 && header.packetFrames > 0 && header.packetFrames <= kMostPacketFrames) {
         const std::int64_t frames = header.dataBytes / header.packetBytes * header.packetFrames;
         const std::int64_t heard = std::max<std::int64_t>(0, frames - header.primingFrames);
         header.frames = validFrames > 0 ? std::min(validFrames, heard) : heard;

@@ -7,7 +7,7 @@ namespace tavi {
 namespace {
 
 /// Room for what is decoded ahead, and for the beginning of what replaces it.
-constexpr int kSecondsBuffered = 3;
+constexpr int kSecondsBuffered = 4;
 constexpr std::int32_t kMarkBytes = 4096;
 constexpr auto kMarkSize = static_cast<std::int32_t>(sizeof(PlaybackMark));
 

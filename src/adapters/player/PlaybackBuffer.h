@@ -88,8 +88,8 @@ public:
     void consumeTo(std::int64_t frame);
 
     /// Sound decoded ahead at most, and what is left when more is decoded. Frames.
-    std::int64_t highWater() const { return std::int64_t{2} * m_format.sampleRate; }
-    std::int64_t lowWater() const { return m_format.sampleRate; }
+    std::int64_t highWater() const { return std::int64_t{5} * m_format.sampleRate / 2; }
+    std::int64_t lowWater() const { return std::int64_t{3} * m_format.sampleRate / 2; }
 
 private:
     std::size_t bytesPerFrame() const { return sizeof(float) * static_cast<std::size_t>(m_format.channels); }

@@ -12,11 +12,11 @@ namespace {
 /// More than any output holds.
 constexpr int kScratchSeconds = 1;
 /// What has been written stays in the buffer for that many tenths of a second: longer than an output holds it.
-constexpr std::int64_t kHeldTenths = 4;
+constexpr std::int64_t kHeldTenths = 6;
 constexpr std::int32_t kLevelBytes = 16384;
 /// A stream's latency settles within its first fills; later only clocks drift.
 constexpr int kTimingsSoon = 4;
-constexpr int kFillsPerTiming = 10;
+constexpr int kFillsPerTiming = 5;
 
 /// A raised cosine from 0 to 1.
 float gainAt(std::int64_t frame, std::int64_t ramp) {

@@ -15,7 +15,7 @@ namespace tavi {
 
 /// Gives an output what a buffer holds: the playback thread's part of a player.
 ///
-/// The output holds a quarter of a second. What it holds already is replaced when something else is to be heard: the
+/// The output holds half a second. What it holds already is replaced when something else is to be heard: the
 /// frames that were given to it stay in the buffer until they have been heard, so that the new sound is faded in over
 /// the old, frame for frame.
 class PlaybackFeed : public AudioOutputSource {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kChunk = 4096;
 /// What has to be there before it takes the place of what the output holds: more than that is, at any rate.
-constexpr double kSecondsPrepared = 0.4;
+constexpr double kSecondsPrepared = 0.75;
 /// A change of rate comes about that much later than it is asked for, so that little is decoded in vain.
 constexpr std::int64_t kLead = 20'000'000;
 /// A recording that ends that much earlier than its headers say has been cut short.

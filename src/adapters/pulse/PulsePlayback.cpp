@@ -9,14 +9,14 @@ namespace {
 
 /// What the server holds, and how much of it is played before it asks for more. Half of the difference between the
 /// first and twice the second is what the device may hold, where nothing can be replaced any more.
-constexpr pa_usec_t kHeld = 250 * PA_USEC_PER_MSEC;
-constexpr pa_usec_t kAskedFor = 100 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t kHeld = 500 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t kAskedFor = 225 * PA_USEC_PER_MSEC;
 /// What has to be there before the first frame is heard, and again when too little came.
 constexpr pa_usec_t kBeforeStart = 20 * PA_USEC_PER_MSEC;
 /// How long frames may be under way to the server: what it plays within that time is not replaced.
 constexpr pa_usec_t kUnderWay = 5 * PA_USEC_PER_MSEC;
 /// A server that does not answer for that long counts as gone.
-constexpr pa_usec_t kAnswerLimit = 5 * PA_USEC_PER_SEC;
+constexpr pa_usec_t kAnswerLimit = 3 * PA_USEC_PER_SEC;
 /// Closing takes no longer.
 constexpr pa_usec_t kCloseLimit = PA_USEC_PER_SEC / 2;
 
@@ -58,9 +58,28 @@ void PulsePlayback::startLimit(pa_usec_t duration) {
     m_limit.start(
         m_connection.context(), pa_rtclock_now() + duration,
         [](pa_mainloop_api*, pa_time_event*, const timeval*, void* userdata) {
-            static_cast<PulsePlayback*>(userdata)->fail(pulseError(PA_ERR_TIMEOUT));
+            static_cast<PulsePlayback*>(userdata)->limitDidPass();
         },
         this);
+}
+
+/// A server that asks for nothing may just have its device suspended; one that does not even answer is gone.
+void PulsePlayback::limitDidPass() {
+    m_limit.stop();
+    if (m_isReady && !m_query) {
+        updateTiming();
+    } else {
+        fail(pulseError(PA_ERR_TIMEOUT));
+    }
+}
+
+/// While the stream runs something is to be heard of the server.
+void PulsePlayback::watch() {
+    if (m_isRunning) {
+        startLimit(kAnswerLimit);
+    } else {
+        m_limit.stop();
+    }
 }
 
 void PulsePlayback::createStream() {
@@ -79,6 +98,7 @@ void PulsePlayback::createStream() {
         [](pa_stream*, std::size_t, void* userdata) {
             auto& self = *static_cast<PulsePlayback*>(userdata);
             if (!self.m_isClosing) {
+                self.watch();
                 self.m_source->audioOutputWantsFrames(self);
             }
         },
@@ -134,6 +154,7 @@ void PulsePlayback::write(std::int64_t at, const float* interleaved, std::size_t
 void PulsePlayback::setRunning(bool running) {
     m_isRunning = running;
     pulseForget(pa_stream_cork(m_stream.get(), running ? 0 : 1, nullptr, nullptr));
+    watch();
 }
 
 std::int64_t PulsePlayback::framesIn(pa_usec_t duration) const {
@@ -165,7 +186,7 @@ void PulsePlayback::timingDidCome() {
         callAt(m_source->audioOutputWillClose(*this));
         return;
     }
-    m_limit.stop();
+    watch();
     if (m_isStale) {
         updateTiming();
         return;
@@ -183,6 +204,7 @@ void PulsePlayback::readTiming() {
     }
     const auto frameSize = static_cast<std::int64_t>(pa_frame_size(pa_stream_get_sample_spec(m_stream.get())));
     const std::int64_t read = info->read_index / frameSize;
+    m_read = read;
     m_timing.isMoving = m_isRunning && info->playing != 0;
     m_timing.time = static_cast<std::int64_t>(pa_rtclock_now()) * 1000;
     m_timing.heard = read - framesIn(info->sink_usec);
@@ -200,9 +222,10 @@ void PulsePlayback::callAt(std::int64_t frame) {
     }
 }
 
-/// Looks again when that frame should be heard. The end of what was written has been heard when nothing moves.
+/// Looks again when that frame should be heard. The end of what was written has been heard when nothing moves. What the
+/// device has not taken has not been heard, whatever the estimate says: a stream that stops now would keep it.
 void PulsePlayback::checkReached() {
-    const std::int64_t left = m_reached - m_timing.heard;
+    const std::int64_t left = m_reached - std::min(m_timing.heard, m_read);
     if (left <= 0 || (m_isRunning && !m_timing.isMoving && m_reached <= m_timing.replaceable)) {
         m_reached = -1;
         m_reach.stop();

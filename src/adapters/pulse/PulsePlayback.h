@@ -12,7 +12,7 @@ namespace tavi {
 
 /// The loop thread's end of an output: a playback stream.
 ///
-/// The server holds a quarter of a second and asks for more ten times a second. Frames are written by their number in
+/// The server holds half a second and asks for more four times a second. Frames are written by their number in
 /// the stream, so that the server replaces what it holds already, and rewinds a device that can.
 class PulsePlayback : public PulseConnectionObserver,
                       public AudioOutputStream,
@@ -47,6 +47,8 @@ private:
     void letGo();
     void fail(const Error& error);
     void startLimit(pa_usec_t duration);
+    void limitDidPass();
+    void watch();
     std::int64_t framesIn(pa_usec_t duration) const;
 
     PulseConnection& m_connection;
@@ -65,6 +67,8 @@ private:
     bool m_isStale = false;
     Timing m_timing;
     std::int64_t m_written = 0;
+    /// How many frames the device had taken.
+    std::int64_t m_read = 0;
     /// The frame that somebody waits for; negative for none.
     std::int64_t m_reached = -1;
 };

@@ -57,4 +57,31 @@ AudioStatus MediaLibrary::formatInfo(AudioStreamBasicDescription& format) const 
     return loaded != nullptr ? loaded->converters.formatInfo(format) : kAudioFileUnspecifiedError;
 }
 
+Asset MediaLibrary::assetWithURL(const QByteArray& path) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->exportSessions.assetWithURL(path) : Asset{path, {}, {}};
+}
+
+std::vector<AssetExportPreset> MediaLibrary::exportPresetsCompatibleWithAsset(const Asset& asset) {
+    const Adapters* loaded = adapters();
+    return loaded != nullptr ? loaded->exportSessions.exportPresetsCompatibleWithAsset(asset)
+                             : std::vector<AssetExportPreset>{};
+}
+
+Result<std::unique_ptr<AssetExportSession>> MediaLibrary::exportSession(const Asset& asset, AssetExportPreset preset) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->exportSessions.exportSession(asset, preset);
+}
+
+Result<std::unique_ptr<AssetReader>> MediaLibrary::assetReader(const Asset& asset) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->readers.assetReader(asset);
+}
+
 }  // namespace tavi

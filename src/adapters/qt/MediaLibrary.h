@@ -2,6 +2,8 @@
 
 #include <mutex>
 
+#include "platform/AssetExportSession.h"
+#include "platform/AssetReader.h"
 #include "platform/AudioConverter.h"
 #include "platform/AudioDuration.h"
 #include "platform/AudioFileWriter.h"
@@ -18,7 +20,9 @@ class MediaLibrary : public AudioFileWriters,
                      public AudioDuration,
                      public AudioTempos,
                      public ExtAudioFiles,
-                     public AudioConverters {
+                     public AudioConverters,
+                     public AssetExportSessions,
+                     public AssetReaders {
 public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
@@ -27,6 +31,8 @@ public:
         AudioTempos& tempos;
         ExtAudioFiles& files;
         AudioConverters& converters;
+        AssetExportSessions& exportSessions;
+        AssetReaders& readers;
     };
     using Entry = const Adapters* (*)();
 
@@ -49,6 +55,12 @@ public:
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override;
     AudioStatus formatInfo(AudioStreamBasicDescription& format) const override;
+    /// Without a track when the library cannot be loaded.
+    Asset assetWithURL(const QByteArray& path) override;
+    std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override;
+    /// These two fail when the library cannot be loaded.
+    Result<std::unique_ptr<AssetExportSession>> exportSession(const Asset& asset, AssetExportPreset preset) override;
+    Result<std::unique_ptr<AssetReader>> assetReader(const Asset& asset) override;
 
 private:
     const Adapters* adapters() const;

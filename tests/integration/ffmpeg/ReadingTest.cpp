@@ -166,6 +166,44 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
     }
 }
 
+TEST_F(ReadingTest, InterruptedRecordingsAreReadUpToTheirEnd) {
+    for (const Type& type : kTypes) {
+        SCOPED_TRACE(type.extension);
+        const auto writer = begin(pathFor(type), settingsFor(type, kQualities[1]));
+        ASSERT_TRUE(writer && writeBlocks(*writer, tone(kStereo, kFrames), 2));
+        const QString path = pathFor(type, "interrupted");
+        ASSERT_TRUE(QFile::copy(pathFor(type), path));
+        std::int64_t length = 0;
+        open(path)->fileLengthFrames(length);
+        EXPECT_GT(length, 8000);
+        EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * 16000));
+        expectExactSeeks(path, type.formatID == kAudioFormatMPEG4AAC ? 0.01F : 0);
+    }
+}
+
+TEST_F(ReadingTest, AppleLosslessIsDecodedBitByBit) {
+    // Silence, noise of all levels, full scale and steps: the shortest and the longest codes.
+    std::vector<float> samples;
+    std::uint32_t state = 1;
+    for (std::size_t i = 0; i < 2 * kFrames; ++i) {
+        state = state * 1664525 + 1013904223;
+        const float noise = static_cast<float>(static_cast<std::int32_t>(state)) / 2147483648.0F;
+        const std::size_t part = i / 20000 % 7;
+        const float level = part == 0 ? 0.0F : std::pow(10.0F, static_cast<float>(part) - 6);
+        samples.push_back(part == 6 && i % 977 < 488 ? 1.0F : noise * level);
+    }
+    for (const Quality& quality : kQualities) {
+        const QString path = pathFor(kTypes[0]);
+        QFile::remove(path);
+        const auto writer = begin(path, settingsFor(kTypes[0], quality));
+        ASSERT_TRUE(writer && writeBlocks(*writer, samples, 2) && writer->finish());
+        const auto file = open(path);
+        const auto client = clientFormat(quality.rate, static_cast<std::uint32_t>(quality.channels));
+        file->setClientDataFormat(client);
+        EXPECT_EQ(readPlanes(*file, client), decodeSound(path)->planes) << quality.rate;
+    }
+}
+
 }  // namespace
 
 }  // namespace tavi::test

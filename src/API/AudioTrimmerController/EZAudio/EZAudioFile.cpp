@@ -16,6 +16,8 @@ namespace {
 
 constexpr std::uint32_t kFloatDataFrames = 1024;
 constexpr std::uint32_t kDefaultPoints = 1024;
+/// More than any file has, and less than overflows.
+constexpr double kMostFrames = 1e18;
 /// A shorter file is read before a second thread has begun.
 constexpr double kSecondsWorthTwoThreads = 30;
 
@@ -199,8 +201,9 @@ std::int64_t EZAudioFile::frameIndex() const {
 
 std::int64_t EZAudioFile::totalClientFrames() const {
     const double rate = m_info->clientFormat.sampleRate;
-    return rate == m_info->fileFormat.sampleRate ? m_info->totalFrames
-                                                 : static_cast<std::int64_t>(rate * m_info->duration);
+    return rate == m_info->fileFormat.sampleRate
+               ? m_info->totalFrames
+               : static_cast<std::int64_t>(std::clamp(rate * m_info->duration, 0.0, kMostFrames));
 }
 
 double EZAudioFile::currentTime() const {
@@ -211,7 +214,7 @@ double EZAudioFile::currentTime() const {
 void EZAudioFile::setCurrentTime(double currentTime) {
     const double frame = duration() > 0 ? currentTime / duration() * static_cast<double>(totalFrames()) : 0;
     // Half a thousandth of a frame forgives the rounding of a time that names one.
-    seekToFrame(static_cast<std::int64_t>(std::clamp(frame + 0.0005, -1.0, 9e18)));
+    seekToFrame(static_cast<std::int64_t>(std::clamp(frame + 0.0005, -1.0, kMostFrames)));
 }
 
 std::string EZAudioFile::formattedDuration() const {

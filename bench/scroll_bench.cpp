@@ -1,0 +1,71 @@
+// Scrolling a library of ten thousand recordings in a phone's window, rendered in software: how long a picture takes
+// from the movement of the list until it is there.
+
+#include <QtQml/qqmlextensionplugin.h>
+#include <QElapsedTimer>
+#include <QFont>
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstdio>
+
+#include "ui/Shell.h"
+#include "ui/Texts.h"
+
+Q_IMPORT_QML_PLUGIN(TaviPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
+
+namespace {
+
+constexpr int kRecordings = 10'000;
+constexpr int kPictures = 600;
+/// A fast flick: a row and a half from one picture to the next.
+constexpr double kStep = 97.0;
+constexpr double kFrame = 16.0;
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
+    tavi::installTexts(application);
+    const tavi::test::Shell shell([](tavi::test::Shell& made) {
+        for (int i = 0; i < kRecordings; ++i) {
+            made.container.addDocument(QStringLiteral("2024_Mar_05_%1.m4a").arg(i, 5, 10, QLatin1Char('0')),
+                                       QByteArray(1 + i % 997, 'x'));
+        }
+        made.tabBar.select(1);
+    });
+    shell.resize({390, 844});
+    QQuickItem* list = shell.item(QStringLiteral("tableView"));
+    if (list == nullptr || list->property("count").toInt() != kRecordings) {
+        std::fprintf(stderr, "scroll_bench: there is no list of %d\n", kRecordings);
+        return 1;
+    }
+    bool isDrawn = false;
+    QObject::connect(shell.window, &QQuickWindow::frameSwapped, list, [&isDrawn] { isDrawn = true; });
+    std::vector<double> milliseconds;
+    double place = 0.0;
+    for (int i = 0; i < kPictures; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        isDrawn = false;
+        list->setProperty("contentY", place += kStep);
+        while (!isDrawn) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 1000);
+        }
+        milliseconds.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    const auto late = std::count_if(milliseconds.begin(), milliseconds.end(), [](double ms) { return ms > kFrame; });
+    std::sort(milliseconds.begin(), milliseconds.end());
+    std::printf("figure: picture %.2f ms aim 16\n", milliseconds[milliseconds.size() / 2]);
+    std::printf("figure: slowest-of-a-hundred %.2f ms aim 16\n", milliseconds[milliseconds.size() * 99 / 100]);
+    std::printf("figure: slowest %.2f ms\n", milliseconds.back());
+    std::printf("figure: dropped %lld of-%d aim 0\n", static_cast<long long>(late), kPictures);
+    return 0;
+}

@@ -1,0 +1,340 @@
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <csignal>
+#include <random>
+#include <thread>
+
+#include "adapters/ffmpeg/FfmpegAssets.h"
+#include "integration/ffmpeg/RecordingFixture.h"
+
+namespace tavi::test {
+
+namespace {
+
+/// How a pass-through export of a recording differs at its edges from the same stretch of the recording.
+struct Edges {
+    AssetFileType type;
+    const char* container;
+    /// Frames at the start that need not be identical, as a decoder comes into the midst of the sound.
+    std::size_t unlike;
+    /// Other decoders start with the packet of so many frames.
+    std::int64_t packet;
+    /// They end with a packet, too.
+    std::int64_t longer;
+    /// What the decoder makes of the same packets when it comes from elsewhere.
+    double tolerance;
+};
+
+constexpr double kExact = 0;
+/// Noise substitution draws other random numbers.
+constexpr double kNoise = 0.02;
+constexpr auto kMov = "mov,mp4,m4a,3gp,3g2,mj2";
+constexpr std::array<Edges, kTypes.size()> kEdges{{
+    {AssetFileType::AppleM4A, kMov, 0, 1, 4096, kExact},
+    {AssetFileType::Wave, "wav", 0, 1, 1, kExact},
+    {AssetFileType::CoreAudioFormat, "caf", 64, 64, 64, kExact},
+    {AssetFileType::AppleM4A, kMov, 0, 1, 1024, kNoise},
+    {AssetFileType::AppleM4A, kMov, 0, 1, 1024, kNoise},
+}};
+
+class ExportTest : public RecordingFixture {
+protected:
+    static QByteArray bytes(const QString& path) { return QFile::encodeName(path); }
+
+    /// Six seconds of a tone that grows, under a little noise, so that every place sounds different.
+    QString recording(const Type& type, const Quality& quality) {
+        const int rate = static_cast<int>(quality.rate);
+        const std::size_t frames = static_cast<std::size_t>(rate) * 6;
+        const AudioInputFormat format{rate, quality.channels};
+        std::vector<float> samples = tone(format, frames);
+        std::mt19937 random(7);
+        // AAC would replace it by other noise.
+        const double hiss = type.formatID == kAudioFormatMPEG4AAC ? 0 : 0.05;
+        for (std::size_t i = 0; i < samples.size(); ++i) {
+            const double noise = static_cast<double>(random() % 2001) / 1000 - 1;
+            const double loudness = static_cast<double>(i) / static_cast<double>(samples.size());
+            samples[i] = static_cast<float>(double{samples[i]} * loudness + hiss * noise);
+        }
+        const QString path = pathFor(type);
+        QFile::remove(path);
+        auto writer = FfmpegAudioFileWriters().create(path, settingsFor(type, quality));
+        EXPECT_TRUE(writer && (*writer)->setInputFormat(format) && writeBlocks(**writer, samples, quality.channels) &&
+                    (*writer)->finish());
+        return path;
+    }
+
+    /// All samples, as the program itself hears them.
+    std::vector<std::int16_t> heard(const QString& path) {
+        auto reader = m_assets.assetReader(m_assets.assetWithURL(bytes(path)));
+        std::vector<std::int16_t> samples;
+        if (!reader || !(*reader)->startReading()) {
+            ADD_FAILURE() << "cannot read " << qPrintable(path);
+            return samples;
+        }
+        while (const auto buffer = (*reader)->copyNextSampleBuffer()) {
+            samples.insert(samples.end(), buffer->samples.begin(), buffer->samples.end());
+        }
+        EXPECT_EQ((*reader)->status(), AssetReaderStatus::Completed);
+        return samples;
+    }
+
+    std::unique_ptr<AssetExportSession> session(const QString& from, const QString& to, AssetFileType type,
+                                                AssetExportPreset preset = AssetExportPreset::Passthrough) {
+        auto session = m_assets.exportSession(m_assets.assetWithURL(bytes(from)), preset);
+        if (!session) {
+            return nullptr;
+        }
+        (*session)->setOutputURL(bytes(to));
+        (*session)->setOutputFileType(type);
+        return std::move(*session);
+    }
+
+    static AssetExportStatus run(AssetExportSession& session) {
+        session.exportAsynchronously([] {});
+        session.waitUntilFinished();
+        return session.status();
+    }
+
+    QString target() const { return m_folder.filePath(QStringLiteral("Trim.out")); }
+    /// Every name in the folder, beside the sources.
+    QStringList leftovers() const {
+        QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+        names.removeIf([](const QString& name) { return name.startsWith(QLatin1String("recording.")); });
+        return names;
+    }
+
+    FfmpegAssets m_assets;
+};
+
+/// The largest difference between a stretch of a and all of b, full scale 1.
+template <class T>
+double difference(const std::vector<T>& a, std::size_t from, const std::vector<T>& b, std::size_t bFrom,
+                  double fullScale) {
+    double largest = 0;
+    for (std::size_t i = 0; bFrom + i < b.size() && from + i < a.size(); ++i) {
+        largest = std::max(largest, std::abs(static_cast<double>(a[from + i]) - static_cast<double>(b[bFrom + i])));
+    }
+    return largest / fullScale;
+}
+
+TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
+    for (std::size_t index = 0; index < kTypes.size(); ++index) {
+        const Edges& edges = kEdges[index];
+        for (const Quality& quality : kQualities) {
+            const QString source = recording(kTypes[index], quality);
+            const Asset asset = m_assets.assetWithURL(bytes(source));
+            const std::int64_t frames = asset.duration.value;
+            const auto whole = heard(source);
+            const auto decoded = decodeSound(source);
+            ASSERT_EQ(whole.size(), static_cast<std::size_t>(frames * quality.channels));
+            ASSERT_TRUE(decoded);
+            for (const auto& [start, length] :
+                 std::initializer_list<std::pair<std::int64_t, std::int64_t>>{{0, 1},
+                                                                              {0, frames},
+                                                                              {1, 1500},
+                                                                              {63, 2},
+                                                                              {64, 64},
+                                                                              {1023, 3000},
+                                                                              {2048, 1024},
+                                                                              {frames / 3, 9999},
+                                                                              {frames / 2 + 17, frames},
+                                                                              {frames - 100, 100}}) {
+                SCOPED_TRACE(testing::Message() << kTypes[index].extension << " " << quality.rate << " from " << start
+                                                << " for " << length);
+                const auto session = this->session(source, target(), edges.type);
+                session->setTimeRange({{start, asset.duration.timescale}, {length, asset.duration.timescale}});
+                ASSERT_EQ(run(*session), AssetExportStatus::Completed) << qPrintable(session->error().text);
+                const std::int64_t kept = std::min(length, frames - start);
+                const auto channels = static_cast<std::size_t>(quality.channels);
+                const auto from = static_cast<std::size_t>(start);
+
+                const auto own = heard(target());
+                EXPECT_EQ(m_assets.assetWithURL(bytes(target())).duration, (AssetTime{kept, asset.duration.timescale}));
+                EXPECT_EQ(own.size(), static_cast<std::size_t>(kept) * channels);
+                EXPECT_LE(difference(whole, (from + edges.unlike) * channels, own, edges.unlike * channels, 32768),
+                          start == 0 ? kExact : edges.tolerance);
+                // Within a step of the coding.
+                EXPECT_LE(difference(whole, from * channels, own, 0, 32768), edges.tolerance + 0.12);
+
+                const auto other = decodeSound(target());
+                ASSERT_TRUE(other);
+                EXPECT_EQ(other->codec, kTypes[index].codec);
+                EXPECT_EQ(other->container, edges.container);
+                // What the other decoder plays before the start, being unable to begin within a packet.
+                const auto early = static_cast<std::size_t>(start % edges.packet);
+                EXPECT_GE(other->frames(), early + static_cast<std::size_t>(kept));
+                EXPECT_LT(other->frames(), early + static_cast<std::size_t>(kept + edges.longer));
+                const std::size_t unlike = edges.unlike == 0 ? 0 : edges.unlike - early;
+                EXPECT_LE(difference(decoded->planes[0], from + unlike, other->planes[0], early + unlike, 1),
+                          start == 0 ? 1e-9 : edges.tolerance + 1e-9);
+                QFile::remove(target());
+            }
+        }
+    }
+}
+
+TEST_F(ExportTest, EncodingKeepsTheStretchExactly) {
+    for (const Type& type : {kTypes[1], kTypes[2], kTypes[4]}) {
+        const QString source = recording(type, kQualities[2]);
+        const auto whole = heard(source);
+        for (const auto& [start, length, kept] :
+             std::initializer_list<std::array<std::int64_t, 3>>{{2, 3, 3}, {5, 100, -1}, {0, 100, -1}}) {
+            SCOPED_TRACE(testing::Message() << type.extension << " from " << start);
+            const auto session = this->session(source, target(), AssetFileType::AppleM4A, AssetExportPreset::AppleM4A);
+            session->setAudioMix({{{0.5F}}});
+            session->setTimeRange({{start, 1}, {length, 1}});
+            ASSERT_EQ(run(*session), AssetExportStatus::Completed) << qPrintable(session->error().text);
+            const auto from = static_cast<std::size_t>(start * 44100);
+            const std::size_t frames = kept < 0 ? whole.size() / 2 - from : static_cast<std::size_t>(kept * 44100);
+            const auto own = heard(target());
+            ASSERT_EQ(own.size(), frames * 2);
+            // Half as loud, and in step with the source: a frame sooner or later would fit worse.
+            std::array<double, 3> rest{};
+            double all = 0;
+            for (std::size_t i = 2; i + 2 < own.size(); ++i) {
+                all += std::pow(whole[from * 2 + i], 2);
+                for (std::size_t lag = 0; lag < rest.size(); ++lag) {
+                    rest[lag] += std::pow(2.0 * own[i - 2 + 2 * lag] - whole[from * 2 + i], 2);
+                }
+            }
+            EXPECT_LT(rest[1], 0.3 * all);
+            EXPECT_LT(rest[1], std::min(rest[0], rest[2]));
+            EXPECT_EQ(decodeSound(target())->container, kMov);
+            EXPECT_GE(decodeSound(target())->frames(), frames);
+            QFile::remove(target());
+        }
+    }
+}
+
+TEST_F(ExportTest, WhatDoesNotFitOrIsBrokenFailsAndLeavesNothing) {
+    const QString wav = recording(kTypes[1], kQualities[2]);
+    const QString caf = recording(kTypes[2], kQualities[2]);
+    const QString m4a = recording(kTypes[0], kQualities[2]);
+    const QString aac = recording(kTypes[4], kQualities[2]);
+    const auto expectFailure = [this](AssetExportSession& session, const char* text) {
+        EXPECT_EQ(run(session), AssetExportStatus::Failed);
+        EXPECT_TRUE(session.error().text.contains(QLatin1String(text))) << qPrintable(session.error().text);
+        EXPECT_EQ(leftovers(), QStringList());
+    };
+    struct Case {
+        const char* name;
+        QString source;
+        AssetFileType type;
+        const char* text;
+    };
+    for (const Case& each : {Case{"ima4 in m4a", caf, AssetFileType::AppleM4A, "cannot be put into such a file"},
+                             {"pcm in m4a", wav, AssetFileType::AppleM4A, "cannot be put into such a file"},
+                             {"pcm u8 in caf", wav, AssetFileType::CoreAudioFormat, "cannot be put into such a file"},
+                             {"aac in caf", aac, AssetFileType::CoreAudioFormat, "cannot be put into such a file"}}) {
+        SCOPED_TRACE(each.name);
+        expectFailure(*session(each.source, target(), each.type), each.text);
+    }
+    for (const auto& [source, type] : {std::pair(wav, AssetFileType::Wave),
+                                       {caf, AssetFileType::CoreAudioFormat},
+                                       {m4a, AssetFileType::AppleM4A},
+                                       {aac, AssetFileType::AppleM4A}}) {
+        SCOPED_TRACE(qPrintable(source));
+        const auto after = [&] { return this->session(source, target(), type); };
+        // No room: for the first bytes, and for the last.
+        std::signal(SIGXFSZ, SIG_IGN);
+        for (const rlim_t bytes : {rlim_t{10}, rlim_t{30000}}) {
+            rlimit limit{bytes, RLIM_INFINITY};
+            ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+            const auto full = after();
+            const AssetExportStatus status = run(*full);
+            limit.rlim_cur = RLIM_INFINITY;
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            EXPECT_EQ(status, AssetExportStatus::Failed);
+            EXPECT_TRUE(full->error().text.startsWith(QLatin1String("The file could not be written: ")));
+            EXPECT_EQ(leftovers(), QStringList());
+        }
+        // The source becomes shorter, or goes, after it has been looked at.
+        const auto shorter = after();
+        const auto gone = after();
+        QFile file(source);
+        const qint64 size = file.size();
+        ASSERT_TRUE(file.resize(type == AssetFileType::AppleM4A && source == m4a ? size - 100 : size / 2));
+        EXPECT_EQ(run(*shorter), AssetExportStatus::Failed);
+        EXPECT_FALSE(shorter->error().text.isEmpty());
+        EXPECT_EQ(leftovers(), QStringList());
+        file.remove();
+        expectFailure(*gone, "could not be opened");
+    }
+}
+
+TEST_F(ExportTest, ExportsSideBySideAndCancelledOnesDoNotDisturbEachOther) {
+    const QString source = recording(kTypes[1], kQualities[2]);
+    const auto one = session(source, target() + QLatin1Char('1'), AssetFileType::Wave);
+    const auto two = session(source, target() + QLatin1Char('2'), AssetFileType::AppleM4A, AssetExportPreset::AppleM4A);
+    const auto three =
+        session(source, target() + QLatin1Char('3'), AssetFileType::AppleM4A, AssetExportPreset::AppleM4A);
+    for (auto* each : {two.get(), three.get(), one.get()}) {
+        each->exportAsynchronously([] {});
+    }
+    three->cancelExport();
+    for (auto* each : {one.get(), two.get(), three.get()}) {
+        each->waitUntilFinished();
+    }
+    EXPECT_EQ(one->status(), AssetExportStatus::Completed);
+    EXPECT_EQ(two->status(), AssetExportStatus::Completed);
+    // It may have been over before.
+    QStringList files{QStringLiteral("Trim.out1"), QStringLiteral("Trim.out2")};
+    if (three->status() != AssetExportStatus::Cancelled) {
+        EXPECT_EQ(three->status(), AssetExportStatus::Completed);
+        files.append(QStringLiteral("Trim.out3"));
+    }
+    EXPECT_EQ(leftovers(), files);
+    EXPECT_EQ(heard(target() + QLatin1Char('1')), heard(source));
+
+    // One that nobody holds any more ends with the factory.
+    FfmpegAssets assets;
+    auto lost = assets.exportSession(m_assets.assetWithURL(bytes(source)), AssetExportPreset::AppleM4A);
+    (*lost)->setOutputURL(bytes(target()));
+    (*lost)->setOutputFileType(AssetFileType::AppleM4A);
+    (*lost)->exportAsynchronously([] {});
+    lost->reset();
+}
+
+TEST_F(ExportTest, DamagedRecordingsEndInAFileOrAFailureAndNothingElse) {
+    std::mt19937 random(11);
+    for (std::size_t index = 0; index < kTypes.size(); ++index) {
+        const QString path = recording(kTypes[index], kQualities[0]);
+        QFile source(path);
+        ASSERT_TRUE(source.open(QIODevice::ReadWrite));
+        const QByteArray whole = source.readAll();
+        for (int round = 0; round < 60; ++round) {
+            QByteArray damaged = whole;
+            for (auto count = random() % 6; count > 0; --count) {
+                // Headers stand at both ends.
+                const auto at = static_cast<qsizetype>(random() % 900);
+                const qsizetype place = random() % 2 == 0 ? at : std::max<qsizetype>(0, whole.size() - 1 - at * 2);
+                damaged[place] = static_cast<char>(random() % 3 == 0 ? 0xff : random());
+            }
+            damaged.truncate(random() % 5 == 0 ? static_cast<qsizetype>(random()) % whole.size() : whole.size());
+            source.resize(0);
+            source.seek(0);
+            ASSERT_TRUE(source.write(damaged) == damaged.size() && source.flush());
+            SCOPED_TRACE(testing::Message() << kTypes[index].extension << " " << round);
+            const auto session = this->session(path, target(), kEdges[index].type);
+            if (!session) {
+                continue;
+            }
+            session->setTimeRange({{1, 3}, {3, 1}});
+            const AssetExportStatus status = run(*session);
+            EXPECT_EQ(leftovers().size(), status == AssetExportStatus::Completed ? 1 : 0);
+            EXPECT_EQ(session->error().text.isEmpty(), status == AssetExportStatus::Completed);
+            // Nothing makes a stretch much longer than all.
+            EXPECT_LT(QFile(target()).size(), whole.size() + 4096);
+            QFile::remove(target());
+            heard(path);
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test
