@@ -35,6 +35,12 @@ add_executable(waveform_bench waveform_bench.cpp)
 target_link_libraries(waveform_bench PRIVATE tavi_engine tavi_adapter_ffmpeg tavi_adapter_qt tavi_warnings)
 target_compile_definitions(waveform_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 
+add_executable(trimmer_bench trimmer_bench.cpp)
+target_include_directories(trimmer_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(trimmer_bench PRIVATE
+  tavi_trimming_ui tavi_trimming_uiplugin tavi_waves_uiplugin tavi_uiplugin tavi_adapter_qt tavi_warnings)
+target_compile_definitions(trimmer_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
 add_executable(export_bench export_bench.cpp)
 target_link_libraries(export_bench PRIVATE tavi_adapter_ffmpeg tavi_warnings)
 target_compile_definitions(export_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
