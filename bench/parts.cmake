@@ -49,5 +49,6 @@ add_executable(scroll_bench scroll_bench.cpp)
 target_include_directories(scroll_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(scroll_bench PRIVATE
   tavi_main_ui tavi_main_uiplugin tavi_uiplugin tavi_waves_uiplugin tavi_recording_uiplugin tavi_library_uiplugin
-  tavi_app_uiplugin tavi_test_support Qt6::Quick tavi_warnings)
+  tavi_trimming_uiplugin
+    tavi_app_uiplugin tavi_test_support Qt6::Quick tavi_warnings)
 target_compile_definitions(scroll_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)

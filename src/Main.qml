@@ -2,6 +2,7 @@ import QtQuick
 import Tavi.Library
 import Tavi.Recording
 import Tavi.Settings
+import Tavi.Trimming
 import Tavi.Ui
 
 /// The window: three tabs, and alerts above them.
@@ -13,6 +14,9 @@ Window {
     required property SettingVC settings
     required property TabBarController tabBar
     required property AlertPresenter presenter
+    required property AudioTrimmerStage trimmers
+    /// Something covers the screens and takes the keys.
+    readonly property bool covered: presenter.active || trimmer.shown
 
     readonly property bool wide: width >= Theme.wideWidth
     readonly property var screens: [recordLoader, libraryLoader, settingsLoader]
@@ -24,7 +28,7 @@ Window {
         if (!started || away)
             return
         screens[tabBar.selectedIndex].appear()
-        if (!presenter.active)
+        if (!covered)
             screens[tabBar.selectedIndex].forceActiveFocus()
     }
 
@@ -56,30 +60,32 @@ Window {
         }
     }
 
+    onCoveredChanged: if (!covered) screens[tabBar.selectedIndex].forceActiveFocus()
+
     Connections {
         target: window.presenter
 
         function onFrontChanged() {
-            if (!window.presenter.active)
+            if (!window.covered)
                 window.screens[window.tabBar.selectedIndex].forceActiveFocus()
         }
     }
 
     Shortcut {
         sequence: "Ctrl+1"
-        enabled: !window.presenter.active
+        enabled: !window.covered
         onActivated: window.tabBar.select(0)
     }
 
     Shortcut {
         sequence: "Ctrl+2"
-        enabled: !window.presenter.active
+        enabled: !window.covered
         onActivated: window.tabBar.select(1)
     }
 
     Shortcut {
         sequence: "Ctrl+3"
-        enabled: !window.presenter.active
+        enabled: !window.covered
         onActivated: window.tabBar.select(2)
     }
 
@@ -87,7 +93,7 @@ Window {
         sequence: "Ctrl+S"
         autoRepeat: false
         // As with the stop button: only while there is something to stop.
-        enabled: !window.presenter.active && window.recording.btnStop.enabled
+        enabled: !window.covered && window.recording.btnStop.enabled
         onActivated: window.recording.stopAndSaveRecording(window)
     }
 
@@ -152,6 +158,12 @@ Window {
             vertical: window.wide
             controller: window.tabBar
         }
+    }
+
+    TrimmerOverlay {
+        id: trimmer
+
+        stage: window.trimmers
     }
 
     Loader {

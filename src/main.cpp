@@ -43,6 +43,7 @@ Q_IMPORT_QML_PLUGIN(TaviPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
 
@@ -148,7 +149,16 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
     WaveformLoader waveforms({media, media, runLoop});
     QuickDisplayRefreshes refreshes;
     PlayerPanel player({audioPlayers, audioSession, remoteControl, files.store, runLoop, waveforms, refreshes});
-    VoiceMemoVC library({files.store, container, notifications, lister, remoteControl}, player);
+    WaveformLoader trimmerWaveforms({media, media, runLoop});
+    AudioTrimmerStage trimmers({media,
+                                audioPlayers,
+                                {audioRecorders, audioSession},
+                                trimmerWaveforms,
+                                refreshes,
+                                container,
+                                notifications,
+                                runLoop});
+    VoiceMemoVC library({files.store, container, notifications, lister, remoteControl, trimmers}, player);
     SettingVC settings({files.store, runLoop, presenter});
     AppDelegate delegate({desktop, idleTimer, files.store, files.shared, container, audioSession, tabBar, recording});
 
@@ -159,7 +169,8 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
                                  {QStringLiteral("library"), QVariant::fromValue(&library)},
                                  {QStringLiteral("settings"), QVariant::fromValue(&settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
-                                 {QStringLiteral("presenter"), QVariant::fromValue(&presenter)}});
+                                 {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
+                                 {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
     auto* window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
     if (window == nullptr) {

@@ -226,6 +226,20 @@ void VoiceMemoVC::spacePressed(int row) {
     }
 }
 
+void VoiceMemoVC::trimRow(int row) {
+    const QByteArray path = pathOf(false, row);
+    if (path.isEmpty()) {
+        return;
+    }
+    if (m_isPlaying) {
+        stopAudio();
+    }
+    const RecordingEntry& entry = m_arrRecordings[static_cast<std::size_t>(row)];
+    const QVariantMap data{{entrykey::kDuration, entry.value(entrykey::kDuration)}};
+    AudioTrimmerViewController::presentAudioTrimmerController(m_services.trimmers, this, path, data, entry.nativeName(),
+                                                              {});
+}
+
 void VoiceMemoVC::stopAudio() {
     m_selectRow = kNoRow;
     viewAnimationRemove();

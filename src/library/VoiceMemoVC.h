@@ -13,6 +13,7 @@
 #include "platform/AppContainer.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Outlets.h"
+#include "trimming/AudioTrimmerStage.h"
 
 namespace tavi {
 
@@ -43,6 +44,7 @@ public:
         NotificationCenter& notifications;
         RecordingLister& lister;
         RemoteControl& remoteControl;
+        AudioTrimmerStage& trimmers;
     };
     /// What selectRow() is when no row's icon is highlighted.
     static constexpr int kNoRow = 500;
@@ -102,6 +104,8 @@ public Q_SLOTS:
     void playAudio(int tag, bool selected);
     /// The space bar: plays or pauses what is loaded; without, plays the recording of a row.
     void spacePressed(int row);
+    /// Opens the trimmer with a row's recording; what plays is stopped. The list hears of a new file by "DataUpdated".
+    void trimRow(int row);
     void stopAudio();
     void playerClose();
     /// Slides the player's panel in and out.

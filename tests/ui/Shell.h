@@ -11,6 +11,7 @@
 #include "app/SettingVC.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
 #include "support/FakeAudioRecorder.h"
@@ -38,7 +39,8 @@ public:
                                      {QStringLiteral("library"), QVariant::fromValue(&library)},
                                      {QStringLiteral("settings"), QVariant::fromValue(&settings)},
                                      {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
-                                     {QStringLiteral("presenter"), QVariant::fromValue(&presenter)}});
+                                     {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
+                                     {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
         engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
         window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
         if (window == nullptr) {
@@ -143,7 +145,11 @@ public:
     FakeDisplayRefreshes refreshes;
     WaveformLoader waveforms{{files, converters, runLoop}};
     PlayerPanel player{{players, session, remoteControl, store, runLoop, waveforms, refreshes}};
-    VoiceMemoVC library{{store, container, notifications, lister, remoteControl}, player};
+    FakeAssets assets{runLoop};
+    WaveformLoader trimmerWaveforms{{files, converters, runLoop}};
+    AudioTrimmerStage trimmers{
+        {assets, players, {recorders, session}, trimmerWaveforms, refreshes, container, notifications, runLoop}};
+    VoiceMemoVC library{{store, container, notifications, lister, remoteControl, trimmers}, player};
     SettingVC settings{{store, runLoop, presenter}};
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;

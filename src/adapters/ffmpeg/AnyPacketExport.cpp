@@ -112,6 +112,48 @@ int Output::finish() {
     return code < 0 ? code : m_io->error;
 }
 
+/// Packets with the times at which they begin and how long they are: not every container says the latter, so each is
+/// held back until the next one is known.
+class TimedPackets {
+public:
+    TimedPackets(AvFile& file, std::int64_t origin) : m_file(file), m_end(origin) { m_hasHeld = read(*m_held); }
+
+    bool next() {
+        if (!m_hasHeld) {
+            return false;
+        }
+        std::swap(m_packet, m_held);
+        m_hasHeld = read(*m_held);
+        if (m_packet->duration <= 0 && m_hasHeld) {
+            m_packet->duration = std::max<std::int64_t>(0, m_held->pts - m_packet->pts);
+        }
+        if (m_packet->duration <= 0) {
+            m_packet->duration = m_duration;
+        }
+        m_duration = m_packet->duration;
+        return true;
+    }
+    AVPacket& packet() { return *m_packet; }
+
+private:
+    bool read(AVPacket& packet) {
+        if (!m_file.next(packet)) {
+            return false;
+        }
+        packet.pts = packet.pts != AV_NOPTS_VALUE ? packet.pts : m_end;
+        m_end = packet.pts + packet.duration;
+        return true;
+    }
+
+    AvFile& m_file;
+    AvPacket m_packet{av_packet_alloc()};
+    AvPacket m_held{av_packet_alloc()};
+    bool m_hasHeld = false;
+    std::int64_t m_end;
+    /// Of the packet before.
+    std::int64_t m_duration = 0;
+};
+
 }  // namespace
 
 Result<void> exportAnyPackets(const ExportJob& job) {
@@ -126,7 +168,6 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     if (const Result<void> opened = output.open(job, stream); !opened) {
         return opened;
     }
-    const AvPacket packet(av_packet_alloc());
     const std::int64_t origin = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
     const std::int64_t start = origin + timeOf(job.start);
     const std::int64_t end = origin + timeOf(job.end);
@@ -135,30 +176,32 @@ Result<void> exportAnyPackets(const ExportJob& job) {
         // A packet earlier, as packets are found by their start.
         avformat_seek_file(&input->context(), stream.index, INT64_MIN, first - timeOf(job.rate / 10), first, 0);
     }
+    TimedPackets packets(*input, origin);
     int code = 0;
     bool isAny = false;
-    std::int64_t next = origin;
     std::int64_t last = origin - 1;
-    while (code >= 0 && !job.control.isCancelled() && input->next(*packet)) {
-        const std::int64_t begin = packet->pts != AV_NOPTS_VALUE ? packet->pts : next;
-        next = begin + packet->duration;
+    std::int64_t next = origin;
+    while (code >= 0 && !job.control.isCancelled() && packets.next()) {
+        AVPacket& packet = packets.packet();
+        const std::int64_t begin = packet.pts;
         // One packet always follows the first that is heard: see there, in PacketExport.cpp.
         if (begin >= end && last > start) {
             break;
         }
+        next = begin + packet.duration;
         if (next <= first) {
             continue;
         }
-        packet->pts = packet->dts = begin - start;
+        packet.pts = packet.dts = begin - start;
         // The last one ends with the stretch.
-        packet->duration = begin < end ? std::min(packet->duration, end - begin) : packet->duration;
+        packet.duration = begin < end ? std::min(packet.duration, end - begin) : packet.duration;
         // What the whole file leaves out at its ends is not at those of the stretch.
-        av_packet_free_side_data(packet.get());
+        av_packet_free_side_data(&packet);
         job.control.setProgress(static_cast<double>(std::max<std::int64_t>(0, begin - start)) /
                                 static_cast<double>(end - start));
         isAny = true;
         last = begin;
-        code = output.write(*packet, timeBase);
+        code = output.write(packet, timeBase);
     }
     if (code >= 0 && !isAny) {
         return failure(QStringLiteral("The sound file is damaged."));

@@ -230,42 +230,41 @@ std::uint32_t Mp4Sound::sizeOf(std::uint64_t packet) const {
     return m_packetSize > 0 ? m_packetSize : static_cast<std::uint32_t>(numberAt(m_sizes, packet * 4, 4));
 }
 
-bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
-                             const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const {
-    // Which packet, by the runs of equal durations.
-    struct Run {
-        std::uint64_t packet;
-        std::int64_t start;
-        std::uint32_t duration;
-    };
-    std::vector<Run> runs;
+std::optional<std::vector<Mp4Sound::TimeRun>> Mp4Sound::timeRuns() const {
+    std::vector<TimeRun> runs;
     std::uint64_t packet = 0;
     std::int64_t start = 0;
-    std::uint64_t first = 0;
     for (std::size_t at = 0; at < m_times.size(); at += 8) {
         const std::uint64_t count = numberAt(m_times, at, 4);
         const auto duration = static_cast<std::uint32_t>(numberAt(m_times, at + 4, 4));
-        runs.push_back({packet, start, duration});
-        if (count > kMaximumPackets) {
-            return false;
+        if (count > kMaximumPackets || start > kMost) {
+            return std::nullopt;
         }
-        const std::int64_t length = static_cast<std::int64_t>(count) * duration;
-        if (time >= start && duration > 0) {
-            first =
-                packet + std::min(static_cast<std::uint64_t>((time - start) / duration), count - (count > 0 ? 1 : 0));
-        }
+        runs.push_back({packet, count, start, duration});
         packet += count;
-        start += length;
-        if (start > kMost) {
-            return false;
+        start += static_cast<std::int64_t>(count) * duration;
+    }
+    return runs;
+}
+
+bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
+                             const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const {
+    const auto runs = timeRuns();
+    if (!runs || runs->empty()) {
+        return runs.has_value();
+    }
+    std::uint64_t first = 0;
+    for (const TimeRun& run : *runs) {
+        if (time >= run.start && run.duration > 0 && run.count > 0) {
+            first = run.packet + std::min(static_cast<std::uint64_t>((time - run.start) / run.duration), run.count - 1);
         }
     }
     first -= std::min(first, preroll);
-    const std::uint64_t end = std::min(packet, m_packets);
+    const std::uint64_t end = std::min(runs->back().packet + runs->back().count, m_packets);
 
     const std::size_t chunks = m_chunks.size() / m_chunkBytes;
     std::size_t timeRun = 0;
-    packet = 0;
+    std::uint64_t packet = 0;
     for (std::size_t at = 0; at < m_chunkRuns.size(); at += 12) {
         const std::uint64_t firstChunk = numberAt(m_chunkRuns, at, 4);
         const std::uint64_t perChunk = numberAt(m_chunkRuns, at + 4, 4);
@@ -290,10 +289,10 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
                     return true;
                 }
                 const std::uint32_t size = sizeOf(packet);
-                while (timeRun + 1 < runs.size() && runs[timeRun + 1].packet <= packet) {
+                while (timeRun + 1 < runs->size() && (*runs)[timeRun + 1].packet <= packet) {
                     ++timeRun;
                 }
-                const Run& run = runs[timeRun];
+                const TimeRun& run = (*runs)[timeRun];
                 const std::int64_t begin = run.start + static_cast<std::int64_t>(packet - run.packet) * run.duration;
                 if (packet >= first && !visit(begin, {offset, size, run.duration})) {
                     return true;

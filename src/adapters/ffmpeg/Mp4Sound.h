@@ -45,8 +45,17 @@ public:
                        const std::function<bool(std::int64_t start, const Mp4Packet& packet)>& visit) const;
 
 private:
+    /// Packets of equal duration.
+    struct TimeRun {
+        std::uint64_t packet;
+        std::uint64_t count;
+        std::int64_t start;
+        std::uint32_t duration;
+    };
+
     Mp4Sound() = default;
 
+    std::optional<std::vector<TimeRun>> timeRuns() const;
     bool readTrack(std::span<const std::uint8_t> track);
     bool readTables(std::span<const std::uint8_t> tables);
     bool readEdits(std::span<const std::uint8_t> track);

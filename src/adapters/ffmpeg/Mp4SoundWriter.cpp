@@ -36,6 +36,82 @@ void beginFull(Mp4Writer& writer, std::uint32_t type, bool isLong = false, std::
     writer.u32((isLong ? 1U << 24 : 0U) | flags);
 }
 
+/// A time in a box of version 0 or, where long is set, 1.
+void writeTime(Mp4Writer& writer, bool isLong, std::int64_t value) {
+    isLong ? writer.u64(static_cast<std::uint64_t>(value)) : writer.u32(static_cast<std::uint64_t>(value));
+}
+
+void writeMovieHeader(Mp4Writer& writer, bool isLong, const Mp4SoundDescription& sound) {
+    beginFull(writer, mp4Type("mvhd"), isLong);
+    writeTime(writer, isLong, 0);
+    writeTime(writer, isLong, 0);
+    writer.u32(sound.timeScale);
+    writeTime(writer, isLong, sound.duration);
+    writer.u32(0x10000);
+    writer.u32(0x1000000);
+    zeros(writer, 2);
+    unity(writer);
+    zeros(writer, 6);
+    writer.u32(2);
+    writer.end();
+}
+
+/// The track's header and its edit list.
+void writeTrackHeaders(Mp4Writer& writer, bool isLong, const Mp4SoundDescription& sound) {
+    // Enabled, and part of the movie.
+    beginFull(writer, mp4Type("tkhd"), isLong, 3);
+    writeTime(writer, isLong, 0);
+    writeTime(writer, isLong, 0);
+    writer.u32(1);
+    writer.u32(0);
+    writeTime(writer, isLong, sound.duration);
+    zeros(writer, 2);
+    writer.u32(1);
+    writer.u32(0x1000000);
+    unity(writer);
+    zeros(writer, 2);
+    writer.end();
+    writer.begin(mp4Type("edts"));
+    beginFull(writer, mp4Type("elst"), isLong);
+    writer.u32(1);
+    writeTime(writer, isLong, sound.duration);
+    writeTime(writer, isLong, sound.start);
+    writer.u32(0x10000);
+    writer.end();
+    writer.end();
+}
+
+/// The media's header, of which kind they are, and where.
+void writeMediaHeaders(Mp4Writer& writer, bool isLong, std::uint32_t timeScale, std::int64_t duration) {
+    beginFull(writer, mp4Type("mdhd"), isLong);
+    writeTime(writer, isLong, 0);
+    writeTime(writer, isLong, 0);
+    writer.u32(timeScale);
+    writeTime(writer, isLong, duration);
+    // No language.
+    writer.u32(0x55c40000);
+    writer.end();
+    beginFull(writer, mp4Type("hdlr"));
+    writer.u32(0);
+    writer.u32(mp4Type("soun"));
+    zeros(writer, 3);
+    writer.bytes(bytesOf("SoundHandler\0", 13));
+    writer.end();
+}
+
+void writeInformation(Mp4Writer& writer) {
+    beginFull(writer, mp4Type("smhd"));
+    writer.u32(0);
+    writer.end();
+    writer.begin(mp4Type("dinf"));
+    beginFull(writer, mp4Type("dref"));
+    writer.u32(1);
+    beginFull(writer, mp4Type("url "), false, 1);
+    writer.end();
+    writer.end();
+    writer.end();
+}
+
 }  // namespace
 
 Mp4SoundWriter::Mp4SoundWriter(ExportFile& file) : m_file(file) {
@@ -68,75 +144,16 @@ void Mp4SoundWriter::endAt(std::int64_t time) {
 
 void Mp4SoundWriter::finish(const Mp4SoundDescription& sound) {
     const bool isLong = m_duration > std::numeric_limits<std::uint32_t>::max();
-    const auto time = [isLong](Mp4Writer& writer, std::int64_t value) {
-        isLong ? writer.u64(static_cast<std::uint64_t>(value)) : writer.u32(static_cast<std::uint64_t>(value));
-    };
     const std::int64_t movieOffset = m_file.size();
     Mp4Writer writer;
     writer.begin(mp4Type("moov"));
-    beginFull(writer, mp4Type("mvhd"), isLong);
-    time(writer, 0);
-    time(writer, 0);
-    writer.u32(sound.timeScale);
-    time(writer, sound.duration);
-    writer.u32(0x10000);
-    writer.u32(0x1000000);
-    zeros(writer, 2);
-    unity(writer);
-    zeros(writer, 6);
-    writer.u32(2);
-    writer.end();
-
+    writeMovieHeader(writer, isLong, sound);
     writer.begin(mp4Type("trak"));
-    // Enabled, and part of the movie.
-    beginFull(writer, mp4Type("tkhd"), isLong, 3);
-    time(writer, 0);
-    time(writer, 0);
-    writer.u32(1);
-    writer.u32(0);
-    time(writer, sound.duration);
-    zeros(writer, 2);
-    writer.u32(1);
-    writer.u32(0x1000000);
-    unity(writer);
-    zeros(writer, 2);
-    writer.end();
-    writer.begin(mp4Type("edts"));
-    beginFull(writer, mp4Type("elst"), isLong);
-    writer.u32(1);
-    time(writer, sound.duration);
-    time(writer, sound.start);
-    writer.u32(0x10000);
-    writer.end();
-    writer.end();
-
+    writeTrackHeaders(writer, isLong, sound);
     writer.begin(mp4Type("mdia"));
-    beginFull(writer, mp4Type("mdhd"), isLong);
-    time(writer, 0);
-    time(writer, 0);
-    writer.u32(sound.timeScale);
-    time(writer, m_duration);
-    // No language.
-    writer.u32(0x55c40000);
-    writer.end();
-    beginFull(writer, mp4Type("hdlr"));
-    writer.u32(0);
-    writer.u32(mp4Type("soun"));
-    zeros(writer, 3);
-    writer.bytes(bytesOf("SoundHandler\0", 13));
-    writer.end();
+    writeMediaHeaders(writer, isLong, sound.timeScale, m_duration);
     writer.begin(mp4Type("minf"));
-    beginFull(writer, mp4Type("smhd"));
-    writer.u32(0);
-    writer.end();
-    writer.begin(mp4Type("dinf"));
-    beginFull(writer, mp4Type("dref"));
-    writer.u32(1);
-    beginFull(writer, mp4Type("url "), false, 1);
-    writer.end();
-    writer.end();
-    writer.end();
-
+    writeInformation(writer);
     writer.begin(mp4Type("stbl"));
     writer.bytes(sound.description);
     writeTables(writer);

@@ -229,6 +229,29 @@ Result<bool> exportMp4Packets(const ExportJob& job) {
     return done(job);
 }
 
+namespace {
+
+/// What the header of an ADTS frame says (ISO/IEC 13818-7, 6.2), put as an AudioSpecificConfig.
+struct AdtsConfiguration {
+    explicit AdtsConfiguration(const std::uint8_t* header) {
+        headerBytes = (header[1] & 1) != 0 ? 7 : 9;
+        const unsigned configuration = (header[2] & 1U) << 2 | header[3] >> 6U;
+        channels = configuration == 7 ? 8 : configuration;
+        // The profile counts from 1 there.
+        const unsigned object = (header[2] >> 6U) + 1U;
+        const unsigned rateIndex = header[2] >> 2U & 15U;
+        config = {static_cast<std::uint8_t>(object << 3 | rateIndex >> 1),
+                  static_cast<std::uint8_t>(rateIndex << 7 | configuration << 3)};
+    }
+
+    int headerBytes = 0;
+    /// 0 where only the sound itself tells.
+    std::uint32_t channels = 0;
+    std::array<std::uint8_t, 2> config{};
+};
+
+}  // namespace
+
 Result<bool> exportAdtsPackets(const ExportJob& job) {
     constexpr std::size_t kGatheredBytes = std::size_t{256} * 1024;
     const auto packets = job.type == AssetFileType::AppleM4A ? AdtsPackets::open(job.source) : nullptr;
@@ -242,27 +265,18 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
     const std::int64_t last = std::max((end + kAacPacketFrames - 1) / kAacPacketFrames, start / kAacPacketFrames + 2);
     const AvPacket packet(av_packet_alloc());
     std::vector<std::uint8_t> gathered;
-    std::array<std::uint8_t, 2> config{};
-    std::uint32_t channels = 0;
+    std::optional<AdtsConfiguration> found;
     std::uint32_t size = 0;
     std::int64_t origin = -1;
     Mp4SoundWriter writer(job.file);
     packets->seek(first);
     while (packets->next(*packet) && packet->pts < last) {
-        const std::uint8_t* header = packet->data;
-        const int headerBytes = (header[1] & 1) != 0 ? 7 : 9;
-        const unsigned configuration = (header[2] & 1U) << 2 | header[3] >> 6U;
-        // The profile counts from 1 there.
-        const unsigned object = (header[2] >> 6U) + 1U;
-        const unsigned rateIndex = header[2] >> 2U & 15U;
-        const std::array<std::uint8_t, 2> own = {static_cast<std::uint8_t>(object << 3 | rateIndex >> 1),
-                                                 static_cast<std::uint8_t>(rateIndex << 7 | configuration << 3)};
-        if (packet->duration != 1 || packet->size <= headerBytes || configuration == 0 ||
-            (origin >= 0 && own != config)) {
+        const AdtsConfiguration own(packet->data);
+        if (packet->duration != 1 || packet->size <= own.headerBytes || own.channels == 0 ||
+            (found && own.config != found->config)) {
             return failure(QStringLiteral("This kind of AAC cannot be put into an M4A file as it is."));
         }
-        config = own;
-        channels = configuration == 7 ? 8 : configuration;
+        found = own;
         origin = origin < 0 ? packet->pts * kAacPacketFrames : origin;
         if (gathered.size() >= kGatheredBytes) {
             job.file.append(gathered);
@@ -272,11 +286,11 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
                 break;
             }
         }
-        size = static_cast<std::uint32_t>(packet->size - headerBytes);
-        gathered.insert(gathered.end(), packet->data + headerBytes, packet->data + packet->size);
+        size = static_cast<std::uint32_t>(packet->size - own.headerBytes);
+        gathered.insert(gathered.end(), packet->data + own.headerBytes, packet->data + packet->size);
         writer.add(size, kAacPacketFrames);
     }
-    if (origin < 0) {
+    if (!found) {
         return damaged();
     }
     if (writer.duration() <= start / kAacPacketFrames * kAacPacketFrames - origin + kAacPacketFrames) {
@@ -289,7 +303,7 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
         return failure(QStringLiteral("The sound file became shorter while it was read."));
     }
     writer.endAt(end - origin);
-    const auto description = mp4AacDescription(config, channels, static_cast<std::uint32_t>(rate));
+    const auto description = mp4AacDescription(found->config, found->channels, static_cast<std::uint32_t>(rate));
     writer.finish({static_cast<std::uint32_t>(rate), description, {}, start - origin, end - start});
     return done(job);
 }

@@ -22,6 +22,8 @@ FocusScope {
         event.accepted = true
         if (event.key === Qt.Key_Space && !event.isAutoRepeat && (loaded || list.currentItem))
             root.screen.spacePressed(list.currentItem ? list.currentItem.row : -1)
+        else if (event.key === Qt.Key_T && list.activeFocus && list.currentItem)
+            root.screen.trimRow(list.currentItem.row)
         else if (event.key === Qt.Key_J && loaded)
             root.player.backSkip()
         else if (event.key === Qt.Key_L && loaded)

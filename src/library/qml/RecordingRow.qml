@@ -63,12 +63,28 @@ Item {
         color: root.screen.selectRow === root.row ? Theme.text : Theme.accent
     }
 
+    IconButton {
+        id: trim
+
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        objectName: "trim"
+        imageName: "trim.png"
+        imageSize: 22
+        tint: Theme.label
+        name: qsTrId("a11y_trim").arg(root.nameText)
+        // The list is one stop of the Tab key; T trims the current row.
+        focusPolicy: Qt.NoFocus
+        onClicked: root.screen.trimRow(root.row)
+    }
+
     Label {
         id: name
 
         x: icon.x + icon.width + 12
         y: root.wide ? 0 : 13
-        width: (root.wide ? detail.x - 24 : root.width - Theme.margin) - x
+        width: (root.wide ? detail.x - 24 : trim.x - 4) - x
         height: root.wide ? root.height : 22
         text: root.nameText
         color: Theme.lightGrey
@@ -81,7 +97,7 @@ Item {
     Label {
         id: detail
 
-        x: root.wide ? root.width - width - Theme.margin : name.x
+        x: root.wide ? trim.x - width - 12 : name.x
         y: root.wide ? 0 : 36
         width: root.wide ? 300 : name.width
         height: root.wide ? root.height : 18

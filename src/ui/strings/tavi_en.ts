@@ -520,5 +520,9 @@
         <source></source>
         <translation>No</translation>
     </message>
+    <message id="a11y_trim">
+        <source></source>
+        <translation>Trim %1</translation>
+    </message>
 </context>
 </TS>

@@ -177,6 +177,23 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
     }
 }
 
+TEST_F(ExportTest, InterruptedRecordingsAreCutExactlyToo) {
+    for (const std::size_t index : {std::size_t{0}, std::size_t{3}}) {
+        const QString source = pathFor(kTypes[index]);
+        const auto writer = FfmpegAudioFileWriters().create(source, settingsFor(kTypes[index], kQualities[2]));
+        ASSERT_TRUE(writer && (*writer)->setInputFormat({44100, 2}) &&
+                    writeBlocks(**writer, tone({44100, 2}, 400000), 2));
+        // As a killed program would leave it.
+        const auto session = this->session(source, target(), AssetFileType::AppleM4A);
+        session->setTimeRange({{100003, 44100}, {50000, 44100}});
+        ASSERT_EQ(run(*session), AssetExportStatus::Completed) << qPrintable(session->error().text);
+        const auto own = heard(target());
+        EXPECT_EQ(own.size(), 100000U);
+        EXPECT_LE(difference(heard(source), std::size_t{2} * 100003, own, 0, 32768), kEdges[index].tolerance);
+        QFile::remove(target());
+    }
+}
+
 TEST_F(ExportTest, EncodingKeepsTheStretchExactly) {
     for (const Type& type : {kTypes[1], kTypes[2], kTypes[4]}) {
         const QString source = recording(type, kQualities[2]);

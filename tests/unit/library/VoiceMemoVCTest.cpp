@@ -8,8 +8,10 @@
 #include <map>
 
 #include "library/PlayerRules.h"
+#include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
+#include "support/FakeAudioRecorder.h"
 #include "support/FakeDisplayRefresh.h"
 #include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
@@ -62,11 +64,22 @@ protected:
             : lister(lengths, test.runLoop),
               waveforms({test.files, test.converters, test.runLoop}),
               player({test.players, test.session, test.remote, test.settings, test.runLoop, waveforms, test.refreshes}),
-              vc({test.settings, test.container, test.notifications, lister, test.remote}, player) {}
+              trimmerWaveforms({test.files, test.converters, test.runLoop}),
+              trimmers({test.assets,
+                        test.players,
+                        {test.recorders, test.session},
+                        trimmerWaveforms,
+                        test.refreshes,
+                        test.container,
+                        test.notifications,
+                        test.runLoop}),
+              vc({test.settings, test.container, test.notifications, lister, test.remote, trimmers}, player) {}
 
         RecordingLister lister;
         WaveformLoader waveforms;
         PlayerPanel player;
+        WaveformLoader trimmerWaveforms;
+        AudioTrimmerStage trimmers;
         VoiceMemoVC vc;
     };
 
@@ -78,6 +91,8 @@ protected:
     FakeExtAudioFiles files;
     FakeAudioConverters converters;
     FakeDisplayRefreshes refreshes;
+    FakeAssets assets{runLoop};
+    FakeAudioRecorders recorders{runLoop};
     NotificationCenter notifications;
     Library library{*this, durations};
     VoiceMemoVC& vc = library.vc;
@@ -442,6 +457,15 @@ TEST_F(PlayingTest, theRouteButtonTurnsBetweenEarpieceAndSpeaker) {
     EXPECT_TRUE(player.isHeadsetPluggedIn());
     session.route = QStringLiteral("Speaker");
     EXPECT_FALSE(player.isHeadsetPluggedIn());
+}
+
+TEST_F(PlayingTest, aRowsTrimmerStopsThePlayer) {
+    vc.didSelectRowAtIndexPath(0, 0);
+    vc.trimRow(1);
+    EXPECT_FALSE(vc.isPlaying());
+    ASSERT_NE(library.trimmers.screen(), nullptr);
+    EXPECT_EQ(library.trimmers.screen()->input().getFileName, "b.m4a");
+    EXPECT_TRUE(library.trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
 }
 
 TEST_F(PlayingTest, theCloudSettingChoosesTheListThatPlays) {
