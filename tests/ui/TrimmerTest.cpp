@@ -298,6 +298,14 @@ TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
     };
     shown.tap("btnPlayPause");
     EXPECT_TRUE(isPlaying());
+    QStringList visited;
+    for (int i = 0; i < 8; ++i) {
+        visited.append(shown.window->activeFocusItem()->objectName());
+        shown.key(Qt::Key_Tab);
+    }
+    EXPECT_EQ(visited.join(QLatin1Char(' ')),
+              QStringLiteral("btnPlayPause btnReset btnResetAudio btnEditTrimmedVideo btnCancel btnUpload leftThumb "
+                             "rightThumb"));
     shown.item("leftThumb")->forceActiveFocus(Qt::TabFocusReason);
     shown.key(Qt::Key_Space);
     EXPECT_FALSE(isPlaying());

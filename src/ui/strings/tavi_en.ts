@@ -498,7 +498,7 @@
     </message>
     <message id="trim_play_trimmed">
         <source></source>
-        <translation>Play Trimmed</translation>
+        <translation>Preview</translation>
     </message>
     <message id="trim_save">
         <source></source>
