@@ -107,6 +107,8 @@ Window {
 
         anchors.fill: parent
         focus: true
+        // What is behind the trimmer is out of the keyboard's reach.
+        enabled: !trimmer.shown
         // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
         Keys.onSpacePressed: event => {
             if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
