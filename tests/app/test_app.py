@@ -261,6 +261,24 @@ class Playing(AppTest):
         self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
 
 
+class Trimming(AppTest):
+    def test_keys_cut_a_recording_into_a_new_one(self):
+        self.documents.mkdir(parents=True)
+        memo = write_tone(self.documents / "memo.wav", 1000, 20.0)
+        before = memo.read_bytes()
+        self.start("library")
+        self.wait(lambda: self.desktop.colours() > 8, "the library")
+        shown = self.desktop.picture()
+        self.desktop.keys("Down", "t")
+        self.wait(lambda: sum(map(int.__ne__, self.desktop.picture(), shown)) > 20_000, "the trimmer")
+        # Past the buttons below and above to the first thumb, and back to the last of these buttons.
+        self.desktop.keys(*["Tab"] * 6, *["shift+Right"] * 3, "shift+Tab", "Return")
+        made = self.wait(lambda: next(self.documents.glob("Trim_*.wav"), None), "the cut")
+        self.wait(lambda: len(self.recordings()) == 2, "nothing but the two recordings")
+        self.assertAlmostEqual(probe(made)["duration"], 17.5, delta=0.001)
+        self.assertEqual(memo.read_bytes(), before)
+
+
 class Files(AppTest):
     def test_waveform_prints_and_draws(self):
         shown = json.loads(self.tavi("waveform", self.tone, "--points", "10", "--json").stdout)
