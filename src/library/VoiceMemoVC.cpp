@@ -42,6 +42,8 @@ void VoiceMemoVC::viewDidLoad() {
 }
 
 void VoiceMemoVC::viewWillAppear() {
+    m_cloudHeaderText = numberOfSections() == 2 ? qtTrId("iCloud Sync Recording's") : QString();
+    Q_EMIT outletsChanged();
     rebuild(RecordingLister::Lengths::Known);
     resetCell();
 }

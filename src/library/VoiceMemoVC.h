@@ -27,6 +27,7 @@ class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_PROPERTY(tavi::ButtonOutlet btnSortDate READ btnSortDate NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnSortSize READ btnSortSize NOTIFY outletsChanged)
     Q_PROPERTY(QString headerText READ headerText NOTIFY outletsChanged)
+    Q_PROPERTY(QString cloudHeaderText READ cloudHeaderText NOTIFY outletsChanged)
     Q_PROPERTY(QAbstractItemModel* tableView READ tableView CONSTANT)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY outletsChanged)
     Q_PROPERTY(tavi::PlayerPanel* player READ player CONSTANT)
@@ -59,6 +60,8 @@ public:
     ButtonOutlet btnSortDate() const { return m_btnSortDate; }
     ButtonOutlet btnSortSize() const { return m_btnSortSize; }
     QString headerText() const { return m_headerText; }
+    /// Header of section 1; empty while there is none. As of the last time the screen appeared.
+    QString cloudHeaderText() const { return m_cloudHeaderText; }
     /// The rows that the search leaves.
     QAbstractItemModel* tableView() { return &m_filter; }
     /// Shows only rows whose names hold this text, in any case; it changes neither order nor arrRecordings().
@@ -149,6 +152,7 @@ private:
     Services m_services;
     QString m_title;
     QString m_headerText;
+    QString m_cloudHeaderText;
     ButtonOutlet m_btnSortName;
     ButtonOutlet m_btnSortDate;
     ButtonOutlet m_btnSortSize;

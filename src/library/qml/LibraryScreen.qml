@@ -152,6 +152,12 @@ FocusScope {
             highlightResizeDuration: 0
             keyNavigationEnabled: true
             model: root.screen.tableView
+            footer: SectionHeader {
+                width: list.width
+                height: visible ? implicitHeight : 0
+                visible: text !== ""
+                text: root.screen.cloudHeaderText
+            }
             delegate: RecordingRow {
                 screen: root.screen
             }

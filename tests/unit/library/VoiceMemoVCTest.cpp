@@ -468,6 +468,14 @@ TEST_F(PlayingTest, aRowsTrimmerStopsThePlayer) {
     EXPECT_TRUE(library.trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
 }
 
+TEST_F(PlayingTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {
+    EXPECT_EQ(vc.cloudHeaderText(), QStringLiteral("iCloud Sync Recording's"));
+    settings.setCloudSyncOn(false);
+    EXPECT_EQ(vc.numberOfSections(), 1);
+    vc.viewWillAppear();
+    EXPECT_EQ(vc.cloudHeaderText(), QString());
+}
+
 TEST_F(PlayingTest, theCloudSettingChoosesTheListThatPlays) {
     // Off, the cloud's list is asked, which has no such row: what the row has loaded stays and plays.
     settings.setCloudSyncOn(false);
