@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QImage>
 #include <QSaveFile>
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 #include "adapters/qt/MediaLibrary.h"
@@ -15,6 +17,7 @@
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
 #include "library/utility/DateTexts.h"
+#include "library/utility/NativePath.h"
 #include "trimming/TrimRules.h"
 #include "trimming/waves/EZAudioPlotPainter.h"
 #include "trimming/waves/WaveformText.h"
@@ -30,8 +33,7 @@ int runGet(const CommandLine& line, const Suites& suites) {
     if (!text) {
         return reportFailure(text.error());
     }
-    print(text->toUtf8() + '\n');
-    return EXIT_SUCCESS;
+    return print(text->toUtf8() + '\n');
 }
 
 int runSet(const CommandLine& line, const Suites& suites) {
@@ -45,8 +47,7 @@ int runList(const CommandLine& line, const SettingsFiles& files, const AppContai
     RecordingLister lister(media, runLoop);
     auto recordings = lister.list(QFile::encodeName(container.documentsPath()), RecordingLister::Lengths::Measured);
     sortRecordings(recordings, files.store.sort());
-    print(recordingsText(recordings, line.json));
-    return EXIT_SUCCESS;
+    return print(recordingsText(recordings, line.json));
 }
 
 /// Why a sound file could not be opened.
@@ -105,8 +106,10 @@ int runWaveform(const CommandLine& line) {
         return reportFile(line.file, openErrorText(kAudioFileUnspecifiedError));
     }
     if (line.output.isEmpty()) {
-        print(waveformText(*waveform, line.json));
-        return EXIT_SUCCESS;
+        return print(waveformText(*waveform, line.json));
+    }
+    if (QFile::encodeName(QFile::decodeName(line.output)) != line.output) {
+        return reportFile(line.output, QStringLiteral("a picture's name must be text"));
     }
     const QByteArray png = pictureOf(*waveform);
     QSaveFile output(QFile::decodeName(line.output));
@@ -129,6 +132,18 @@ Result<AssetTimeRange> rangeOf(const CommandLine& line, const Asset& asset) {
                           AssetTime::withSeconds(line.to - line.from, timescale)};
 }
 
+/// A name among the recordings that nothing has yet.
+QByteArray freeNameFor(const QByteArray& file, const AppContainer& container, const Clock& clock) {
+    const QByteArray base =
+        QFile::encodeName(container.documentsPath() + QStringLiteral("/Trim_") + fileBaseName(clock.now(), QLocale()));
+    const QByteArray extension = '.' + trimrules::pathExtension(file);
+    QByteArray name = base + extension;
+    for (int number = 2; existsAt(name); ++number) {
+        name = base + '_' + QByteArray::number(number) + extension;
+    }
+    return name;
+}
+
 int runTrim(const CommandLine& line, const AppContainer& container) {
     MediaLibrary media;
     const QtRunLoop runLoop;
@@ -146,12 +161,7 @@ int runTrim(const CommandLine& line, const AppContainer& container) {
     if (!session) {
         return reportFile(line.file, session.error().text);
     }
-    QByteArray output = line.output;
-    if (output.isEmpty()) {
-        output = QFile::encodeName(container.documentsPath() + QStringLiteral("/Trim_") +
-                                   fileBaseName(runLoop.clock().now(), QLocale()) + QLatin1Char('.')) +
-                 trimrules::pathExtension(line.file);
-    }
+    const QByteArray output = line.output.isEmpty() ? freeNameFor(line.file, container, runLoop.clock()) : line.output;
     (*session)->setOutputURL(output);
     (*session)->setOutputFileType(trimrules::outputFileType(line.file));
     (*session)->setTimeRange(*range);
@@ -160,8 +170,7 @@ int runTrim(const CommandLine& line, const AppContainer& container) {
     if ((*session)->status() != AssetExportStatus::Completed) {
         return reportFile(output, (*session)->error().text);
     }
-    print(output + '\n');
-    return EXIT_SUCCESS;
+    return print(output + '\n');
 }
 
 }  // namespace
@@ -171,8 +180,12 @@ int reportFailure(const Error& error, int exitCode) {
     return exitCode;
 }
 
-void print(const QByteArray& text) {
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+int print(const QByteArray& text) {
+    const auto size = static_cast<std::size_t>(text.size());
+    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    return isWritten ? EXIT_SUCCESS
+                     : reportFailure({QStringLiteral("the standard output cannot be written: ") +
+                                      QString::fromStdString(std::generic_category().message(errno))});
 }
 
 bool isHeadless(Command command) {

@@ -9,8 +9,8 @@ namespace tavi {
 
 /// Tells the error stream what is wrong; returns the exit code.
 int reportFailure(const Error& error, int exitCode = EXIT_FAILURE);
-/// Writes to the standard output.
-void print(const QByteArray& text);
+/// Writes to the standard output; returns the exit code, and tells the error stream when it cannot.
+int print(const QByteArray& text);
 
 /// The settings as files of a container.
 struct SettingsFiles {

@@ -216,8 +216,7 @@ int run(int& argc, char** argv) {
     }
     using Command = CommandLine::Command;
     if (line->command == Command::Help || line->command == Command::Version) {
-        print((line->command == Command::Help ? helpText() : versionText()).toUtf8());
-        return EXIT_SUCCESS;
+        return print((line->command == Command::Help ? helpText() : versionText()).toUtf8());
     }
     const auto container = QtAppContainer::create(line->container);
     if (!container) {

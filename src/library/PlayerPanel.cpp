@@ -62,7 +62,7 @@ void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
         m_avPlayer->stop();
     }
     // A file that has just been loaded, and not been touched since, need not be opened twice.
-    if (!m_avPlayer || m_urlPath != path || m_avPlayer->currentTime() > 0.0) {
+    if (!m_avPlayer || m_urlPath != path || m_avPlayer->currentTime() > 0.0 || m_avPlayer->rate() != kNormal) {
         m_avPlayer.reset();
         if (auto player = m_services.players.playerWithContentsOfURL(path)) {
             m_avPlayer = std::move(*player);

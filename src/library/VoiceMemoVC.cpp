@@ -1,12 +1,12 @@
 #include "library/VoiceMemoVC.h"
 
-#include <unistd.h>
 #include <QDebug>
 #include <QFile>
 #include <QPointer>
 #include <algorithm>
 
 #include "library/RecordingOrder.h"
+#include "library/utility/NativePath.h"
 
 namespace tavi {
 
@@ -190,7 +190,7 @@ QByteArray VoiceMemoVC::pathOf(bool inCloud, int row) const {
     }
     QByteArray path = QFile::encodeName(m_services.container.documentsPath()) + (inCloud ? "/ICloud/" : "/") +
                       list[static_cast<std::size_t>(row)].nativeName();
-    return ::access(path.constData(), F_OK) == 0 ? path : QByteArray();
+    return existsAt(path) ? path : QByteArray();
 }
 
 QString VoiceMemoVC::playingName() const {

@@ -9,6 +9,7 @@
 
 #include "library/utility/DateTexts.h"
 #include "library/utility/FileMove.h"
+#include "library/utility/NativePath.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {
@@ -87,7 +88,7 @@ void AudioTrim::viewDidLoad() {
     makePlayer(m_fileName);
     m_rangeSlider.minimumValue = 0.0F;
     m_rangeSlider.selectedMinimumValue = kMargin;
-    if (m_player != nullptr) {
+    if (duration() > 0.0) {
         m_rangeSlider.maximumValue = static_cast<float>(duration());
         m_rangeSlider.selectedMaximumValue = static_cast<float>(duration()) - kMargin;
     }
@@ -183,7 +184,7 @@ void AudioTrim::trimAudio() {
     const QString date = fileBaseName(m_services.runLoop.clock().now(), QLocale());
     m_outputPath = QFile::encodeName(m_services.container.documentsPath() + QStringLiteral("/Trim_%1.").arg(date)) +
                    trimrules::pathExtension(m_fileName);
-    QFile::remove(QFile::decodeName(m_outputPath));
+    removeAt(m_outputPath);
     if (!exportAsset(m_services.exports.assetWithURL(m_fileName), m_outputPath)) {
         m_indicatorText.clear();
         Q_EMIT outletsChanged();

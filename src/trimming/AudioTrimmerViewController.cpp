@@ -3,8 +3,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
+#include <utility>
 
 #include "library/utility/DateTexts.h"
+#include "library/utility/NativePath.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerStage.h"
 
@@ -94,7 +96,7 @@ void AudioTrimmerViewController::setupAudioPlot() {
     if (!m_waveform.empty()) {
         // The recording is never changed: it need not be read again.
         m_audioPlot->updateBuffer(m_waveform.data(), static_cast<quint32>(m_waveform.size()));
-    } else if (!m_isLoading) {
+    } else if (!m_isLoading && !m_isDismissed) {
         loadFile();
     }
 }
@@ -149,16 +151,18 @@ void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> c
             QFile::encodeName(m_services.container.documentsPath() + QStringLiteral("/Trim_%1.").arg(date)) +
             trimrules::pathExtension(nameOf(m_input.getFileName));
     }
-    const Asset asset = m_asset ? *m_asset : m_services.exports.assetWithURL(filePath());
+    if (!m_asset) {
+        return;
+    }
     m_export.start(
-        asset, m_strTrimmedAudioURL, trimrules::outputFileType(m_input.getFileName), m_selection.times(),
+        *m_asset, m_strTrimmedAudioURL, trimrules::outputFileType(m_input.getFileName), m_selection.times(),
         [this, completion = std::move(completion)](AssetExportStatus status) { exportEnded(status, completion); });
 }
 
 void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std::function<void()>& completion) {
     if (!m_abandonedPath.isEmpty()) {
         // It may have been over before it could be given up.
-        QFile::remove(QFile::decodeName(m_abandonedPath));
+        removeAt(m_abandonedPath);
         postDataUpdated();
         return;
     }
@@ -169,7 +173,7 @@ void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std
         completion();
         return;
     }
-    if (!QFile::exists(QFile::decodeName(m_strTrimmedAudioURL))) {
+    if (!existsAt(m_strTrimmedAudioURL)) {
         // An export that was given up has taken the earlier file with it.
         m_isAudioTrimmed = false;
         m_areEditingControlsHidden = false;
@@ -194,7 +198,7 @@ void AudioTrimmerViewController::btnUploadTapped() {
 }
 
 void AudioTrimmerViewController::done() {
-    if (!QFile::exists(QFile::decodeName(filePath()))) {
+    if (!existsAt(filePath())) {
         return;
     }
     m_player.stopAudioPlayer();
@@ -237,6 +241,10 @@ void AudioTrimmerViewController::btnCancelTapped() {
 
 void AudioTrimmerViewController::dismissAudioTrimmer(const QByteArray& path) {
     m_isDismissed = true;
+    // The next trimmer loads its waveform with the same loader, while this one may still wait for its export.
+    if (std::exchange(m_isLoading, false)) {
+        m_services.waveforms.cancel();
+    }
     if (m_input.completionBlock) {
         m_input.completionBlock(!path.isEmpty(), path);
     }
@@ -299,7 +307,11 @@ void AudioTrimmerViewController::btnResetAudioTapped() {
 
 void AudioTrimmerViewController::btnResetTapped() {
     m_isAudioTrimmed = false;
-    ScratchRecorder::replaceCopy(m_recorder.strOriginalAudioURL(), m_recorder.strAudioURL());
+    // A copy that has no original goes, on purpose: the pair belongs to the trimmer.
+    m_services.runLoop.dispatchBackground(
+        [original = m_recorder.strOriginalAudioURL(), copy = m_recorder.strAudioURL()] {
+            ScratchRecorder::replaceCopy(original, copy);
+        });
     resetAudioPlayer();
     Q_EMIT outletsChanged();
 }

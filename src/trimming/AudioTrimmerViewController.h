@@ -37,6 +37,7 @@ class AudioTrimmerViewController : public QObject {
     Q_PROPERTY(bool isRecordingViewHidden READ isRecordingViewHidden NOTIFY outletsChanged)
     Q_PROPERTY(bool isEditingViewHidden READ isEditingViewHidden NOTIFY outletsChanged)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY outletsChanged)
+    Q_PROPERTY(bool canExport READ canExport NOTIFY outletsChanged)
     /// Why the recording cannot be trimmed, in one line; empty where it can.
     Q_PROPERTY(QString problem READ problem NOTIFY outletsChanged)
 
@@ -90,6 +91,8 @@ public:
     bool isRecordingViewHidden() const { return m_isRecordingViewHidden; }
     bool isEditingViewHidden() const { return !m_isRecordingViewHidden; }
     bool isLoading() const { return m_isLoading; }
+    /// Whether the recording has been looked at and holds sound.
+    bool canExport() const { return m_asset && !m_asset->audioTracks.empty(); }
     QString problem() const;
 
     const Input& input() const { return m_input; }

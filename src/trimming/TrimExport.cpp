@@ -1,9 +1,10 @@
 #include "trimming/TrimExport.h"
 
-#include <QFile>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <algorithm>
+
+#include "library/utility/NativePath.h"
 
 namespace tavi {
 
@@ -40,7 +41,7 @@ double TrimExport::progress() const {
 
 void TrimExport::start(const Asset& asset, const QByteArray& path, AssetFileType type, const TrimTimes& times,
                        Ended ended) {
-    QFile::remove(QFile::decodeName(path));
+    removeAt(path);
     // The best quality only tells by being offered that there is something to export. Without it nothing happens, on
     // purpose: there is nothing that could be told about a file without sound.
     const auto presets = m_exports.exportPresetsCompatibleWithAsset(asset);

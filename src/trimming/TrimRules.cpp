@@ -68,7 +68,7 @@ QByteArray pathExtension(const QByteArray& name) {
 }
 
 AssetFileType outputFileType(const QByteArray& name) {
-    const QByteArray extension = pathExtension(name);
+    const QByteArray extension = pathExtension(name).toLower();
     if (extension == "wav") {
         return AssetFileType::Wave;
     }

@@ -54,7 +54,7 @@ QString timeFormatted(double seconds, bool isWithMinutes);
 /// What follows the last point of a file's name; empty where there is none, or nothing before it. In the name's bytes.
 QByteArray pathExtension(const QByteArray& name);
 
-/// What an export writes for a file of that name: any name gets a type.
+/// What an export writes for a file of that name, its extension in any case: any name gets a type.
 AssetFileType outputFileType(const QByteArray& name);
 
 }  // namespace trimrules

@@ -25,13 +25,20 @@ constexpr std::uint32_t kMaximumChannels = 8;
 /// Linear PCM of 8 or 16 bits.
 class WavSamples : public AssetSamples {
 public:
-    static std::unique_ptr<AssetSamples> open(FileDescriptor& file) {
-        const auto header = readWavHeader(file.get());
+    WavSamples(FileDescriptor file, const WavHeader& header)
+        : m_file(std::move(file)),
+          m_header(header),
+          m_bytes(std::size_t{kPieceFrames} * header.frameBytes),
+          m_samples(std::size_t{kPieceFrames} * header.channels) {}
+
+    /// Nothing for a file of another kind.
+    static std::optional<WavHeader> headerOf(int fd) {
+        const auto header = readWavHeader(fd);
         const std::uint32_t bytes = header ? header->bitsPerSample / 8 : 0;
         const bool isOurs = header && !header->isFloat && (header->bitsPerSample == 8 || header->bitsPerSample == 16) &&
                             header->channels >= 1 && header->channels <= kMaximumChannels &&
                             header->frameBytes == bytes * header->channels;
-        return isOurs ? std::unique_ptr<AssetSamples>(new WavSamples(std::move(file), *header)) : nullptr;
+        return isOurs ? header : std::nullopt;
     }
 
     std::uint32_t channels() const override { return m_header.channels; }
@@ -51,12 +58,6 @@ public:
     }
 
 private:
-    WavSamples(FileDescriptor file, const WavHeader& header)
-        : m_file(std::move(file)),
-          m_header(header),
-          m_bytes(std::size_t{kPieceFrames} * header.frameBytes),
-          m_samples(std::size_t{kPieceFrames} * header.channels) {}
-
     FileDescriptor m_file;
     WavHeader m_header;
     std::int64_t m_position = 0;
@@ -66,13 +67,20 @@ private:
 
 class Ima4Samples : public AssetSamples {
 public:
-    static std::unique_ptr<AssetSamples> open(FileDescriptor& file) {
-        const auto header = readCafHeader(file.get());
+    Ima4Samples(FileDescriptor file, const CafHeader& header)
+        : m_file(std::move(file)),
+          m_header(header),
+          m_states(header.channels),
+          m_bytes(kBlockPackets * header.packetBytes),
+          m_samples(std::size_t{kPieceFrames} * header.channels) {}
+
+    static std::optional<CafHeader> headerOf(int fd) {
+        const auto header = readCafHeader(fd);
         const bool isOurs = header && header->formatID == kAudioFormatAppleIMA4 && header->channels >= 1 &&
                             header->channels <= kMaximumChannels &&
                             header->packetBytes == kIma4PacketBytes * header->channels &&
                             header->packetFrames == kIma4PacketFrames;
-        return isOurs ? std::unique_ptr<AssetSamples>(new Ima4Samples(std::move(file), *header)) : nullptr;
+        return isOurs ? header : std::nullopt;
     }
 
     std::uint32_t channels() const override { return m_header.channels; }
@@ -101,13 +109,6 @@ public:
 
 private:
     static constexpr std::size_t kBlockPackets = kPieceFrames / kIma4PacketFrames;
-
-    Ima4Samples(FileDescriptor file, const CafHeader& header)
-        : m_file(std::move(file)),
-          m_header(header),
-          m_states(header.channels),
-          m_bytes(kBlockPackets * header.packetBytes),
-          m_samples(std::size_t{kPieceFrames} * header.channels) {}
 
     void decode(std::size_t packets) {
         const std::size_t count = m_header.channels;
@@ -288,11 +289,13 @@ std::unique_ptr<AssetSamples> openAssetSamples(const QByteArray& path) {
     if (!descriptor.isValid() || regularFileSize(descriptor.get()) < 0) {
         return nullptr;
     }
-    if (auto samples = WavSamples::open(descriptor)) {
-        return samples;
+    const auto wav = WavSamples::headerOf(descriptor.get());
+    if (wav) {
+        return std::make_unique<WavSamples>(std::move(descriptor), *wav);
     }
-    if (auto samples = Ima4Samples::open(descriptor)) {
-        return samples;
+    const auto caf = Ima4Samples::headerOf(descriptor.get());
+    if (caf) {
+        return std::make_unique<Ima4Samples>(std::move(descriptor), *caf);
     }
     AudioStreamBasicDescription format;
     std::unique_ptr<ExtAudioFile> file = openFile(name, format);

@@ -1,5 +1,6 @@
 #include "adapters/ffmpeg/ExportFile.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
@@ -10,6 +11,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <system_error>
 
 namespace tavi {
@@ -18,6 +20,7 @@ namespace {
 
 /// What one read covers, gaps between the pieces included; little enough to stay in the processor's cache.
 constexpr std::int64_t kWindowBytes = 512 * 1024;
+constexpr auto kPrefix = ".tavi-export-";
 /// Pieces of one gathering write, within the system's limit.
 constexpr std::size_t kMaximumPieces = 512;
 
@@ -48,6 +51,32 @@ int renameExclusively(const char* from, const char* to) {
     return reserved.isValid() && ::rename(from, to) == 0 ? 0 : errno;
 }
 
+/// Where files are made that shall have that path: beside it, or in the folder there that no list shows.
+QByteArray workFolderOf(const QByteArray& path) {
+    const QByteArray folder = path.left(path.lastIndexOf('/') + 1);
+    const QByteArray hidden = folder + "PrivateInbox/";
+    struct stat status = {};
+    return ::stat(hidden.constData(), &status) == 0 && S_ISDIR(status.st_mode) ? hidden : folder;
+}
+
+/// Removes what exports have left that were killed: nobody has written to it for a while.
+void removeLeftovers(const QByteArray& folder) {
+    constexpr std::time_t kWhile = 3600;
+    struct Closer {
+        void operator()(DIR* directory) const { ::closedir(directory); }
+    };
+    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.isEmpty() ? "." : folder.constData()));
+    // No other thread reads this stream, which is all that readdir(3) asks for.
+    while (const dirent* item = directory ? ::readdir(directory.get()) : nullptr) {  // NOLINT(concurrency-mt-unsafe)
+        struct stat status = {};
+        const QByteArray path = folder + item->d_name;
+        if (QByteArray(item->d_name).startsWith(kPrefix) && ::lstat(path.constData(), &status) == 0 &&
+            S_ISREG(status.st_mode) && std::time(nullptr) - status.st_mtim.tv_sec > kWhile) {
+            ::unlink(path.constData());
+        }
+    }
+}
+
 }  // namespace
 
 Result<std::unique_ptr<ExportFile>> ExportFile::create(const QByteArray& path) {
@@ -58,8 +87,9 @@ Result<std::unique_ptr<ExportFile>> ExportFile::create(const QByteArray& path) {
     if (::lstat(path.constData(), &status) == 0) {
         return failure(QStringLiteral("There is a file of that name already."));
     }
-    const QByteArray folder = path.left(path.lastIndexOf('/') + 1);
-    const QByteArray temporary = folder + ".tavi-export-" + QUuid::createUuid().toByteArray(QUuid::Id128) + ".m4a";
+    const QByteArray folder = workFolderOf(path);
+    removeLeftovers(folder);
+    const QByteArray temporary = folder + kPrefix + QUuid::createUuid().toByteArray(QUuid::Id128) + ".m4a";
     FileDescriptor file = FileDescriptor::open(temporary.toStdString(), O_RDWR | O_CREAT | O_EXCL, 0666);
     if (!file.isValid()) {
         return failure(reason(errno));

@@ -25,8 +25,9 @@ private:
     std::atomic<float> m_progress = 0.0F;
 };
 
-/// A file in the making, under a name of its own beside the one that it shall have. Unless it is published it
-/// disappears. One thread at a time.
+/// A file in the making, under a name of its own: beside the one that it shall have, or in the folder "PrivateInbox"
+/// there, which no list shows. Unless it is published it disappears; what a killed process leaves goes with a later
+/// export. One thread at a time.
 class ExportFile {
 public:
     /// Fails when there is a file of the final name already.

@@ -27,7 +27,8 @@ constexpr std::array<Ima4Move, std::size_t{kIma4Steps}* 16> kIma4Moves = [] {
             difference += (code & 2) != 0 ? size >> 1 : 0;
             difference += (code & 1) != 0 ? size >> 2 : 0;
             const int next = std::clamp(step + kIndexChanges[static_cast<std::size_t>(code & 7)], 0, kIma4Steps - 1);
-            moves[static_cast<std::size_t>(step * 16 + code)] = {(code & 8) != 0 ? -difference : difference, next * 16};
+            const auto place = static_cast<unsigned int>(step * 16 + code);
+            moves[place] = {(code & 8) != 0 ? -difference : difference, next * 16};
         }
     }
     return moves;

@@ -54,7 +54,8 @@ void decodeIma4Packets(const std::uint8_t* packets, Ima4State* states, const Sto
         row[channel] = states[channel].step * 16;
     }
     const auto decode = [&](std::size_t channel, int code, std::size_t at) {
-        const Ima4Move move = kIma4Moves[static_cast<std::size_t>(row[channel] + code)];
+        const auto place = static_cast<unsigned int>(row[channel] + code);
+        const Ima4Move move = kIma4Moves[place];
         sample[channel] = std::clamp(sample[channel] + move.difference, -32768, 32767);
         row[channel] = move.next;
         store(channel, at, sample[channel]);

@@ -83,6 +83,9 @@ Result<void> takeOptions(QStringList& arguments, CommandLine& line) {
         if (line.container.isEmpty()) {
             return failure(QStringLiteral("--container needs a folder"));
         }
+        if (line.container.contains(QChar(QChar::ReplacementCharacter))) {
+            return failure(QStringLiteral("the name of the container is not text: “%1”").arg(line.container));
+        }
     }
     return {};
 }
@@ -151,6 +154,9 @@ Result<void> takeValue(CommandLine& line, const QString& option, const QByteArra
     }
     if (isPoints) {
         line.points = static_cast<int>(*number);
+        if (static_cast<double>(line.points) != *number) {
+            return failure(QStringLiteral("--points needs a whole number, not “%1”").arg(text));
+        }
     } else {
         (option == QLatin1String("--from") ? line.from : line.to) = *number;
     }
@@ -246,7 +252,7 @@ QString helpText() {
         "\n"
         "Commands that print and end:\n"
         "  get KEY          print a setting\n"
-        "  set KEY VALUE    change a setting; on and off are true and false\n"
+        "  set KEY VALUE    change a setting; yes or no is true or false\n"
         "  list [--json]    print the recordings, one a line or as JSON\n"
         "  waveform FILE [--points N] [--json | --png OUT]\n"
         "                   print the loudness of a sound file in N points, 1024 if not\n"

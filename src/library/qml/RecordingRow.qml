@@ -17,6 +17,9 @@ Item {
 
     width: ListView.view.width
     height: wide ? 56 : 68
+    // A row that waits to be used again is nowhere.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.name: nameText
     Accessible.description: expanded ? detailText + " | " + (screen.player.isPlayerPlaying ? qsTrId("a11y_row_playing") : qsTrId("a11y_row_paused"))

@@ -24,7 +24,7 @@ FocusScope {
         imageSize: 24
         tint: root.screen.accentColor
         name: qsTrId("trim_close")
-        onClicked: root.screen.backButtonpressed()
+        onClicked: root.screen.closeButtonpressed()
     }
 
     Label {

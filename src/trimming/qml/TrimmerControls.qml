@@ -57,7 +57,7 @@ FocusScope {
             text: root.screen.btnEditTrimmedVideo.title
             fill: Theme.control
             pressedFill: Theme.pressed
-            enabled: root.screen.problem === ""
+            enabled: root.screen.canExport
             Accessible.checkable: true
             Accessible.checked: root.screen.btnEditTrimmedVideo.selected
             onClicked: root.screen.btnEditTrimmedVideoTapped()

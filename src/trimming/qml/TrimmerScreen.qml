@@ -83,6 +83,7 @@ FocusScope {
                 fill: Theme.accent
                 pressedFill: Theme.switchTint
                 font.weight: Font.Medium
+                enabled: root.screen.canExport
                 onClicked: root.screen.btnUploadTapped()
             }
 

@@ -60,7 +60,7 @@ void EZAudioPlot::setShouldOptimizeForRealtimePlot(bool optimize) {
         m_displayLink = EZAudioDisplayLink::displayLinkWithDelegate(m_refreshes, this);
         m_displayLink->start();
     } else if (m_displayLink) {
-        // On purpose also when it is turned on a second time: users of the plot rely on the switch as it always was.
+        // On purpose also when it is turned on a second time: turning it on toggles the link.
         m_displayLink->stop();
         m_displayLink.reset();
     }

@@ -14,7 +14,7 @@
     </message>
     <message id="voice_memo">
         <source></source>
-        <translation>Voice Memos</translation>
+        <translation>Recordings</translation>
     </message>
     <message id="Setting">
         <source></source>
@@ -273,7 +273,7 @@
     <!-- Library -->
     <message id="voice_record">
         <source></source>
-        <translation>Voice Memos</translation>
+        <translation>Recordings</translation>
     </message>
     <message id="Name">
         <source></source>

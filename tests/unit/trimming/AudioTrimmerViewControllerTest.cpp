@@ -295,6 +295,7 @@ TEST_F(AudioTrimmerTest, RecordsIntoItsScratchFiles) {
     ASSERT_TRUE(QFile::remove(container.documentsPath() + QStringLiteral("/recording.wav")));
     drag(screen, true, 30.0);
     screen.btnResetTapped();
+    runLoop.drain();
     EXPECT_TRUE(exists("recording.wav"));
     EXPECT_EQ(screen.selection()->leftThumbX(), 0.0);
 }

@@ -130,7 +130,7 @@ AudioFileInfo EZAudioFile::metadata() const {
 std::string EZAudioFile::description() const {
     std::string entries = "{";
     for (const auto& [key, value] : metadata()) {
-        entries += "\n    " + key + " = \"" + value + "\";";
+        entries.append("\n    ").append(key).append(" = \"").append(value).append("\";");
     }
     entries += "\n}";
     char numbers[128];
@@ -253,6 +253,7 @@ std::unique_ptr<EZAudioFloatData> EZAudioFile::getWaveformDataWithNumberOfPoints
     const std::uint32_t passes = std::max(numberOfPoints, 1U);
     std::vector<std::vector<float>> values(channels, std::vector<float>(passes));
     std::vector<float*> points;
+    points.reserve(values.size());
     for (auto& channel : values) {
         points.push_back(channel.data());
     }
