@@ -165,7 +165,7 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     const AVRational timeBase = stream.time_base;
     const auto timeOf = [&](std::int64_t frame) { return av_rescale_q(frame, {1, job.rate}, timeBase); };
     Output output;
-    if (const Result<void> opened = output.open(job, stream); !opened) {
+    if (Result<void> opened = output.open(job, stream); !opened) {
         return opened;
     }
     const std::int64_t origin = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;

@@ -20,7 +20,8 @@ constexpr int kMaximumCorrected = 8;
 constexpr std::int64_t kBufferPackets = 1024;
 
 const Ima4Move& moveOf(int step, int code) {
-    return kIma4Moves[static_cast<std::size_t>(step * 16 + code)];
+    const auto place = static_cast<unsigned int>(step * 16 + code);
+    return kIma4Moves[place];
 }
 
 /// The state behind a packet whose header has been read.
