@@ -13,6 +13,8 @@ namespace tavi {
 
 namespace {
 
+/// How much is read at once: little after a seek, more and more where one packet after the other is wanted.
+constexpr std::size_t kFirstWindowBytes = std::size_t{16} * 1024;
 constexpr std::size_t kWindowBytes = std::size_t{256} * 1024;
 /// Many times what a packet of these codecs can have, and what it can last.
 constexpr std::uint32_t kLargestPacket = 1 << 20;
@@ -106,6 +108,7 @@ std::int64_t Mp4Packets::declaredLength(int rate) {
 bool Mp4Packets::goTo(std::uint64_t packet) {
     const auto place = m_sound.tables().placeBefore(packet);
     m_isFresh = true;
+    m_windowBytes = kFirstWindowBytes;
     m_place = place.value_or(Mp4PacketTables::Place{});
     return place.has_value();
 }
@@ -117,7 +120,8 @@ bool Mp4Packets::seek(std::int64_t time) {
 const std::uint8_t* Mp4Packets::bytesOf(const Mp4Packet& packet) {
     const std::int64_t windowEnd = m_windowOffset + static_cast<std::int64_t>(m_window.size());
     if (packet.offset < m_windowOffset || packet.offset + packet.size > windowEnd) {
-        m_window.resize(std::max<std::size_t>(kWindowBytes, packet.size));
+        m_window.resize(std::max<std::size_t>(m_windowBytes, packet.size));
+        m_windowBytes = std::min(2 * m_windowBytes, kWindowBytes);
         m_window.resize(readFully(m_fd, m_window.data(), m_window.size(), packet.offset));
         m_windowOffset = packet.offset;
     }

@@ -48,6 +48,8 @@ private:
     std::vector<std::uint8_t> m_window;
     /// Where in the file the window starts.
     std::int64_t m_windowOffset = 0;
+    /// How many bytes the next one gets.
+    std::size_t m_windowBytes = 0;
 };
 
 }  // namespace tavi
