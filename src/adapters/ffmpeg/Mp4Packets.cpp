@@ -15,7 +15,7 @@ namespace {
 
 /// How much is read at once: little after a seek, more and more where one packet after the other is wanted.
 constexpr std::size_t kFirstWindowBytes = std::size_t{16} * 1024;
-constexpr std::size_t kWindowBytes = std::size_t{256} * 1024;
+constexpr std::size_t kWindowBytes = std::size_t{64} * 1024;
 /// Many times what a packet of these codecs can have, and what it can last.
 constexpr std::uint32_t kLargestPacket = 1 << 20;
 constexpr std::uint32_t kLongestPacket = 1 << 20;
