@@ -25,10 +25,6 @@ public:
     bool seek(std::int64_t time) override;
 
 private:
-    struct ParametersDeleter {
-        void operator()(AVCodecParameters* parameters) const { avcodec_parameters_free(&parameters); }
-    };
-
     AdtsPackets(int fd, AdtsStream stream) : m_fd(fd), m_stream(std::move(stream)) {}
 
     /// Where the next frame's header stands in m_bytes, or nothing at the end.
@@ -36,7 +32,7 @@ private:
 
     int m_fd;
     AdtsStream m_stream;
-    std::unique_ptr<AVCodecParameters, ParametersDeleter> m_parameters;
+    AvParameters m_parameters;
     std::vector<std::uint8_t> m_bytes;
     std::size_t m_used = 0;
     /// Where in the file m_bytes starts.

@@ -14,6 +14,7 @@ namespace tavi {
 
 struct AvDeleter {
     void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
+    void operator()(AVCodecParameters* parameters) const { avcodec_parameters_free(&parameters); }
     void operator()(AVFrame* frame) const { av_frame_free(&frame); }
     void operator()(AVPacket* packet) const { av_packet_free(&packet); }
     void operator()(SwrContext* context) const { swr_free(&context); }
@@ -24,6 +25,7 @@ struct AvDeleter {
 };
 
 using AvCodec = std::unique_ptr<AVCodecContext, AvDeleter>;
+using AvParameters = std::unique_ptr<AVCodecParameters, AvDeleter>;
 using AvFrame = std::unique_ptr<AVFrame, AvDeleter>;
 using AvPacket = std::unique_ptr<AVPacket, AvDeleter>;
 using AvResampler = std::unique_ptr<SwrContext, AvDeleter>;

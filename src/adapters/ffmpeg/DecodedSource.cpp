@@ -7,6 +7,7 @@
 
 #include "adapters/ffmpeg/AdtsPackets.h"
 #include "adapters/ffmpeg/ContainerPackets.h"
+#include "adapters/ffmpeg/Mp4Packets.h"
 
 extern "C" {
 #include <libavutil/samplefmt.h>
@@ -115,6 +116,9 @@ void copyChannel(const AVFrame& frame, int channel, std::size_t offset, float* t
 AudioStatus DecodedSource::open(FileDescriptor& file, std::unique_ptr<SoundSource>& source) {
     std::unique_ptr<DecodedSource> opened(new DecodedSource);
     opened->m_packets = AdtsPackets::open(file.get());
+    if (!opened->m_packets) {
+        opened->m_packets = Mp4Packets::open(file.get());
+    }
     if (!opened->m_packets) {
         std::unique_ptr<ContainerPackets> packets;
         const AudioStatus status = ContainerPackets::open(file.get(), packets);

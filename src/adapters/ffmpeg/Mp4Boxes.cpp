@@ -31,6 +31,35 @@ std::optional<Mp4Box> readMp4Box(int fd, std::int64_t offset, std::int64_t limit
     return box;
 }
 
+std::optional<std::vector<Mp4Box>> readMp4Boxes(int fd, std::int64_t offset, std::int64_t end) {
+    constexpr std::size_t kMaximumBoxes = 1024;
+    std::vector<Mp4Box> boxes;
+    while (offset < end) {
+        const auto box = readMp4Box(fd, offset, end);
+        if (!box || box->end > end || boxes.size() == kMaximumBoxes) {
+            return std::nullopt;
+        }
+        boxes.push_back(*box);
+        offset = box->end;
+    }
+    return boxes;
+}
+
+const Mp4Box* findMp4Box(const std::vector<Mp4Box>& boxes, std::uint32_t type) {
+    const auto found = std::find_if(boxes.begin(), boxes.end(), [type](const Mp4Box& box) { return box.type == type; });
+    return found != boxes.end() ? &*found : nullptr;
+}
+
+std::optional<std::vector<std::uint8_t>> readMp4Bytes(int fd, std::int64_t offset, std::int64_t end) {
+    constexpr std::int64_t kMaximumBytes = std::int64_t{24} << 20;
+    if (end < offset || end - offset > kMaximumBytes || end > regularFileSize(fd)) {
+        return std::nullopt;
+    }
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(end - offset));
+    return readFully(fd, bytes.data(), bytes.size(), offset) == bytes.size() ? std::optional(std::move(bytes))
+                                                                             : std::nullopt;
+}
+
 std::span<const std::uint8_t> Mp4Reader::take(std::size_t count) {
     if (!m_ok || count > m_bytes.size()) {
         m_ok = false;

@@ -28,6 +28,14 @@ constexpr std::uint32_t mp4Type(const char (&text)[5]) {
 /// makes no sense. A box that says it reaches to the end of the file ends at limit.
 std::optional<Mp4Box> readMp4Box(int fd, std::int64_t offset, std::int64_t limit);
 
+/// The boxes that fill the bytes from an offset to an end, in order; nothing when they do not fill them exactly, and
+/// when there are more than any sound file has.
+std::optional<std::vector<Mp4Box>> readMp4Boxes(int fd, std::int64_t offset, std::int64_t end);
+/// The first box of a type.
+const Mp4Box* findMp4Box(const std::vector<Mp4Box>& boxes, std::uint32_t type);
+/// The bytes from an offset to an end; nothing when they are too many to hold, or not there.
+std::optional<std::vector<std::uint8_t>> readMp4Bytes(int fd, std::int64_t offset, std::int64_t end);
+
 /// Big-endian numbers in a span; 0 and not ok() from the first read behind its end on.
 class Mp4Reader {
 public:

@@ -1,18 +1,19 @@
 #include "adapters/ffmpeg/Mp4Sound.h"
 
+extern "C" {
+#include <libavutil/mathematics.h>
+}
+
+#include <algorithm>
 #include <array>
+#include <initializer_list>
+#include <string_view>
 
 #include "adapters/ffmpeg/PositionedIo.h"
 
 namespace tavi {
 
 namespace {
-
-/// Tables of a day of sound, and little enough to hold.
-constexpr std::int64_t kMaximumMovieBytes = std::int64_t{24} << 20;
-constexpr std::uint64_t kMaximumPackets = std::uint64_t{8} << 20;
-/// Longer and larger than any file: sums of these do not overflow.
-constexpr std::int64_t kMost = std::int64_t{1} << 60;
 
 std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t offset, std::size_t size) {
     std::uint64_t value = 0;
@@ -22,27 +23,75 @@ std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t offset, 
     return value;
 }
 
-/// The entries of a table with a version, flags and a count before them; nothing when they do not fit.
-std::optional<std::span<const std::uint8_t>> entriesOf(const std::vector<Mp4Child>& tables, std::uint32_t type,
-                                                       std::size_t entryBytes) {
-    const Mp4Child* table = findMp4Child(tables, type);
-    if (table == nullptr || table->body.size() < 8) {
-        return std::nullopt;
+std::vector<Mp4Box> boxesIn(int fd, const Mp4Box& parent) {
+    return readMp4Boxes(fd, parent.body, parent.end).value_or(std::vector<Mp4Box>{});
+}
+
+/// The first box that lies there by a way of types.
+std::optional<Mp4Box> boxBelow(int fd, Mp4Box box, std::initializer_list<std::uint32_t> way) {
+    for (const std::uint32_t type : way) {
+        const auto children = boxesIn(fd, box);
+        const Mp4Box* child = findMp4Box(children, type);
+        if (child == nullptr) {
+            return std::nullopt;
+        }
+        box = *child;
     }
-    const std::uint64_t count = numberAt(table->body, 4, 4);
-    const auto entries = table->body.subspan(8);
-    return count <= entries.size() / entryBytes ? std::optional(entries.first(count * entryBytes)) : std::nullopt;
+    return box;
 }
 
-std::vector<Mp4Child> childrenOf(const std::vector<Mp4Child>& parents, std::uint32_t type) {
-    const Mp4Child* parent = findMp4Child(parents, type);
-    return parent != nullptr ? mp4Children(parent->body).value_or(std::vector<Mp4Child>{}) : std::vector<Mp4Child>{};
+/// The first bytes of a box's body, zeros where it has fewer.
+template <std::size_t Size>
+std::array<std::uint8_t, Size> startOf(int fd, const std::optional<Mp4Box>& box) {
+    std::array<std::uint8_t, Size> bytes{};
+    if (box) {
+        const auto room = static_cast<std::size_t>(std::max<std::int64_t>(0, box->end - box->body));
+        readFully(fd, bytes.data(), std::min(Size, room), box->body);
+    }
+    return bytes;
 }
 
-bool isSoundTrack(const std::vector<Mp4Child>& track) {
-    const auto media = childrenOf(track, mp4Type("mdia"));
-    const Mp4Child* handler = findMp4Child(media, mp4Type("hdlr"));
-    return handler != nullptr && handler->body.size() >= 12 && numberAt(handler->body, 8, 4) == mp4Type("soun");
+/// The time scale in a box "mvhd" or "mdhd"; 0 where there is none.
+std::uint32_t timeScaleOf(int fd, const std::optional<Mp4Box>& box) {
+    const auto bytes = startOf<24>(fd, box);
+    return static_cast<std::uint32_t>(numberAt(bytes, bytes[0] == 1 ? 20 : 12, 4));
+}
+
+bool isSoundTrack(int fd, const Mp4Box& track) {
+    const auto handler = boxBelow(fd, track, {mp4Type("mdia"), mp4Type("hdlr")});
+    return numberAt(startOf<12>(fd, handler), 8, 4) == mp4Type("soun");
+}
+
+/// Whether each box is of one of these types and none comes twice.
+bool areUsual(const std::vector<Mp4Box>& boxes, std::initializer_list<std::uint32_t> types) {
+    return std::all_of(boxes.begin(), boxes.end(), [&](const Mp4Box& box) {
+        return std::find(types.begin(), types.end(), box.type) != types.end() &&
+               findMp4Box(boxes, box.type)->offset == box.offset;
+    });
+}
+
+/// Whether the only data that the track refers to are in its own file.
+bool isSelfContained(int fd, const Mp4Box& information) {
+    const auto bytes = startOf<20>(fd, boxBelow(fd, information, {mp4Type("dinf"), mp4Type("dref")}));
+    return numberAt(bytes, 4, 4) == 1 && numberAt(bytes, 12, 4) == mp4Type("url ") && numberAt(bytes, 16, 4) == 1;
+}
+
+/// Whether a box names the remark in which some programs write how much of the start and end is not to be heard.
+bool hasGaplessRemark(int fd, const Mp4Box& box) {
+    constexpr std::string_view kName = "iTunSMPB";
+    std::array<char, 16384> window{};
+    for (std::int64_t at = box.body; at < box.end;) {
+        const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(box.end - at, window.size()));
+        const std::size_t count = readFully(fd, window.data(), wanted, at);
+        if (std::string_view(window.data(), count).find(kName) != std::string_view::npos) {
+            return true;
+        }
+        if (count < window.size()) {
+            break;
+        }
+        at += static_cast<std::int64_t>(count - kName.size());
+    }
+    return false;
 }
 
 }  // namespace
@@ -58,78 +107,82 @@ std::optional<Mp4Sound> Mp4Sound::open(int fd) {
         movie = box->type == mp4Type("moov") ? box : std::nullopt;
         offset = box->end;
     }
-    if (movie->end - movie->body > kMaximumMovieBytes) {
-        return std::nullopt;
+    Mp4Sound sound(fd);
+    const auto boxes = readMp4Boxes(fd, 0, size).value_or(std::vector<Mp4Box>{});
+    sound.m_isPlain = !boxes.empty() && std::all_of(boxes.begin(), boxes.end(), [&](const Mp4Box& box) {
+        constexpr std::array kHarmless = {mp4Type("ftyp"), mp4Type("mdat"), mp4Type("free"), mp4Type("skip"),
+                                          mp4Type("wide")};
+        return box.offset == movie->offset ||
+               std::find(kHarmless.begin(), kHarmless.end(), box.type) != kHarmless.end();
+    });
+    return sound.readMovie(*movie) ? std::optional(std::move(sound)) : std::nullopt;
+}
+
+bool Mp4Sound::readMovie(const Mp4Box& movie) {
+    const auto children = boxesIn(m_fd, movie);
+    if (findMp4Box(children, mp4Type("mvex")) != nullptr) {
+        return false;
     }
-    Mp4Sound sound;
-    sound.m_movie.resize(static_cast<std::size_t>(movie->end - movie->body));
-    if (readFully(fd, sound.m_movie.data(), sound.m_movie.size(), movie->body) < sound.m_movie.size()) {
-        return std::nullopt;
-    }
-    const auto children = mp4Children(sound.m_movie);
-    if (!children || findMp4Child(*children, mp4Type("mvex")) != nullptr) {
-        return std::nullopt;
-    }
-    const Mp4Child* track = nullptr;
-    for (const Mp4Child& child : *children) {
-        if (child.type == mp4Type("trak") && isSoundTrack(mp4Children(child.body).value_or(std::vector<Mp4Child>{}))) {
+    const Mp4Box* track = nullptr;
+    for (const Mp4Box& child : children) {
+        if (child.type == mp4Type("trak") && isSoundTrack(m_fd, child)) {
             if (track != nullptr) {
-                return std::nullopt;
+                return false;
             }
             track = &child;
         }
+        m_isPlain = m_isPlain && (child.type == mp4Type("trak") ? &child == track : !hasGaplessRemark(m_fd, child));
     }
-    if (const Mp4Child* data = findMp4Child(*children, mp4Type("udta"))) {
-        sound.m_userData = data->whole;
+    if (const Mp4Box* data = findMp4Box(children, mp4Type("udta"))) {
+        m_userData = *data;
     }
-    // Moving the vector keeps its bytes where they are, and with them the spans.
-    return track != nullptr && sound.readTrack(track->body) ? std::optional(std::move(sound)) : std::nullopt;
+    return track != nullptr && readTrack(*track, timeScaleOf(m_fd, boxBelow(m_fd, movie, {mp4Type("mvhd")})));
 }
 
-bool Mp4Sound::readTrack(std::span<const std::uint8_t> track) {
-    const auto children = mp4Children(track);
-    const auto media = children ? childrenOf(*children, mp4Type("mdia")) : std::vector<Mp4Child>{};
-    const Mp4Child* header = findMp4Child(media, mp4Type("mdhd"));
-    const auto information = childrenOf(media, mp4Type("minf"));
-    const Mp4Child* tables = findMp4Child(information, mp4Type("stbl"));
-    if (header == nullptr || tables == nullptr) {
-        return false;
-    }
-    Mp4Reader reader(header->body);
-    reader.skip(reader.u32() >> 24 == 1 ? 16 : 8);
-    m_timeScale = reader.u32();
-    return reader.ok() && m_timeScale > 0 && readTables(tables->body) && readEdits(track);
+std::vector<std::uint8_t> Mp4Sound::userData() const {
+    const auto bytes = m_userData ? readMp4Bytes(m_fd, m_userData->offset, m_userData->end) : std::nullopt;
+    return bytes.value_or(std::vector<std::uint8_t>{});
 }
 
-bool Mp4Sound::readTables(std::span<const std::uint8_t> body) {
-    const auto tables = mp4Children(body);
-    if (!tables || findMp4Child(*tables, mp4Type("ctts")) != nullptr) {
+bool Mp4Sound::readTrack(const Mp4Box& track, std::uint32_t movieTimeScale) {
+    const auto children = boxesIn(m_fd, track);
+    const Mp4Box* media = findMp4Box(children, mp4Type("mdia"));
+    for (const Mp4Box& child : children) {
+        m_isPlain = m_isPlain && (&child == media || !hasGaplessRemark(m_fd, child));
+    }
+    m_isPlain = m_isPlain && areUsual(children, {mp4Type("tkhd"), mp4Type("edts"), mp4Type("mdia"), mp4Type("udta"),
+                                                 mp4Type("meta"), mp4Type("free")});
+    const auto list = boxBelow(m_fd, track, {mp4Type("edts"), mp4Type("elst")});
+    return media != nullptr && readMedia(*media) && (!list || readEdits(*list, movieTimeScale));
+}
+
+bool Mp4Sound::readMedia(const Mp4Box& media) {
+    m_timeScale = timeScaleOf(m_fd, boxBelow(m_fd, media, {mp4Type("mdhd")}));
+    const auto information = boxBelow(m_fd, media, {mp4Type("minf")});
+    const auto tables = boxBelow(m_fd, media, {mp4Type("minf"), mp4Type("stbl")});
+    m_isPlain = m_isPlain && information && isSelfContained(m_fd, *information);
+    return m_timeScale > 0 && tables && readTables(*tables);
+}
+
+bool Mp4Sound::readTables(const Mp4Box& box) {
+    const auto children = boxesIn(m_fd, box);
+    const Mp4Box* description = findMp4Box(children, mp4Type("stsd"));
+    if (description == nullptr || findMp4Box(children, mp4Type("ctts")) != nullptr) {
         return false;
     }
-    const Mp4Child* description = findMp4Child(*tables, mp4Type("stsd"));
-    const Mp4Child* sizes = findMp4Child(*tables, mp4Type("stsz"));
-    const auto times = entriesOf(*tables, mp4Type("stts"), 8);
-    const auto chunkRuns = entriesOf(*tables, mp4Type("stsc"), 12);
-    auto chunks = entriesOf(*tables, mp4Type("stco"), 4);
-    if (!chunks) {
-        m_chunkBytes = 8;
-        chunks = entriesOf(*tables, mp4Type("co64"), 8);
-    }
+    m_isPlain = m_isPlain && areUsual(children, {mp4Type("stsd"), mp4Type("stts"), mp4Type("stsc"), mp4Type("stsz"),
+                                                 mp4Type("stco"), mp4Type("co64"), mp4Type("sgpd"), mp4Type("sbgp")});
+    auto bytes = readMp4Bytes(m_fd, description->offset, description->end);
+    auto tables = Mp4PacketTables::open(m_fd, children);
     // One way of coding, in this file.
-    const bool isSingle =
-        description != nullptr && description->body.size() >= 16 && numberAt(description->body, 4, 4) == 1;
-    if (!isSingle || sizes == nullptr || sizes->body.size() < 12 || !times || !chunkRuns || !chunks) {
+    const auto header = static_cast<std::size_t>(description->body - description->offset);
+    if (!bytes || !tables || bytes->size() < header + 16 || numberAt(*bytes, header + 4, 4) != 1) {
         return false;
     }
-    m_description = description->whole;
-    m_coding = static_cast<std::uint32_t>(numberAt(description->body, 12, 4));
-    m_packetSize = static_cast<std::uint32_t>(numberAt(sizes->body, 4, 4));
-    m_packets = numberAt(sizes->body, 8, 4);
-    m_sizes = sizes->body.subspan(12);
-    m_times = *times;
-    m_chunkRuns = *chunkRuns;
-    m_chunks = *chunks;
-    return m_packets <= kMaximumPackets && (m_packetSize > 0 || m_packets <= m_sizes.size() / 4);
+    m_coding = static_cast<std::uint32_t>(numberAt(*bytes, header + 12, 4));
+    m_description = std::move(*bytes);
+    m_tables = std::move(*tables);
+    return true;
 }
 
 namespace {
@@ -149,19 +202,26 @@ std::span<const std::uint8_t> descriptor(Mp4Reader& reader, std::uint8_t tag) {
     return isRight ? reader.rest().first(length) : std::span<const std::uint8_t>{};
 }
 
-/// AAC-LC by its AudioSpecificConfig (ISO/IEC 14496-3, 1.6.2.1).
-std::optional<AudioStreamBasicDescription> aacFormat(std::span<const std::uint8_t> body, std::uint32_t timeScale) {
-    constexpr std::array<std::uint32_t, 13> kRates = {96000, 88200, 64000, 48000, 44100, 32000, 24000,
-                                                      22050, 16000, 12000, 11025, 8000,  7350};
-    constexpr std::uint32_t kHighestRateWithReplication = 24000;
+/// The AudioSpecificConfig in the body of a box "esds"; empty where there is none.
+std::span<const std::uint8_t> aacConfiguration(std::span<const std::uint8_t> body) {
     Mp4Reader reader(body);
     reader.skip(4);
     descriptor(reader, 3);
     reader.skip(3);
     descriptor(reader, 4);
-    reader.skip(13);
+    constexpr std::uint8_t kMpeg4Audio = 0x40;
+    const bool isAac = reader.u8() == kMpeg4Audio;
+    reader.skip(12);
     const auto config = descriptor(reader, 5);
-    if (!reader.ok() || config.size() < 2) {
+    return reader.ok() && isAac ? config : std::span<const std::uint8_t>{};
+}
+
+/// AAC-LC by its AudioSpecificConfig (ISO/IEC 14496-3, 1.6.2.1).
+std::optional<AudioStreamBasicDescription> aacFormat(std::span<const std::uint8_t> config, std::uint32_t timeScale) {
+    constexpr std::array<std::uint32_t, 13> kRates = {96000, 88200, 64000, 48000, 44100, 32000, 24000,
+                                                      22050, 16000, 12000, 11025, 8000,  7350};
+    constexpr std::uint32_t kHighestRateWithReplication = 24000;
+    if (config.size() < 2) {
         return std::nullopt;
     }
     const unsigned bits = static_cast<unsigned>(config[0]) << 8 | config[1];
@@ -182,126 +242,76 @@ std::optional<AudioStreamBasicDescription> aacFormat(std::span<const std::uint8_
 
 }  // namespace
 
-std::optional<AudioStreamBasicDescription> Mp4Sound::format() const {
+std::span<const std::uint8_t> Mp4Sound::configuration() const {
     // The entry's own fields (ISO/IEC 14496-12, 12.2.3.2), behind the headers of both boxes.
     constexpr std::size_t kEntry = 16;
     constexpr std::size_t kFields = 8 + 28;
-    const auto entry = m_description.subspan(kEntry);
+    const auto entry = std::span<const std::uint8_t>(m_description).subspan(kEntry);
     if (entry.size() < kFields || numberAt(entry, 0, 4) != entry.size() || numberAt(entry, 16, 2) != 0) {
-        return std::nullopt;
+        return {};
     }
-    const auto children = mp4Children(entry.subspan(kFields));
     const bool isAac = m_coding == mp4Type("mp4a");
-    const Mp4Child* child = children ? findMp4Child(*children, isAac ? mp4Type("esds") : mp4Type("alac")) : nullptr;
-    if (child == nullptr) {
-        return std::nullopt;
+    const std::uint32_t type = isAac ? mp4Type("esds") : mp4Type("alac");
+    const auto children = mp4Children(entry.subspan(kFields));
+    const Mp4Child* child = children ? findMp4Child(*children, type) : nullptr;
+    // Others, but for the bit rate, say more about the sound.
+    if (child == nullptr || !std::all_of(children->begin(), children->end(), [&](const Mp4Child& other) {
+            return other.type == type || other.type == mp4Type("btrt");
+        })) {
+        return {};
     }
-    if (isAac) {
-        return aacFormat(child->body, m_timeScale);
+    return isAac ? aacConfiguration(child->body) : child->whole;
+}
+
+std::optional<AudioStreamBasicDescription> Mp4Sound::format() const {
+    const auto configuration = this->configuration();
+    if (m_coding == mp4Type("mp4a")) {
+        return aacFormat(configuration, m_timeScale);
     }
+    // Behind the header of the box, and its version and flags.
+    constexpr std::size_t kHeader = 12;
     AudioStreamBasicDescription format;
     format.formatID = kAudioFormatAppleLossless;
-    const bool isWhole = m_coding == mp4Type("alac") && child->body.size() >= 28;
-    format.framesPerPacket = isWhole ? static_cast<std::uint32_t>(numberAt(child->body, 4, 4)) : 0;
-    format.channelsPerFrame = isWhole ? child->body[13] : 0;
-    format.sampleRate = isWhole ? static_cast<double>(numberAt(child->body, 24, 4)) : 0;
+    if (m_coding != mp4Type("alac") || configuration.size() < kHeader + 24) {
+        return std::nullopt;
+    }
+    format.framesPerPacket = static_cast<std::uint32_t>(numberAt(configuration, kHeader, 4));
+    format.channelsPerFrame = configuration[kHeader + 9];
+    format.sampleRate = static_cast<double>(numberAt(configuration, kHeader + 20, 4));
     const bool isSound = format.channelsPerFrame >= 1 && format.sampleRate == m_timeScale;
     return isSound ? std::optional(format) : std::nullopt;
 }
 
-bool Mp4Sound::readEdits(std::span<const std::uint8_t> track) {
-    const auto children = mp4Children(track);
-    const Mp4Child* list = nullptr;
-    const auto edits = children ? childrenOf(*children, mp4Type("edts")) : std::vector<Mp4Child>{};
-    if ((list = findMp4Child(edits, mp4Type("elst"))) == nullptr) {
-        return true;
-    }
-    Mp4Reader reader(list->body);
+bool Mp4Sound::readEdits(const Mp4Box& list, std::uint32_t movieTimeScale) {
+    const auto bytes = startOf<28>(m_fd, list);
+    Mp4Reader reader(std::span<const std::uint8_t>(bytes).first(
+        static_cast<std::size_t>(std::clamp<std::int64_t>(list.end - list.body, 0, 28))));
     const bool isLong = reader.u32() >> 24 == 1;
     const std::uint32_t count = reader.u32();
-    reader.skip(isLong ? 8 : 4);
+    const std::uint64_t duration = isLong ? reader.u64() : reader.u32();
     m_start = isLong ? static_cast<std::int64_t>(reader.u64()) : static_cast<std::int32_t>(reader.u32());
     constexpr std::int64_t kLatest = std::int64_t{1} << 48;
     const bool isAtNormalSpeed = reader.u32() == 1U << 16;
-    return reader.ok() && count == 1 && isAtNormalSpeed && m_start >= 0 && m_start < kLatest;
-}
-
-std::uint32_t Mp4Sound::sizeOf(std::uint64_t packet) const {
-    return m_packetSize > 0 ? m_packetSize : static_cast<std::uint32_t>(numberAt(m_sizes, packet * 4, 4));
-}
-
-std::optional<std::vector<Mp4Sound::TimeRun>> Mp4Sound::timeRuns() const {
-    std::vector<TimeRun> runs;
-    std::uint64_t packet = 0;
-    std::int64_t start = 0;
-    for (std::size_t at = 0; at < m_times.size(); at += 8) {
-        const std::uint64_t count = numberAt(m_times, at, 4);
-        const auto duration = static_cast<std::uint32_t>(numberAt(m_times, at + 4, 4));
-        if (count > kMaximumPackets || start > kMost) {
-            return std::nullopt;
-        }
-        runs.push_back({packet, count, start, duration});
-        packet += count;
-        start += static_cast<std::int64_t>(count) * duration;
+    if (movieTimeScale > 0 && duration < static_cast<std::uint64_t>(kLatest)) {
+        m_editedDuration = av_rescale(static_cast<std::int64_t>(duration), m_timeScale, movieTimeScale);
+    } else {
+        m_isPlain = false;
     }
-    return runs;
+    return reader.ok() && count == 1 && isAtNormalSpeed && m_start >= 0 && m_start < kLatest;
 }
 
 bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
                              const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const {
-    const auto runs = timeRuns();
-    if (!runs || runs->empty()) {
-        return runs.has_value();
-    }
-    std::uint64_t first = 0;
-    for (const TimeRun& run : *runs) {
-        if (time >= run.start && run.duration > 0 && run.count > 0) {
-            first = run.packet + std::min(static_cast<std::uint64_t>((time - run.start) / run.duration), run.count - 1);
+    const std::uint64_t first = m_tables.packetAt(time);
+    auto place = m_tables.placeBefore(first - std::min(first, preroll));
+    std::int64_t start = 0;
+    Mp4Packet packet;
+    while (place && m_tables.next(*place, start, packet)) {
+        if (!visit(start, packet)) {
+            return true;
         }
     }
-    first -= std::min(first, preroll);
-    const std::uint64_t end = std::min(runs->back().packet + runs->back().count, m_packets);
-
-    const std::size_t chunks = m_chunks.size() / m_chunkBytes;
-    std::size_t timeRun = 0;
-    std::uint64_t packet = 0;
-    for (std::size_t at = 0; at < m_chunkRuns.size(); at += 12) {
-        const std::uint64_t firstChunk = numberAt(m_chunkRuns, at, 4);
-        const std::uint64_t perChunk = numberAt(m_chunkRuns, at + 4, 4);
-        const std::uint64_t nextChunk = at + 12 < m_chunkRuns.size() ? numberAt(m_chunkRuns, at + 12, 4) : chunks + 1;
-        if (firstChunk < 1 || nextChunk <= firstChunk || nextChunk > chunks + 1 || perChunk == 0) {
-            return false;
-        }
-        // Whole chunks before the first packet are passed over at once.
-        std::uint64_t chunk = firstChunk;
-        if (first > packet) {
-            const std::uint64_t passed = std::min((first - packet) / perChunk, nextChunk - firstChunk);
-            chunk += passed;
-            packet += passed * perChunk;
-        }
-        for (; chunk < nextChunk; ++chunk) {
-            auto offset = static_cast<std::int64_t>(numberAt(m_chunks, (chunk - 1) * m_chunkBytes, m_chunkBytes));
-            if (offset < 0 || offset > kMost) {
-                return false;
-            }
-            for (std::uint64_t i = 0; i < perChunk; ++i, ++packet) {
-                if (packet >= end) {
-                    return true;
-                }
-                const std::uint32_t size = sizeOf(packet);
-                while (timeRun + 1 < runs->size() && (*runs)[timeRun + 1].packet <= packet) {
-                    ++timeRun;
-                }
-                const TimeRun& run = (*runs)[timeRun];
-                const std::int64_t begin = run.start + static_cast<std::int64_t>(packet - run.packet) * run.duration;
-                if (packet >= first && !visit(begin, {offset, size, run.duration})) {
-                    return true;
-                }
-                offset += size;
-            }
-        }
-    }
-    return true;
+    return place && place->packet == m_tables.packets();
 }
 
 }  // namespace tavi

@@ -6,20 +6,12 @@
 #include <span>
 #include <vector>
 
-#include "adapters/ffmpeg/Mp4Boxes.h"
+#include "adapters/ffmpeg/Mp4PacketTables.h"
 
 namespace tavi {
 
-/// One packet of a track, called sample in ISO/IEC 14496-12.
-struct Mp4Packet {
-    std::int64_t offset = 0;
-    std::uint32_t size = 0;
-    /// In units of the media time scale.
-    std::uint32_t duration = 0;
-};
-
 /// The one track of sound in an ordinary MP4 or M4A file (ISO/IEC 14496-12, 8.6 and 8.7), as its tables describe it.
-/// Holds the movie header, some bytes a packet.
+/// Borrows the descriptor, and holds little of a long file. One thread at a time.
 class Mp4Sound {
 public:
     /// Nothing for other files, fragmented ones and those without exactly one track of sound, and where the track is
@@ -29,53 +21,47 @@ public:
     std::uint32_t timeScale() const { return m_timeScale; }
     /// Media time at which the sound that is meant to be heard begins.
     std::int64_t start() const { return m_start; }
+    /// Media time that is meant to be heard from there on; nothing where the file does not say it by an edit.
+    std::optional<std::int64_t> editedDuration() const { return m_editedDuration; }
+    /// Whether the file has nothing but that track and no box beside the usual ones that could change what is heard.
+    bool isPlain() const { return m_isPlain; }
+    const Mp4PacketTables& tables() const { return m_tables; }
     /// The box "stsd" as it is, and the coding it names, such as "mp4a".
     std::span<const std::uint8_t> description() const { return m_description; }
     std::uint32_t coding() const { return m_coding; }
     /// Rate and channels, where the description tells for certain what is decoded: for Apple Lossless, and for AAC
     /// without the chance of spectral band replication, which only a decoder finds out.
     std::optional<AudioStreamBasicDescription> format() const;
-    /// The box "udta", with names and remarks; empty where there is none.
-    std::span<const std::uint8_t> userData() const { return m_userData; }
+    /// What the decoder has to know: an AudioSpecificConfig, or the box "alac" with its header. Only where format()
+    /// tells something.
+    std::span<const std::uint8_t> configuration() const;
+    /// Reads the box "udta", with names and remarks; empty where there is none.
+    std::vector<std::uint8_t> userData() const;
 
     /// Packets in their order, from the one at or before a media time; visit gets each with the time at which it
     /// begins, and returns false to end. First it skips back that many packets more, if there are so many. False when
-    /// the tables make no sense.
+    /// the file cannot be read.
     bool forEachPacket(std::int64_t time, std::uint64_t preroll,
                        const std::function<bool(std::int64_t start, const Mp4Packet& packet)>& visit) const;
 
 private:
-    /// Packets of equal duration.
-    struct TimeRun {
-        std::uint64_t packet;
-        std::uint64_t count;
-        std::int64_t start;
-        std::uint32_t duration;
-    };
+    explicit Mp4Sound(int fd) : m_fd(fd) {}
 
-    Mp4Sound() = default;
+    bool readMovie(const Mp4Box& movie);
+    bool readTrack(const Mp4Box& track, std::uint32_t movieTimeScale);
+    bool readMedia(const Mp4Box& media);
+    bool readTables(const Mp4Box& tables);
+    bool readEdits(const Mp4Box& list, std::uint32_t movieTimeScale);
 
-    std::optional<std::vector<TimeRun>> timeRuns() const;
-    bool readTrack(std::span<const std::uint8_t> track);
-    bool readTables(std::span<const std::uint8_t> tables);
-    bool readEdits(std::span<const std::uint8_t> track);
-    std::uint32_t sizeOf(std::uint64_t packet) const;
-
-    std::vector<std::uint8_t> m_movie;
+    int m_fd;
     std::uint32_t m_timeScale = 0;
     std::int64_t m_start = 0;
+    std::optional<std::int64_t> m_editedDuration;
+    bool m_isPlain = true;
     std::uint32_t m_coding = 0;
-    std::span<const std::uint8_t> m_description;
-    std::span<const std::uint8_t> m_userData;
-    /// Bodies of tables, behind their counts.
-    std::span<const std::uint8_t> m_times;
-    std::span<const std::uint8_t> m_chunkRuns;
-    std::span<const std::uint8_t> m_sizes;
-    std::span<const std::uint8_t> m_chunks;
-    /// 0 where packets vary.
-    std::uint32_t m_packetSize = 0;
-    std::uint64_t m_packets = 0;
-    std::size_t m_chunkBytes = 4;
+    std::vector<std::uint8_t> m_description;
+    std::optional<Mp4Box> m_userData;
+    Mp4PacketTables m_tables;
 };
 
 }  // namespace tavi
