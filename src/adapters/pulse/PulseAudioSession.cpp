@@ -73,7 +73,7 @@ Result<QString> PulseAudioSession::currentRoute() const {
 }
 
 Result<void> PulseAudioSession::overrideOutputAudioPort(PortOverride port) {
-    const Result<void> server = waitForServer();
+    Result<void> server = waitForServer();
     if (server) {
         m_isOverridden = true;
         m_connection->perform([route = m_route, port, category = m_category] {
