@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <map>
 
 #include "library/PlayerRules.h"
@@ -225,7 +226,7 @@ TEST_F(VoiceMemoVCTest, aTapTurnsTheDirectionRoundAndStoresIt) {
                 {&VoiceMemoVC::sortBySize, 6, "C.m4a"}, {&VoiceMemoVC::sortByDate, 4, "b.m4a"}};
     for (const auto& [tap, code, first] : taps) {
         defaults.writes.clear();
-        (vc.*tap)(&button);
+        std::invoke(tap, vc, &button);
         EXPECT_EQ(settings.sort(), code);
         EXPECT_EQ(defaults.writes, (QStringList{settingskey::kSort, QStringLiteral("synchronize")}));
         EXPECT_EQ(names().front(), first) << code;
@@ -414,7 +415,7 @@ TEST_F(PlayingTest, speedsToggleAndExcludeEachOther) {
                 {&PlayerPanel::slowAudio, "s--0.5"},   {&PlayerPanel::mediumAudio, "-m-1.0"},
                 {&PlayerPanel::mediumAudio, "---1.0"}, {&PlayerPanel::fastAudio, "--f2.0"}};
     for (const auto& [tap, after] : taps) {
-        (player.*tap)(&button);
+        std::invoke(tap, player, &button);
         EXPECT_EQ(states(), after);
     }
     remote.send(RemoteControlEvent::Subtype::SetRate, 0.5);
