@@ -284,7 +284,7 @@ def listing(binaries):
 @bench
 def playing(binaries):
     """Playing a recording beside ffplay, both at the same time: processor, wake-ups, underruns, and when a jump is heard."""
-    value = {name: number for name, (number, _) in figures(binaries / "player_bench").items()}
+    value = {name: figure[0] for name, figure in figures(binaries / "player_bench").items()}
     for rate in ("normal", "double"):
         row(f"playing at {rate} rate", value[f"{rate}-processor"], "% core", value[f"{rate}-processor-ffplay"], aim=1.0)
         row("  wake-ups", value[f"{rate}-wake-ups"], "a second", value[f"{rate}-wake-ups-ffplay"])

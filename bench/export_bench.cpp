@@ -196,7 +196,7 @@ void measure(const Kind& kind, const QString& folder) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1])
-                                    : QCoreApplication::applicationDirPath() + QStringLiteral("/../../bench-data");
+                                    : QCoreApplication::applicationDirPath() + QStringLiteral("/../bench-data");
     QDir().mkpath(folder);
     const auto coding = [](const char* codec, const char* option = nullptr, const char* value = nullptr) {
         QStringList list{QStringLiteral("-c:a"), QString::fromLatin1(codec)};
