@@ -105,13 +105,17 @@ void measure(const QSize& size) {
         times.push_back(millisecondsSince(start));
     }
     std::sort(times.begin(), times.end());
-    std::printf("figure: drag-step-%dx%d median %.2f ms, 99th percentile %.2f ms\n", size.width(), size.height(),
-                times[kSteps / 2], times[kSteps * 99 / 100]);
+    const int width = size.width();
+    const int height = size.height();
+    std::printf("figure: drag-step-%dx%d %.2f ms aim 8\n", width, height, times[kSteps / 2]);
+    std::printf("figure: slowest-drag-step-of-a-hundred-%dx%d %.2f ms aim 8\n", width, height,
+                times[kSteps * 99 / 100]);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
