@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <utility>
 
 #include "library/PlayerRules.h"
 
@@ -84,7 +86,7 @@ void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
     ++m_updateTimers;
     m_slider_player = {0.0, m_avPlayer ? m_avPlayer->duration() : 0.0};
     m_lblSongMaxTime.text = playerrules::timeText(m_slider_player.maximumValue);
-    Q_EMIT progressChanged();
+    announceProgress();
     changed();
 }
 
@@ -136,7 +138,7 @@ void PlayerPanel::drop() {
     Q_EMIT urlPathChanged();
     m_services.waveforms.cancel();
     m_services.remoteControl.endReceivingRemoteControlEvents();
-    Q_EMIT progressChanged();
+    announceProgress();
     changed();
 }
 
@@ -163,7 +165,22 @@ void PlayerPanel::playerTimeDelegate(const QString& elapsed, const QString& tota
     if (elapsed == total && m_btnPlay.selected) {
         setBtnPlaySelected(false);
     }
-    Q_EMIT progressChanged();
+    announceProgress();
+}
+
+void PlayerPanel::announceProgress() {
+    // There are a hundred ticks a second, and most of them move nothing by a pixel.
+    constexpr double kSteps = 4096.0;
+    const QString times = m_lblSongMinTime.text + m_lblSongMaxTime.text;
+    const bool areNewTimes = times != std::exchange(m_announcedTimes, times);
+    if (areNewTimes) {
+        Q_EMIT timesChanged();
+    }
+    const double moved = std::abs(m_slider_player.value - m_announcedValue);
+    if (areNewTimes || moved >= m_slider_player.maximumValue / kSteps) {
+        m_announcedValue = m_slider_player.value;
+        Q_EMIT progressChanged();
+    }
 }
 
 void PlayerPanel::goTo(double seconds) {

@@ -20,8 +20,8 @@ namespace tavi {
 class PlayerPanel : public QObject, private AudioPlayerDelegate {
     Q_OBJECT
     Q_PROPERTY(tavi::SliderOutlet slider_player READ slider_player NOTIFY progressChanged)
-    Q_PROPERTY(tavi::LabelOutlet lblSongMinTime READ lblSongMinTime NOTIFY progressChanged)
-    Q_PROPERTY(tavi::LabelOutlet lblSongMaxTime READ lblSongMaxTime NOTIFY progressChanged)
+    Q_PROPERTY(tavi::LabelOutlet lblSongMinTime READ lblSongMinTime NOTIFY timesChanged)
+    Q_PROPERTY(tavi::LabelOutlet lblSongMaxTime READ lblSongMaxTime NOTIFY timesChanged)
     Q_PROPERTY(tavi::LabelOutlet lblBackwardSec READ lblBackwardSec NOTIFY outletsChanged)
     Q_PROPERTY(tavi::LabelOutlet lblForwardSec READ lblForwardSec NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnplaypuas READ btnplaypuas NOTIFY outletsChanged)
@@ -109,7 +109,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void outletsChanged();
+    /// The slider has moved by as much as can be seen.
     void progressChanged();
+    void timesChanged();
     /// A file has been loaded, or let go of.
     void urlPathChanged();
     /// The recording has come to its end.
@@ -119,6 +121,8 @@ private:
     void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override;
     void playerTimeDelegate(const QString& elapsed, const QString& total);
     void showProgress();
+    /// Tells of the slider and the times what can be seen of them.
+    void announceProgress();
     void goTo(double seconds);
     void toggleSpeed(ButtonOutlet& button, float rate);
     void applyRate(float rate);
@@ -134,6 +138,9 @@ private:
     std::shared_ptr<Timer> m_tick;
     bool m_ishandset = false;
     SliderOutlet m_slider_player;
+    /// The slider's value and the times when they were last told of.
+    double m_announcedValue = -1.0;
+    QString m_announcedTimes;
     LabelOutlet m_lblSongMinTime;
     LabelOutlet m_lblSongMaxTime;
     LabelOutlet m_lblBackwardSec;
