@@ -41,7 +41,7 @@ double MprisPlayer::rate() const {
 
 void MprisPlayer::setRate(double rate) {
     if (rate == 0.0) {
-        // What the specification says that it stands for.
+        // Media Player Remote Interfacing 2.2: a rate of 0 stands for a pause.
         Pause();
     } else if (rate >= minimumRate() && rate <= maximumRate()) {
         m_control.receive(Subtype::SetRate, rate);

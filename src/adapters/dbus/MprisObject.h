@@ -9,7 +9,7 @@ namespace tavi {
 
 class MprisRemoteControl;
 
-/// "org.mpris.MediaPlayer2" of the Media Player Remote Interfacing Specification 2.2 (freedesktop.org): the program.
+/// "org.mpris.MediaPlayer2" of Media Player Remote Interfacing 2.2 (freedesktop.org): the program.
 class MprisRoot : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.mpris.MediaPlayer2")

@@ -14,7 +14,7 @@ namespace {
 
 const QString kName = QStringLiteral("org.mpris.MediaPlayer2.tavi");
 const QString kPath = QStringLiteral("/org/mpris/MediaPlayer2");
-/// Of RequestName (D-Bus Specification, "Message Bus Messages").
+/// Of org.freedesktop.DBus.RequestName: a flag, and the answer when the name is taken.
 constexpr quint32 kDoNotQueue = 4;
 constexpr quint32 kExists = 3;
 
