@@ -54,10 +54,8 @@ TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
         EXPECT_NEAR(slider.selectedMinimumValue, one.minimum, 1e-4F);
         EXPECT_NEAR(slider.selectedMaximumValue, one.maximum, 1e-4F);
         EXPECT_NEAR(slider.minThumbX(), 20.0 + 10.0 * static_cast<double>(one.minimum), 1e-3);
-        EXPECT_NEAR(slider.trackHighlight().width(), 10.0 * static_cast<double>(one.maximum - one.minimum), 1e-3);
     }
     EXPECT_EQ(changes, 6) << "a touch that hits no thumb changes nothing";
-    EXPECT_EQ(slider.trackHighlight().center().y(), 60.0);
 }
 
 TEST_F(RangeSliderTest, ANarrowRangeIsPushedApartButNotBeyondTheEnd) {
@@ -73,27 +71,16 @@ TEST_F(RangeSliderTest, ANarrowRangeIsPushedApartButNotBeyondTheEnd) {
     EXPECT_EQ(slider.selectedMinimumValue, 0.0F);
 }
 
-TEST_F(RangeSliderTest, LabelsAndImagesFollowADragOnly) {
-    const QPointF corner(25.0, 15.0);
-    EXPECT_EQ(slider.minLabelCentre(), corner);
+TEST_F(RangeSliderTest, ThumbsMoveOnlyInADragAndWithTheLayout) {
     EXPECT_TRUE(slider.beginTrackingWithTouch({40.0, 60.0}));
-    EXPECT_EQ(slider.minThumbImage(), QStringLiteral("handle_h.png"));
     EXPECT_TRUE(slider.continueTrackingWithTouch({119.5, 60.0}));
     EXPECT_EQ(slider.lblMinValue(), QStringLiteral("00:09"));
-    EXPECT_NEAR(slider.minLabelCentre().x(), 119.5, 1e-3);
-    EXPECT_EQ(slider.minLabelCentre().y(), 10.0);
-    EXPECT_EQ(slider.maxLabelCentre(), corner);
     slider.endTrackingWithTouch();
-    EXPECT_EQ(slider.minThumbImage(), QStringLiteral("handle.png"));
     EXPECT_FALSE(slider.continueTrackingWithTouch({200.0, 60.0}));
-
     slider.selectedMinimumValue = 1.0F;
     EXPECT_NEAR(slider.minThumbX(), 119.5, 1e-3) << "the next layout moves it";
     slider.layoutSubviews();
     EXPECT_EQ(slider.minThumbX(), 30.0);
-    // A thumb's right edge is outside of it.
-    EXPECT_TRUE(slider.beginTrackingWithTouch({45.0, 60.0}));
-    EXPECT_FALSE(slider.minThumbOn());
 }
 
 TEST_F(RangeSliderTest, MixesThePrecisionsOfItsArithmetic) {
@@ -104,10 +91,6 @@ TEST_F(RangeSliderTest, MixesThePrecisionsOfItsArithmetic) {
     EXPECT_EQ(slider.xForValue(value), static_cast<float>(20.0 + double{value / 3601.7F} * 321.3));
     EXPECT_EQ(slider.valueForX(123.4F), static_cast<float>(double{123.4F - 20.0F} / 321.3 * double{3601.7F}));
     EXPECT_EQ(slider.updateCurrentTime(4500.0F), QStringLiteral("75:00"));
-    EXPECT_EQ(slider.stringFromTime(65), QStringLiteral("01:05"));
-    EXPECT_EQ(slider.stringFromTime(600), QStringLiteral("10:00"));
-    slider.nudge(false, -1.0);
-    EXPECT_NEAR(slider.selectedMaximumValue, 33.0F, 1e-3F);
 }
 
 }  // namespace
