@@ -25,16 +25,14 @@ FakeAssets::File soundFile(std::uint32_t channels, Samples samples) {
     return {{frames, 44100}, channels, std::move(samples)};
 }
 
-/// Half a second that swells to full scale, so that every level shows.
-Samples swellingTone(std::uint32_t channels, bool leftOnly) {
+/// Half a second that swells to full scale, so that every level shows; in the first channel.
+Samples swellingTone(std::uint32_t channels) {
     Samples samples;
     for (int i = 0; i < 22050; ++i) {
         const double peak = 32767.0 * std::pow(10.0, (i / 22050.0 - 1.0) * 3.0);
         const auto sample = static_cast<std::int16_t>(peak * std::sin(2.0 * std::numbers::pi * 441.0 * i / 44100.0));
         samples.push_back(sample);
-        for (std::uint32_t other = 1; other < channels; ++other) {
-            samples.push_back(leftOnly ? std::int16_t{0} : sample);
-        }
+        samples.resize(samples.size() + channels - 1);
     }
     return samples;
 }
@@ -103,10 +101,10 @@ TEST(WaveformLevels, AreNoneOrFlatWhereTheSoundIsNotKnown) {
 TEST(SCWaveformPainter, PaintsLoudness) {
     Fixture fixture;
     const FakeAssets::File files[] = {
-        soundFile(1, swellingTone(1, false)),                    // swells to its right end
+        soundFile(1, swellingTone(1)),                           // swells to its right end
         soundFile(1, Samples(22050, 0)),                         // silence: nothing
         soundFile(1, {100, 1000, 10000, 30000, 3000, 300, 30}),  // a short file: seven columns
-        soundFile(2, swellingTone(2, true)),                     // as the first
+        soundFile(2, swellingTone(2)),                           // as the first
     };
     QImage picture(200, 4 * 50, QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -118,13 +116,6 @@ TEST(SCWaveformPainter, PaintsLoudness) {
     }
     painter.end();
     expectLooksLike(picture, QStringLiteral(TAVI_PICTURES "/SCWaveformView.png"));
-
-    const QImage first =
-        generateWaveformImage(fixture.assets, fixture.asset("a", files[0]), Qt::blue, {200.0, 50.0}, 1.0, false);
-    const QImage other = recolorizeImage(first, Qt::red);
-    EXPECT_EQ(other.pixelColor(199, 25), QColor(Qt::red));
-    EXPECT_EQ(other.pixelColor(0, 0).alpha(), 0) << "only ink takes the colour";
-    EXPECT_EQ(first.pixelColor(199, 25), QColor(Qt::blue));
 }
 
 /// A canvas that notes what it is asked for.
@@ -156,49 +147,27 @@ TEST(SCWaveformView, MakesPicturesOnlyWhenTheyAreMissingOrOfAnotherColour) {
     NotingCanvas canvas;
     SCWaveformView view(fixture.assets);
     view.setCanvas(&canvas);
-    struct Step {
-        const char* what;
-        std::function<void()> change;
-        const char* made;
-    };
-    const Step steps[] = {
-        {"no asset",
-         [&] {
-             view.layoutSubviews({100.0, 40.0});
-         },
-         ""},
-        {"an asset",
-         [&] {
-             view.setAsset(fixture.asset("a", soundFile(1, {1, 2})));
-         },
-         "generate #0000ff progress #ff0000 "},
-        {"nothing new", [] {}, ""},
-        {"a progress", [&] { view.setProgress(0.25); }, ""},
-        {"a narrower view",
-         [&] {
-             view.layoutSubviews({80.0, 40.0});
-         },
-         ""},
-        {"a progress colour", [&] { view.setProgressColor(QStringLiteral("green")); }, "progress green "},
-        {"a normal colour", [&] { view.setNormalColor(QStringLiteral("grey")); }, "normal grey "},
-        {"a wider view",
-         [&] {
-             view.layoutSubviews({120.0, 40.0});
-         },
-         "generate grey progress green "},
-        {"the same antialiasing", [&] { view.setAntialiasingEnabled(false); }, ""},
-        {"another antialiasing", [&] { view.setAntialiasingEnabled(true); }, "generate grey progress green "},
-    };
-    for (const Step& step : steps) {
-        SCOPED_TRACE(step.what);
+    const auto made = [&] {
         canvas.log.clear();
-        step.change();
         view.generateWaveforms();
-        EXPECT_EQ(canvas.log, QLatin1String(step.made));
-    }
+        return canvas.log.toStdString();
+    };
+    view.layoutSubviews({100.0, 40.0});
+    EXPECT_EQ(made(), "");
+    view.setAsset(fixture.asset("a", soundFile(1, {1, 2})));
+    EXPECT_EQ(made(), "generate #0000ff progress #ff0000 ");
+    EXPECT_EQ(made(), "");
+    view.setProgress(0.25);
+    view.layoutSubviews({80.0, 40.0});
+    EXPECT_EQ(made(), "") << "a narrower view shows less of the same";
+    view.setProgressColor(QStringLiteral("green"));
+    EXPECT_EQ(made(), "progress green ");
+    view.setNormalColor(QStringLiteral("grey"));
+    EXPECT_EQ(made(), "normal grey ");
+    view.layoutSubviews({120.0, 40.0});
+    EXPECT_EQ(made(), "generate grey progress green ");
     EXPECT_EQ(view.progressCropFrame(), QRectF(0.0, 0.0, 30.0, 40.0));
     EXPECT_EQ(view.normalCropFrame(), QRectF(30.0, 0.0, 90.0, 40.0));
-    EXPECT_EQ(view.imageFrame(), QRectF(0.0, 0.0, 120.0, 40.0));
 }
 
 }  // namespace
