@@ -143,6 +143,7 @@ TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {
     const auto plot = EZAudioPlot::init(refreshes);
     plot->setShouldOptimizeForRealtimePlot(false);
     plot->setShouldFill(true);
+    plot->setShouldMirror(true);
     plot->setBackgroundColor(QStringLiteral("#000000"));
     QQuickWindow window;
     window.resize(100, 100);
@@ -158,8 +159,9 @@ TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {
     };
     EXPECT_EQ(redAt(40, 20), 0);
     plot->updateBuffer(samples.data(), 80);
-    EXPECT_EQ(redAt(40, 20), 255);
-    EXPECT_EQ(redAt(40, 10), 0);
+    for (const auto& [y, red] : {std::pair{10, 0}, {20, 255}, {40, 255}, {50, 0}}) {
+        EXPECT_EQ(redAt(40, y), red) << y;
+    }
     item.setSize({80.0, 100.0});
     EXPECT_EQ(redAt(40, 30), 255);
     EXPECT_EQ(redAt(40, 20), 0);

@@ -56,26 +56,15 @@ TEST(WaveformLevels, AreMeansOfTheFirstChannel) {
         std::vector<float> levels;
     };
     constexpr float kHalf = -6.0206F;
+    constexpr float kFloor = -50.0F;
     const std::int16_t half = 16384;
     const Case cases[] = {
         {"means of two frames", 1, {32767, half, half, half}, 2.0, {kHalf / 2.0F, kHalf}},
-        {"fewer than two frames a column: one each, the rest flat",
-         1,
-         {half, 32767, half},
-         5.0,
-         {kHalf, 0.0F, kHalf, -50.0F, -50.0F}},
+        {"one frame a column, the rest flat", 1, {half, 32767, half}, 5.0, {kHalf, 0.0F, kHalf, kFloor, kFloor}},
         {"columns beyond the width are left out", 1, {half, half, half, half, 0, 0, 0}, 2.0, {kHalf, -35.34F}},
-        {"the rest has its own mean",
-         1,
-         {half, half, half, half, half, 0, 0, 0, 0, 0, 0},
-         4.0,
-         {kHalf, kHalf, -28.01F, -50.0F}},
+        {"the rest has its own mean", 1, {half, half, half, 0, 0, 0, 0}, 3.0, {kHalf, -28.01F, kFloor}},
         {"the other channels are not heard", 2, {half, 0, 0, 32767, half, 0, half, 0}, 2.0, {-28.01F, kHalf}},
-        {"nothing is louder than full scale or quieter than the floor",
-         1,
-         {-32768, 1, 0, -1},
-         4.0,
-         {0.0F, -50.0F, -50.0F, -50.0F}},
+        {"between full scale and the floor", 1, {-32768, 1, 0, -1}, 4.0, {0.0F, kFloor, kFloor, kFloor}},
         {"a broken column is a column", 1, {half, half}, 1.5, {kHalf, kHalf}},
         {"no area", 1, {half}, 0.0, {}},
     };
@@ -106,16 +95,22 @@ TEST(SCWaveformPainter, PaintsLoudness) {
         soundFile(1, {100, 1000, 10000, 30000, 3000, 300, 30}),  // a short file: seven columns
         soundFile(2, swellingTone(2)),                           // as the first
     };
+    const auto image = [&](const FakeAssets::File& file) {
+        return generateWaveformImage(fixture.assets, fixture.asset("a", file), Qt::blue, {100.0, 25.0}, 2.0, false);
+    };
     QImage picture(200, 4 * 50, QImage::Format_RGB32);
     picture.fill(Qt::black);
     QPainter painter(&picture);
     for (const FakeAssets::File& file : files) {
-        const Asset asset = fixture.asset("a", file);
-        painter.drawImage(0, 0, generateWaveformImage(fixture.assets, asset, Qt::blue, {100.0, 25.0}, 2.0, false));
+        painter.drawImage(0, 0, image(file));
         painter.translate(0.0, 50.0);
     }
     painter.end();
     expectLooksLike(picture, QStringLiteral(TAVI_PICTURES "/SCWaveformView.png"));
+
+    const QImage other = recolorizeImage(image(files[0]), Qt::red);
+    EXPECT_EQ(other.pixelColor(199, 25), QColor(Qt::red));
+    EXPECT_EQ(other.pixelColor(0, 0).alpha(), 0) << "only ink takes the colour";
 }
 
 /// A canvas that notes what it is asked for.
