@@ -4,16 +4,13 @@
 
 #include <QDir>
 
-#include "support/FakeAudioRecorder.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
-#include "support/TemporaryContainer.h"
+#include "support/FakeServices.h"
 
 namespace tavi::test {
 
 namespace {
 
-class AppDelegateTest : public ::testing::Test {
+class AppDelegateTest : public ::testing::Test, protected FakeServices {
 protected:
     /// Whether a session exists after what was asked for has been done.
     bool isRecordingAfterAnswer() {
@@ -24,16 +21,10 @@ protected:
 
     FakeApplication application;
     FakeIdleTimer idleTimer;
-    FakeUserDefaults defaults;
     FakeUserDefaults sharedDefaults;
-    SettingsStore settings{defaults};
-    TemporaryContainer container;
-    FakeAudioSession session;
     FakeTabBar tabBar;
-    ManualRunLoop runLoop;
     FakePresenter presenter;
     FakeMailComposer mail;
-    FakeAudioRecorders recorders{runLoop};
     AudioRecordVC screen{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
     AppDelegate delegate{{application, idleTimer, settings, sharedDefaults, container, session, tabBar, screen}};
 };
@@ -86,8 +77,7 @@ TEST_F(AppDelegateTest, UrlsChooseTabsAndDriveTheRecording) {
     const struct {
         const char* url;
         int tab;
-        bool isRecording;
-        bool isRunning;
+        bool isRecording, isRunning;
     } cases[] = {{"TaviliteConnect://x", 1, false, false}, {"tavirecordstart:", 0, true, true},
                  {"https://example.org/", 2, true, true},  {"TaviRecordStart://", 0, true, false},
                  {"TAVIRECORDSTOP:", 0, false, false},     {"file:///tmp/a.m4a", 1, false, false},
