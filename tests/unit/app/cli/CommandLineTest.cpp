@@ -67,11 +67,7 @@ TEST(CommandLine, ReadsWhatIsDoneWithAFile) {
 }
 
 TEST(CommandLine, SaysWhatIsWrong) {
-    struct Case {
-        const char* arguments;
-        const char* error;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"--container", "--container needs a folder"},
         {"--container=", "--container needs a folder"},
         {"record|now", "“record” does not take “now”"},
@@ -87,11 +83,11 @@ TEST(CommandLine, SaysWhatIsWrong) {
         {"TaviRecordStop:|stop", "unknown command “stop”"},
         {"TaviRecordStop://[", "“TaviRecordStop://[” is not a valid URL"},
     };
-    for (const Case& test : cases) {
-        SCOPED_TRACE(test.arguments);
-        const auto line = parseCommandLine(words(test.arguments));
+    for (const auto& [arguments, error] : cases) {
+        SCOPED_TRACE(arguments);
+        const auto line = parseCommandLine(words(arguments));
         ASSERT_FALSE(line.has_value());
-        EXPECT_EQ(line.error().text.toStdString(), test.error);
+        EXPECT_EQ(line.error().text.toStdString(), error);
     }
     EXPECT_FALSE(parseCommandLine({"get", ""}).has_value());
 }
