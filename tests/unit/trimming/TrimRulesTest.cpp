@@ -30,13 +30,11 @@ TEST(TrimRules, KeepLabelsInTheContainer) {
 }
 
 TEST(TrimRules, AShortSelectionOnlyGrows) {
-    struct Case {
+    const struct {
         TrimThumb thumb;
-        double length;
-        double translation;
+        double length, translation;
         bool allowed;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {TrimThumb::Left, 1.001, 50.0, true},   {TrimThumb::Left, 1.0, 1.0, false},
         {TrimThumb::Left, 1.0, 0.0, true},      {TrimThumb::Left, 0.4, -1.0, true},
         {TrimThumb::Right, 1.001, -50.0, true}, {TrimThumb::Right, 1.0, -1.0, false},
@@ -51,18 +49,16 @@ TEST(TrimRules, AShortSelectionOnlyGrows) {
 }
 
 TEST(TrimRules, ChooseTheTypeByTheName) {
-    struct Case {
-        const char* name;
-        const char* extension;
+    const struct {
+        const char *name, *extension;
         AssetFileType type;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"a.wav", "wav", AssetFileType::Wave},     {"a.b.caf", "caf", AssetFileType::CoreAudioFormat},
         {"a.m4a", "m4a", AssetFileType::AppleM4A}, {"a.mp3", "mp3", AssetFileType::AppleM4A},
         {"a.WAV", "WAV", AssetFileType::Wave},     {"wav", "", AssetFileType::AppleM4A},
         {".wav", "", AssetFileType::AppleM4A},     {"x.y/.wav", "", AssetFileType::AppleM4A},
     };
-    for (const Case& one : cases) {
+    for (const auto& one : cases) {
         EXPECT_EQ(trimrules::pathExtension(one.name), one.extension) << one.name;
         EXPECT_EQ(trimrules::outputFileType(one.name), one.type) << one.name;
     }
