@@ -44,6 +44,7 @@ TEST(WaveformLevels, AreMeansOfTheFirstChannel) {
         {"between full scale and the floor", 1, {-32768, 1, 0, -1}, 4.0, {0.0F, kFloor, kFloor, kFloor}},
         {"a broken column is a column", 1, {half, half}, 1.5, {kHalf, kHalf}},
         {"no area", 1, {half}, 0.0, {}},
+        {"no sound", 1, {}, 2.0, {kFloor, kFloor}},
     };
     Fixture fixture;
     for (const Case& one : cases) {
@@ -52,14 +53,6 @@ TEST(WaveformLevels, AreMeansOfTheFirstChannel) {
         EXPECT_THAT(waveformLevels(fixture.assets, asset, one.width),
                     Pointwise(::testing::FloatNear(0.01F), one.levels));
     }
-}
-
-TEST(WaveformLevels, AreNoneWhereTheSoundIsNotKnown) {
-    Fixture fixture;
-    Asset asset = fixture.asset(1, Samples(100, 20000));
-    asset.audioTracks[0].formatDescriptions = {{std::nullopt}};
-    EXPECT_TRUE(waveformLevels(fixture.assets, asset, 2.0).empty());
-    EXPECT_TRUE(waveformLevels(fixture.assets, fixture.assets.assetWithURL("no sound"), 2.0).empty());
 }
 
 TEST(SCWaveformPainter, PaintsALineAColumnAsLongAsItIsLoud) {
