@@ -141,6 +141,7 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
         expectExactSeeks(path, foreign.tolerance, foreign.slack);
         const auto [file, format, length] = open(path);
         const double frames = static_cast<double>(length) * 44100 / format.sampleRate;
+        EXPECT_NEAR(m_durations.durationOfFile(path), static_cast<double>(length) / format.sampleRate, 0.1);
         EXPECT_NEAR(frames, kFrames * 44100.0 / 48000 + foreign.more, 1 + foreign.slack);
         if (std::strcmp(foreign.name, "bare.mp3") != 0) {
             EXPECT_LT(errorOf(path, 0), -20);
