@@ -64,22 +64,13 @@ public:
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override {
         converter.reset();
-        ++created;
         if (input.formatID != kAudioFormatLinearPCM || output.formatID != kAudioFormatLinearPCM) {
             return kAudioFileUnsupportedDataFormatError;
         }
         converter = std::make_unique<FakeAudioConverter>(input, output);
         return kAudioNoError;
     }
-    AudioStatus formatInfo(AudioStreamBasicDescription& format) const override {
-        if (format.formatID != kAudioFormatMPEG4AAC) {
-            return kAudioFileUnsupportedDataFormatError;
-        }
-        format.framesPerPacket = 1024;
-        return kAudioNoError;
-    }
-
-    int created = 0;
+    AudioStatus formatInfo(AudioStreamBasicDescription&) const override { return kAudioFileUnsupportedDataFormatError; }
 };
 
 }  // namespace tavi::test

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <atomic>
 
 #include "adapters/ffmpeg/FfmpegAssets.h"
 #include "support/FakeAssets.h"
 #include "support/ManualRunLoop.h"
+#include "support/WavFile.h"
 
 namespace tavi::test {
 namespace {
@@ -28,16 +28,12 @@ private:
 class FfmpegWorld {
 public:
     explicit FfmpegWorld(const QString& folder) {
-        // A WAV file of 16-bit PCM.
-        QByteArray bytes("RIFF\xa4\x62\5\0WAVEfmt \x10\0\0\0\1\0\2\0\x44\xac\0\0\x10\xb1\2\0\4\0\x10\0data\x80\x62\5\0",
-                         44);
+        QByteArray samples;
         for (int sample = 1; sample <= 2 * 88200; ++sample) {
-            bytes.append(static_cast<char>(sample)).append(static_cast<char>(sample >> 8));
+            samples.append(static_cast<char>(sample)).append(static_cast<char>(sample >> 8));
         }
         QFile file(folder + QStringLiteral("/sound.wav"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(wavFile(2, 44100, 16, samples)) > 0);
     }
 
     AssetExportSessions& sessions() { return m_assets; }

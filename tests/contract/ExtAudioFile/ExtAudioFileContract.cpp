@@ -1,17 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "support/ClientBuffers.h"
 #include "support/FakeExtAudioFile.h"
+#include "support/WavFile.h"
 
 namespace tavi::test {
 namespace {
 
-constexpr double kRate = 8000;
+constexpr int kRate = 8000;
 
 class FakeFilesWorld {
 public:
@@ -23,7 +23,6 @@ public:
         m_files.sounds[name] = sound;
         return name;
     }
-    std::string missing() const { return "missing"; }
 
 private:
     FakeExtAudioFiles m_files;
@@ -34,24 +33,16 @@ class FfmpegFilesWorld {
 public:
     ExtAudioFiles& files() { return m_files; }
     std::string add(const char* name, const std::vector<std::vector<float>>& planes) {
-        const std::size_t frames = planes.empty() ? 0 : planes.front().size();
         QByteArray data;
-        for (std::size_t i = 0; i < frames; ++i) {
+        for (std::size_t i = 0; !planes.empty() && i < planes.front().size(); ++i) {
             for (const auto& plane : planes) {
                 data.append(reinterpret_cast<const char*>(&plane[i]), sizeof(float));
             }
         }
-        QByteArray header("RIFF\0\0\0\0WAVEfmt \x10\0\0\0\3\0\0\0\x40\x1f\0\0\0\0\0\0\0\0\x20\0data\0\0\0\0", 44);
-        header[22] = static_cast<char>(planes.size());
-        header[32] = static_cast<char>(4 * planes.size());
-        const auto size = static_cast<std::uint32_t>(data.size());
-        std::memcpy(header.data() + 40, &size, sizeof size);
         QFile file(m_folder.filePath(QString::fromLatin1(name)));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(planes.empty() ? QByteArray("text") : header + data));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(planes.empty() ? "text" : wavFile(static_cast<int>(planes.size()), kRate, 32, data));
         return QFile::encodeName(file.fileName()).toStdString();
-    }
-    std::string missing() const {
-        return QFile::encodeName(m_folder.filePath(QStringLiteral("missing"))).toStdString();
     }
 
 private:
@@ -92,7 +83,7 @@ TYPED_TEST_SUITE(ExtAudioFileContract, Worlds);
 
 TYPED_TEST(ExtAudioFileContract, TellsWhyAFileCannotBeOpened) {
     auto file = this->opened(1);
-    EXPECT_EQ(this->m_world.files().open(this->m_world.missing(), file), kAudioFileFileNotFoundError);
+    EXPECT_EQ(this->m_world.files().open("missing", file), kAudioFileFileNotFoundError);
     EXPECT_FALSE(file);
     EXPECT_EQ(this->m_world.files().open(this->m_world.add("text", {}), file), kAudioFileUnsupportedFileTypeError);
 }
@@ -101,47 +92,51 @@ TYPED_TEST(ExtAudioFileContract, ReadsEverythingOnceAndThenNothing) {
     const auto file = this->opened(2);
     AudioStreamBasicDescription format;
     std::int64_t length = 0;
-    EXPECT_EQ(file->fileDataFormat(format), kAudioNoError);
-    EXPECT_EQ(file->fileLengthFrames(length), kAudioNoError);
+    file->fileDataFormat(format);
+    file->fileLengthFrames(length);
     EXPECT_EQ(format.sampleRate, kRate);
     EXPECT_EQ(format.channelsPerFrame, 2U);
     EXPECT_EQ(length, static_cast<std::int64_t>(this->kFrames));
 
-    const auto client = clientFormat(kRate, 2);
+    auto client = clientFormat(kRate, 2);
     ClientBuffers buffers(client, 1000);
     std::uint32_t count = 1000;
     EXPECT_NE(file->read(count, buffers.list()), kAudioNoError) << "no format yet";
     EXPECT_EQ(count, 0U);
     ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
     EXPECT_EQ(readPlanes(*file, client), this->planes(2));
-    EXPECT_EQ(this->position(*file), length);
     count = 1000;
     EXPECT_EQ(file->read(count, buffers.list()), kAudioNoError);
     EXPECT_EQ(count, 0U);
     EXPECT_EQ(buffers.list().buffers[1].dataByteSize, 0U);
-
-    EXPECT_EQ(file->setClientDataFormat(clientFormat(kRate, 9)), kAudioFileUnsupportedDataFormatError);
-    auto compressed = client;
-    compressed.formatID = kAudioFormatMPEG4AAC;
-    EXPECT_EQ(file->setClientDataFormat(compressed), kAudioFileUnsupportedDataFormatError);
+    client.formatID = kAudioFormatMPEG4AAC;
+    EXPECT_EQ(file->setClientDataFormat(client), kAudioFileUnsupportedDataFormatError);
 }
 
-TYPED_TEST(ExtAudioFileContract, SeeksToAFrameAndNoFurtherThanTheEnd) {
-    const auto file = this->opened(1);
-    const auto client = clientFormat(kRate, 1);
-    ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
-    const auto all = this->planes(1).front();
-    for (const std::int64_t frame : {4000, 0, 1, 2049, 5002, 5003, 17}) {
-        ASSERT_EQ(file->seek(frame), kAudioNoError);
-        EXPECT_EQ(this->position(*file), frame);
-        const auto read = readPlanes(*file, client, 300).front();
-        const auto last = std::min(all.end(), all.begin() + frame + 300);
-        EXPECT_EQ(read, std::vector<float>(all.begin() + frame, last)) << frame;
-        EXPECT_EQ(this->position(*file), last - all.begin());
+TYPED_TEST(ExtAudioFileContract, SeeksToAFrameAtAnyRateAndNoFurtherThanTheEnd) {
+    for (const double rate : {double{kRate}, 44100.0, 3000.0, 8001.0}) {
+        const auto file = this->opened(1);
+        const auto client = clientFormat(rate, 2);
+        ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
+        const auto all = readPlanes(*file, client).front();
+        const auto at = [&](std::int64_t frame) {
+            return static_cast<std::int64_t>(std::ceil(static_cast<double>(frame) * rate / kRate));
+        };
+        EXPECT_EQ(all.size(), at(static_cast<std::int64_t>(this->kFrames))) << rate;
+        EXPECT_NEAR(all[all.size() / 2], this->planes(1)[0][this->kFrames / 2], 0.02);
+        for (const std::int64_t frame : {3001, 1, 2049, 5002, 5003, 0}) {
+            ASSERT_EQ(file->seek(frame), kAudioNoError);
+            EXPECT_EQ(this->position(*file), frame);
+            const auto read = readPlanes(*file, client, 777).back();
+            const auto last = std::min(all.end(), all.begin() + at(frame) + 777);
+            EXPECT_EQ(read, std::vector<float>(all.begin() + at(frame), last)) << rate << " from " << frame;
+            const auto end = static_cast<std::int64_t>(static_cast<double>(last - all.begin()) * kRate / rate);
+            EXPECT_NEAR(static_cast<double>(this->position(*file) - end), 0, 3) << rate << " from " << frame;
+        }
+        EXPECT_EQ(file->seek(-1), kAudioParameterError);
+        EXPECT_EQ(file->seek(1000000), kAudioNoError);
+        EXPECT_EQ(this->position(*file), 5003);
     }
-    EXPECT_EQ(file->seek(-1), kAudioParameterError);
-    EXPECT_EQ(file->seek(1000000), kAudioNoError);
-    EXPECT_EQ(this->position(*file), 5003);
 }
 
 TYPED_TEST(ExtAudioFileContract, MakesChannelsAndSamplesOfTheClient) {
@@ -168,27 +163,6 @@ TYPED_TEST(ExtAudioFileContract, MakesChannelsAndSamplesOfTheClient) {
     ASSERT_EQ(stereo->setClientDataFormat(one), kAudioNoError);
     const auto both = this->planes(2);
     EXPECT_NEAR(readPlanes(*stereo, one)[0][777], (both[0][777] + both[1][777]) / 2, 1e-6);
-}
-
-TYPED_TEST(ExtAudioFileContract, AnotherRateChangesNeitherPlaceNorWhatFollowsASeek) {
-    for (const double rate : {44100.0, 3000.0, 8001.0}) {
-        const auto file = this->opened(1);
-        const auto client = clientFormat(rate, 2);
-        ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
-        const auto all = readPlanes(*file, client).front();
-        const auto at = [&](std::int64_t frame) {
-            return static_cast<std::int64_t>(std::ceil(static_cast<double>(frame) * rate / kRate));
-        };
-        EXPECT_EQ(all.size(), at(static_cast<std::int64_t>(this->kFrames))) << rate;
-        EXPECT_NEAR(all[all.size() / 2], this->planes(1)[0][this->kFrames / 2], 0.02);
-        for (const std::int64_t frame : {3001, 5, 4999, 0}) {
-            ASSERT_EQ(file->seek(frame), kAudioNoError);
-            EXPECT_EQ(this->position(*file), frame);
-            const auto read = readPlanes(*file, client, 777).back();
-            const auto last = std::min(all.end(), all.begin() + at(frame) + 777);
-            EXPECT_EQ(read, std::vector<float>(all.begin() + at(frame), last)) << rate << " from " << frame;
-        }
-    }
 }
 
 }  // namespace
