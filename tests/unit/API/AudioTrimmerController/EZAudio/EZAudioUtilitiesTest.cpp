@@ -13,23 +13,6 @@ namespace {
 using Utilities = EZAudioUtilities;
 using ::testing::ElementsAre;
 
-TEST(EZAudioUtilities, DescribesFormats) {
-    const struct {
-        AudioStreamBasicDescription format;
-        std::uint32_t flags;
-        std::uint32_t bytes;
-    } cases[] = {
-        {Utilities::floatFormatWithNumberOfChannels(2, 8000.0), 0x21, 4},
-        {Utilities::stereoFloatInterleavedFormatWithSampleRate(8000.0), 0x1, 8},
-        {Utilities::stereoFloatNonInterleavedFormatWithSampleRate(8000.0), 0x21, 4},
-    };
-    for (const auto& [format, flags, bytes] : cases) {
-        const AudioStreamBasicDescription wanted{8000.0, kAudioFormatLinearPCM, flags, bytes, 1, bytes, 2, 32, 0};
-        EXPECT_EQ(format, wanted);
-        EXPECT_EQ(Utilities::isInterleaved(format), flags < 0x20);
-    }
-}
-
 TEST(EZAudioUtilities, FailedChecksEndTheProcessUnlessToldNotTo) {
     Utilities::checkResult(kAudioNoError, "Failed");
     EXPECT_EXIT(Utilities::checkResult(kAudioFileUnsupportedDataFormatError, "Failed to open"),
