@@ -12,7 +12,6 @@
 namespace tavi::test {
 namespace {
 
-using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::Pointwise;
 
@@ -120,9 +119,9 @@ TEST_F(EZAudioFileTest, ATenSecondFileHas430FramesAPointAndKeepsItsPlace) {
     EXPECT_EQ(file->frameIndex(), 777);
     ASSERT_EQ(points.size(), 2U);
     EXPECT_EQ(points[1].size(), 1024U);
-    EXPECT_EQ(m_files.reads[0]->size(), 1024U);
-    EXPECT_THAT(*m_files.reads[0], Each(430U));
-    EXPECT_FLOAT_EQ(points[0][5], EZAudioUtilities::RMS(sound->planes[0].data() + 5 * 430, 430));
+    for (const std::size_t point : {0U, 5U, 1023U}) {
+        EXPECT_FLOAT_EQ(points[0][point], EZAudioUtilities::RMS(sound->planes[0].data() + point * 430, 430)) << point;
+    }
     EXPECT_EQ(waveform(*file, 0).at(1).size(), 0U);
 }
 
