@@ -1,6 +1,12 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 #include "support/ClientBuffers.h"
+#include "support/WavFile.h"
 
 namespace tavi::test {
 
@@ -40,23 +46,38 @@ protected:
     static constexpr std::size_t kFrames = 3 * 48000 + 77;
 
     struct Opened {
+        AudioStatus status = kAudioNoError;
         std::unique_ptr<ExtAudioFile> file;
         AudioStreamBasicDescription format;
         std::int64_t length = 0;
     };
-    Opened open(const QString& path) {
+    Opened open(const std::string& path) {
         Opened opened;
-        EXPECT_EQ(m_files.open(QFile::encodeName(path).toStdString(), opened.file), kAudioNoError) << qPrintable(path);
+        opened.status = m_files.open(path, opened.file);
+        EXPECT_EQ(opened.file != nullptr, opened.status == kAudioNoError);
         if (opened.file) {
             opened.file->fileDataFormat(opened.format);
             EXPECT_EQ(opened.file->fileLengthFrames(opened.length), kAudioNoError);
         }
         return opened;
     }
+    Opened open(const QString& path) { return open(QFile::encodeName(path).toStdString()); }
+
+    /// All samples, as many channels as the program shows.
+    static std::vector<std::vector<float>> readAll(const Opened& opened) {
+        const auto client = clientFormat(opened.format.sampleRate, 2);
+        return opened.file->setClientDataFormat(client) == kAudioNoError ? readPlanes(*opened.file, client)
+                                                                         : std::vector<std::vector<float>>(2);
+    }
+
+    /// A WAV file whose samples are all a quarter of full scale.
+    static QByteArray wav(int channels, int rate, int frames) {
+        return wavFile(channels, rate, 32, QByteArray("\0\0\x80\x3e", 4).repeated(channels * frames));
+    }
 
     /// Reads a file from start to end and from many places, in its own rate and another.
     void expectExactSeeks(const QString& path, float tolerance, int slack = 0) {
-        const auto [file, format, length] = open(path);
+        const auto [status, file, format, length] = open(path);
         ASSERT_TRUE(file);
         for (const double rate : {format.sampleRate, format.sampleRate == 44100 ? 16000.0 : 44100.0}) {
             const auto client = clientFormat(rate, format.channelsPerFrame);
@@ -87,7 +108,7 @@ protected:
 
     /// How far, in dB below it, a file is from the tone of 1000 Hz that starts at a frame.
     double errorOf(const QString& path, std::int64_t start) {
-        const auto [file, format, length] = open(path);
+        const auto [status, file, format, length] = open(path);
         const auto client = clientFormat(format.sampleRate, 1);
         file->setClientDataFormat(client);
         file->seek(start + 4096);
@@ -105,10 +126,8 @@ TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
         for (const Quality& quality : kQualities) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
             const QString path = record(type, quality, tone(kStereo, kFrames));
-            const auto [file, format, length] = open(path);
+            const auto [status, file, format, length] = open(path);
             ASSERT_TRUE(file);
-            EXPECT_EQ(format.sampleRate, quality.rate);
-            EXPECT_EQ(format.channelsPerFrame, static_cast<std::uint32_t>(quality.channels));
             EXPECT_EQ(format.formatID, type.formatID);
             const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
             EXPECT_GE(length, written + type.priming);
@@ -139,7 +158,7 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
         SCOPED_TRACE(foreign.name);
         const QString path = converted(wav, QString::fromLatin1(foreign.name), foreign.arguments);
         expectExactSeeks(path, foreign.tolerance, foreign.slack);
-        const auto [file, format, length] = open(path);
+        const auto [status, file, format, length] = open(path);
         const double frames = static_cast<double>(length) * 44100 / format.sampleRate;
         EXPECT_NEAR(m_durations.durationOfFile(path), static_cast<double>(length) / format.sampleRate, 0.1);
         EXPECT_NEAR(frames, kFrames * 44100.0 / 48000 + foreign.more, 1 + foreign.slack);
@@ -169,6 +188,114 @@ TEST_F(ReadingTest, AppleLosslessIsDecodedBitByBit) {
         EXPECT_EQ(planes, decodeSound(path)->planes) << quality.rate;
         for (std::size_t i = 0; quality.rate == 48000 && i < kFrames; ++i) {
             ASSERT_NEAR(planes[1][i], samples[2 * i + 1], 1.0 / 32768) << i;
+        }
+    }
+}
+
+TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
+    const QString pipe = m_folder.filePath(QStringLiteral("pipe.wav"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    struct Case {
+        QString path;
+        AudioStatus status;
+    };
+    // IMA4 of a million channels.
+    const QByteArray channels =
+        QByteArray(
+            "caff\0\1\0\0desc\0\0\0\0\0\0\0\x20\x40\xbf\x40\0\0\0\0\0ima4\0\0\0\0\0\0\0\x44\0\0\0\x40\0\x10\0\1\0\0\0\0"
+            "data\xff\xff\xff\xff\xff\xff\xff\xff\0\0\0\1",
+            68) +
+        QByteArray(1400, '\1');
+    std::vector<Case> cases = {
+        {file(QStringLiteral("channels.caf"), channels), kAudioFileUnsupportedDataFormatError},
+        {m_folder.filePath(QStringLiteral("missing.m4a")), kAudioFileFileNotFoundError},
+        {QStringLiteral("http://localhost/a.m4a"), kAudioFileFileNotFoundError},
+        {QString(), kAudioFileFileNotFoundError},
+        {m_folder.path(), kAudioFileUnsupportedFileTypeError},
+        {pipe, kAudioFileUnsupportedFileTypeError},
+        {QStringLiteral("/dev/zero"), kAudioFileUnsupportedFileTypeError},
+        {file(QStringLiteral("list.m3u8"), "#EXTM3U\n#EXTINF:1,\nfile:///etc/passwd\n"),
+         kAudioFileUnsupportedFileTypeError},
+    };
+    for (const char* extension : {"m4a", "wav", "caf", "aac", "mp3", "m3u8"}) {
+        for (const QByteArray& bytes : {QByteArray(), QByteArray("a line of text\n").repeated(3000),
+                                        QByteArray(5000, '\0'), QByteArray(5000, '\xff')}) {
+            const QString name = QStringLiteral("%1.%2").arg(cases.size()).arg(QLatin1String(extension));
+            cases.push_back({file(name, bytes), kAudioFileUnsupportedFileTypeError});
+        }
+    }
+    for (const auto& [path, status] : cases) {
+        EXPECT_EQ(open(path).status, status) << qPrintable(path);
+        // A file may tell its length and yet not be fit to be read.
+        EXPECT_LE(m_durations.durationOfFile(path), status == kAudioFileUnsupportedDataFormatError ? 1 : 0)
+            << qPrintable(path);
+    }
+    const QString secret = file(QStringLiteral("secret.wav"), wav(1, 8000, 10));
+    ASSERT_TRUE(QFile::setPermissions(secret, {}));
+    EXPECT_EQ(open(secret).status, ::geteuid() == 0 ? kAudioNoError : kAudioFilePermissionsError);
+    for (const QByteArray& bytes : {wav(1, 8000, 0), wav(1, 8000, 0).left(40), wav(0, 8000, 10), wav(2, 0, 10)}) {
+        EXPECT_EQ(open(file(QStringLiteral("none.wav"), bytes)).length, 0);
+    }
+}
+
+TEST_F(ReadingTest, OddFilesAndNamesAreRead) {
+    for (const auto& [channels, rate, frames] : {std::tuple(8, 8000, 4000), {1, 192000, 96000}, {1, 44100, 1}}) {
+        const Opened odd = open(file(QStringLiteral("odd.m4a"), wav(channels, rate, frames)));
+        ASSERT_TRUE(odd.file);
+        EXPECT_EQ(odd.length, frames);
+        EXPECT_EQ(odd.format.channelsPerFrame, static_cast<std::uint32_t>(channels));
+        const auto samples = readAll(odd)[1];
+        EXPECT_TRUE(samples.size() == static_cast<std::size_t>(frames) && samples[0] > 0.05F && samples[0] < 0.2501F);
+    }
+    const QByteArray bytes = wav(2, 8000, 4000) + QByteArray("LIST\x14\0\0\0INFOINAM\x08\0\0\0Meeting\0", 28);
+    const QString original = file(QStringLiteral("original.wav"), bytes);
+    for (const char* name : {"two words.wav", "'quoted' \"twice\".wav", "new\nline.wav", "latin \xe9\xff.wav",
+                             "%20%s.wav", "file:a.wav", "-a.wav"}) {
+        // Qt would not find all of them by their names.
+        const std::string path = m_folder.path().toStdString() + "/" + name;
+        std::filesystem::copy_file(original.toStdString(), path);
+        const Opened odd = open(path);
+        std::filesystem::remove(path);
+        ASSERT_TRUE(odd.file) << name;
+        EXPECT_EQ(odd.length, 4000) << name;
+        AudioFileInfo info;
+        odd.file->infoDictionary(info);
+        EXPECT_EQ(info["title"], "Meeting") << name;
+    }
+}
+
+TEST_F(ReadingTest, FilesBeyondFourGigabytesHaveTheirWholeLength) {
+    // Mono, 16 bits, 8000 Hz.
+    const QByteArray header(
+        "RF64\xff\xff\xff\xffWAVEds64\x1c\0\0\0\0\0\0\0\1\0\0\0\0\0\0\0\2\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+        "fmt \x10\0\0\0\1\0\1\0\x40\x1f\0\0\x80\x3e\0\0\2\0\x10\0"
+        "data\xff\xff\xff\xff",
+        80);
+    const QString path = file(QStringLiteral("long.wav"), header);
+    ASSERT_TRUE(QFile::resize(path, 80 + (qint64{2} << 32)));
+    EXPECT_NEAR(m_durations.durationOfFile(path), 536870.912, 1e-6);
+    EXPECT_EQ(open(path).length, qint64{1} << 32);
+}
+
+TEST_F(ReadingTest, FilesThatEndTooSoonAreReadAsFarAsTheyGo) {
+    for (const Type& type : kTypes) {
+        SCOPED_TRACE(type.extension);
+        const QString path = record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 40));
+        // While a reader has it open.
+        const Opened whole = open(path);
+        ASSERT_TRUE(QFile::resize(path, QFile(path).size() * 6 / 10));
+        EXPECT_LT(readAll(whole)[0].size(), whole.length * 62 / 100);
+        // And before one opens it. A movie's tables may stand at its end, and be gone.
+        const Opened cut = open(path);
+        EXPECT_LT(cut.length, whole.length * 62 / 100);
+        if (!std::string_view(type.container).starts_with("mov")) {
+            EXPECT_GT(cut.length, whole.length * 58 / 100);
+            EXPECT_GT(levelOf(std::span(readAll(cut)[0]).last(20000)), -12);
+        }
+        for (const int bytes : {1, 12, 44, 100, 700}) {
+            ASSERT_TRUE(QFile::resize(path, bytes));
+            EXPECT_LT(open(path).length, 3000) << bytes;
+            EXPECT_LT(m_durations.durationOfFile(path), 0.1) << bytes;
         }
     }
 }
