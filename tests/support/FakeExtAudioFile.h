@@ -18,8 +18,6 @@ namespace tavi::test {
 struct FakeSound {
     double rate = 44100;
     std::vector<std::vector<float>> planes;
-    /// Frames that the file claims to have; what it holds where less than 0.
-    std::int64_t claimedFrames = -1;
     bool isRandomAccess = true;
     /// What is to happen while a file is read, such as a call on another thread.
     std::function<void()> onRead;
@@ -33,7 +31,8 @@ struct FakeSound {
 /// Gives 32-bit floats. Converts by taking the nearest frame at or before, and the mean of channels that are too many.
 class FakeExtAudioFile : public ExtAudioFile {
 public:
-    explicit FakeExtAudioFile(std::shared_ptr<const FakeSound> sound) : m_sound(std::move(sound)) {}
+    FakeExtAudioFile(std::shared_ptr<const FakeSound> sound, std::vector<std::uint32_t>& reads)
+        : m_sound(std::move(sound)), m_reads(reads) {}
 
     AudioStatus fileDataFormat(AudioStreamBasicDescription& format) const override {
         format = {};
@@ -47,7 +46,7 @@ public:
         return kAudioNoError;
     }
     AudioStatus fileLengthFrames(std::int64_t& frames) const override {
-        frames = m_sound->claimedFrames < 0 ? m_sound->frames() : m_sound->claimedFrames;
+        frames = m_sound->frames();
         return kAudioNoError;
     }
     AudioStatus fileMaxPacketSize(std::uint32_t& bytes) const override {
@@ -73,6 +72,7 @@ public:
         if (m_client.channelsPerFrame == 0) {
             return kAudioParameterError;
         }
+        m_reads.push_back(wanted);
         if (m_sound->onRead) {
             m_sound->onRead();
         }
@@ -127,6 +127,7 @@ private:
         return planes[planes.size() == 1 ? 0 : channel][static_cast<std::size_t>(at)];
     }
     std::shared_ptr<const FakeSound> m_sound;
+    std::vector<std::uint32_t>& m_reads;
     AudioStreamBasicDescription m_client;
     std::int64_t m_position = 0;
     std::int64_t m_sought = 0;
@@ -148,11 +149,14 @@ public:
         if (found->second->planes.empty()) {
             return kAudioFileUnsupportedFileTypeError;
         }
-        file = std::make_unique<FakeExtAudioFile>(found->second);
+        reads.emplace_back(std::make_unique<std::vector<std::uint32_t>>());
+        file = std::make_unique<FakeExtAudioFile>(found->second, *reads.back());
         return kAudioNoError;
     }
 
     std::map<std::string, std::shared_ptr<FakeSound>> sounds;
+    /// What each file that was opened has been asked for.
+    std::vector<std::unique_ptr<std::vector<std::uint32_t>>> reads;
     int opened = 0;
     /// From this opening on all fail; 0 for none.
     int failingOpens = 0;

@@ -124,31 +124,25 @@ protected:
 TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
     for (const Type& type : kTypes) {
         for (const Quality& quality : kQualities) {
-            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
-            const QString path = record(type, quality, tone(kStereo, kFrames));
-            const auto [status, file, format, length] = open(path);
-            ASSERT_TRUE(file);
-            EXPECT_EQ(format.formatID, type.formatID);
-            const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
-            EXPECT_GE(length, written + type.priming);
-            const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
-            EXPECT_LT(length, written + type.priming + tail);
-            EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * quality.rate));
-            const bool isAac = type.formatID == kAudioFormatMPEG4AAC;
-            expectExactSeeks(path, isAac ? 0.01F : 0);
-            EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
+            for (const bool isFinished : {true, false}) {
+                SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << isFinished);
+                const QString path = record(type, quality, tone(kStereo, kFrames), kStereo, isFinished);
+                const auto [status, file, format, length] = open(path);
+                ASSERT_TRUE(file);
+                EXPECT_EQ(format.formatID, type.formatID);
+                EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * quality.rate));
+                const bool isAac = type.formatID == kAudioFormatMPEG4AAC;
+                expectExactSeeks(path, isAac ? 0.01F : 0);
+                if (isFinished) {
+                    EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
+                }
+                // Some of what is interrupted has not been written yet.
+                const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
+                EXPECT_GE(length, isFinished ? written + type.priming : written / 3);
+                const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
+                EXPECT_LT(length, written + type.priming + tail);
+            }
         }
-    }
-}
-
-TEST_F(ReadingTest, InterruptedRecordingsAreReadUpToTheirEnd) {
-    for (const Type& type : kTypes) {
-        SCOPED_TRACE(type.extension);
-        const QString path = record(type, kQualities[1], tone(kStereo, kFrames), kStereo, false);
-        const std::int64_t length = open(path).length;
-        EXPECT_GT(length, 8000);
-        EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * 16000));
-        expectExactSeeks(path, type.formatID == kAudioFormatMPEG4AAC ? 0.01F : 0);
     }
 }
 

@@ -119,16 +119,15 @@ TEST_F(EZAudioFileTest, ATenSecondFileHas430FramesAPointAndKeepsItsPlace) {
     EXPECT_EQ(file->frameIndex(), 777);
     ASSERT_EQ(points.size(), 2U);
     EXPECT_EQ(points[1].size(), 1024U);
-    for (const std::size_t point : {0U, 5U, 1023U}) {
-        EXPECT_FLOAT_EQ(points[0][point], EZAudioUtilities::RMS(sound->planes[0].data() + point * 430, 430)) << point;
-    }
+    EXPECT_EQ(*m_files.reads[0], std::vector<std::uint32_t>(1024, 430));
+    EXPECT_FLOAT_EQ(points[0][5], EZAudioUtilities::RMS(sound->planes[0].data() + 5 * 430, 430));
     EXPECT_EQ(waveform(*file, 0).at(1).size(), 0U);
 }
 
 TEST_F(EZAudioFileTest, PointsWithoutSamplesAreNoNumbers) {
     // A file that ends early, and one that cannot be read.
-    const auto sound = add(44100, 5000);
-    sound->claimedFrames = 10240;
+    const auto sound = add(44100, 10240);
+    sound->readable = 5000;
     const auto cut = waveform(*open(), 1024);
     EXPECT_FALSE(std::isnan(cut[0][499]));
     EXPECT_TRUE(std::isnan(cut[0][500]));
@@ -146,9 +145,9 @@ TEST_F(EZAudioFileTest, InterleavedSoundCountsInPart) {
 
 TEST_F(EZAudioFileTest, TwoReadersGiveWhatOneGives) {
     for (const double rate : {8000.0, 44100.0}) {
-        const auto sound = add(rate, static_cast<std::size_t>(rate) * 31);
-        for (const std::int64_t claimed : {std::int64_t{-1}, std::int64_t(rate) * 33, std::int64_t(rate) * 70}) {
-            sound->claimedFrames = claimed;
+        for (const int seconds : {31, 33, 70}) {
+            const auto sound = add(rate, static_cast<std::size_t>(rate) * static_cast<std::size_t>(seconds));
+            sound->readable = static_cast<std::int64_t>(rate) * 31;
             sound->isRandomAccess = false;
             m_files.opened = 0;
             const auto one = waveform(*open(), 1001);
