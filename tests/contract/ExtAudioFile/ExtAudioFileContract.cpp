@@ -13,25 +13,20 @@ namespace {
 
 constexpr int kRate = 8000;
 
-class FakeFilesWorld {
-public:
-    ExtAudioFiles& files() { return m_files; }
+struct FakeFilesWorld {
     std::string add(const char* name, const std::vector<std::vector<float>>& planes) {
         auto sound = std::make_shared<FakeSound>();
         sound->rate = kRate;
         sound->planes = planes;
-        m_files.sounds[name] = sound;
+        files.sounds[name] = sound;
         return name;
     }
 
-private:
-    FakeExtAudioFiles m_files;
+    FakeExtAudioFiles files;
 };
 
 /// WAV files of 32-bit floats, which hold samples as they are.
-class FfmpegFilesWorld {
-public:
-    ExtAudioFiles& files() { return m_files; }
+struct FfmpegFilesWorld {
     std::string add(const char* name, const std::vector<std::vector<float>>& planes) {
         QByteArray data;
         for (std::size_t i = 0; !planes.empty() && i < planes.front().size(); ++i) {
@@ -39,15 +34,14 @@ public:
                 data.append(reinterpret_cast<const char*>(&plane[i]), sizeof(float));
             }
         }
-        QFile file(m_folder.filePath(QString::fromLatin1(name)));
+        QFile file(folder.filePath(QString::fromLatin1(name)));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(planes.empty() ? "text" : wavFile(static_cast<int>(planes.size()), kRate, 32, data));
         return QFile::encodeName(file.fileName()).toStdString();
     }
 
-private:
-    QTemporaryDir m_folder;
-    FfmpegExtAudioFiles m_files;
+    QTemporaryDir folder;
+    FfmpegExtAudioFiles files;
 };
 
 template <class World>
@@ -66,7 +60,7 @@ protected:
     }
     std::unique_ptr<ExtAudioFile> opened(std::size_t channels) {
         std::unique_ptr<ExtAudioFile> file;
-        EXPECT_EQ(m_world.files().open(m_world.add("sound", planes(channels)), file), kAudioNoError);
+        EXPECT_EQ(m_world.files.open(m_world.add("sound", planes(channels)), file), kAudioNoError);
         return file;
     }
     static std::int64_t position(const ExtAudioFile& file) {
@@ -83,9 +77,9 @@ TYPED_TEST_SUITE(ExtAudioFileContract, Worlds);
 
 TYPED_TEST(ExtAudioFileContract, TellsWhyAFileCannotBeOpened) {
     auto file = this->opened(1);
-    EXPECT_EQ(this->m_world.files().open("missing", file), kAudioFileFileNotFoundError);
+    EXPECT_EQ(this->m_world.files.open("missing", file), kAudioFileFileNotFoundError);
     EXPECT_FALSE(file);
-    EXPECT_EQ(this->m_world.files().open(this->m_world.add("text", {}), file), kAudioFileUnsupportedFileTypeError);
+    EXPECT_EQ(this->m_world.files.open(this->m_world.add("text", {}), file), kAudioFileUnsupportedFileTypeError);
 }
 
 TYPED_TEST(ExtAudioFileContract, ReadsEverythingOnceAndThenNothing) {

@@ -54,12 +54,8 @@ protected:
         std::unique_ptr<ContainerPackets> other;
         ASSERT_TRUE(own && ContainerPackets::open(file.get(), other) == kAudioNoError);
         const auto& described = own->parameters();
-        EXPECT_EQ(described.codec_id, other->parameters().codec_id);
         // libavformat does not say it of Apple Lossless.
         EXPECT_EQ(described.frame_size, described.codec_id == AV_CODEC_ID_AAC ? other->parameters().frame_size : 4096);
-        EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(described.extradata), described.extradata_size),
-                  QByteArray(reinterpret_cast<const char*>(other->parameters().extradata),
-                             other->parameters().extradata_size));
         EXPECT_EQ(own->maxPacketSize(), other->maxPacketSize());
         EXPECT_EQ(own->declaredLength(44100), other->declaredLength(44100));
         const auto packets = drain(*own);

@@ -66,8 +66,8 @@ protected:
     /// All samples, as many channels as the program shows.
     static std::vector<std::vector<float>> readAll(const Opened& opened) {
         const auto client = clientFormat(opened.format.sampleRate, 2);
-        return opened.file->setClientDataFormat(client) == kAudioNoError ? readPlanes(*opened.file, client)
-                                                                         : std::vector<std::vector<float>>(2);
+        EXPECT_EQ(opened.file->setClientDataFormat(client), kAudioNoError);
+        return readPlanes(*opened.file, client);
     }
 
     /// A WAV file whose samples are all a quarter of full scale.
