@@ -7,24 +7,20 @@
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
 
 int main(int argc, char** argv) {
-    struct Type {
-        const char* extension;
-        std::uint32_t format;
-    };
-    constexpr Type kTypes[] = {{"m4a", tavi::kAudioFormatAppleLossless},
-                               {"wav", tavi::kAudioFormatLinearPCM},
-                               {"caf", tavi::kAudioFormatAppleIMA4},
-                               {"mp4", tavi::kAudioFormatMPEG4AAC},
-                               {"aac", tavi::kAudioFormatMPEG4AAC}};
+    constexpr std::pair<const char*, std::uint32_t> kTypes[] = {{"m4a", tavi::kAudioFormatAppleLossless},
+                                                                {"wav", tavi::kAudioFormatLinearPCM},
+                                                                {"caf", tavi::kAudioFormatAppleIMA4},
+                                                                {"mp4", tavi::kAudioFormatMPEG4AAC},
+                                                                {"aac", tavi::kAudioFormatMPEG4AAC}};
     const QDir folder(QString::fromLocal8Bit(argc > 1 ? argv[1] : "."));
-    for (const Type& type : kTypes) {
+    for (const auto& [extension, format] : kTypes) {
         for (const int channels : {1, 2}) {
             for (const bool isFinished : {true, false}) {
                 const QString path = folder.filePath(QStringLiteral("%1-%2.").arg(channels).arg(isFinished) +
-                                                     QString::fromLatin1(type.extension));
+                                                     QString::fromLatin1(extension));
                 QFile::remove(path);
                 tavi::AudioRecordSettings settings;
-                settings.formatID = type.format;
+                settings.formatID = format;
                 settings.sampleRate = 8000;
                 settings.numberOfChannels = channels;
                 auto writer = tavi::FfmpegAudioFileWriters().create(path, settings);

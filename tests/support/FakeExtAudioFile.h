@@ -18,9 +18,6 @@ namespace tavi::test {
 struct FakeSound {
     double rate = 44100;
     std::vector<std::vector<float>> planes;
-    AudioFileInfo info;
-    /// Frames that the file claims to have; what it holds where less than 0.
-    std::int64_t claimedFrames = -1;
     bool isRandomAccess = true;
     /// What is to happen while a file is read, such as a call on another thread.
     std::function<void()> onRead;
@@ -31,7 +28,7 @@ struct FakeSound {
     std::int64_t frames() const { return planes.empty() ? 0 : static_cast<std::int64_t>(planes.front().size()); }
 };
 
-/// Converts by taking the nearest frame at or before, and the mean of channels that are too many.
+/// Gives 32-bit floats. Converts by taking the nearest frame at or before, and the mean of channels that are too many.
 class FakeExtAudioFile : public ExtAudioFile {
 public:
     FakeExtAudioFile(std::shared_ptr<const FakeSound> sound, std::vector<std::uint32_t>& reads)
@@ -49,7 +46,7 @@ public:
         return kAudioNoError;
     }
     AudioStatus fileLengthFrames(std::int64_t& frames) const override {
-        frames = m_sound->claimedFrames < 0 ? m_sound->frames() : m_sound->claimedFrames;
+        frames = m_sound->frames();
         return kAudioNoError;
     }
     AudioStatus fileMaxPacketSize(std::uint32_t& bytes) const override {
@@ -57,12 +54,12 @@ public:
         return kAudioNoError;
     }
     AudioStatus infoDictionary(AudioFileInfo& info) const override {
-        info = m_sound->info;
+        info.clear();
         return kAudioNoError;
     }
     bool isRandomAccess() const override { return m_sound->isRandomAccess; }
     AudioStatus setClientDataFormat(const AudioStreamBasicDescription& format) override {
-        if (format.formatID != kAudioFormatLinearPCM || format.channelsPerFrame > 8 || format.sampleRate < 1) {
+        if (format.formatID != kAudioFormatLinearPCM) {
             return kAudioFileUnsupportedDataFormatError;
         }
         std::int64_t frame = 0;
@@ -88,7 +85,8 @@ public:
         for (std::uint32_t channel = 0; channel < m_client.channelsPerFrame; ++channel) {
             AudioBuffer& buffer = data.buffers[isPlanar ? channel : 0];
             for (std::uint32_t i = 0; i < frames; ++i) {
-                store(buffer, isPlanar ? i : i * m_client.channelsPerFrame + channel, sample(channel, m_position + i));
+                static_cast<float*>(buffer.data)[isPlanar ? i : i * m_client.channelsPerFrame + channel] =
+                    sample(channel, m_position + i);
             }
             buffer.dataByteSize = frames * m_client.bytesPerFrame;
         }
@@ -128,15 +126,6 @@ private:
         }
         return planes[planes.size() == 1 ? 0 : channel][static_cast<std::size_t>(at)];
     }
-    void store(AudioBuffer& buffer, std::uint32_t at, float value) const {
-        if ((m_client.formatFlags & kAudioFormatFlagIsFloat) != 0) {
-            static_cast<float*>(buffer.data)[at] = value;
-        } else {
-            static_cast<std::int16_t*>(buffer.data)[at] =
-                static_cast<std::int16_t>(std::clamp(std::lround(value * 32768.0F), -32768L, 32767L));
-        }
-    }
-
     std::shared_ptr<const FakeSound> m_sound;
     std::vector<std::uint32_t>& m_reads;
     AudioStreamBasicDescription m_client;

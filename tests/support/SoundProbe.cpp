@@ -1,30 +1,15 @@
 #include "support/SoundProbe.h"
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-#include <libavutil/samplefmt.h>
-}
-
 #include <QFile>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <memory>
+
+#include "adapters/ffmpeg/AvHandles.h"
 
 namespace tavi::test {
 
 namespace {
-
-struct Closer {
-    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
-    void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
-};
-
-template <class T>
-using Handle = std::unique_ptr<T, Closer>;
 
 float sampleAt(const AVFrame& frame, int channel, int index) {
     const auto format = static_cast<AVSampleFormat>(frame.format);
@@ -36,8 +21,6 @@ float sampleAt(const AVFrame& frame, int channel, int index) {
             return (static_cast<float>(plane[at]) - 128.0F) / 128.0F;
         case AV_SAMPLE_FMT_S16:
             return static_cast<float>(reinterpret_cast<const std::int16_t*>(plane)[at]) / 32768.0F;
-        case AV_SAMPLE_FMT_S32:
-            return static_cast<float>(reinterpret_cast<const std::int32_t*>(plane)[at]) / 2147483648.0F;
         case AV_SAMPLE_FMT_FLT:
             return reinterpret_cast<const float*>(plane)[at];
         default:
@@ -46,9 +29,8 @@ float sampleAt(const AVFrame& frame, int channel, int index) {
 }
 
 void decodePackets(AVFormatContext& input, int stream, AVCodecContext& decoder, Sound& sound) {
-    const Handle<AVPacket> packet(av_packet_alloc());
-    const Handle<AVFrame> frame(av_frame_alloc());
-    bool isFirst = true;
+    const AvPacket packet(av_packet_alloc());
+    const AvFrame frame(av_frame_alloc());
     for (bool isEnd = false; !isEnd;) {
         isEnd = av_read_frame(&input, packet.get()) < 0;
         if (!isEnd && packet->stream_index != stream) {
@@ -58,10 +40,6 @@ void decodePackets(AVFormatContext& input, int stream, AVCodecContext& decoder, 
         avcodec_send_packet(&decoder, isEnd ? nullptr : packet.get());
         av_packet_unref(packet.get());
         while (avcodec_receive_frame(&decoder, frame.get()) >= 0) {
-            if (isFirst && frame->pts != AV_NOPTS_VALUE) {
-                sound.start = static_cast<double>(frame->pts) * av_q2d(input.streams[stream]->time_base);
-            }
-            isFirst = false;
             for (int channel = 0; channel < sound.channels; ++channel) {
                 auto& samples = sound.planes[static_cast<std::size_t>(channel)];
                 for (int i = 0; i < frame->nb_samples; ++i) {
@@ -74,12 +52,12 @@ void decodePackets(AVFormatContext& input, int stream, AVCodecContext& decoder, 
 
 }  // namespace
 
-std::optional<Sound> decodeSound(const QString& path, double fromSeconds) {
+std::optional<Sound> decodeSound(const QString& path) {
     AVFormatContext* context = nullptr;
     if (avformat_open_input(&context, QFile::encodeName(path).constData(), nullptr, nullptr) < 0) {
         return std::nullopt;
     }
-    const Handle<AVFormatContext> input(context);
+    const AvInput input(context);
     avformat_find_stream_info(context, nullptr);
     const AVCodec* codec = nullptr;
     const int index = av_find_best_stream(context, AVMEDIA_TYPE_AUDIO, -1, -1, &codec, 0);
@@ -87,7 +65,7 @@ std::optional<Sound> decodeSound(const QString& path, double fromSeconds) {
         return std::nullopt;
     }
     const AVStream* stream = context->streams[index];
-    const Handle<AVCodecContext> decoder(avcodec_alloc_context3(codec));
+    const AvCodec decoder(avcodec_alloc_context3(codec));
     avcodec_parameters_to_context(decoder.get(), stream->codecpar);
     decoder->pkt_timebase = stream->time_base;
     if (avcodec_open2(decoder.get(), codec, nullptr) < 0) {
@@ -99,15 +77,6 @@ std::optional<Sound> decodeSound(const QString& path, double fromSeconds) {
     sound.rate = stream->codecpar->sample_rate;
     sound.channels = stream->codecpar->ch_layout.nb_channels;
     sound.planes.resize(static_cast<std::size_t>(sound.channels));
-    if (context->duration != AV_NOPTS_VALUE) {
-        sound.duration = static_cast<double>(context->duration) / AV_TIME_BASE;
-    }
-    if (fromSeconds > 0) {
-        const auto time = static_cast<std::int64_t>(fromSeconds / av_q2d(stream->time_base));
-        if (av_seek_frame(context, index, time, AVSEEK_FLAG_BACKWARD) < 0) {
-            return std::nullopt;
-        }
-    }
     decodePackets(*context, index, *decoder, sound);
     return sound;
 }

@@ -15,19 +15,14 @@ struct Sound {
     std::string container;
     int rate = 0;
     int channels = 0;
-    /// Where the first frame stands, and how long the container says that the sound is; -1 when it says nothing.
-    /// Seconds.
-    double start = 0;
-    double duration = -1;
     /// One row of samples, full scale -1 to 1, a channel.
     std::vector<std::vector<float>> planes;
 
     std::size_t frames() const { return planes.empty() ? 0 : planes.front().size(); }
 };
 
-/// Decodes a whole file, or from the place on that seeking to a time leads to. Nothing when it cannot be opened; an
-/// error later ends the sound there.
-std::optional<Sound> decodeSound(const QString& path, double fromSeconds = 0);
+/// Decodes a whole file. Nothing when it cannot be opened; an error later ends the sound there.
+std::optional<Sound> decodeSound(const QString& path);
 
 /// RMS in dB of full scale; a full sine has -3.01, silence -200.
 double levelOf(std::span<const float> samples);

@@ -1,32 +1,23 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <numeric>
 
 #include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "support/ClientBuffers.h"
-#include "support/FakeAudioConverter.h"
 
 namespace tavi::test {
 namespace {
 
-template <class Converters>
 class AudioConverterContract : public ::testing::Test {
 protected:
-    Converters m_converters;
+    FfmpegAudioConverters m_converters;
 };
 
-using Both = ::testing::Types<FakeAudioConverters, FfmpegAudioConverters>;
-TYPED_TEST_SUITE(AudioConverterContract, Both);
-
-TYPED_TEST(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
+TEST_F(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
     const auto input = clientFormat(44100, 2, true);
     const auto output = clientFormat(44100, 2);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(this->m_converters.create(input, output, converter), kAudioNoError);
-    std::uint32_t bytes = 0;
-    EXPECT_EQ(converter->maximumOutputPacketSize(bytes), kAudioNoError);
-    EXPECT_EQ(bytes, 4U);
-
+    ASSERT_EQ(m_converters.create(input, output, converter), kAudioNoError);
     // Blocks of 7 frames, whatever is asked for; 70 frames in all.
     ClientBuffers block(input, 7);
     float next = 0;
@@ -45,20 +36,20 @@ TYPED_TEST(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
         ClientBuffers buffers(output, wanted);
         std::uint32_t packets = wanted;
         ASSERT_EQ(converter->fillComplexBuffer(procedure, packets, buffers.list(), nullptr), kAudioNoError);
-        const auto samples = buffers.template samples<float>(0);
+        const auto samples = buffers.samples<float>(0);
         EXPECT_EQ(samples.size(), packets);
         left.insert(left.end(), samples.begin(), samples.end());
-        EXPECT_TRUE(packets == 0 || buffers.template samples<float>(1).back() == -samples.back());
+        EXPECT_TRUE(packets == 0 || buffers.samples<float>(1).back() == -samples.back());
     }
     std::vector<float> expected(70);
     std::iota(expected.begin(), expected.end(), 0.0F);
     EXPECT_EQ(left, expected);
 }
 
-TYPED_TEST(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
+TEST_F(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
     const auto format = clientFormat(44100, 1);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(this->m_converters.create(format, format, converter), kAudioNoError);
+    ASSERT_EQ(m_converters.create(format, format, converter), kAudioNoError);
     ClientBuffers buffers(format, 10);
     std::uint32_t packets = 10;
     EXPECT_EQ(converter->fillComplexBuffer([](auto&, auto&) { return kAudioFilePermissionsError; }, packets,
@@ -68,82 +59,53 @@ TYPED_TEST(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
 
     AudioStreamBasicDescription compressed;
     compressed.formatID = kAudioFormatMPEG4AAC;
-    compressed.sampleRate = 44100;
-    compressed.channelsPerFrame = 2;
-    EXPECT_EQ(this->m_converters.create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
+    EXPECT_EQ(m_converters.create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
     EXPECT_FALSE(converter);
-    EXPECT_EQ(this->m_converters.formatInfo(compressed), kAudioNoError);
-    EXPECT_EQ(compressed.framesPerPacket, 1024U);
-    EXPECT_EQ(compressed.bytesPerPacket, 0U);
-    compressed.formatID = fourCharacterCode("none");
-    EXPECT_EQ(this->m_converters.formatInfo(compressed), kAudioFileUnsupportedDataFormatError);
 }
 
-TEST(FfmpegAudioConvertersTest, EveryTypeOfSampleKeepsItsLevel) {
-    FfmpegAudioConverters converters;
-    const auto floats = clientFormat(8000, 2);
+TEST_F(AudioConverterContract, SamplesOfEverySizeKeepTheirLevel) {
+    const auto floats = clientFormat(8000, 1);
+    const std::vector<float> values = {0, 0.25F, -0.5F, -1, 1.5F, -7};
+    const std::vector<float> clipped = {0, 0.25F, -0.5F, -1, 1, -1};
     for (const std::uint32_t bits : {8U, 16U, 24U, 32U}) {
-        for (const std::uint32_t flags :
-             {0U, kAudioFormatFlagIsSignedInteger, kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsBigEndian}) {
-            auto format = clientFormat(8000, 2, true, false);
-            format.formatFlags = kAudioFormatFlagIsPacked | flags;
-            format.bitsPerChannel = bits;
-            format.bytesPerFrame = format.bytesPerPacket = bits / 4;
-            std::unique_ptr<AudioConverter> there;
-            std::unique_ptr<AudioConverter> back;
-            const bool isKnown = bits == 8 || flags != 0;
-            ASSERT_EQ(converters.create(floats, format, there) == kAudioNoError, isKnown) << bits << " " << flags;
-            if (!isKnown) {
-                continue;
-            }
-            ASSERT_EQ(converters.create(format, floats, back), kAudioNoError);
-            const std::vector<float> values = {0, 0.25F, -0.5F, -1, 1.5F, -7};
-            const std::vector<float> clipped = {0, 0.25F, -0.5F, -1, 1, -1};
-            ClientBuffers input(floats, 6);
-            ClientBuffers stored(format, 6);
-            ClientBuffers result(floats, 6);
-            for (std::uint32_t channel = 0; channel < 2; ++channel) {
-                std::memcpy(input.list().buffers[channel].data, values.data(), 24);
-            }
+        auto format = clientFormat(8000, 1, true, false);
+        format.bitsPerChannel = bits;
+        format.bytesPerFrame = format.bytesPerPacket = bits / 8;
+        ClientBuffers input(floats, 6);
+        ClientBuffers stored(format, 6);
+        ClientBuffers result(floats, 6);
+        std::memcpy(input.list().buffers[0].data, values.data(), 24);
+        const auto convert = [&](auto& from, ClientBuffers& source, auto& to, ClientBuffers& target) {
+            std::unique_ptr<AudioConverter> converter;
+            ASSERT_EQ(m_converters.create(from, to, converter), kAudioNoError);
             std::uint32_t packets = 6;
-            ASSERT_EQ(there->fillComplexBuffer(
-                          [&](auto&, auto& data) {
-                              data = &input.list();
-                              return kAudioNoError;
-                          },
-                          packets, stored.list(), nullptr),
-                      kAudioNoError);
-            ASSERT_EQ(back->fillComplexBuffer(
-                          [&](auto&, auto& data) {
-                              data = &stored.list();
-                              return kAudioNoError;
-                          },
-                          packets, result.list(), nullptr),
-                      kAudioNoError);
-            const auto samples = result.samples<float>(1);
-            ASSERT_EQ(samples.size(), 6U);
-            for (std::size_t i = 0; i < 6; ++i) {
-                EXPECT_NEAR(samples[i], clipped[i], 1.01 / (1 << std::min(bits - 1, 24U))) << bits << " " << flags;
-            }
-        }
+            const auto procedure = [&](auto&, auto& data) { return data = &source.list(), kAudioNoError; };
+            ASSERT_EQ(converter->fillComplexBuffer(procedure, packets, target.list(), nullptr), kAudioNoError);
+        };
+        convert(floats, input, format, stored);
+        convert(format, stored, floats, result);
+        EXPECT_THAT(result.samples<float>(0),
+                    ::testing::Pointwise(::testing::FloatNear(2.0F / (1 << std::min(bits, 24U))), clipped))
+            << bits;
     }
 }
 
-TEST(FfmpegAudioConvertersTest, CodecsTellTheirPackets) {
-    const FfmpegAudioConverters converters;
-    const auto packet = [&](std::uint32_t codec, double rate, std::uint32_t channels, std::uint32_t frames = 0) {
+TEST_F(AudioConverterContract, CodecsTellTheirPackets) {
+    AudioStreamBasicDescription unknown = clientFormat(8000, 1);
+    unknown.formatID = fourCharacterCode("none");
+    EXPECT_EQ(m_converters.formatInfo(unknown), kAudioFileUnsupportedDataFormatError);
+    const auto packet = [&](std::uint32_t codec, double rate, std::uint32_t frames = 0) {
         AudioStreamBasicDescription format;
         format.formatID = codec;
         format.sampleRate = rate;
-        format.channelsPerFrame = channels;
+        format.channelsPerFrame = 1;
         format.framesPerPacket = frames;
-        EXPECT_EQ(converters.formatInfo(format), kAudioNoError);
+        EXPECT_EQ(m_converters.formatInfo(format), kAudioNoError);
         return std::pair(format.framesPerPacket, format.bytesPerPacket);
     };
-    EXPECT_EQ(packet(kAudioFormatAppleLossless, 44100, 2), std::pair(4096U, 0U));
-    EXPECT_EQ(packet(kAudioFormatAppleIMA4, 44100, 2), std::pair(64U, 68U));
-    EXPECT_EQ(packet(kAudioFormatiLBC, 8000, 1), std::pair(240U, 50U));
-    EXPECT_EQ(packet(kAudioFormatiLBC, 8000, 1, 160), std::pair(160U, 38U));
+    EXPECT_EQ(packet(kAudioFormatMPEG4AAC, 44100), std::pair(1024U, 0U));
+    EXPECT_EQ(packet(kAudioFormatiLBC, 8000), std::pair(240U, 50U));
+    EXPECT_EQ(packet(kAudioFormatiLBC, 8000, 160), std::pair(160U, 38U));
 }
 
 }  // namespace

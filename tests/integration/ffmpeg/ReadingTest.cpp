@@ -1,8 +1,13 @@
-#include <QProcess>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QtEndian>
+#include <filesystem>
 
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 #include "support/ClientBuffers.h"
+#include "support/WavFile.h"
 
 namespace tavi::test {
 
@@ -20,7 +25,7 @@ struct Foreign {
     int slack;
 };
 
-constexpr std::array<Foreign, 14> kForeign{{
+constexpr std::array<Foreign, 16> kForeign{{
     {"cbr.mp3", "-c:a libmp3lame -b:a 96k", 1e-6F, 0, 0},
     {"vbr.mp3", "-c:a libmp3lame -q:a 3", 1e-6F, 0, 0},
     {"bare.mp3", "-c:a libmp3lame -b:a 96k -write_xing 0 -id3v2_version 0", 1e-6F, 1261, 0},
@@ -33,6 +38,8 @@ constexpr std::array<Foreign, 14> kForeign{{
     {"rf64.wav", "-c:a pcm_s32le -rf64 always", 0, 0, 0},
     {"adpcm.wav", "-c:a adpcm_ima_wav", 0, 856, 0},
     {"plain.m4a", "-c:a aac -b:a 128k", 0.01F, 0, 0},
+    {"faststart.m4a", "-c:a aac -b:a 128k -movflags +faststart", 0.01F, 0, 0},
+    {"alac.m4a", "-c:a alac", 0, 0, 0},
     {"alac.caf", "-c:a alac", 0, 0, 0},
     {"pcm.mka", "-c:a pcm_s16le", 0, 0, 45},
 }};
@@ -41,40 +48,40 @@ class ReadingTest : public RecordingFixture {
 protected:
     static constexpr std::size_t kFrames = 3 * 48000 + 77;
 
-    std::unique_ptr<ExtAudioFile> open(const QString& path) {
+    struct Opened {
+        AudioStatus status = kAudioNoError;
         std::unique_ptr<ExtAudioFile> file;
-        EXPECT_EQ(m_files.open(QFile::encodeName(path).toStdString(), file), kAudioNoError) << qPrintable(path);
-        return file;
+        AudioStreamBasicDescription format;
+        std::int64_t length = 0;
+    };
+    Opened open(const std::string& path) {
+        Opened opened;
+        opened.status = m_files.open(path, opened.file);
+        EXPECT_EQ(opened.file != nullptr, opened.status == kAudioNoError);
+        if (opened.file) {
+            opened.file->fileDataFormat(opened.format);
+            EXPECT_EQ(opened.file->fileLengthFrames(opened.length), kAudioNoError);
+        }
+        return opened;
+    }
+    Opened open(const QString& path) { return open(QFile::encodeName(path).toStdString()); }
+
+    /// All samples, as many channels as the program shows.
+    static std::vector<std::vector<float>> readAll(const Opened& opened) {
+        const auto client = clientFormat(opened.format.sampleRate, 2);
+        EXPECT_EQ(opened.file->setClientDataFormat(client), kAudioNoError);
+        return readPlanes(*opened.file, client);
     }
 
-    QString recorded(const Type& type, const Quality& quality) {
-        const QString path = pathFor(type);
-        QFile::remove(path);
-        const auto writer = begin(path, settingsFor(type, quality));
-        EXPECT_TRUE(writer && writeBlocks(*writer, tone(kStereo, kFrames), 2) && writer->finish());
-        return path;
-    }
-
-    QString converted(const Foreign& foreign, const QString& from) {
-        const QString path = m_folder.filePath(QString::fromLatin1(foreign.name));
-        const QStringList arguments = QString::fromLatin1(foreign.arguments).split(QLatin1Char(' '));
-        const int code =
-            QProcess::execute(QStringLiteral("ffmpeg"),
-                              QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"),
-                                          QStringLiteral("-y"), QStringLiteral("-i"), from} +
-                                  arguments + QStringList{path});
-        EXPECT_EQ(code, 0) << foreign.name;
-        return path;
+    /// A WAV file whose samples are all a quarter of full scale.
+    static QByteArray wav(int channels, int rate, int frames) {
+        return wavFile(channels, rate, 32, QByteArray("\0\0\x80\x3e", 4).repeated(channels * frames));
     }
 
     /// Reads a file from start to end and from many places, in its own rate and another.
     void expectExactSeeks(const QString& path, float tolerance, int slack = 0) {
-        const auto file = open(path);
+        const auto [status, file, format, length] = open(path);
         ASSERT_TRUE(file);
-        AudioStreamBasicDescription format;
-        std::int64_t length = 0;
-        file->fileDataFormat(format);
-        ASSERT_EQ(file->fileLengthFrames(length), kAudioNoError);
         for (const double rate : {format.sampleRate, format.sampleRate == 44100 ? 16000.0 : 44100.0}) {
             const auto client = clientFormat(rate, format.channelsPerFrame);
             ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
@@ -104,17 +111,13 @@ protected:
 
     /// How far, in dB below it, a file is from the tone of 1000 Hz that starts at a frame.
     double errorOf(const QString& path, std::int64_t start) {
-        const auto file = open(path);
-        AudioStreamBasicDescription format;
-        file->fileDataFormat(format);
+        const auto [status, file, format, length] = open(path);
         const auto client = clientFormat(format.sampleRate, 1);
         file->setClientDataFormat(client);
         file->seek(start + 4096);
         auto samples = readPlanes(*file, client, 4096)[0];
-        for (std::size_t i = 0; i < samples.size(); ++i) {
-            const double phase = 2 * std::numbers::pi * 1000 * static_cast<double>(i + 4096) / format.sampleRate;
-            samples[i] -= static_cast<float>(0.5 * std::sin(phase));
-        }
+        const auto wanted = tone({static_cast<int>(format.sampleRate), 1}, 8192);
+        std::transform(samples.begin(), samples.end(), wanted.begin() + 4096, samples.begin(), std::minus());
         return levelOf(samples) + 9.03;
     }
 
@@ -124,41 +127,37 @@ protected:
 TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
     for (const Type& type : kTypes) {
         for (const Quality& quality : kQualities) {
-            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
-            const QString path = recorded(type, quality);
-            const auto file = open(path);
-            ASSERT_TRUE(file);
-            AudioStreamBasicDescription format;
-            std::int64_t length = 0;
-            file->fileDataFormat(format);
-            file->fileLengthFrames(length);
-            EXPECT_EQ(format.sampleRate, quality.rate);
-            EXPECT_EQ(format.channelsPerFrame, static_cast<std::uint32_t>(quality.channels));
-            EXPECT_EQ(format.formatID, type.formatID);
-            const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
-            EXPECT_GE(length, written + type.priming);
-            const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
-            EXPECT_LT(length, written + type.priming + tail);
-            EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * quality.rate));
-            const bool isAac = type.formatID == kAudioFormatMPEG4AAC;
-            expectExactSeeks(path, isAac ? 0.01F : 0);
-            EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
+            for (const bool isFinished : {true, false}) {
+                SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << isFinished);
+                const QString path = record(type, quality, tone(kStereo, kFrames), kStereo, isFinished);
+                const auto [status, file, format, length] = open(path);
+                ASSERT_TRUE(file);
+                EXPECT_EQ(format.formatID, type.formatID);
+                EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * quality.rate));
+                const bool isAac = type.formatID == kAudioFormatMPEG4AAC;
+                expectExactSeeks(path, isAac ? 0.01F : 0);
+                if (isFinished) {
+                    EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
+                }
+                // Some of what is interrupted has not been written yet.
+                const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
+                EXPECT_GE(length, isFinished ? written + type.priming : written / 3);
+                const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
+                EXPECT_LT(length, written + type.priming + tail);
+            }
         }
     }
 }
 
 TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
-    const QString wav = recorded(kTypes[0], kQualities[2]);
+    const QString wav = record(kTypes[0], kQualities[2], tone(kStereo, kFrames));
     for (const Foreign& foreign : kForeign) {
         SCOPED_TRACE(foreign.name);
-        const QString path = converted(foreign, wav);
+        const QString path = converted(wav, QString::fromLatin1(foreign.name), foreign.arguments);
         expectExactSeeks(path, foreign.tolerance, foreign.slack);
-        AudioStreamBasicDescription format;
-        std::int64_t length = 0;
-        const auto file = open(path);
-        file->fileDataFormat(format);
-        file->fileLengthFrames(length);
+        const auto [status, file, format, length] = open(path);
         const double frames = static_cast<double>(length) * 44100 / format.sampleRate;
+        EXPECT_NEAR(m_durations.durationOfFile(path), static_cast<double>(length) / format.sampleRate, 0.1);
         EXPECT_NEAR(frames, kFrames * 44100.0 / 48000 + foreign.more, 1 + foreign.slack);
         if (std::strcmp(foreign.name, "bare.mp3") != 0) {
             EXPECT_LT(errorOf(path, 0), -20);
@@ -166,18 +165,29 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
     }
 }
 
-TEST_F(ReadingTest, InterruptedRecordingsAreReadUpToTheirEnd) {
-    for (const Type& type : kTypes) {
-        SCOPED_TRACE(type.extension);
-        const auto writer = begin(pathFor(type), settingsFor(type, kQualities[1]));
-        ASSERT_TRUE(writer && writeBlocks(*writer, tone(kStereo, kFrames), 2));
-        const QString path = pathFor(type, "interrupted");
-        ASSERT_TRUE(QFile::copy(pathFor(type), path));
-        std::int64_t length = 0;
-        open(path)->fileLengthFrames(length);
-        EXPECT_GT(length, 8000);
-        EXPECT_EQ(length, std::llround(m_durations.durationOfFile(path) * 16000));
-        expectExactSeeks(path, type.formatID == kAudioFormatMPEG4AAC ? 0.01F : 0);
+TEST_F(ReadingTest, MoviesBeginAndEndWhereTheirEditsSay) {
+    for (const Type& type : {kTypes[0], kTypes[3]}) {
+        const QByteArray recording = contents(record(type, kQualities[2], tone(kStereo, kFrames)));
+        const qsizetype edit = recording.indexOf("elst") + 12;
+        for (const std::uint32_t start : {0U, 1U, 1024U, 2112U, 20000U}) {
+            for (const bool isShort : {false, true}) {
+                SCOPED_TRACE(testing::Message() << type.extension << " from " << start << " " << isShort);
+                QByteArray edited = recording;
+                qToBigEndian(start, edited.data() + edit + 4);
+                qToBigEndian(isShort ? 700U : qFromBigEndian<std::uint32_t>(edited.data() + edit),
+                             edited.data() + edit);
+                const QString path = file(QStringLiteral("edited"), edited);
+                expectExactSeeks(path, type.packet == 1 ? 0 : 0.01F);
+                const auto own = readAll(open(path));
+                const auto other = decodeSound(path)->planes;
+                // Another decoder may play the last packet to its end.
+                ASSERT_LE(own[0].size(), other[0].size());
+                EXPECT_LT(other[0].size() - own[0].size(), static_cast<std::size_t>(type.packet));
+                for (std::size_t i = 0; i < own[0].size(); ++i) {
+                    ASSERT_NEAR(own[0][i], other[0][i], 0.02) << i;
+                }
+            }
+        }
     }
 }
 
@@ -192,15 +202,124 @@ TEST_F(ReadingTest, AppleLosslessIsDecodedBitByBit) {
         const float level = part == 0 ? 0.0F : std::pow(10.0F, static_cast<float>(part) - 6);
         samples.push_back(part == 6 && i % 977 < 488 ? 1.0F : noise * level);
     }
-    for (const Quality& quality : kQualities) {
-        const QString path = pathFor(kTypes[0]);
-        QFile::remove(path);
-        const auto writer = begin(path, settingsFor(kTypes[0], quality));
-        ASSERT_TRUE(writer && writeBlocks(*writer, samples, 2) && writer->finish());
-        const auto file = open(path);
+    for (const Quality& quality : {kQualities[0], kQualities[1], kQualities[2], {48000, 2, 127}}) {
+        const QString path = record(kTypes[0], quality, samples);
+        const auto file = open(path).file;
         const auto client = clientFormat(quality.rate, static_cast<std::uint32_t>(quality.channels));
         file->setClientDataFormat(client);
-        EXPECT_EQ(readPlanes(*file, client), decodeSound(path)->planes) << quality.rate;
+        const auto planes = readPlanes(*file, client);
+        EXPECT_EQ(planes, decodeSound(path)->planes) << quality.rate;
+        for (std::size_t i = 0; quality.rate == 48000 && i < kFrames; ++i) {
+            ASSERT_NEAR(planes[1][i], samples[2 * i + 1], 1.0 / 32768) << i;
+        }
+    }
+}
+
+TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
+    const QString pipe = m_folder.filePath(QStringLiteral("pipe.wav"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    struct Case {
+        QString path;
+        AudioStatus status;
+    };
+    // IMA4 of a million channels.
+    const QByteArray channels =
+        QByteArray(
+            "caff\0\1\0\0desc\0\0\0\0\0\0\0\x20\x40\xbf\x40\0\0\0\0\0ima4\0\0\0\0\0\0\0\x44\0\0\0\x40\0\x10\0\1\0\0\0\0"
+            "data\xff\xff\xff\xff\xff\xff\xff\xff\0\0\0\1",
+            68) +
+        QByteArray(1400, '\1');
+    std::vector<Case> cases = {
+        {file(QStringLiteral("channels.caf"), channels), kAudioFileUnsupportedDataFormatError},
+        {m_folder.filePath(QStringLiteral("missing.m4a")), kAudioFileFileNotFoundError},
+        {QStringLiteral("http://localhost/a.m4a"), kAudioFileFileNotFoundError},
+        {QString(), kAudioFileFileNotFoundError},
+        {m_folder.path(), kAudioFileUnsupportedFileTypeError},
+        {pipe, kAudioFileUnsupportedFileTypeError},
+        {QStringLiteral("/dev/zero"), kAudioFileUnsupportedFileTypeError},
+        {file(QStringLiteral("list.m3u8"), "#EXTM3U\n#EXTINF:1,\nfile:///etc/passwd\n"),
+         kAudioFileUnsupportedFileTypeError},
+    };
+    for (const char* extension : {"m4a", "wav", "caf", "aac", "mp3", "m3u8"}) {
+        for (const QByteArray& bytes : {QByteArray(), QByteArray("a line of text\n").repeated(3000),
+                                        QByteArray(5000, '\0'), QByteArray(5000, '\xff')}) {
+            const QString name = QStringLiteral("%1.%2").arg(cases.size()).arg(QLatin1String(extension));
+            cases.push_back({file(name, bytes), kAudioFileUnsupportedFileTypeError});
+        }
+    }
+    for (const auto& [path, status] : cases) {
+        EXPECT_EQ(open(path).status, status) << qPrintable(path);
+        // A file may tell its length and yet not be fit to be read.
+        EXPECT_LE(m_durations.durationOfFile(path), status == kAudioFileUnsupportedDataFormatError ? 1 : 0)
+            << qPrintable(path);
+    }
+    const QString secret = file(QStringLiteral("secret.wav"), wav(1, 8000, 10));
+    ASSERT_TRUE(QFile::setPermissions(secret, {}));
+    EXPECT_EQ(open(secret).status, ::geteuid() == 0 ? kAudioNoError : kAudioFilePermissionsError);
+    for (const QByteArray& bytes : {wav(1, 8000, 0), wav(1, 8000, 0).left(40), wav(0, 8000, 10), wav(2, 0, 10)}) {
+        EXPECT_EQ(open(file(QStringLiteral("none.wav"), bytes)).length, 0);
+    }
+}
+
+TEST_F(ReadingTest, OddFilesAndNamesAreRead) {
+    for (const auto& [channels, rate, frames] : {std::tuple(8, 8000, 4000), {1, 192000, 96000}, {1, 44100, 1}}) {
+        const Opened odd = open(file(QStringLiteral("odd.m4a"), wav(channels, rate, frames)));
+        ASSERT_TRUE(odd.file);
+        EXPECT_EQ(odd.length, frames);
+        EXPECT_EQ(odd.format.channelsPerFrame, static_cast<std::uint32_t>(channels));
+        const auto samples = readAll(odd)[1];
+        EXPECT_TRUE(samples.size() == static_cast<std::size_t>(frames) && samples[0] > 0.05F && samples[0] < 0.2501F);
+    }
+    const QByteArray bytes = wav(2, 8000, 4000) + QByteArray("LIST\x14\0\0\0INFOINAM\x08\0\0\0Meeting\0", 28);
+    const QString original = file(QStringLiteral("original.wav"), bytes);
+    for (const char* name : {"two words.wav", "'quoted' \"twice\".wav", "new\nline.wav", "latin \xe9\xff.wav",
+                             "%20%s.wav", "file:a.wav", "-a.wav"}) {
+        // Qt would not find all of them by their names.
+        const std::string path = m_folder.path().toStdString() + "/" + name;
+        std::filesystem::copy_file(original.toStdString(), path);
+        const Opened odd = open(path);
+        std::filesystem::remove(path);
+        ASSERT_TRUE(odd.file) << name;
+        EXPECT_EQ(odd.length, 4000) << name;
+        AudioFileInfo info;
+        odd.file->infoDictionary(info);
+        EXPECT_EQ(info["title"], "Meeting") << name;
+    }
+}
+
+TEST_F(ReadingTest, FilesBeyondFourGigabytesHaveTheirWholeLength) {
+    // Mono, 16 bits, 8000 Hz.
+    const QByteArray header(
+        "RF64\xff\xff\xff\xffWAVEds64\x1c\0\0\0\0\0\0\0\1\0\0\0\0\0\0\0\2\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+        "fmt \x10\0\0\0\1\0\1\0\x40\x1f\0\0\x80\x3e\0\0\2\0\x10\0"
+        "data\xff\xff\xff\xff",
+        80);
+    const QString path = file(QStringLiteral("long.wav"), header);
+    ASSERT_TRUE(QFile::resize(path, 80 + (qint64{2} << 32)));
+    EXPECT_NEAR(m_durations.durationOfFile(path), 536870.912, 1e-6);
+    EXPECT_EQ(open(path).length, qint64{1} << 32);
+}
+
+TEST_F(ReadingTest, FilesThatEndTooSoonAreReadAsFarAsTheyGo) {
+    for (const Type& type : kTypes) {
+        SCOPED_TRACE(type.extension);
+        const QString path = record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 40));
+        // While a reader has it open.
+        const Opened whole = open(path);
+        ASSERT_TRUE(QFile::resize(path, QFile(path).size() * 6 / 10));
+        EXPECT_LT(readAll(whole)[0].size(), whole.length * 62 / 100);
+        // And before one opens it. A movie's tables may stand at its end, and be gone.
+        const Opened cut = open(path);
+        EXPECT_LT(cut.length, whole.length * 62 / 100);
+        if (!std::string_view(type.container).starts_with("mov")) {
+            EXPECT_GT(cut.length, whole.length * 58 / 100);
+            EXPECT_GT(levelOf(std::span(readAll(cut)[0]).last(20000)), -12);
+        }
+        for (const int bytes : {1, 12, 44, 100, 700}) {
+            ASSERT_TRUE(QFile::resize(path, bytes));
+            EXPECT_LT(open(path).length, 3000) << bytes;
+            EXPECT_LT(m_durations.durationOfFile(path), 0.1) << bytes;
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <array>
 #include <cmath>
@@ -25,6 +26,7 @@ struct Type {
     /// Frames that stand before the first one written.
     int priming;
     double decibels;
+    int bits = 8;
 };
 
 inline constexpr std::array<Type, 5> kTypes{{
@@ -48,6 +50,7 @@ inline AudioRecordSettings settingsFor(const Type& type, const Quality& quality)
     settings.formatID = type.formatID;
     settings.sampleRate = quality.rate;
     settings.numberOfChannels = quality.channels;
+    settings.linearPCMBitDepth = type.bits;
     settings.encoderAudioQuality = quality.value;
     settings.sampleRateConverterAudioQuality = quality.value;
     return settings;
@@ -99,6 +102,38 @@ protected:
             return nullptr;
         }
         return std::move(*writer);
+    }
+
+    /// Records samples over what is there; as a killed program would leave it where it is not finished.
+    QString record(const Type& type, const Quality& quality, const std::vector<float>& samples,
+                   const AudioInputFormat& input = kStereo, bool isFinished = true) {
+        const QString path = pathFor(type);
+        QFile::remove(path);
+        auto writer = FfmpegAudioFileWriters().create(path, settingsFor(type, quality));
+        EXPECT_TRUE(writer && (*writer)->setInputFormat(input) && writeBlocks(**writer, samples, input.channels) &&
+                    (!isFinished || (*writer)->finish()));
+        return path;
+    }
+
+    QString file(const QString& name, const QByteArray& bytes) const {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+
+    static QByteArray contents(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    /// What FFmpeg's program makes of a file: what others bring in.
+    QString converted(const QString& from, const QString& name, const char* arguments) const {
+        const QStringList all = QStringLiteral("-v error -nostdin -y -i").split(QLatin1Char(' ')) + QStringList{from} +
+                                QString::fromLatin1(arguments).split(QLatin1Char(' ')) +
+                                QStringList{m_folder.filePath(name)};
+        EXPECT_EQ(QProcess::execute(QStringLiteral("ffmpeg"), all), 0) << arguments;
+        return all.last();
     }
 
     static constexpr AudioInputFormat kStereo{48000, 2};

@@ -15,12 +15,9 @@ namespace {
 
 const auto kPage = static_cast<std::int32_t>(sysconf(_SC_PAGESIZE));
 
-class Ring {
-public:
+struct Ring {
     Ring() { EXPECT_TRUE(TPCircularBufferInit(&buffer, 1)); }
     ~Ring() { TPCircularBufferCleanup(&buffer); }
-    Ring(const Ring&) = delete;
-    Ring& operator=(const Ring&) = delete;
 
     TPCircularBuffer buffer;
 };
