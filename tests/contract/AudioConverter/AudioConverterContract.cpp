@@ -4,20 +4,25 @@
 
 #include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "support/ClientBuffers.h"
+#include "support/FakeAudioConverter.h"
 
 namespace tavi::test {
 namespace {
 
+template <class Converters>
 class AudioConverterContract : public ::testing::Test {
 protected:
-    FfmpegAudioConverters m_converters;
+    Converters m_converters;
 };
 
-TEST_F(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
+using Both = ::testing::Types<FakeAudioConverters, FfmpegAudioConverters>;
+TYPED_TEST_SUITE(AudioConverterContract, Both);
+
+TYPED_TEST(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
     const auto input = clientFormat(44100, 2, true);
     const auto output = clientFormat(44100, 2);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(m_converters.create(input, output, converter), kAudioNoError);
+    ASSERT_EQ(this->m_converters.create(input, output, converter), kAudioNoError);
     // Blocks of 7 frames, whatever is asked for; 70 frames in all.
     ClientBuffers block(input, 7);
     float next = 0;
@@ -36,20 +41,20 @@ TEST_F(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
         ClientBuffers buffers(output, wanted);
         std::uint32_t packets = wanted;
         ASSERT_EQ(converter->fillComplexBuffer(procedure, packets, buffers.list(), nullptr), kAudioNoError);
-        const auto samples = buffers.samples<float>(0);
+        const auto samples = buffers.template samples<float>(0);
         EXPECT_EQ(samples.size(), packets);
         left.insert(left.end(), samples.begin(), samples.end());
-        EXPECT_TRUE(packets == 0 || buffers.samples<float>(1).back() == -samples.back());
+        EXPECT_TRUE(packets == 0 || buffers.template samples<float>(1).back() == -samples.back());
     }
     std::vector<float> expected(70);
     std::iota(expected.begin(), expected.end(), 0.0F);
     EXPECT_EQ(left, expected);
 }
 
-TEST_F(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
+TYPED_TEST(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
     const auto format = clientFormat(44100, 1);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(m_converters.create(format, format, converter), kAudioNoError);
+    ASSERT_EQ(this->m_converters.create(format, format, converter), kAudioNoError);
     ClientBuffers buffers(format, 10);
     std::uint32_t packets = 10;
     EXPECT_EQ(converter->fillComplexBuffer([](auto&, auto&) { return kAudioFilePermissionsError; }, packets,
@@ -59,11 +64,12 @@ TEST_F(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
 
     AudioStreamBasicDescription compressed;
     compressed.formatID = kAudioFormatMPEG4AAC;
-    EXPECT_EQ(m_converters.create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
+    EXPECT_EQ(this->m_converters.create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
     EXPECT_FALSE(converter);
 }
 
-TEST_F(AudioConverterContract, SamplesOfEverySizeKeepTheirLevel) {
+TEST(FfmpegAudioConvertersTest, SamplesOfEverySizeKeepTheirLevel) {
+    FfmpegAudioConverters converters;
     const auto floats = clientFormat(8000, 1);
     const std::vector<float> values = {0, 0.25F, -0.5F, -1, 1.5F, -7};
     const std::vector<float> clipped = {0, 0.25F, -0.5F, -1, 1, -1};
@@ -77,7 +83,7 @@ TEST_F(AudioConverterContract, SamplesOfEverySizeKeepTheirLevel) {
         std::memcpy(input.list().buffers[0].data, values.data(), 24);
         const auto convert = [&](auto& from, ClientBuffers& source, auto& to, ClientBuffers& target) {
             std::unique_ptr<AudioConverter> converter;
-            ASSERT_EQ(m_converters.create(from, to, converter), kAudioNoError);
+            ASSERT_EQ(converters.create(from, to, converter), kAudioNoError);
             std::uint32_t packets = 6;
             const auto procedure = [&](auto&, auto& data) { return data = &source.list(), kAudioNoError; };
             ASSERT_EQ(converter->fillComplexBuffer(procedure, packets, target.list(), nullptr), kAudioNoError);
@@ -90,17 +96,18 @@ TEST_F(AudioConverterContract, SamplesOfEverySizeKeepTheirLevel) {
     }
 }
 
-TEST_F(AudioConverterContract, CodecsTellTheirPackets) {
+TEST(FfmpegAudioConvertersTest, CodecsTellTheirPackets) {
+    const FfmpegAudioConverters converters;
     AudioStreamBasicDescription unknown = clientFormat(8000, 1);
     unknown.formatID = fourCharacterCode("none");
-    EXPECT_EQ(m_converters.formatInfo(unknown), kAudioFileUnsupportedDataFormatError);
+    EXPECT_EQ(converters.formatInfo(unknown), kAudioFileUnsupportedDataFormatError);
     const auto packet = [&](std::uint32_t codec, double rate, std::uint32_t frames = 0) {
         AudioStreamBasicDescription format;
         format.formatID = codec;
         format.sampleRate = rate;
         format.channelsPerFrame = 1;
         format.framesPerPacket = frames;
-        EXPECT_EQ(m_converters.formatInfo(format), kAudioNoError);
+        EXPECT_EQ(converters.formatInfo(format), kAudioNoError);
         return std::pair(format.framesPerPacket, format.bytesPerPacket);
     };
     EXPECT_EQ(packet(kAudioFormatMPEG4AAC, 44100), std::pair(1024U, 0U));

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "support/ClientBuffers.h"
+#include "support/FakeAudioConverter.h"
 #include "support/FakeExtAudioFile.h"
 #include "support/ManualRunLoop.h"
 
@@ -66,7 +66,7 @@ protected:
 
     ManualRunLoop m_runLoop;
     FakeExtAudioFiles m_files;
-    FfmpegAudioConverters m_converters;
+    FakeAudioConverters m_converters;
     EZAudioFile::Services m_services{m_files, m_converters, m_runLoop};
 };
 
