@@ -37,8 +37,7 @@ target_compile_definitions(waveform_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KE
 
 add_executable(trimmer_bench trimmer_bench.cpp)
 target_include_directories(trimmer_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-target_link_libraries(trimmer_bench PRIVATE
-  tavi_trimming_ui tavi_trimming_uiplugin tavi_waves_uiplugin tavi_uiplugin tavi_adapter_qt tavi_warnings)
+target_link_libraries(trimmer_bench PRIVATE tavi_screens tavi_adapter_qt tavi_warnings)
 target_compile_definitions(trimmer_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 
 add_executable(export_bench export_bench.cpp)
@@ -47,8 +46,5 @@ target_compile_definitions(export_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYW
 
 add_executable(scroll_bench scroll_bench.cpp)
 target_include_directories(scroll_bench PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-target_link_libraries(scroll_bench PRIVATE
-  tavi_main_ui tavi_main_uiplugin tavi_uiplugin tavi_waves_uiplugin tavi_recording_uiplugin tavi_library_uiplugin
-  tavi_trimming_uiplugin
-    tavi_app_uiplugin tavi_test_support Qt6::Quick tavi_warnings)
+target_link_libraries(scroll_bench PRIVATE tavi_screens tavi_test_support Qt6::Quick tavi_warnings)
 target_compile_definitions(scroll_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)

@@ -1,23 +1,15 @@
 // Scrolling a library of ten thousand recordings in a phone's window, rendered in software: how long a picture takes
 // from the movement of the list until it is there.
 
-#include <QtQml/qqmlextensionplugin.h>
 #include <QElapsedTimer>
 #include <QFont>
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstdio>
 
+#include "Screens.h"
 #include "ui/Shell.h"
 #include "ui/Texts.h"
-
-Q_IMPORT_QML_PLUGIN(TaviPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
 
 namespace {
 

@@ -1,6 +1,5 @@
 // How long the trimmer takes from being asked for to its first picture, and from a step of a finger to the next one.
 
-#include <QtQml/qqmlextensionplugin.h>
 #include <QFont>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
@@ -9,6 +8,7 @@
 #include <chrono>
 #include <cstdio>
 
+#include "Screens.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
@@ -20,10 +20,6 @@
 #include "support/TemporaryContainer.h"
 #include "trimming/AudioTrimmerStage.h"
 #include "ui/Texts.h"
-
-Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
 
 namespace {
 

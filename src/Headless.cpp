@@ -16,7 +16,6 @@
 #include "app/Commands.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
-#include "library/utility/DateTexts.h"
 #include "library/utility/NativePath.h"
 #include "trimming/TrimRules.h"
 #include "trimming/waves/EZAudioPlotPainter.h"
@@ -134,12 +133,11 @@ Result<AssetTimeRange> rangeOf(const CommandLine& line, const Asset& asset) {
 
 /// A name among the recordings that nothing has yet.
 QByteArray freeNameFor(const QByteArray& file, const AppContainer& container, const Clock& clock) {
-    const QByteArray base =
-        QFile::encodeName(container.documentsPath() + QStringLiteral("/Trim_") + fileBaseName(clock.now(), QLocale()));
-    const QByteArray extension = '.' + trimrules::pathExtension(file);
-    QByteArray name = base + extension;
+    const QByteArray first = trimrules::outputPath(container.documentsPath(), clock.now(), file);
+    const qsizetype point = first.size() - trimrules::pathExtension(file).size() - 1;
+    QByteArray name = first;
     for (int number = 2; existsAt(name); ++number) {
-        name = base + '_' + QByteArray::number(number) + extension;
+        name = first.left(point) + '_' + QByteArray::number(number) + first.mid(point);
     }
     return name;
 }

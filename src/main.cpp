@@ -1,4 +1,3 @@
-#include <QtQml/qqmlextensionplugin.h>
 #include <QDBusConnection>
 #include <QFont>
 #include <QGuiApplication>
@@ -9,6 +8,7 @@
 #include <cstdio>
 
 #include "Headless.h"
+#include "Screens.h"
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
@@ -38,14 +38,6 @@
 #include "ui/AlertPresenter.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
-
-Q_IMPORT_QML_PLUGIN(TaviPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
 
 namespace tavi {
 

@@ -1,12 +1,11 @@
 # The program.
-qt_add_executable(tavi Headless.cpp Headless.h main.cpp)
+qt_add_executable(tavi Headless.cpp Headless.h Screens.h main.cpp)
 target_compile_definitions(tavi PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 target_link_libraries(tavi PRIVATE
   tavi_app tavi_command_line tavi_trimming tavi_waves_painting
-  tavi_main_ui tavi_main_uiplugin tavi_uiplugin tavi_waves_uiplugin tavi_recording_uiplugin tavi_library_uiplugin
-  tavi_trimming_uiplugin
-  tavi_app_uiplugin
-  tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_player tavi_adapter_quick tavi_adapter_dbus tavi_adapter_desktop
+  tavi_screens
+  tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_player tavi_adapter_quick
+  tavi_adapter_dbus tavi_adapter_desktop
   tavi_warnings)
 # Without it the program starts and can neither record nor tell durations.
 add_dependencies(tavi tavi_media)

@@ -3,11 +3,9 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QLoggingCategory>
 #include <QPointer>
 
-#include "library/utility/DateTexts.h"
 #include "library/utility/FileMove.h"
 #include "library/utility/NativePath.h"
 #include "trimming/TrimRules.h"
@@ -181,9 +179,8 @@ void AudioTrim::trimAudio() {
     m_isTrimmed = true;
     m_indicatorText = qtTrId("trim_progress");
     Q_EMIT outletsChanged();
-    const QString date = fileBaseName(m_services.runLoop.clock().now(), QLocale());
-    m_outputPath = QFile::encodeName(m_services.container.documentsPath() + QStringLiteral("/Trim_%1.").arg(date)) +
-                   trimrules::pathExtension(m_fileName);
+    m_outputPath =
+        trimrules::outputPath(m_services.container.documentsPath(), m_services.runLoop.clock().now(), m_fileName);
     removeAt(m_outputPath);
     if (!exportAsset(m_services.exports.assetWithURL(m_fileName), m_outputPath)) {
         m_indicatorText.clear();

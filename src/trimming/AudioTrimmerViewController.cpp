@@ -2,10 +2,8 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLocale>
 #include <utility>
 
-#include "library/utility/DateTexts.h"
 #include "library/utility/NativePath.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerStage.h"
@@ -146,10 +144,8 @@ void AudioTrimmerViewController::resetAudioPlayer() {
 
 void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> completion) {
     if (m_strTrimmedAudioURL.isEmpty()) {
-        const QString date = fileBaseName(m_services.runLoop.clock().now(), QLocale());
-        m_strTrimmedAudioURL =
-            QFile::encodeName(m_services.container.documentsPath() + QStringLiteral("/Trim_%1.").arg(date)) +
-            trimrules::pathExtension(nameOf(m_input.getFileName));
+        m_strTrimmedAudioURL = trimrules::outputPath(m_services.container.documentsPath(),
+                                                     m_services.runLoop.clock().now(), m_input.getFileName);
     }
     if (!m_asset) {
         return;

@@ -1,6 +1,10 @@
 #include "trimming/TrimRules.h"
 
+#include <QFile>
+#include <QLocale>
 #include <algorithm>
+
+#include "library/utility/DateTexts.h"
 
 namespace tavi::trimrules {
 
@@ -65,6 +69,11 @@ QString timeFormatted(double seconds, bool isWithMinutes) {
 QByteArray pathExtension(const QByteArray& name) {
     const auto dot = name.lastIndexOf('.');
     return dot > name.lastIndexOf('/') + 1 ? name.mid(dot + 1) : QByteArray();
+}
+
+QByteArray outputPath(const QString& folder, const QDateTime& date, const QByteArray& name) {
+    return QFile::encodeName(folder + QStringLiteral("/Trim_") + fileBaseName(date, QLocale()) + QLatin1Char('.')) +
+           pathExtension(name);
 }
 
 AssetFileType outputFileType(const QByteArray& name) {

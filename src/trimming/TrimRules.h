@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 #include "platform/AssetExportSession.h"
@@ -53,6 +54,9 @@ QString timeFormatted(double seconds, bool isWithMinutes);
 
 /// What follows the last point of a file's name; empty where there is none, or nothing before it. In the name's bytes.
 QByteArray pathExtension(const QByteArray& name);
+
+/// Where a part of a file of that name goes: "Trim_" and the date, in a folder, with the name's extension; in bytes.
+QByteArray outputPath(const QString& folder, const QDateTime& date, const QByteArray& name);
 
 /// What an export writes for a file of that name, its extension in any case: any name gets a type.
 AssetFileType outputFileType(const QByteArray& name);

@@ -1,20 +1,12 @@
 #include <gmock/gmock.h>
 
-#include <QtQml/qqmlextensionplugin.h>
 #include <QAccessible>
 #include <QFont>
 #include <QGuiApplication>
 #include <QQuickWindow>
 
+#include "Screens.h"
 #include "ui/Texts.h"
-
-Q_IMPORT_QML_PLUGIN(TaviPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_UiPlugin)
-Q_IMPORT_QML_PLUGIN(Tavi_WavesPlugin)
 
 namespace {
 

@@ -72,7 +72,7 @@ TEST(TrimRules, ChooseTheTypeByTheName) {
     const Case cases[] = {
         {"a.wav", "wav", AssetFileType::Wave},     {"a.b.caf", "caf", AssetFileType::CoreAudioFormat},
         {"a.m4a", "m4a", AssetFileType::AppleM4A}, {"a.mp3", "mp3", AssetFileType::AppleM4A},
-        {"a.WAV", "WAV", AssetFileType::Wave}, {"wav", "", AssetFileType::AppleM4A},
+        {"a.WAV", "WAV", AssetFileType::Wave},     {"wav", "", AssetFileType::AppleM4A},
         {".wav", "", AssetFileType::AppleM4A},     {"x.y/.wav", "", AssetFileType::AppleM4A},
         {"a.", "", AssetFileType::AppleM4A},
     };
