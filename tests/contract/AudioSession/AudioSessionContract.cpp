@@ -30,7 +30,7 @@ private:
 class PulseSessionWorld {
 public:
     AudioSession& session() { return m_session; }
-    void removeMicrophone() { m_server.unloadModule(QStringLiteral("module-remap-source")); }
+    void removeMicrophone() { m_server.removeMicrophones(); }
     void removeServer() { m_server.kill(); }
     void answerQuestions() {}
 
@@ -46,8 +46,7 @@ protected:
         std::promise<bool> answer;
         m_world.session().requestRecordPermission([&answer](bool granted) { answer.set_value(granted); });
         m_world.answerQuestions();
-        auto future = answer.get_future();
-        return future.wait_for(std::chrono::seconds(10)) == std::future_status::ready && future.get();
+        return answer.get_future().get();
     }
     Result<void> setCategory() {
         return m_world.session().setCategory(AudioSession::Category::PlayAndRecord,
