@@ -71,6 +71,11 @@ ChildProcess::~ChildProcess() {
     waitpid(m_pid, nullptr, 0);
 }
 
+bool ChildProcess::isRunning() const {
+    siginfo_t end{};
+    return waitid(P_PID, static_cast<id_t>(m_pid), &end, WEXITED | WNOHANG | WNOWAIT) == 0 && end.si_pid == 0;
+}
+
 PrivatePulse::PrivatePulse() {
     qputenv("PULSE_SERVER", "unix:" + m_folder.filePath(QStringLiteral("native")).toLocal8Bit());
     qputenv("PULSE_COOKIE", m_folder.filePath(QStringLiteral("cookie")).toLocal8Bit());

@@ -23,6 +23,7 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     pid_t pid() const { return m_pid; }
+    bool isRunning() const;
 
 private:
     pid_t m_pid = 0;
