@@ -3,15 +3,12 @@
 #include <QDBusPendingCall>
 #include <QFile>
 
-#include "adapters/dbus/BusNames.h"
-#include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
 #include "support/Fakes.h"
 #include "support/PrivateBus.h"
-#include "support/RecordingDelegate.h"
 
 namespace tavi::test {
 
@@ -219,29 +216,6 @@ TEST_P(MailThroughProgram, TellsWhyItFailed) {
     hostile.recipient = QStringLiteral("--attach=/etc/passwd@");
     EXPECT_FALSE(XdgEmail::arguments(hostile).contains(hostile.recipient));
 }
-
-class ApplicationContract : public Desktop {};
-
-TEST_P(ApplicationContract, TellsTheDelegate) {
-    FakeApplication fake;
-    DBusApplication real(m_service, PrivateBus::none(), busNameForContainer(QString()));
-    Application& application = isFake() ? static_cast<Application&>(fake) : real;
-    RecordingDelegate delegate;
-    application.setDelegate(&delegate);
-    if (isFake()) {
-        fake.delegate->applicationOpenURL(QUrl(QStringLiteral("tavirecordstop:")));
-    } else {
-        ASSERT_EQ(real.claim(), DBusApplication::Claim::First);
-        real.launchFinished();
-        QDBusMessage call = QDBusMessage::createMethodCall(busNameForContainer(QString()), kApplicationObjectPath,
-                                                           kApplicationInterface, QStringLiteral("Open"));
-        m_client.asyncCall(call << QStringList{QStringLiteral("TaviRecordStop:")} << QVariantMap());
-    }
-    ASSERT_TRUE(spinUntil([&delegate] { return !delegate.calls.isEmpty(); }));
-    EXPECT_EQ(delegate.calls, QStringList{QStringLiteral("open tavirecordstop:")});
-}
-
-INSTANTIATE_TEST_SUITE_P(All, ApplicationContract, ::testing::Values(Kind::Fake, Kind::Nothing));
 
 }  // namespace
 
