@@ -17,22 +17,13 @@ enum class Kind { Temporary, BelowRelative, Xdg };
 
 class AppContainerContract : public ::testing::TestWithParam<Kind> {
 protected:
-    void SetUp() override {
-        m_workingDirectory = QDir::currentPath();
+    AppContainerContract() {
         QDir::setCurrent(m_folder.path());
-        for (const auto& [name, folder] :
-             {std::pair("HOME", ""), std::pair("XDG_CACHE_HOME", "/cache"), std::pair("XDG_CONFIG_HOME", "/config"),
-              std::pair("XDG_DATA_HOME", "/data")}) {
-            m_environment.emplace_back(name, qgetenv(name));
-            qputenv(name, (m_folder.path() + QLatin1String(folder)).toUtf8());
-        }
-    }
-
-    void TearDown() override {
-        QDir::setCurrent(m_workingDirectory);
-        for (const auto& [name, value] : m_environment) {
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
+        const QByteArray folder = m_folder.path().toUtf8();
+        qputenv("HOME", folder);
+        qputenv("XDG_CACHE_HOME", folder + "/cache");
+        qputenv("XDG_CONFIG_HOME", folder + "/config");
+        qputenv("XDG_DATA_HOME", folder + "/data");
     }
 
     std::unique_ptr<AppContainer> make() const {
@@ -43,10 +34,6 @@ protected:
     }
 
     QTemporaryDir m_folder;
-
-private:
-    QString m_workingDirectory;
-    std::vector<std::pair<const char*, QByteArray>> m_environment;
 };
 
 TEST_P(AppContainerContract, FoldersExistAndAreApart) {
