@@ -107,7 +107,6 @@ class Recording(AppTest):
                 self.assertEqual(saved.suffix, "." + file_type)
                 found = probe(saved)
                 self.assertEqual({key: found[key] for key in expected}, expected)
-                self.assertAlmostEqual(found["duration"], Sound(saved).seconds, delta=0.1 if file_type != "aac" else 1.0)
                 self.assert_holds_tone(saved, tolerance=tolerance)
 
     def test_keys_record_pause_resume_stop_and_choose_tabs(self):
@@ -153,7 +152,7 @@ class Recording(AppTest):
 
 
 class Playing(AppTest):
-    PLAYER = ("org.mpris.MediaPlayer2.tavi", "/org/mpris/MediaPlayer2", "org.mpris.MediaPlayer2.Player")
+    PLAYER = "org.mpris.MediaPlayer2.Player"
 
     def setUp(self):
         super().setUp()
@@ -163,17 +162,15 @@ class Playing(AppTest):
         self.tavi("set", "ForwardSong", "15")
         self.start("library")
 
+    def call(self, method, *arguments, interface=PLAYER, check=True):
+        return self.desktop.run("gdbus", "call", "--session", "--dest", "org.mpris.MediaPlayer2.tavi", "--object-path",
+                                "/org/mpris/MediaPlayer2", "--method", f"{interface}.{method}", *arguments,
+                                check=check).stdout
+
     def player(self, name):
-        destination, path, interface = self.PLAYER
-        said = self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
-                                "org.freedesktop.DBus.Properties.Get", interface, name, check=False).stdout
+        said = self.call("Get", self.PLAYER, name, interface="org.freedesktop.DBus.Properties", check=False)
         value = re.search(r"<(?:\w+ )?'?([^'>]+)'?>", said)
         return value and value.group(1)
-
-    def call(self, method, *arguments):
-        destination, path, interface = self.PLAYER
-        self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
-                         f"{interface}.{method}", *arguments)
 
     def position(self):
         return int(self.player("Position")) / 1e6
