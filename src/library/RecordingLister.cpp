@@ -117,8 +117,7 @@ RecordingEntry RecordingLister::entryOf(const QByteArray& name, const QByteArray
     double duration = 0.0;
     // Folders are listed like files, on purpose: a stray one is seen, and has no length. A pipe would block its reader.
     if (S_ISREG(attributes.st_mode)) {
-        const Identity identity{attributes.st_dev, attributes.st_ino, attributes.st_size, attributes.st_mtim.tv_sec,
-                                attributes.st_mtim.tv_nsec};
+        const FileIdentity identity(attributes);
         const auto known = m_known.constFind(identity);
         if (known == m_known.constEnd()) {
             m_open.push_back({name, path, identity});

@@ -8,10 +8,9 @@
 #include <vector>
 
 #include "library/RecordingEntry.h"
+#include "library/utility/FileIdentity.h"
 #include "platform/AudioDuration.h"
 #include "platform/RunLoop.h"
-
-struct stat;
 
 namespace tavi {
 
@@ -47,23 +46,10 @@ public:
     QString durationText(const QByteArray& nativeName) const;
 
 private:
-    /// A file and its contents, as far as the file system tells them apart.
-    struct Identity {
-        quint64 device = 0;
-        quint64 node = 0;
-        qint64 size = 0;
-        qint64 seconds = 0;
-        qint64 nanoseconds = 0;
-
-        bool operator==(const Identity&) const = default;
-        friend std::size_t qHash(const Identity& identity, std::size_t seed) {
-            return qHashMulti(seed, identity.node, identity.size, identity.seconds, identity.nanoseconds);
-        }
-    };
     struct OpenFile {
         QByteArray name;
         QByteArray path;
-        Identity identity;
+        FileIdentity identity;
     };
     /// One run of measure(); it is over when nobody holds it any more.
     struct Pass {
@@ -79,14 +65,14 @@ private:
     const AudioDuration& m_durations;
     RunLoop& m_runLoop;
     /// Seconds.
-    QHash<Identity, double> m_known;
+    QHash<FileIdentity, double> m_known;
     /// Dates as shown by the minute, for as long as language and time zone are the same.
     QHash<qint64, QString> m_dates;
     QLocale m_datesLocale;
     QByteArray m_datesZone;
     /// What the last list() left open.
     std::vector<OpenFile> m_open;
-    QHash<QByteArray, Identity> m_openByName;
+    QHash<QByteArray, FileIdentity> m_openByName;
     std::shared_ptr<Pass> m_pass;
 };
 

@@ -18,7 +18,7 @@ MODULES = {
     "app/settings": [],
     "app/cli": [],
     "library/utility": [],
-    "trimming/waves": ["API/AudioTrimmerController/EZAudio"],
+    "trimming/waves": ["API/AudioTrimmerController/EZAudio", "library/utility"],
     "cloud": [],
     "watch": [],
     "passcode": ["app/settings"],

@@ -33,8 +33,7 @@ public:
             if (!isRunning()) {
                 return;
             }
-            const QString path = QFile::decodeName(outputURL);
-            QFile file(path);
+            QFile file(QFile::decodeName(outputURL));
             const bool isTypeUsable = preset == AssetExportPreset::Passthrough
                                           ? outputFileType.has_value()
                                           : outputFileType == AssetFileType::AppleM4A;
@@ -92,7 +91,6 @@ public:
             m_runLoop.dispatchBackground([state = m_state] { state->end(AssetExportStatus::Cancelled, {}); });
         }
     }
-    /// Ends the export here and now; it must not be held back.
     /// Ends the export here and now, as if its time had passed.
     void waitUntilFinished() override { m_state->finish(); }
     AssetExportStatus status() const override { return m_state->status; }
@@ -164,12 +162,13 @@ public:
         return asset;
     }
     std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override {
-        return asset.audioTracks.empty() ? std::vector<AssetExportPreset>{} : presets;
+        return asset.audioTracks.empty() ? std::vector<AssetExportPreset>{}
+                                         : std::vector{AssetExportPreset::Passthrough, AssetExportPreset::AppleM4A,
+                                                       AssetExportPreset::HighestQuality};
     }
     Result<std::unique_ptr<AssetExportSession>> exportSession(const Asset& asset, AssetExportPreset preset) override {
-        const auto compatible = exportPresetsCompatibleWithAsset(asset);
-        if (std::find(compatible.begin(), compatible.end(), preset) == compatible.end()) {
-            return failure(QStringLiteral("The preset does not fit."));
+        if (asset.audioTracks.empty()) {
+            return failure(QStringLiteral("There is no sound."));
         }
         sessions.push_back(std::make_shared<FakeAssetExportSession::State>());
         sessions.back()->asset = asset;
@@ -186,8 +185,6 @@ public:
 
     /// Any other name is no sound file.
     QMap<QByteArray, File> files;
-    std::vector<AssetExportPreset> presets{AssetExportPreset::Passthrough, AssetExportPreset::AppleM4A,
-                                           AssetExportPreset::HighestQuality};
     /// Exports end only by finish() or end() of their state.
     bool areExportsHeldBack = false;
     /// In the order in which they were made.

@@ -25,10 +25,7 @@ public:
     FakeAudioPlayer& operator=(const FakeAudioPlayer&) = delete;
 
     void setDelegate(AudioPlayerDelegate* delegate) override { m_delegate = delegate; }
-    bool prepareToPlay() override {
-        m_isPrepared = !m_hasFailed;
-        return m_isPrepared;
-    }
+    bool prepareToPlay() override { return !m_hasFailed; }
     bool play() override {
         if (!m_isPlaying && prepareToPlay()) {
             m_time = m_time >= m_duration ? 0.0 : m_time;
@@ -41,10 +38,7 @@ public:
         settle();
         m_isPlaying = false;
     }
-    void stop() override {
-        pause();
-        m_isPrepared = false;
-    }
+    void stop() override { pause(); }
     bool isPlaying() const override { return m_isPlaying; }
     double currentTime() const override {
         const double elapsed = m_isPlaying ? static_cast<double>(m_since.msecsTo(m_runLoop.clock().now())) / 1000 : 0.0;
@@ -71,12 +65,9 @@ public:
     void updateMeters() override { m_power = m_isMetering && m_isPlaying ? -20.0F : -160.0F; }
     float averagePowerForChannel(int channel) const override { return channel < 2 ? m_power : -160.0F; }
 
-    /// Whether the output is open.
-    bool isPrepared() const { return m_isPrepared; }
     /// The file or the sound system is gone.
     void fail() {
         m_hasFailed = true;
-        m_isPrepared = false;
         if (m_isPlaying) {
             finish(false);
         }
@@ -121,7 +112,6 @@ private:
     double m_time = 0.0;
     QDateTime m_since;
     std::shared_ptr<Timer> m_end;
-    bool m_isPrepared = false;
     bool m_isPlaying = false;
     bool m_hasFailed = false;
     bool m_isRateEnabled = false;
@@ -136,12 +126,10 @@ public:
     explicit FakeAudioPlayers(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
     Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const QByteArray& path) override {
-        lastPath = path;
         const auto found = seconds.constFind(path.mid(path.lastIndexOf('/') + 1));
         if (found == seconds.constEnd()) {
             return failure(QStringLiteral("no sound file"));
         }
-        ++made;
         m_last = std::make_shared<FakeAudioPlayer*>(nullptr);
         return std::make_unique<FakeAudioPlayer>(*found, m_runLoop, m_last);
     }
@@ -151,8 +139,6 @@ public:
 
     /// Durations by file name; any other is no sound file.
     QMap<QByteArray, double> seconds;
-    QByteArray lastPath;
-    int made = 0;
 
 private:
     RunLoop& m_runLoop;

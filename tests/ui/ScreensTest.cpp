@@ -2,9 +2,9 @@
 
 #include <QAccessible>
 #include <QDir>
-#include <set>
 
 #include "Shell.h"
+#include "trimming/AudioTrim.h"
 
 namespace tavi::test {
 namespace {
@@ -18,15 +18,11 @@ struct State {
     std::function<void(Shell&)> prepare;
 };
 
-void speak(Shell& shell) {
+void record(Shell& shell) {
+    shell.startRecording();
     for (int i = 0; i < 260; ++i) {
         shell.hear(static_cast<float>(-6 - (i * 37 % 23) - (i / 40 % 2) * 14));
     }
-}
-
-void record(Shell& shell) {
-    shell.startRecording();
-    speak(shell);
 }
 
 void fillLibrary(const Shell& shell) {
@@ -46,20 +42,25 @@ void fillLibrary(const Shell& shell) {
     }
 }
 
-void play(Shell& shell) {
+void showLibrary(Shell& shell) {
     fillLibrary(shell);
-    shell.players.seconds["2024_Feb_12_09_15_00.m4a"] = 245.0;
     shell.library.viewWillAppear();
-    const auto& list = shell.library.arrRecordings();
-    for (std::size_t row = 0; row < list.size(); ++row) {
-        if (list[row].nativeName() == "2024_Feb_12_09_15_00.m4a") {
-            shell.library.didSelectRowAtIndexPath(0, static_cast<int>(row));
-        }
-    }
+}
+
+void play(Shell& shell) {
+    showLibrary(shell);
+    shell.players.seconds[shell.library.arrRecordings().at(5).nativeName()] = 245.0;
+    shell.library.didSelectRowAtIndexPath(0, 5);
     // Past the panel's way in.
     shell.settleFor(700);
     shell.runLoop.advance(75.0);
     shell.player.fastAudio(&shell.library);
+}
+
+void trim(Shell& shell) {
+    TrimSelection& selection = *shell.trim(addTalk(shell)).selection();
+    selection.nudge(true, 12.0);
+    selection.nudge(false, -20.0);
 }
 
 void presentAlert(Shell& shell, const QString& message) {
@@ -75,20 +76,33 @@ const State kStates[] = {
     {"focus", 0, [](Shell& s) { s.key(Qt::Key_Tab); }},
     {"paused", 0, [](Shell& s) { record(s), s.startRecording(); }},
     {"empty", 1, {}},
-    {"list", 1, [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(); }},
+    {"list", 1, showLibrary},
     {"playing", 1, play},
-    {"unplayable", 1,
-     [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(), s.library.didSelectRowAtIndexPath(0, 1); }},
-    {"found", 1,
-     [](Shell& s) { fillLibrary(s), s.library.viewWillAppear(), s.library.setSearchText(QStringLiteral("1")); }},
+    {"unplayable", 1, [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1); }},
+    {"found", 1, [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
     {"settings", 2, {}},
-    {"sheet", 2, [](Shell& s) { s.settings.showExtentionActionsheet(); }},
+    {"sheet", 2, [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
     {"alert", 0, [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},
-    {"alert-one", 0,
+    {"alertOne", 0,
      [](Shell& s) {
          s.presenter.presentAlert({qtTrId("microphone_denied"), qtTrId("access_device_microphone"), {{qtTrId("OK")}}});
      }},
-    {"alert-long", 1, [](Shell& s) { fillLibrary(s), presentAlert(s, kLongText); }},
+    {"alertLong", 1, [](Shell& s) { showLibrary(s), presentAlert(s, kLongText); }},
+    {"trimmer", 1, trim},
+    {"trimmerCrowded", 1, [](Shell& s) { s.trim(addTalk(s)).selection()->nudge(true, 73.5); }},
+    {"trimmerFocus", 1, [](Shell& s) { trim(s), s.item("rightThumb")->forceActiveFocus(Qt::TabFocusReason); }},
+    {"trimmerPlaying", 1,
+     [](Shell& s) { trim(s), s.trimmers.screen()->btnPlayPauseTapped(), s.runLoop.drain(), s.runLoop.advance(14.1); }},
+    {"trimmerExporting", 1,
+     [](Shell& s) {
+         s.assets.areExportsHeldBack = true;
+         trim(s), s.trimmers.screen()->btnUploadTapped();
+         s.assets.sessions.back()->progress = 0.4F;
+         s.runLoop.advance(0.1);
+     }},
+    {"trimmerRecording", 1, [](Shell& s) { trim(s), s.trimmers.screen()->btnResetAudioTapped(); }},
+    {"trimmerUnreadable", 1,
+     [](Shell& s) { s.trim(QFile::encodeName(s.container.addDocument(QStringLiteral("text.txt"), "text"))); }},
 };
 
 QString describe(const QQuickItem& item) {
@@ -114,11 +128,12 @@ QRectF sceneRect(const QQuickItem& item) {
     return item.mapRectToScene(item.boundingRect());
 }
 
-/// Controls can be reached, hit and named; texts lie inside the window and are not cut where they should fit.
-void checkItems(const Shell& shell) {
-    const QRectF window(QPointF(), shell.window->size());
+/// Controls that can be used can be reached, hit and named; texts lie inside the window and are not cut where they
+/// should fit.
+void checkItems(const UserWindow& shown, bool isCovered) {
+    const QRectF window(QPointF(), shown.window->size());
     QList<QQuickItem*> controls;
-    for (QQuickItem* item : shell.visibleItems()) {
+    for (QQuickItem* item : shown.visibleItems()) {
         SCOPED_TRACE(qPrintable(describe(*item)));
         if (item->inherits("QQuickText")) {
             EXPECT_TRUE(scrolls(item) || window.contains(sceneRect(*item)));
@@ -127,12 +142,10 @@ void checkItems(const Shell& shell) {
         }
         // Lists make rows ahead of time, bit by bit.
         const bool isInTheMaking = scrolls(item) && item->size().isEmpty();
-        if (!isControl(*item) || isInTheMaking) {
+        if (!isControl(*item) || !item->isEnabled() || isInTheMaking) {
             continue;
         }
-        controls.append(item);
-        EXPECT_GE(item->height(), 44.0);
-        EXPECT_GE(item->width(), 44.0);
+        EXPECT_GE(std::min(item->width(), item->height()), 44.0);
         EXPECT_TRUE(scrolls(item) || window.contains(sceneRect(*item)));
         QAccessibleInterface* access = QAccessible::queryAccessibleInterface(item);
         ASSERT_NE(access, nullptr);
@@ -140,23 +153,26 @@ void checkItems(const Shell& shell) {
         EXPECT_NE(access->role(), QAccessible::NoRole);
         EXPECT_NE(access->role(), QAccessible::Client);
         EXPECT_TRUE(access->state().focusable);
-    }
-    for (qsizetype i = 0; i < controls.size(); ++i) {
-        for (qsizetype j = i + 1; j < controls.size(); ++j) {
-            const bool overlap = sceneRect(*controls[i]).adjusted(1, 1, -1, -1).intersects(sceneRect(*controls[j]));
-            const bool isCovered = shell.presenter.isActive() || scrolls(controls[i]) != scrolls(controls[j]);
-            EXPECT_TRUE(!overlap || isCovered) << qPrintable(describe(*controls[i]) + describe(*controls[j]));
+        for (const QQuickItem* other : controls) {
+            const bool overlap = sceneRect(*other).adjusted(1, 1, -1, -1).intersects(sceneRect(*item));
+            EXPECT_TRUE(!overlap || isCovered || scrolls(item) != scrolls(other)) << qPrintable(describe(*other));
         }
+        controls.append(item);
     }
 }
 
-/// With TAVI_PICTURES in the environment the pictures of all states are saved there, to be looked at.
-void save(const QImage& image, const State& state, const QSize& size) {
-    const QString folder = qEnvironmentVariable("TAVI_PICTURES");
-    if (!folder.isEmpty()) {
-        EXPECT_TRUE(QDir().mkpath(folder));
-        EXPECT_TRUE(
-            image.save(QStringLiteral("%1/%2-%3.png").arg(folder, QLatin1String(state.name)).arg(size.width())));
+/// With TAVI_PICTURES in the environment the pictures are saved there, to be looked at.
+void lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) {
+    for (const QSize size : {QSize(390, 844), QSize(360, 640), QSize(1200, 800)}) {
+        SCOPED_TRACE(::testing::Message() << name << " at " << size.width() << "x" << size.height());
+        shown.window->resize(size);
+        const QImage picture = (shown.settle(), checkItems(shown, isCovered), shown.settle());
+        const QString folder = qEnvironmentVariable("TAVI_PICTURES");
+        if (!folder.isEmpty()) {
+            EXPECT_TRUE(QDir().mkpath(folder));
+            EXPECT_TRUE(
+                picture.save(QStringLiteral("%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size.width())));
+        }
     }
 }
 
@@ -168,48 +184,69 @@ TEST_P(Screens, FitEverySize) {
     if (GetParam().prepare) {
         GetParam().prepare(shell);
     }
-    for (const QSize size : {QSize(390, 844), QSize(360, 640), QSize(1200, 800)}) {
-        SCOPED_TRACE(::testing::Message() << GetParam().name << " at " << size.width() << "x" << size.height());
-        shell.resize(size);
-        checkItems(shell);
-        if (shell.recording.isRecordingRunning()) {
-            speak(shell);  // A new size starts the wave anew.
-        }
-        save(shell.settle(), GetParam(), size);
-    }
+    lookAtEverySize(shell, GetParam().name, shell.presenter.isActive());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Screens, ::testing::ValuesIn(kStates), [](const auto& state) {
-    return QString::fromLatin1(state.param.name).remove(QLatin1Char('-')).toStdString();
-});
+INSTANTIATE_TEST_SUITE_P(All, Screens, ::testing::ValuesIn(kStates),
+                         [](const auto& state) { return state.param.name; });
+
+TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
+    FakeServices fakes;
+    FakePresenter presenter;
+    fakes.settings.setCloudSyncOn(true);
+    AudioTrim screen(
+        {fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter, fakes.runLoop},
+        addTalk(fakes), QStringLiteral("1"));
+    screen.viewDidLoad();
+    UserWindow shown;
+    shown.show(R"(
+        import QtQuick
+        import Tavi.Trimming
+        Window {
+            id: window
+            required property AudioTrim controller
+            visible: true
+            width: 390
+            AudioTrimScreen { anchors.fill: parent; screen: window.controller }
+        })",
+               {{QStringLiteral("controller"), QVariant::fromValue(&screen)}});
+    const QQuickItem* thumb = shown.item("minThumb");
+    shown.drag(*thumb, 60.0);
+    EXPECT_GT(screen.leftValue(), 10.0);
+    lookAtEverySize(shown, "trimScreen", false);
+    shown.item("maxThumb")->forceActiveFocus(Qt::TabFocusReason);
+    shown.key(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_NEAR(screen.rightValue(), 72.0, 0.01);
+    for (const auto& [movement, seconds] : {std::pair{900.0, 71.0}, {-2000.0, 0.0}}) {
+        shown.drag(*thumb, movement);
+        EXPECT_NEAR(screen.leftValue(), seconds, 0.01) << "a second stays, and the ends are the ends";
+    }
+    shown.tap("btnTrim");
+    EXPECT_EQ(fakes.assets.sessions.size(), 1U);
+    EXPECT_FALSE(screen.indicatorText().isEmpty());
+}
 
 TEST(Settings, ControlsShowWhatTheScreenDecides) {
     Shell shell;
     shell.tabBar.setSelectedIndex(2);
     shell.settle();
-    shell.tap(*shell.item(QStringLiteral("icloud")));
-    EXPECT_TRUE(shell.store.isCloudSyncOn());
-    EXPECT_TRUE(shell.item(QStringLiteral("icloud"))->property("checked").toBool());
+    shell.tap("icloud");
+    EXPECT_TRUE(shell.settings.isCloudSyncOn());
+    EXPECT_TRUE(shell.item("icloud")->property("checked").toBool());
 
-    QQuickItem* slider = nullptr;
-    for (QQuickItem* item : shell.visibleItems()) {
-        slider = slider == nullptr && item->inherits("QQuickSlider") ? item : slider;
-    }
-    ASSERT_NE(slider, nullptr);
-    shell.tap(*slider);  // Its middle is 32.5 seconds, which the screen rounds.
-    EXPECT_DOUBLE_EQ(shell.settings.rewindValue(), 35.0);
+    QQuickItem* slider = shell.item("QQuickSlider");
+    shell.drag(*slider, 0.0);  // Its middle is 32.5 seconds, which the screen rounds.
+    EXPECT_DOUBLE_EQ(shell.settingVC.rewindValue(), 35.0);
     EXPECT_DOUBLE_EQ(slider->property("value").toDouble(), 35.0);
     slider->forceActiveFocus(Qt::TabFocusReason);
     shell.key(Qt::Key_Left);
-    EXPECT_DOUBLE_EQ(shell.settings.rewindValue(), 30.0);
+    EXPECT_DOUBLE_EQ(shell.settingVC.rewindValue(), 30.0);
 }
 
 TEST(AssistiveTechnology, OperatesTheControls) {
     Shell shell;
     const auto act = [&shell](const char* name, const QString& action) {
-        QQuickItem* item = shell.item(QString::fromLatin1(name));
-        ASSERT_NE(item, nullptr) << name;
-        QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(action);
+        QAccessible::queryAccessibleInterface(shell.item(name))->actionInterface()->doAction(action);
         shell.settle();
     };
     act("btnRecord", QAccessibleActionInterface::pressAction());
@@ -223,26 +260,17 @@ TEST(AssistiveTechnology, OperatesTheControls) {
     act("tab2", QAccessibleActionInterface::pressAction());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 2);
     act("quickMail", QAccessibleActionInterface::toggleAction());
-    const QAccessible::State mail =
-        QAccessible::queryAccessibleInterface(shell.item(QStringLiteral("quickMail")))->state();
+    const QAccessible::State mail = QAccessible::queryAccessibleInterface(shell.item("quickMail"))->state();
     EXPECT_TRUE(mail.checkable && mail.checked);
-    EXPECT_TRUE(shell.store.isQuickMailOn());
-    act("quickMail", QAccessibleActionInterface::pressAction());
-    EXPECT_FALSE(shell.store.isQuickMailOn());
+    EXPECT_TRUE(shell.settings.isQuickMailOn());
 }
 
 TEST(Library, HeaderButtonsTurnTheOrderRound) {
     Shell shell(fillLibrary);
     shell.tabBar.setSelectedIndex(1);
     shell.settle();
-    const auto firstName = [&shell] {
-        const auto* model = shell.library.tableView();
-        return model->data(model->index(0, 0), RecordingListModel::NameTextRole).toString();
-    };
-    const QString before = firstName();
-    shell.tap(*shell.item(QStringLiteral("btnSortName")));
-    EXPECT_NE(firstName(), before);
-    EXPECT_EQ(shell.store.sort(), 2);
+    shell.tap("btnSortName");
+    EXPECT_EQ(shell.settings.sort(), 2);
 }
 
 }  // namespace

@@ -9,39 +9,20 @@
 #include <functional>
 
 #include "app/SettingVC.h"
-#include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
-#include "support/FakeAssets.h"
-#include "support/FakeAudioConverter.h"
-#include "support/FakeAudioPlayer.h"
-#include "support/FakeAudioRecorder.h"
-#include "support/FakeDisplayRefresh.h"
-#include "support/FakeExtAudioFile.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
-#include "support/TemporaryContainer.h"
+#include "support/FakeLibrary.h"
 #include "ui/AlertPresenter.h"
 #include "ui/TabBarController.h"
 
 namespace tavi::test {
 
-/// The window with the real screens, on fake services.
-class Shell {
+/// A window made from QML, and what its user does.
+class UserWindow {
 public:
-    explicit Shell(const std::function<void(Shell&)>& prepare = {}) {
-        store.writeFirstLaunchValues();
-        store.writeSortIfAbsent();
-        if (prepare) {
-            prepare(*this);
-        }
+    void show(const char* qml, const QVariantMap& properties) {
         engine.addImportPath(QStringLiteral(":/"));
-        engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&recording)},
-                                     {QStringLiteral("library"), QVariant::fromValue(&library)},
-                                     {QStringLiteral("settings"), QVariant::fromValue(&settings)},
-                                     {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
-                                     {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
-                                     {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
-        engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
+        engine.setInitialProperties(properties);
+        engine.loadData(qml);
         window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
         if (window == nullptr) {
             qFatal("the window cannot be built");
@@ -67,11 +48,6 @@ public:
         settle();
     }
 
-    void resize(const QSize& size) const {
-        window->resize(size);
-        settle();
-    }
-
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {}) const {
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, key, modifiers, text);
@@ -80,24 +56,32 @@ public:
         settle();
     }
 
-    void tap(const QQuickItem& item) const {
-        const QPointF at = item.mapToScene(item.boundingRect().center());
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, at, window->mapToGlobal(at), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    /// The mouse goes down in the item's middle, moves to the right in steps, and comes up again.
+    void drag(const QQuickItem& item, double movement) const {
+        const QPointF from = item.mapToScene(item.boundingRect().center());
+        const auto send = [this](QEvent::Type type, const QPointF& at) {
+            QMouseEvent event(type, at, window->mapToGlobal(at),
+                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
             QCoreApplication::sendEvent(window, &event);
+        };
+        send(QEvent::MouseButtonPress, from);
+        for (int step = 1; step <= 4 && movement != 0.0; ++step) {
+            send(QEvent::MouseMove, from + QPointF(movement * step / 4.0, 0.0));
         }
+        send(QEvent::MouseButtonRelease, from + QPointF(movement, 0.0));
         settle();
     }
+    void tap(const char* name) const { drag(*item(name), 0.0); }
 
-    /// The visible item of that name; null when there is none.
-    QQuickItem* item(const QString& objectName) const {
+    /// The first visible item of that name or class; there has to be one.
+    QQuickItem* item(const char* name) const {
         for (QQuickItem* one : visibleItems()) {
-            if (one->objectName() == objectName) {
+            if (one->objectName() == QLatin1String(name) || one->inherits(name)) {
                 return one;
             }
         }
-        return nullptr;
+        qFatal("there is no %s", name);
     }
 
     QList<QQuickItem*> visibleItems() const {
@@ -110,6 +94,56 @@ public:
             }
         }
         return items;
+    }
+
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = nullptr;
+};
+
+/// A recording of 75 seconds; one second of noise stands for all of it.
+inline QByteArray addTalk(FakeServices& fakes) {
+    const QByteArray name = "Interview with a very long name that nobody reads to its very end.wav";
+    const QByteArray path = QFile::encodeName(fakes.container.addDocument(QString::fromUtf8(name), "sound"));
+    const auto sound = std::make_shared<FakeSound>();
+    sound->planes.resize(1);
+    fakes.assets.files[name] = {{75 * 588, 588}, 1, {}};
+    fakes.players.seconds[name] = 75.0;
+    for (int i = 0; i < 44100; ++i) {
+        const double sample = std::sin(i * 0.004) * std::sin(i * i * 0.01);
+        sound->planes[0].push_back(static_cast<float>(sample));
+        fakes.assets.files[name].samples.push_back(static_cast<std::int16_t>(sample * 32767.0));
+    }
+    fakes.files.sounds[path.toStdString()] = sound;
+    return path;
+}
+
+/// The program's screens on fake services.
+struct ShellScreens : FakeServices {
+    TabBarController tabBar;
+    AlertPresenter presenter;
+    FakeMailComposer mail;
+    AudioRecordVC recording{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
+    FakeLibrary fakeLibrary{*this, durations};
+    VoiceMemoVC& library = fakeLibrary.vc;
+    PlayerPanel& player = fakeLibrary.player;
+    SettingVC settingVC{{settings, runLoop, presenter}};
+};
+
+/// The program's window with its screens.
+class Shell : public ShellScreens, public UserWindow {
+public:
+    explicit Shell(const std::function<void(Shell&)>& prepare = {}) {
+        settings.writeFirstLaunchValues();
+        settings.writeSortIfAbsent();
+        if (prepare) {
+            prepare(*this);
+        }
+        show("import Tavi\nMain {}", {{QStringLiteral("recording"), QVariant::fromValue(&recording)},
+                                      {QStringLiteral("library"), QVariant::fromValue(&library)},
+                                      {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
+                                      {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
+                                      {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
+                                      {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 
     void startRecording() {
@@ -125,34 +159,13 @@ public:
         runLoop.advance(0.1);
     }
 
-    ManualRunLoop runLoop;
-    FakeUserDefaults defaults;
-    SettingsStore store{defaults};
-    FakeAudioSession session;
-    FakeAudioRecorders recorders{runLoop};
-    FakeAudioDuration durations;
-    FakeMailComposer mail;
-    TemporaryContainer container;
-    NotificationCenter notifications;
-    TabBarController tabBar;
-    AlertPresenter presenter;
-    AudioRecordVC recording{{session, recorders, store, container, runLoop, presenter, tabBar, mail}};
-    FakeRemoteControl remoteControl;
-    FakeAudioPlayers players{runLoop};
-    RecordingLister lister{durations, runLoop};
-    FakeExtAudioFiles files;
-    FakeAudioConverters converters;
-    FakeDisplayRefreshes refreshes;
-    WaveformLoader waveforms{{files, converters, runLoop}};
-    PlayerPanel player{{players, session, remoteControl, store, runLoop, waveforms, refreshes}};
-    FakeAssets assets{runLoop};
-    WaveformLoader trimmerWaveforms{{files, converters, runLoop}};
-    AudioTrimmerStage trimmers{
-        {assets, players, {recorders, session}, trimmerWaveforms, refreshes, container, notifications, runLoop}};
-    VoiceMemoVC library{{store, container, notifications, lister, remoteControl, trimmers}, player};
-    SettingVC settings{{store, runLoop, presenter}};
-    QQmlApplicationEngine engine;
-    QQuickWindow* window = nullptr;
+    AudioTrimmerViewController& trim(const QByteArray& path) {
+        AudioTrimmerViewController::presentAudioTrimmerController(trimmers, nullptr, path, {},
+                                                                  path.mid(path.lastIndexOf('/') + 1), {});
+        runLoop.drain();
+        settle();
+        return *trimmers.screen();
+    }
 };
 
 }  // namespace tavi::test

@@ -72,6 +72,7 @@ public:
           m_header(header),
           m_states(header.channels),
           m_bytes(kBlockPackets * header.packetBytes),
+          m_decoded(kPieceFrames),
           m_samples(std::size_t{kPieceFrames} * header.channels) {}
 
     static std::optional<CafHeader> headerOf(int fd) {
@@ -112,21 +113,11 @@ private:
 
     void decode(std::size_t packets) {
         const std::size_t count = m_header.channels;
-        for (std::size_t packet = 0; packet < packets; ++packet) {
-            const std::uint8_t* bytes = m_bytes.data() + packet * m_header.packetBytes;
-            std::size_t channel = 0;
-            std::int16_t* samples = m_samples.data() + packet * kIma4PacketFrames * count;
-            for (; channel + 2 <= count; channel += 2) {
-                decodeIma4Packets<2>(bytes + channel * kIma4PacketBytes, &m_states[channel],
-                                     [=](std::size_t which, std::size_t at, int sample) {
-                                         samples[at * count + channel + which] = static_cast<std::int16_t>(sample);
-                                     });
-            }
-            if (channel < count) {
-                decodeIma4Packets<1>(bytes + channel * kIma4PacketBytes, &m_states[channel],
-                                     [=](std::size_t, std::size_t at, int sample) {
-                                         samples[at * count + channel] = static_cast<std::int16_t>(sample);
-                                     });
+        for (std::size_t channel = 0; channel < count; ++channel) {
+            decodeIma4Packets(m_bytes.data() + channel * kIma4PacketBytes, m_header.packetBytes, packets,
+                              m_states[channel], m_decoded.data());
+            for (std::size_t frame = 0; frame < packets * kIma4PacketFrames; ++frame) {
+                m_samples[frame * count + channel] = m_decoded[frame];
             }
         }
     }
@@ -136,6 +127,8 @@ private:
     std::vector<Ima4State> m_states;
     std::int64_t m_packet = 0;
     std::vector<std::uint8_t> m_bytes;
+    /// Of one channel.
+    std::vector<std::int16_t> m_decoded;
     std::vector<std::int16_t> m_samples;
 };
 

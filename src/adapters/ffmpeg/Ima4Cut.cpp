@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 #include <span>
+#include <utility>
 
 #include "adapters/ffmpeg/PositionedIo.h"
 
@@ -229,64 +230,73 @@ std::optional<Ima4State> Ima4Cut::stateBefore(std::size_t channel, std::int64_t 
     }
 }
 
-Result<std::vector<std::uint8_t>> Ima4Cut::firstPackets(std::int64_t packet) {
-    const std::size_t channels = m_header.channels;
-    std::vector<std::vector<std::uint8_t>> corrected(channels);
-    std::size_t count = 0;
-    for (std::size_t channel = 0; channel < channels; ++channel) {
-        const auto right = stateBefore(channel, packet);
-        if (!right) {
-            return failure(QStringLiteral("The sound file could not be read."));
+std::optional<std::vector<std::uint8_t>> Ima4Cut::correctedPackets(std::size_t channel, std::int64_t packet) {
+    std::vector<std::uint8_t> packets;
+    const auto right = stateBefore(channel, packet);
+    if (!right) {
+        return std::nullopt;
+    }
+    Ima4State exact = *right;
+    const int rounded = exact.sample & ~0x7f;
+    std::vector<int> starts = {rounded};
+    if (rounded + kRounding <= kHighest) {
+        starts.push_back(rounded + kRounding);
+    }
+    if (exact.sample - rounded > kRounding / 2) {
+        std::reverse(starts.begin(), starts.end());
+    }
+    Ima4State heard;
+    for (int tried = 0; packet > 0 && tried < kMaximumCorrected; ++tried) {
+        const std::uint8_t* bytes = packetAt(channel, packet + tried);
+        if (bytes == nullptr) {
+            break;
         }
-        Ima4State exact = *right;
-        const int rounded = exact.sample & ~0x7f;
-        std::vector<int> starts = {rounded};
-        if (rounded + kRounding <= kHighest) {
-            starts.push_back(rounded + kRounding);
+        packets.insert(packets.end(), bytes, bytes + kIma4PacketBytes);
+        std::uint8_t* own = packets.data() + packets.size() - kIma4PacketBytes;
+        if (tried > 0) {
+            readIma4Header(bytes, exact);
+            readIma4Header(bytes, heard);
+            starts = {heard.sample};
         }
-        if (exact.sample - rounded > kRounding / 2) {
-            std::reverse(starts.begin(), starts.end());
-        }
-        auto& packets = corrected[channel];
-        Ima4State heard;
-        for (int tried = 0; packet > 0 && tried < kMaximumCorrected; ++tried) {
-            const std::uint8_t* bytes = packetAt(channel, packet + tried);
-            if (bytes == nullptr) {
-                break;
-            }
-            packets.insert(packets.end(), bytes, bytes + kIma4PacketBytes);
-            std::uint8_t* own = packets.data() + packets.size() - kIma4PacketBytes;
-            if (tried > 0) {
-                readIma4Header(bytes, exact);
-                readIma4Header(bytes, heard);
-                starts = {heard.sample};
-            }
-            Correction correction;
-            if (correction.find(bytes, exact, starts)) {
-                if (tried == 0) {
-                    writeHeader(own, {starts[static_cast<std::size_t>(correction.start())], exact.step});
-                }
-                correction.apply(own);
-                break;
-            }
+        Correction correction;
+        if (correction.find(bytes, exact, starts)) {
             if (tried == 0) {
-                heard = {starts.front(), exact.step};
-                writeHeader(own, heard);
+                writeHeader(own, {starts[static_cast<std::size_t>(correction.start())], exact.step});
             }
-            heard = decoded(bytes, heard);
-            exact = decoded(bytes, exact);
+            correction.apply(own);
+            break;
         }
-        count = std::max(count, packets.size() / kIma4PacketBytes);
+        if (tried == 0) {
+            heard = {starts.front(), exact.step};
+            writeHeader(own, heard);
+        }
+        heard = decoded(bytes, heard);
+        exact = decoded(bytes, exact);
+    }
+    return packets;
+}
+
+Result<std::vector<std::uint8_t>> Ima4Cut::firstPackets(std::int64_t packet) {
+    const auto fails = [] { return failure(QStringLiteral("The sound file could not be read.")); };
+    std::vector<std::vector<std::uint8_t>> corrected;
+    std::size_t count = 0;
+    for (std::size_t channel = 0; channel < m_header.channels; ++channel) {
+        auto packets = correctedPackets(channel, packet);
+        if (!packets) {
+            return fails();
+        }
+        count = std::max(count, packets->size() / kIma4PacketBytes);
+        corrected.push_back(std::move(*packets));
     }
     std::vector<std::uint8_t> packets;
     for (std::size_t i = 0; i < count; ++i) {
-        for (std::size_t channel = 0; channel < channels; ++channel) {
+        for (std::size_t channel = 0; channel < corrected.size(); ++channel) {
             const auto& own = corrected[channel];
             const std::uint8_t* bytes = (i + 1) * kIma4PacketBytes <= own.size()
                                             ? own.data() + i * kIma4PacketBytes
                                             : packetAt(channel, packet + static_cast<std::int64_t>(i));
             if (bytes == nullptr) {
-                return failure(QStringLiteral("The sound file could not be read."));
+                return fails();
             }
             packets.insert(packets.end(), bytes, bytes + kIma4PacketBytes);
         }

@@ -27,6 +27,8 @@ public:
     Result<std::vector<std::uint8_t>> firstPackets(std::int64_t packet);
 
 private:
+    /// A channel's packets from that one on, as far as codes are changed; nothing when the file cannot be read.
+    std::optional<std::vector<std::uint8_t>> correctedPackets(std::size_t channel, std::int64_t packet);
     /// What a decoder that has heard everything carries into a packet; nothing when the file cannot be read.
     std::optional<Ima4State> stateBefore(std::size_t channel, std::int64_t packet);
     /// The same from the packets just before it alone, if they tell. An encoder that rounds its samples down says with

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -42,34 +41,9 @@ inline int ima4Code(const std::uint8_t* packet, std::size_t sample) {
     return packet[2 + sample / 2] >> (sample % 2 * 4) & 15;
 }
 
-/// Decodes one packet of kCount channels side by side, and hands over every sample with its channel and place: each
-/// channel is a chain of dependent steps, and the processor works on all of them at the same time.
-template <std::size_t kCount, class Store>
-void decodeIma4Packets(const std::uint8_t* packets, Ima4State* states, const Store& store) {
-    std::array<int, kCount> sample;
-    std::array<int, kCount> row;
-    for (std::size_t channel = 0; channel < kCount; ++channel) {
-        readIma4Header(packets + channel * kIma4PacketBytes, states[channel]);
-        sample[channel] = states[channel].sample;
-        row[channel] = states[channel].step * 16;
-    }
-    const auto decode = [&](std::size_t channel, int code, std::size_t at) {
-        const auto place = static_cast<unsigned int>(row[channel] + code);
-        const Ima4Move move = kIma4Moves[place];
-        sample[channel] = std::clamp(sample[channel] + move.difference, -32768, 32767);
-        row[channel] = move.next;
-        store(channel, at, sample[channel]);
-    };
-    for (std::size_t byte = 0; byte < kIma4PacketFrames / 2; ++byte) {
-        for (std::size_t channel = 0; channel < kCount; ++channel) {
-            const int codes = packets[channel * kIma4PacketBytes + 2 + byte];
-            decode(channel, codes & 15, byte * 2);
-            decode(channel, codes >> 4, byte * 2 + 1);
-        }
-    }
-    for (std::size_t channel = 0; channel < kCount; ++channel) {
-        states[channel] = {sample[channel], row[channel] / 16};
-    }
-}
+/// Decodes packets of one channel that begin stride bytes apart: kIma4PacketFrames samples for each, one after the
+/// other.
+void decodeIma4Packets(const std::uint8_t* packets, std::size_t stride, std::size_t count, Ima4State& state,
+                       std::int16_t* samples);
 
 }  // namespace tavi

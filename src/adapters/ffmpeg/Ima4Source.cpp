@@ -1,7 +1,6 @@
 #include "adapters/ffmpeg/Ima4Source.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tavi {
 
@@ -11,6 +10,8 @@ constexpr std::size_t kPacketBytes = kIma4PacketBytes;
 constexpr std::size_t kPacketFrames = kIma4PacketFrames;
 constexpr std::size_t kBlockPackets = 256;
 constexpr std::size_t kBlockFrames = kBlockPackets * kPacketFrames;
+constexpr float kScale = 1.0F / 32768;
+
 }  // namespace
 
 std::unique_ptr<Ima4Source> Ima4Source::open(FileDescriptor& file) {
@@ -39,7 +40,6 @@ std::unique_ptr<Ima4Source> Ima4Source::open(FileDescriptor& file) {
 }
 
 bool Ima4Source::decodeBlock() {
-    constexpr float kScale = 1.0F / 32768;
     const std::size_t channels = m_states.size();
     const auto blockBytes = static_cast<std::int64_t>(m_bytes.size());
     const std::int64_t start = m_block * blockBytes;
@@ -54,19 +54,9 @@ bool Ima4Source::decodeBlock() {
     if (m_history.size() == static_cast<std::size_t>(m_block) * channels) {
         m_history.insert(m_history.end(), m_states.begin(), m_states.end());
     }
-    for (std::size_t packet = 0; packet < packets; ++packet) {
-        const std::uint8_t* bytes = m_bytes.data() + packet * m_header.packetBytes;
-        float* samples = m_samples.data() + packet * kPacketFrames;
-        std::size_t channel = 0;
-        const auto store = [&](std::size_t which, std::size_t at, int sample) {
-            samples[(channel + which) * kBlockFrames + at] = static_cast<float>(sample) * kScale;
-        };
-        for (; channel + 2 <= channels; channel += 2) {
-            decodeIma4Packets<2>(bytes + channel * kPacketBytes, &m_states[channel], store);
-        }
-        if (channel < channels) {
-            decodeIma4Packets<1>(bytes + channel * kPacketBytes, &m_states[channel], store);
-        }
+    for (std::size_t channel = 0; channel < channels; ++channel) {
+        decodeIma4Packets(m_bytes.data() + channel * kPacketBytes, m_header.packetBytes, packets, m_states[channel],
+                          m_samples.data() + channel * kBlockFrames);
     }
     ++m_block;
     return true;
@@ -79,8 +69,9 @@ std::size_t Ima4Source::read(float* const* planes, std::size_t frames) {
     }
     const std::size_t count = std::min({frames, left, m_available - m_used});
     for (std::size_t channel = 0; channel < m_states.size(); ++channel) {
-        const float* from = m_samples.data() + channel * kBlockFrames + m_used;
-        std::copy(from, from + count, planes[channel]);
+        const std::int16_t* from = m_samples.data() + channel * kBlockFrames + m_used;
+        std::transform(from, from + count, planes[channel],
+                       [](std::int16_t sample) { return static_cast<float>(sample) * kScale; });
     }
     m_used += count;
     m_position += static_cast<std::int64_t>(count);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -36,7 +37,7 @@ private:
     AudioStreamBasicDescription m_format;
     std::vector<std::uint8_t> m_bytes;
     /// Decoded samples of one channel after the other, for kBlockPackets packets each.
-    std::vector<float> m_samples;
+    std::vector<std::int16_t> m_samples;
     std::vector<Ima4State> m_states;
     /// The states before every block that has been reached, kept for seeking.
     std::vector<Ima4State> m_history;

@@ -1,7 +1,5 @@
 #include "trimming/waves/WaveformLoader.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <atomic>
 #include <cmath>
@@ -12,20 +10,6 @@ namespace tavi {
 namespace {
 
 constexpr std::size_t kRemembered = 8;
-
-/// A file and its contents, as far as the file system tells them apart; empty for what is not there.
-QByteArray identityOf(const QByteArray& path) {
-    struct stat attributes = {};
-    QByteArray identity;
-    if (::stat(path.constData(), &attributes) == 0) {
-        for (const auto part : {static_cast<qint64>(attributes.st_dev), static_cast<qint64>(attributes.st_ino),
-                                static_cast<qint64>(attributes.st_size), static_cast<qint64>(attributes.st_mtim.tv_sec),
-                                static_cast<qint64>(attributes.st_mtim.tv_nsec)}) {
-            identity += QByteArray::number(part) + ':';
-        }
-    }
-    return identity;
-}
 
 /// A file that is at its end as soon as nobody wants it any more.
 class AbandonedFile : public ExtAudioFile {
@@ -95,7 +79,7 @@ void WaveformLoader::load(const QByteArray& path, Completion completion) {
     cancel();
     const auto job = std::make_shared<Job>(m_services.files);
     m_job = job;
-    const QByteArray identity = identityOf(path);
+    const auto identity = FileIdentity::at(path);
     const auto finish = [this, job, completion = std::move(completion)](const std::vector<float>& points) {
         m_job.reset();
         completion(points);
@@ -103,7 +87,7 @@ void WaveformLoader::load(const QByteArray& path, Completion completion) {
     // The loader lives for as long as its job is not abandoned.
     const auto known = std::find_if(m_results.begin(), m_results.end(),
                                     [&](const Result& result) { return result.identity == identity; });
-    if (!identity.isEmpty() && known != m_results.end()) {
+    if (known != m_results.end()) {
         m_results.splice(m_results.begin(), m_results, known);
         m_services.queues.dispatchMain([finish, job, points = known->points] {
             if (!job->files.isAbandoned) {
@@ -127,8 +111,12 @@ void WaveformLoader::load(const QByteArray& path, Completion completion) {
                 if (job->files.isAbandoned) {
                     return;
                 }
-                m_results.push_front({identity, points});
-                m_results.resize(std::min(m_results.size(), kRemembered));
+                if (identity) {
+                    m_results.push_front({*identity, points});
+                }
+                if (m_results.size() > kRemembered) {
+                    m_results.pop_back();
+                }
                 finish(points);
             });
         });

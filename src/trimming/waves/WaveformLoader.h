@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
+#include "library/utility/FileIdentity.h"
 
 namespace tavi {
 
@@ -34,7 +35,7 @@ public:
 private:
     struct Job;
     struct Result {
-        QByteArray identity;
+        FileIdentity identity;
         std::vector<float> points;
     };
 

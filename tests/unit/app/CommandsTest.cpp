@@ -20,16 +20,13 @@ TEST(Commands, SettingsAreReadAndWrittenByTheirKind) {
         /// What reads back; null where the text is refused.
         const char* stored;
     } cases[] = {{"QuickMail", "NO", "false"},
-                 {"QuickMail", "True", "true"},
                  {"QuickMail", "maybe", nullptr},
                  {"AudioFileType", "caf", "caf"},
                  {"AudioFileType", "CAF", nullptr},
-                 {"AudioFileType", "", nullptr},
                  {"AudioQualityType", "Hoch", "Hoch"},
                  {"Sort", "6", "6"},
                  {"Sort", "7", nullptr},
                  {"Sort", "2x", nullptr},
-                 {"RewindSong", "15", "15"},
                  {"ForwardSong", "-1", nullptr},
                  {"ForwardSong", "nan", nullptr},
                  {"AppStart", "1", "true"},
@@ -56,7 +53,6 @@ TEST(Commands, ANameCannotForgeALine) {
     EXPECT_EQ(recordingsText(recordings, false), QByteArray("a?b??.m4a\t\t00:05\t\n"));
     const QJsonArray array = QJsonDocument::fromJson(recordingsText(recordings, true)).array();
     EXPECT_EQ(array[0][entrykey::kFilename].toString(), entry.value(entrykey::kFilename));
-    EXPECT_EQ(recordingsText({}, true), QByteArray("[\n]\n"));
 }
 
 }  // namespace tavi::test

@@ -6,18 +6,9 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <map>
 
 #include "library/PlayerRules.h"
-#include "support/FakeAssets.h"
-#include "support/FakeAudioConverter.h"
-#include "support/FakeAudioPlayer.h"
-#include "support/FakeAudioRecorder.h"
-#include "support/FakeDisplayRefresh.h"
-#include "support/FakeExtAudioFile.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
-#include "support/TemporaryContainer.h"
+#include "support/FakeLibrary.h"
 
 namespace tavi::test {
 namespace {
@@ -25,23 +16,14 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::UnorderedElementsAre;
 
-class VoiceMemoVCTest : public ::testing::Test {
+class VoiceMemoVCTest : public ::testing::Test, protected FakeServices {
 protected:
-    VoiceMemoVCTest() { QLocale::setDefault(QLocale(QStringLiteral("en_US"))); }
-
     /// A recording with that size and date.
     void add(const char* name, qint64 bytes, const QDateTime& modified = QDateTime(QDate(2024, 3, 5), QTime(14, 3))) {
         QFile file(container.addDocument(QString::fromUtf8(name), {}));
         ASSERT_TRUE(file.resize(bytes));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         ASSERT_TRUE(file.setFileTime(modified, QFileDevice::FileModificationTime));
-    }
-
-    /// Three recordings that every key orders differently.
-    void addThree() {
-        add("b.m4a", 9 << 20, QDateTime(QDate(2024, 3, 5), QTime(9, 0)));
-        add("a.m4a", 21 << 19, QDateTime(QDate(2024, 1, 31), QTime(9, 0)));
-        add("C.m4a", 1 << 20, QDateTime(QDate(2023, 12, 10), QTime(9, 0)));
     }
 
     std::vector<std::string> names() {
@@ -56,46 +38,7 @@ protected:
         return vc.tableView()->data(vc.tableView()->index(row, 0), role).toString().toStdString();
     }
 
-    TemporaryContainer container;
-    FakeUserDefaults defaults;
-    SettingsStore settings{defaults};
-    /// A screen with all that it needs.
-    struct Library {
-        explicit Library(VoiceMemoVCTest& test, const AudioDuration& lengths)
-            : lister(lengths, test.runLoop),
-              waveforms({test.files, test.converters, test.runLoop}),
-              player({test.players, test.session, test.remote, test.settings, test.runLoop, waveforms, test.refreshes}),
-              trimmerWaveforms({test.files, test.converters, test.runLoop}),
-              trimmers({test.assets,
-                        test.players,
-                        {test.recorders, test.session},
-                        trimmerWaveforms,
-                        test.refreshes,
-                        test.container,
-                        test.notifications,
-                        test.runLoop}),
-              vc({test.settings, test.container, test.notifications, lister, test.remote, trimmers}, player) {}
-
-        RecordingLister lister;
-        WaveformLoader waveforms;
-        PlayerPanel player;
-        WaveformLoader trimmerWaveforms;
-        AudioTrimmerStage trimmers;
-        VoiceMemoVC vc;
-    };
-
-    ManualRunLoop runLoop;
-    FakeAudioSession session;
-    FakeAudioPlayers players{runLoop};
-    FakeRemoteControl remote;
-    FakeAudioDuration durations;
-    FakeExtAudioFiles files;
-    FakeAudioConverters converters;
-    FakeDisplayRefreshes refreshes;
-    FakeAssets assets{runLoop};
-    FakeAudioRecorders recorders{runLoop};
-    NotificationCenter notifications;
-    Library library{*this, durations};
+    FakeLibrary library{*this, durations};
     VoiceMemoVC& vc = library.vc;
     PlayerPanel& player = library.player;
 };
@@ -107,9 +50,9 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
     for (const char* name : {".DS_Store", ".hidden", "long.M4A", "noise.wav", "\xC3\xA9.txt"}) {
         add(name, 2048);
     }
-    const QByteArray folder = QFile::encodeName(container.documentsPath());
-    ASSERT_TRUE(QFile::link(QStringLiteral("gone"), container.documentsPath() + QStringLiteral("/dangling")));
-    ASSERT_EQ(mkfifo((folder + "/pipe").constData(), 0600), 0);
+    const QString folder = container.documentsPath();
+    ASSERT_TRUE(QFile::link(QStringLiteral("gone"), folder + QStringLiteral("/dangling")));
+    ASSERT_EQ(mkfifo(QFile::encodeName(folder + QStringLiteral("/pipe")).constData(), 0600), 0);
     // Whoever asked for the length of the last two would get one, and wait for the pipe's for ever.
     durations.seconds = {{QStringLiteral("long.M4A"), 3725.9},
                          {QStringLiteral("noise.wav"), 59.999},
@@ -118,17 +61,15 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
 
     vc.getAlltheFiles();
 
-    std::map<std::string, std::string> listed;
+    std::vector<std::string> listed;
     for (const RecordingEntry& entry : vc.arrRecordings()) {
-        listed[entry.value(entrykey::kFilename).toStdString()] =
-            (entry.value(entrykey::kExtension) + QLatin1Char(' ') + entry.value(entrykey::kDuration)).toStdString();
+        listed.push_back(QStringLiteral("%1: %2 %3")
+                             .arg(entry.value(entrykey::kFilename), entry.value(entrykey::kExtension),
+                                  entry.value(entrykey::kDuration))
+                             .toStdString());
     }
-    EXPECT_EQ(listed, (std::map<std::string, std::string>{{".hidden", " 00:00"},
-                                                          {"long.M4A", "M4A 62:05"},
-                                                          {"noise.wav", "wav 00:59"},
-                                                          {"pipe", " 00:00"},
-                                                          {"stray", " 00:00"},
-                                                          {"\xC3\xA9.txt", "txt 00:00"}}));
+    EXPECT_THAT(listed, UnorderedElementsAre(".hidden:  00:00", "long.M4A: M4A 62:05", "noise.wav: wav 00:59",
+                                             "pipe:  00:00", "stray:  00:00", "\xC3\xA9.txt: txt 00:00"));
 }
 
 TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
@@ -138,103 +79,65 @@ TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
     const std::string path = container.documentsPath().toStdString() + "/x\xff.m4a";
     std::ofstream(path) << "12345";
     const SizeInsteadOfDuration sizes;
-    Library other(*this, sizes);
-    VoiceMemoVC& screen = other.vc;
-    screen.getAlltheFiles();
+    FakeLibrary other(*this, sizes);
+    other.vc.getAlltheFiles();
     EXPECT_TRUE(std::filesystem::remove(path));
-    ASSERT_EQ(screen.arrRecordings().size(), 1U);
-    const RecordingEntry& entry = screen.arrRecordings()[0];
+    ASSERT_EQ(other.vc.arrRecordings().size(), 1U);
+    const RecordingEntry& entry = other.vc.arrRecordings()[0];
     EXPECT_EQ(entry.value(entrykey::kFilename), QStringLiteral("x\uFFFD.m4a"));
     EXPECT_EQ(entry.nativeName(), "x\xff.m4a");
     EXPECT_EQ(entry.value(entrykey::kDuration), QStringLiteral("00:05"));
     EXPECT_EQ(entry.value(entrykey::kSize), QStringLiteral("0.000005"));
 }
 
-TEST_F(VoiceMemoVCTest, aRowShowsSizeDurationAndDate) {
-    add("memo.m4a", 1048576);
-    durations.seconds[QStringLiteral("memo.m4a")] = 61.0;
-    vc.viewDidLoad();
-    EXPECT_EQ(text(0, RecordingListModel::NameTextRole), "memo.m4a");
-    EXPECT_EQ(text(0, RecordingListModel::DetailTextRole), "1.0 MB | 01:01 | 05 Mar,2024 | 02:03 PM");
-    EXPECT_EQ(vc.headerText(), QStringLiteral("Local Recording's"));
-    EXPECT_EQ(vc.title(), QStringLiteral("voice_record"));
-
-    // The same name with other contents is measured again.
-    durations.seconds[QStringLiteral("memo.m4a")] = 62.0;
-    add("memo.m4a", 2097152);
-    vc.reloadData();
-    EXPECT_EQ(text(0, RecordingListModel::DetailTextRole), "2.0 MB | 01:02 | 05 Mar,2024 | 02:03 PM");
+TEST_F(VoiceMemoVCTest, aChangedRecordingIsMeasuredAgain) {
+    for (const int megabytes : {1, 2}) {
+        add("memo.m4a", megabytes << 20);
+        durations.seconds[QStringLiteral("memo.m4a")] = 60.0 + megabytes;
+        vc.reloadData();
+        EXPECT_EQ(text(0, RecordingListModel::DetailTextRole),
+                  QStringLiteral("%1.0 MB | 01:0%1 | 05 Mar,2024 | 02:03 PM").arg(megabytes).toStdString());
+    }
 }
 
-TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyAndStoresNothing) {
-    addThree();
+TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyWhichATapTurnsRound) {
+    add("b", 9 << 20, QDateTime(QDate(2024, 3, 5), QTime(9, 0)));
+    add("a", 21 << 19, QDateTime(QDate(2024, 1, 31), QTime(9, 0)));
+    add("C", 1 << 20, QDateTime(QDate(2023, 12, 10), QTime(9, 0)));
     const struct {
         int code;
         std::vector<std::string> order;
+        void (VoiceMemoVC::*tap)(QObject*);
+        int after;
     } rows[] = {
-        {1, {"b.m4a", "a.m4a", "C.m4a"}}, {2, {"C.m4a", "a.m4a", "b.m4a"}}, {3, {"a.m4a", "C.m4a", "b.m4a"}},
-        {4, {"b.m4a", "C.m4a", "a.m4a"}}, {5, {"b.m4a", "a.m4a", "C.m4a"}}, {6, {"C.m4a", "a.m4a", "b.m4a"}},
+        {1, {"b", "a", "C"}, &VoiceMemoVC::sortByName, 2}, {2, {"C", "a", "b"}, &VoiceMemoVC::sortByName, 1},
+        {3, {"a", "C", "b"}, &VoiceMemoVC::sortByDate, 4}, {4, {"b", "C", "a"}, &VoiceMemoVC::sortByDate, 3},
+        {5, {"b", "a", "C"}, &VoiceMemoVC::sortBySize, 6}, {6, {"C", "a", "b"}, &VoiceMemoVC::sortBySize, 5},
     };
-    for (const auto& row : rows) {
-        defaults.setObject(row.code, settingskey::kSort);
-        defaults.writes.clear();
-        vc.getAlltheFiles();
-        EXPECT_EQ(names(), row.order) << "Sort " << row.code;
-        EXPECT_TRUE(defaults.writes.isEmpty());
-        const ButtonOutlet button = row.code <= 2   ? vc.btnSortName()
-                                    : row.code <= 4 ? vc.btnSortDate()
-                                                    : vc.btnSortSize();
-        EXPECT_EQ(button.selected, row.code % 2 == 0);
-        EXPECT_EQ(button.image,
-                  button.selected ? QStringLiteral("sorting_arrow_down.png") : QStringLiteral("sorting_arrow_up.png"));
-        EXPECT_EQ(vc.btnSortName().image.isEmpty(), row.code > 2);
-        EXPECT_EQ(vc.btnSortSize().image.isEmpty(), row.code < 5);
-    }
-    for (const int code : {0, 7, -1}) {
+    for (const auto& [code, order, tap, after] : rows) {
+        SCOPED_TRACE(code);
         defaults.setObject(code, settingskey::kSort);
-        Library other(*this, durations);
-        VoiceMemoVC& fresh = other.vc;
-        fresh.getAlltheFiles();
-        EXPECT_EQ(fresh.numberOfRowsInSection(0), 3);
-        EXPECT_FALSE(fresh.btnSortName().selected || fresh.btnSortDate().selected || fresh.btnSortSize().selected);
+        vc.getAlltheFiles();
+        EXPECT_EQ(names(), order);
+        QObject button;
+        std::invoke(tap, vc, &button);
+        EXPECT_EQ(settings.sort(), after);
+        EXPECT_EQ(names(), rows[after - 1].order);
     }
-}
-
-TEST_F(VoiceMemoVCTest, equalKeysKeepTheFoldersOrderInBothDirections) {
-    for (const char* name : {"d", "a", "c", "b"}) {
-        add(name, 4096);
-    }
-    vc.getAlltheFiles();
-    const auto unsorted = names();
+    // Rows of the same size keep their order in both directions.
+    add("A", 9 << 20);
+    std::vector<std::vector<std::string>> orders;
     for (const int code : {5, 6}) {
         defaults.setObject(code, settingskey::kSort);
         vc.getAlltheFiles();
-        EXPECT_EQ(names(), unsorted);
+        orders.push_back(names());
+        std::erase_if(orders.back(), [](const std::string& name) { return name != "A" && name != "b"; });
     }
-}
-
-TEST_F(VoiceMemoVCTest, aTapTurnsTheDirectionRoundAndStoresIt) {
-    addThree();
-    vc.viewDidLoad();
-    QObject button;
-    const struct {
-        void (VoiceMemoVC::*tap)(QObject*);
-        int code;
-        std::string first;
-    } taps[] = {{&VoiceMemoVC::sortByName, 2, "C.m4a"}, {&VoiceMemoVC::sortByName, 1, "b.m4a"},
-                {&VoiceMemoVC::sortByDate, 4, "b.m4a"}, {&VoiceMemoVC::sortByDate, 3, "a.m4a"},
-                {&VoiceMemoVC::sortBySize, 6, "C.m4a"}, {&VoiceMemoVC::sortByDate, 4, "b.m4a"}};
-    for (const auto& [tap, code, first] : taps) {
-        defaults.writes.clear();
-        std::invoke(tap, vc, &button);
-        EXPECT_EQ(settings.sort(), code);
-        EXPECT_EQ(defaults.writes, (QStringList{settingskey::kSort, QStringLiteral("synchronize")}));
-        EXPECT_EQ(names().front(), first) << code;
-    }
-    EXPECT_EQ(vc.btnSortDate().tintColor, QStringLiteral("#a1a1a1"));
-    defaults.setObject(QStringLiteral("WHITE"), settingskey::kThemeColor);
-    vc.sortByDate(&button);
-    EXPECT_EQ(vc.btnSortDate().tintColor, QStringLiteral("#000000"));
+    EXPECT_EQ(orders[0], orders[1]);
+    defaults.setObject(7, settingskey::kSort);
+    FakeLibrary other(*this, durations);
+    other.vc.getAlltheFiles();
+    EXPECT_EQ(other.vc.numberOfRowsInSection(0), 4) << "no order at all";
 }
 
 TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndLeavesAnUnchangedTableAlone) {
@@ -254,33 +157,22 @@ TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndLeavesAnUnchangedTableAlone) {
 
 TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
     for (int i = 0; i < 100; ++i) {
-        const QByteArray name = QByteArray::number(i) + ".m4a";
-        add(name.constData(), 1000 + i);
-        durations.seconds[QString::fromLatin1(name)] = 60.0 + i;
+        add(std::to_string(i).c_str(), 1000 + i);
+        durations.seconds[QString::number(i)] = 60.0 + i;
     }
-    const auto open = [this] {
-        return std::count_if(vc.arrRecordings().begin(), vc.arrRecordings().end(), [](const auto& entry) {
-            return entry.value(entrykey::kDuration) == QLatin1String("--:--");
-        });
-    };
     vc.viewDidLoad();
     vc.viewWillAppear();
     EXPECT_EQ(vc.numberOfRowsInSection(0), 100);
-    EXPECT_EQ(open(), 100);
-    vc.setSearchText(QStringLiteral("9.M4"));
-    EXPECT_EQ(names().size(), 10U);
-    runLoop.drain();
-    EXPECT_EQ(open(), 0);
-    for (int row = 0; row < vc.tableView()->rowCount(); ++row) {
-        const std::string seconds = text(row, RecordingListModel::DetailTextRole).substr(7, 5);
-        const int number = std::stoi(text(row, RecordingListModel::NameTextRole));
-        EXPECT_EQ(seconds, playerrules::timeText(60.0 + number).toStdString());
+    for (const RecordingEntry& entry : vc.arrRecordings()) {
+        EXPECT_EQ(entry.value(entrykey::kDuration), QStringLiteral("--:--"));
     }
-    // Whoever asks for the list itself gets it whole.
-    Library fresh(*this, durations);
-    fresh.vc.viewDidLoad();
-    fresh.vc.getAlltheFiles();
-    EXPECT_EQ(fresh.vc.arrRecordings()[0].value(entrykey::kDuration).left(2), QStringLiteral("01"));
+    vc.setSearchText(QStringLiteral("9"));
+    EXPECT_EQ(names().size(), 19U);
+    runLoop.drain();
+    for (const RecordingEntry& entry : vc.arrRecordings()) {
+        EXPECT_EQ(entry.value(entrykey::kDuration),
+                  playerrules::timeText(60.0 + entry.value(entrykey::kFilename).toInt()));
+    }
 }
 
 /// Two recordings, a.m4a of 40 s and b.m4a of 3725 s, in this order.
@@ -303,8 +195,6 @@ protected:
         EXPECT_EQ(vc.playingName(), QLatin1String(file));
         EXPECT_TRUE(vc.isPlaying());
         EXPECT_EQ(player.isPlayerPlaying(), isHeard);
-        EXPECT_EQ(player.btnplaypuas().image,
-                  isHeard ? QStringLiteral("pause_Player.png") : QStringLiteral("play_player.png"));
         EXPECT_EQ(remote.info.playbackState,
                   isHeard ? NowPlayingInfo::PlaybackState::Playing : NowPlayingInfo::PlaybackState::Paused);
     }
@@ -313,36 +203,29 @@ protected:
 TEST_F(PlayingTest, rowsOpenAndCloseThePlayer) {
     vc.didSelectRowAtIndexPath(0, 1);
     expectPlaying(1, "b.m4a", true);
-    EXPECT_TRUE(vc.isPanelShown() && remote.isReceiving);
-    EXPECT_EQ(vc.section(), QStringLiteral("0"));
     runLoop.advance(61.5);
     EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("01:01"));
     EXPECT_EQ(player.lblSongMaxTime().text, QStringLiteral("62:05"));
-    EXPECT_NEAR(player.slider_player().value, 61.5, 0.02);
 
     // Sorting takes the open row along.
     QObject button;
     vc.sortByName(&button);
-    expectPlaying(0 + 1, "b.m4a", true);
-    EXPECT_EQ(vc.selectRow(), 1);
+    expectPlaying(1, "b.m4a", true);
 
     vc.didSelectRowAtIndexPath(0, 2);
     expectPlaying(2, "a.m4a", true);
-    EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("00:00"));
     vc.didSelectRowAtIndexPath(0, 2);
     EXPECT_EQ(vc.selectedIndex(), -1);
-    EXPECT_EQ(vc.selectRow(), VoiceMemoVC::kNoRow);
     EXPECT_FALSE(vc.isPlaying() || vc.isPanelShown() || player.hasPlayer() || remote.isReceiving);
 
     // What is no recording opens a panel without sound.
     vc.didSelectRowAtIndexPath(0, 0);
     EXPECT_TRUE(vc.isPanelShown());
-    EXPECT_FALSE(player.hasPlayer());
     player.forwardSkip();
     player.progressSliderMoved(1.0);
     vc.playAudio(0, true);
     vc.playerClose();
-    EXPECT_FALSE(vc.isPanelShown());
+    EXPECT_FALSE(vc.isPanelShown() || player.hasPlayer());
 }
 
 TEST_F(PlayingTest, theEndCollapsesTheRowAndKeepsThePlayer) {
@@ -350,8 +233,6 @@ TEST_F(PlayingTest, theEndCollapsesTheRowAndKeepsThePlayer) {
     runLoop.advance(40.5);
     EXPECT_EQ(vc.selectedIndex(), -1);
     EXPECT_TRUE(vc.isPlaying() && vc.isPanelShown());
-    EXPECT_FALSE(player.btnplaypuas().selected || player.btnPlay().selected);
-    EXPECT_EQ(player.lblSongMinTime().text, QStringLiteral("00:40"));
     vc.playAudio(-1, false);
     EXPECT_TRUE(player.isPlayerPlaying());
     EXPECT_LT(player.currentTime(), 1.0);
@@ -361,13 +242,9 @@ TEST_F(PlayingTest, theEndCollapsesTheRowAndKeepsThePlayer) {
 }
 
 TEST_F(PlayingTest, aHundredLoadsMakeOneTickAndNoneWhilePaused) {
-    for (int i = 0; i < 50; ++i) {
-        vc.didSelectRowAtIndexPath(0, 0);
+    for (int i = 0; i < 101; ++i) {
         vc.didSelectRowAtIndexPath(0, 0);
     }
-    EXPECT_EQ(player.updateTimers(), 100);
-    EXPECT_EQ(runLoop.activeTimers(), 0U);
-    vc.didSelectRowAtIndexPath(0, 0);
     EXPECT_EQ(runLoop.activeTimers(), 2U) << "the tick and the fake player's end";
     vc.playAudio(0, player.btnPlay().selected);
     EXPECT_EQ(runLoop.activeTimers(), 0U);
@@ -376,113 +253,66 @@ TEST_F(PlayingTest, aHundredLoadsMakeOneTickAndNoneWhilePaused) {
 TEST_F(PlayingTest, skipsGoByTheirStepsOrNotAtAll) {
     const struct {
         double rewind, forward, from, back, ahead;
-        const char* backLabel;
-        const char* forwardLabel;
-    } rows[] = {{0, 0, 5, 5, 35, "10 Sec", "30 Sec"},
-                {0, 15, 25, 15, 40, "10 Sec", "30 Sec"},
-                {0, 0, 25, 15, 25, "10 Sec", "30 Sec"},
-                {2.5, 15, 20, 17.5, 35, "2 Sec", "15 Sec"},
-                {20, 0, 10, 10, 40, "20 Sec", "0 Sec"}};
+    } rows[] = {{0, 0, 5, 5, 35}, {0, 15, 25, 15, 40}, {2.5, 15, 20, 17.5, 35}, {20, 0, 10, 10, 40}};
+    vc.didSelectRowAtIndexPath(0, 0);
+    vc.playAudio(0, true);
     for (const auto& row : rows) {
         defaults.setObject(row.rewind, settingskey::kRewindSong);
         defaults.setObject(row.forward, settingskey::kForwardSong);
-        vc.didSelectRowAtIndexPath(0, 0);
-        vc.playAudio(0, true);
-        EXPECT_EQ(player.lblBackwardSec().text, QLatin1String(row.backLabel));
-        EXPECT_EQ(player.lblForwardSec().text, QLatin1String(row.forwardLabel));
         player.progressSliderMoved(row.from);
         player.backSkip();
         EXPECT_EQ(player.slider_player().value, row.back);
         player.progressSliderMoved(row.from);
         player.forwardSkip();
         EXPECT_EQ(player.currentTime(), row.ahead);
-        EXPECT_EQ(player.lblSongMinTime().text, playerrules::timeText(row.ahead));
-        vc.stopAudio();
     }
 }
 
 TEST_F(PlayingTest, speedsToggleAndExcludeEachOther) {
     vc.didSelectRowAtIndexPath(0, 0);
     QObject button;
-    const auto states = [this] {
-        return std::string() + (player.btnSlow().selected ? 's' : '-') + (player.btnMedium().selected ? 'm' : '-') +
-               (player.btnFastPlay().selected ? 'f' : '-') + std::to_string(players.last()->rate()).substr(0, 3);
-    };
-    const struct {
-        void (PlayerPanel::*tap)(QObject*);
-        const char* after;
-    } taps[] = {{&PlayerPanel::fastAudio, "--f2.0"},   {&PlayerPanel::fastAudio, "---1.0"},
-                {&PlayerPanel::slowAudio, "s--0.5"},   {&PlayerPanel::mediumAudio, "-m-1.0"},
-                {&PlayerPanel::mediumAudio, "---1.0"}, {&PlayerPanel::fastAudio, "--f2.0"}};
-    for (const auto& [tap, after] : taps) {
+    const std::pair<void (PlayerPanel::*)(QObject*), float> taps[] = {{&PlayerPanel::fastAudio, 2.0F},
+                                                                      {&PlayerPanel::fastAudio, 1.0F},
+                                                                      {&PlayerPanel::slowAudio, 0.5F},
+                                                                      {&PlayerPanel::fastAudio, 2.0F},
+                                                                      {&PlayerPanel::mediumAudio, 1.0F}};
+    for (const auto& [tap, rate] : taps) {
         std::invoke(tap, player, &button);
-        EXPECT_EQ(states(), after);
+        EXPECT_EQ(players.last()->rate(), rate);
+        EXPECT_EQ(player.btnFastPlay().selected, rate == 2.0F);
+        EXPECT_EQ(player.btnSlow().selected, rate == 0.5F);
     }
-    remote.send(RemoteControlEvent::Subtype::SetRate, 0.5);
-    EXPECT_EQ(states(), "s--0.5");
-    EXPECT_EQ(remote.info.playbackRate, 0.5);
 }
 
-TEST_F(PlayingTest, theDesktopsControlsDoWhatTheButtonsDo) {
+TEST_F(PlayingTest, theDesktopsControlsAndTheRouteButtonReachThePlayer) {
     using Subtype = RemoteControlEvent::Subtype;
     vc.didSelectRowAtIndexPath(0, 0);
-    EXPECT_EQ(remote.info.title, QStringLiteral("a.m4a"));
-    EXPECT_EQ(remote.info.playbackDuration, 40.0);
     remote.send(Subtype::Play);
     expectPlaying(0, "a.m4a", true);
     remote.send(Subtype::Pause);
     remote.send(Subtype::Pause);
     expectPlaying(0, "a.m4a", false);
     remote.send(Subtype::SetPosition, 25.0);
-    remote.send(Subtype::SkipBackward);
-    remote.send(Subtype::Seek, -5.0);
-    EXPECT_EQ(player.currentTime(), 10.0);
-    EXPECT_EQ(remote.jumps, 3);
-    remote.send(Subtype::TogglePlayPause);
-    expectPlaying(0, "a.m4a", true);
-    remote.send(Subtype::Stop);
-    EXPECT_FALSE(vc.isPlaying() || remote.isReceiving);
-}
-
-TEST_F(PlayingTest, theRouteButtonTurnsBetweenEarpieceAndSpeaker) {
-    using Override = AudioSession::PortOverride;
-    const std::pair<const char*, Override> presses[] = {
-        {"speaker.png", Override::None}, {"headset.png", Override::Speaker}, {"speaker.png", Override::None}};
-    for (const auto& [image, override] : presses) {
+    EXPECT_EQ(player.currentTime(), 25.0);
+    EXPECT_EQ(remote.jumps, 1);
+    remote.send(Subtype::SetRate, 0.5);
+    EXPECT_TRUE(player.btnSlow().selected);
+    for (int press = 0; press < 3; ++press) {
         player.playerSpeaker();
-        EXPECT_EQ(player.speakerButton().image, QLatin1String(image));
-        EXPECT_EQ(session.overrides.back(), override);
-        EXPECT_EQ(player.ishandset(), override == Override::None);
     }
-    session.route = QStringLiteral("Headphones");
-    EXPECT_TRUE(player.isHeadsetPluggedIn());
-    session.route = QStringLiteral("Speaker");
-    EXPECT_FALSE(player.isHeadsetPluggedIn());
+    using Override = AudioSession::PortOverride;
+    EXPECT_EQ(session.overrides, (std::vector{Override::None, Override::Speaker, Override::None}));
 }
 
-TEST_F(PlayingTest, aRowsTrimmerStopsThePlayer) {
-    vc.didSelectRowAtIndexPath(0, 0);
-    vc.trimRow(1);
-    EXPECT_FALSE(vc.isPlaying());
-    ASSERT_NE(library.trimmers.screen(), nullptr);
-    EXPECT_EQ(library.trimmers.screen()->input().getFileName, "b.m4a");
-    EXPECT_TRUE(library.trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
-}
-
-TEST_F(PlayingTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {
-    EXPECT_EQ(vc.cloudHeaderText(), QStringLiteral("iCloud Sync Recording's"));
-    settings.setCloudSyncOn(false);
-    EXPECT_EQ(vc.numberOfSections(), 1);
-    vc.viewWillAppear();
-    EXPECT_EQ(vc.cloudHeaderText(), QString());
-}
-
-TEST_F(PlayingTest, theCloudSettingChoosesTheListThatPlays) {
-    // Off, the cloud's list is asked, which has no such row: what the row has loaded stays and plays.
+TEST_F(PlayingTest, aRowPlaysWithoutTheCloudAndItsTrimmerStopsIt) {
+    // With the setting off the cloud's list is asked, which has no such row: what the row has loaded plays.
     settings.setCloudSyncOn(false);
     vc.didSelectRowAtIndexPath(0, 1);
     expectPlaying(1, "b.m4a", true);
-    EXPECT_EQ(player.updateTimers(), 1);
+    vc.trimRow(1);
+    EXPECT_FALSE(vc.isPlaying());
+    ASSERT_NE(trimmers.screen(), nullptr);
+    EXPECT_TRUE(trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
 }
 
 }  // namespace

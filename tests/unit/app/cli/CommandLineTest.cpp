@@ -28,18 +28,14 @@ TEST(CommandLine, UnderstandsEveryCommand) {
         {"", Command::Open},
         {"--container|/tmp/a b", Command::Open, "/tmp/a b"},
         {"--container=dir|record", Command::Record, "dir"},
-        {"stop", Command::Stop},
         {"--|library", Command::Library},
-        {"list", Command::List},
         {"list|--json", Command::List, "", "", "", "", true},
         {"get|AudioFileType", Command::Get, "", "AudioFileType"},
         {"set|RewindSong|-5", Command::Set, "", "RewindSong", "-5"},
         {"set|note|--help", Command::Set, "", "note", "--help"},
-        {"TaviRecordStart:", Command::Url, "", "", "", "tavirecordstart:"},
         {"taviRECORDstop://x?y=1|TaviliteConnect://", Command::Url, "", "", "",
          "tavirecordstop://x?y=1 taviliteconnect://"},
         {"--help", Command::Help},
-        {"record|-h", Command::Help},
         {"--container|d|--version|nonsense", Command::Version, "d"},
     };
     for (const Case& test : cases) {
@@ -71,40 +67,27 @@ TEST(CommandLine, ReadsWhatIsDoneWithAFile) {
 }
 
 TEST(CommandLine, SaysWhatIsWrong) {
-    struct Case {
-        const char* arguments;
-        const char* error;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"--container", "--container needs a folder"},
         {"--container=", "--container needs a folder"},
-        {"--colour", "unknown option “--colour”"},
-        {"frobnicate", "unknown command “frobnicate”"},
         {"record|now", "“record” does not take “now”"},
-        {"get", "“get” needs the key of a setting"},
         {"set|key", "“set” needs the key of a setting and its value"},
-        {"set|key|value|more", "“set” does not take “more”"},
-        {"list|--xml", "“list” does not take “--xml”"},
-        {"waveform", "“waveform” needs a file"},
-        {"waveform|a|b", "“waveform” does not take “b”"},
         {"waveform|a|--from|1", "“waveform” does not take “--from”"},
         {"waveform|a|--points|0", "--points needs a number from 1 to 8192, not “0”"},
         {"waveform|a|--json|--png|b", "“waveform” prints or draws, not both"},
         {"trim|a|--from|1", "“trim” needs --from and --to"},
         {"trim|a|--from|x|--to|2", "--from needs a number from 0 to 1e+09, not “x”"},
         {"trim|a|--from|1|--to", "--to needs a value"},
-        {"import|a.wav", "files cannot be imported from the command line"},
-        {"file:///tmp/a.wav", "files cannot be imported from the command line: “file:///tmp/a.wav”"},
         {"music/a.wav", "files cannot be imported from the command line: “music/a.wav”"},
         {"https://example.org/", "the scheme of “https://example.org/” is not one that the recorder opens"},
         {"TaviRecordStop:|stop", "unknown command “stop”"},
         {"TaviRecordStop://[", "“TaviRecordStop://[” is not a valid URL"},
     };
-    for (const Case& test : cases) {
-        SCOPED_TRACE(test.arguments);
-        const auto line = parseCommandLine(words(test.arguments));
+    for (const auto& [arguments, error] : cases) {
+        SCOPED_TRACE(arguments);
+        const auto line = parseCommandLine(words(arguments));
         ASSERT_FALSE(line.has_value());
-        EXPECT_EQ(line.error().text.toStdString(), test.error);
+        EXPECT_EQ(line.error().text.toStdString(), error);
     }
     EXPECT_FALSE(parseCommandLine({"get", ""}).has_value());
 }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/settings/SettingsStore.h"
+#include "support/FakeAssets.h"
+#include "support/FakeAudioConverter.h"
+#include "support/FakeAudioPlayer.h"
+#include "support/FakeAudioRecorder.h"
+#include "support/FakeDisplayRefresh.h"
+#include "support/FakeExtAudioFile.h"
+#include "support/Fakes.h"
+#include "support/ManualRunLoop.h"
+#include "support/TemporaryContainer.h"
+#include "trimming/AudioTrimmerStage.h"
+
+namespace tavi::test {
+
+/// What the screens that play, record and trim work on, all of it fake, and the trimmers' stage on it.
+struct FakeServices {
+    FakeServices() { QLocale::setDefault(QLocale(QStringLiteral("en_US"))); }
+
+    ManualRunLoop runLoop;
+    TemporaryContainer container;
+    NotificationCenter notifications;
+    FakeUserDefaults defaults;
+    SettingsStore settings{defaults};
+    FakeAudioSession session;
+    FakeRemoteControl remote;
+    FakeAudioPlayers players{runLoop};
+    FakeAudioRecorders recorders{runLoop};
+    FakeAssets assets{runLoop};
+    FakeAudioDuration durations;
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    FakeDisplayRefreshes refreshes;
+    WaveformLoader trimmerWaveforms{{files, converters, runLoop}};
+    AudioTrimmerStage trimmers{
+        {assets, players, {recorders, session}, trimmerWaveforms, refreshes, container, notifications, runLoop}};
+};
+
+}  // namespace tavi::test
