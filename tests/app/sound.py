@@ -9,11 +9,11 @@ import wave
 RATE = 48000
 
 
-def write_tone(path, hertz, seconds, amplitude=0.5):
-    """A stereo sine, and half a second of silence so that its end is not lost in a player's or recorder's buffer."""
+def write_tone(path, hertz, seconds):
+    """A stereo sine at half the full scale, and half a second of silence so that its end is not lost in a player's or recorder's buffer."""
     samples = array.array("h")
     for i in range(int(seconds * RATE)):
-        value = round(32767 * amplitude * math.sin(2 * math.pi * hertz * i / RATE))
+        value = round(16384 * math.sin(2 * math.pi * hertz * i / RATE))
         samples.extend((value, value))
     samples.extend([0] * RATE)
     with wave.open(str(path), "wb") as file:
@@ -45,10 +45,6 @@ class Sound:
         samples = array.array("h", raw)
         step = RATE // 50
         self.blocks = [samples[i:i + step] for i in range(0, len(samples) - step + 1, step)]
-
-    @property
-    def seconds(self):
-        return len(self.blocks) / 50
 
     def loud(self):
         """The blocks above -40 dBFS."""

@@ -41,22 +41,16 @@ class AppTest(unittest.TestCase):
         app = self.desktop.spawn(PROGRAM, "--container", self.container, *arguments, log=self.log)
         self.addCleanup(self.desktop.stop, app)
         self.desktop.window(app)
-        self.wait(self.bus_name, "the name on the bus")
+        self.wait(self.is_on_bus, "the name on the bus")
         return app
 
-    def bus_name(self):
-        """The program's name on the bus, which has a suffix of its own for each container."""
+    def is_on_bus(self):
         names = self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
                                  "--method", "org.freedesktop.DBus.ListNames").stdout
-        found = re.search(rf"{re.escape(NAME)}[\w.]*", names)
-        return found and found.group()
+        return NAME in names
 
     def tavi(self, *arguments, check=True):
         return self.desktop.run(PROGRAM, "--container", self.container, *arguments, check=check)
-
-    def activate(self, action):
-        self.desktop.run("gdbus", "call", "--session", "--dest", self.bus_name(), "--object-path", "/" + NAME.replace(".", "/"),
-                         "--method", "org.freedesktop.Application.ActivateAction", action, "[]", "{}")
 
     def wait(self, condition, what):
         try:
@@ -65,11 +59,8 @@ class AppTest(unittest.TestCase):
             said = self.log.read_text() if self.log.exists() else ""
             self.fail(f"{error}\nthe program said:\n{said}")
 
-    def wait_recording(self):
-        self.wait(lambda: self.desktop.captures() == [True], "the recording to run")
-
-    def wait_paused(self):
-        self.wait(lambda: self.desktop.captures() == [False], "the recording to pause")
+    def wait_capturing(self, running):
+        self.wait(lambda: self.desktop.captures() == [running], f"the state of recording to be {running}")
 
     def recordings(self):
         return sorted(path for path in self.documents.glob("*") if path.is_file())
@@ -80,18 +71,21 @@ class AppTest(unittest.TestCase):
     def play(self, sound=None):
         self.desktop.run("paplay", "--device=mic_sink", sound or self.tone)
 
-    def assert_holds_tone(self, path, seconds=2.0, hertz=1000, decibels=-9.03, tolerance=0.5):
+    def play_while_recording(self):
+        self.wait_capturing(True)
+        self.play()
+
+    def assert_holds_tone(self, path, tolerance=0.5):
         """The tone is there for as long as it was played, without a gap, and as loud."""
         sound = Sound(path)
-        self.assertAlmostEqual(sound.tone_seconds(hertz), seconds, delta=0.1)
+        self.assertAlmostEqual(sound.tone_seconds(1000), 2.0, delta=0.1)
         loud = sound.loud()
-        self.assertAlmostEqual(level(loud[len(loud) // 2]), decibels, delta=tolerance)
+        self.assertAlmostEqual(level(loud[len(loud) // 2]), -9.03, delta=tolerance)
 
 
 class Recording(AppTest):
     def test_command_line_records_each_type_as_set(self):
         cases = [
-            ("m4a", "High", {"codec": "alac", "rate": 44100, "channels": 2}, 0.2),
             ("m4a", "Low", {"codec": "alac", "rate": 8000, "channels": 1}, 0.2),
             ("wav", "Medium", {"codec": "pcm_u8", "rate": 16000, "channels": 2}, 0.5),
             ("aac", "High", {"codec": "aac", "rate": 44100, "channels": 2}, 1.0),
@@ -105,8 +99,7 @@ class Recording(AppTest):
                 self.tavi("set", "AudioQualityType", quality)
                 before = set(self.recordings())
                 self.tavi("record")
-                self.wait_recording()
-                self.play()
+                self.play_while_recording()
                 self.tavi("stop")
                 self.wait_saved(count)
                 saved, = set(self.recordings()) - before
@@ -114,40 +107,22 @@ class Recording(AppTest):
                 self.assertEqual(saved.suffix, "." + file_type)
                 found = probe(saved)
                 self.assertEqual({key: found[key] for key in expected}, expected)
-                self.assertAlmostEqual(found["duration"], Sound(saved).seconds, delta=0.1 if file_type != "aac" else 1.0)
                 self.assert_holds_tone(saved, tolerance=tolerance)
 
-    def test_a_pause_leaves_out_what_is_played_in_it(self):
+    def test_keys_record_pause_resume_stop_and_choose_tabs(self):
         first = write_tone(self.desktop.folder / "first.wav", 500, 1.0)
-        second = write_tone(self.desktop.folder / "second.wav", 3000, 1.0)
-        self.start()
-        self.activate("record")
-        self.wait_recording()
-        self.play(first)
-        self.activate("record")
-        self.wait_paused()
-        self.play(second)
-        self.activate("record")
-        self.wait_recording()
-        self.play()
-        self.activate("stop")
+        left_out = write_tone(self.desktop.folder / "left_out.wav", 3000, 1.0)
+        app = self.start()
+        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
+        for sound in (first, left_out, self.tone):
+            self.desktop.keys("space")
+            self.wait_capturing(sound != left_out)
+            self.play(sound)
+        self.desktop.keys("ctrl+s")
         saved = Sound(self.wait_saved())
         self.assertAlmostEqual(saved.tone_seconds(500), 1.0, delta=0.1)
         self.assertAlmostEqual(saved.tone_seconds(1000), 2.0, delta=0.1)
         self.assertLess(saved.tone_seconds(3000), 0.1)
-
-    def test_keys_record_pause_resume_stop_and_choose_tabs(self):
-        app = self.start()
-        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
-        self.desktop.keys("space")
-        self.wait_recording()
-        self.desktop.keys("space")
-        self.wait_paused()
-        self.desktop.keys("space")
-        self.wait_recording()
-        self.play()
-        self.desktop.keys("ctrl+s")
-        self.assert_holds_tone(self.wait_saved())
         shown = self.desktop.picture()
         for key in ("ctrl+2", "ctrl+3", "ctrl+1"):
             self.desktop.keys(key)
@@ -155,34 +130,15 @@ class Recording(AppTest):
             shown = self.wait(lambda: (now := self.desktop.picture()) != before and now, f"the screen after {key}")
         self.assertEqual(self.desktop.stop(app), 0)
 
-    def test_urls_in_any_case_start_and_stop(self):
-        self.start()
-        for start, stop in (("TaviRecordStart:", "TaviRecordStop:"), ("tavirecordstart://", "TAVIRECORDSTOP://")):
-            before = len(self.recordings())
-            self.tavi(start)
-            self.wait_recording()
-            self.play()
-            self.tavi(stop)
-            self.wait_saved(before + 1)
-
-    def test_record_starts_the_program_when_none_runs(self):
-        self.start("record")
-        self.wait_recording()
-        self.play()
-        self.tavi("stop")
-        self.assert_holds_tone(self.wait_saved())
-
     def test_termination_saves_the_recording(self):
         app = self.start("record")
-        self.wait_recording()
-        self.play()
+        self.play_while_recording()
         self.assertEqual(self.desktop.stop(app, signal.SIGTERM), 0)
         self.assert_holds_tone(self.wait_saved())
 
     def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
         self.start("record")
-        self.wait_recording()
-        self.play()
+        self.play_while_recording()
         self.desktop.kill_sound()
         try:
             saved = self.wait_saved()
@@ -190,14 +146,13 @@ class Recording(AppTest):
             self.desktop.start_sound()
         self.assert_holds_tone(saved)
         self.tavi("record")
-        self.wait_recording()
-        self.play()
+        self.play_while_recording()
         self.tavi("stop")
         self.assert_holds_tone(self.wait_saved(2))
 
 
 class Playing(AppTest):
-    PLAYER = ("org.mpris.MediaPlayer2.tavi", "/org/mpris/MediaPlayer2", "org.mpris.MediaPlayer2.Player")
+    PLAYER = "org.mpris.MediaPlayer2.Player"
 
     def setUp(self):
         super().setUp()
@@ -207,17 +162,15 @@ class Playing(AppTest):
         self.tavi("set", "ForwardSong", "15")
         self.start("library")
 
+    def call(self, method, *arguments, interface=PLAYER, check=True):
+        return self.desktop.run("gdbus", "call", "--session", "--dest", "org.mpris.MediaPlayer2.tavi", "--object-path",
+                                "/org/mpris/MediaPlayer2", "--method", f"{interface}.{method}", *arguments,
+                                check=check).stdout
+
     def player(self, name):
-        destination, path, interface = self.PLAYER
-        said = self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
-                                "org.freedesktop.DBus.Properties.Get", interface, name, check=False).stdout
+        said = self.call("Get", self.PLAYER, name, interface="org.freedesktop.DBus.Properties", check=False)
         value = re.search(r"<(?:\w+ )?'?([^'>]+)'?>", said)
         return value and value.group(1)
-
-    def call(self, method, *arguments):
-        destination, path, interface = self.PLAYER
-        self.desktop.run("gdbus", "call", "--session", "--dest", destination, "--object-path", path, "--method",
-                         f"{interface}.{method}", *arguments)
 
     def position(self):
         return int(self.player("Position")) / 1e6
@@ -248,16 +201,10 @@ class Playing(AppTest):
         self.wait(lambda: float(self.player("Rate")) == 2.0, "double speed")
         self.call("PlayPause")
         self.wait_status("Playing")
-        self.desktop.keys("Escape")
-        self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
-
-    def test_a_recording_deleted_while_it_plays_harms_nothing(self):
-        self.desktop.keys("Down")
-        self.desktop.keys("Return")
-        self.wait_status("Playing")
+        # Deleted behind the program's back, it harms nothing.
         (self.documents / "memo.wav").unlink()
-        self.call("Seek", "20000000")
-        self.call("Stop")
+        self.call("Seek", "1000000")
+        self.desktop.keys("Escape")
         self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
 
 
@@ -279,58 +226,24 @@ class Trimming(AppTest):
         self.assertEqual(memo.read_bytes(), before)
 
 
-class Files(AppTest):
-    def test_waveform_prints_and_draws(self):
+class CommandLine(AppTest):
+    def test_waveform_trim_and_list(self):
         shown = json.loads(self.tavi("waveform", self.tone, "--points", "10", "--json").stdout)
-        self.assertEqual((shown["channels"], shown["points"]), (2, 10))
         for channel in shown["data"]:
             # Two seconds of the tone in three of the file.
             self.assertAlmostEqual(channel[3], 0.5 / 2 ** 0.5, delta=0.004)
             self.assertLess(channel[9], 0.001)
-        picture = self.desktop.folder / "wave.png"
-        self.tavi("waveform", self.tone, "--png", picture)
-        self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
-
-
-    def test_trim_copies_a_part(self):
-        memo = write_tone(self.desktop.folder / "memo.wav", 1000, 3.0)
-        made = pathlib.Path(self.tavi("trim", memo, "--from", "0.5", "--to", "1.25").stdout.strip())
-        self.assertRegex(made.name, r"^Trim_\d{4}_[A-Z][a-z]{2}_\d\d_\d\d_\d\d_\d\d\.wav$")
-        self.assertEqual(self.recordings(), [made])
-        self.assertEqual(probe(made)["duration"], 0.75)
-        for faulty in (["--from", "2", "--to", "1"], ["--from", "9", "--to", "10"], ["--from", "0", "--to", "1", "--out", memo]):
-            done = self.tavi("trim", memo, *faulty, check=False)
-            self.assertEqual((done.returncode, done.stdout), (1, ""))
-            self.assertIn("memo.wav: ", done.stderr)
-        self.assertEqual(len(list(self.documents.iterdir())), 1)
-
-
-class Instance(AppTest):
-    def test_a_second_start_hands_over_to_the_first(self):
-        app = self.start()
-        second = self.tavi("library")
-        self.assertEqual(second.returncode, 0)
-        self.assertEqual(self.tavi().returncode, 0)
-        self.assertIsNone(app.poll())
-        windows = self.desktop.run("xdotool", "search", "--onlyvisible", "--class", ".", check=False).stdout.split()
-        self.assertEqual(len(windows), 1)
-
-    def test_settings_and_lists_on_the_command_line(self):
-        self.assertEqual(self.tavi("get", "AudioFileType").stdout.strip(), "m4a")
-        self.tavi("set", "AudioFileType", "wav")
-        self.assertEqual(self.tavi("get", "AudioFileType").stdout.strip(), "wav")
-        self.assertEqual(json.loads(self.tavi("list", "--json").stdout), [])
-        write_tone(self.documents / "memo.wav", 1000, 2.5)
-        write_tone(self.documents / "other.wav", 1000, 0.5)
-        listed = {entry["filename"]: entry for entry in json.loads(self.tavi("list", "--json").stdout)}
-        self.assertEqual(set(listed), {"memo.wav", "other.wav"})
-        self.assertEqual(listed["memo.wav"]["duration"], "00:03")
-        self.assertIn("memo.wav", self.tavi("list").stdout)
+        made = pathlib.Path(self.tavi("trim", self.tone, "--from", "0.5", "--to", "2.25").stdout.strip())
+        self.assertEqual(probe(made)["duration"], 1.75)
+        before = made.read_bytes()
+        refused = self.tavi("trim", made, "--from", "0", "--to", "1", "--out", made, check=False)
+        self.assertEqual((refused.returncode, refused.stdout, made.read_bytes()), (1, "", before))
+        listed, = json.loads(self.tavi("list", "--json").stdout)
+        self.assertEqual((listed["filename"], listed["duration"]), (made.name, "00:01"))
 
     def test_mistakes_are_told_on_standard_error(self):
-        for arguments in (["fly"], ["set", "AudioFileType"], ["set", "AudioFileType", "ogg"], ["get", "NoSuchKey"],
-                          ["--no-such-option"], ["waveform", "/nonexistent.wav"], ["waveform", "/etc/passwd"],
-                          ["waveform", "/etc"], ["import", "/nonexistent.m4a"]):
+        for arguments in (["fly"], ["set", "AudioFileType", "ogg"], ["get", "NoSuchKey"], ["waveform", "/nonexistent.wav"],
+                          ["waveform", "/etc/passwd"], ["waveform", "/etc"]):
             with self.subTest(arguments=arguments):
                 done = self.tavi(*arguments, check=False)
                 self.assertNotEqual(done.returncode, 0)

@@ -17,7 +17,6 @@ public:
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
-    QString address() const { return m_address; }
     /// A new connection, a participant of its own; it ends with this.
     QDBusConnection connect();
     /// A connection that is not connected, as where there is no bus.

@@ -1,22 +1,35 @@
 #include "support/PrivatePulse.h"
 
 #include <arpa/inet.h>
+#include <spawn.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
-#include <csignal>
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QRegularExpression>
 #include <QThread>
+#include <csignal>
 
 namespace tavi::test {
 
 namespace {
 
-/// Milliseconds that a server may take to come up.
-constexpr int kPatience = 20'000;
+/// Asks every few milliseconds, for as long as a server may take to come up.
+template <class Condition>
+void waitUntil(Condition condition, const char* failure) {
+    QElapsedTimer waited;
+    for (waited.start(); !condition(); QThread::msleep(5)) {
+        if (waited.elapsed() > 20'000) {
+            qFatal("%s", failure);
+        }
+    }
+}
+
+bool runs(const QByteArray& shellCommand) {
+    return ::system(shellCommand.constData()) == 0;
+}
 
 /// A port that nobody listens on.
 int freePort() {
@@ -33,45 +46,49 @@ int freePort() {
     return ntohs(address.sin_port);
 }
 
-void setEnvironment(const QByteArray& name, const QByteArray& value) {
-    if (value.isNull()) {
-        qunsetenv(name.constData());
-    } else {
-        qputenv(name.constData(), value);
+}  // namespace
+
+ChildProcess::ChildProcess(const QStringList& command, const QMap<QByteArray, QByteArray>& environment) {
+    QList<QByteArray> words{"setpriv", "--pdeathsig=KILL", "env"};
+    for (auto change = environment.begin(); change != environment.end(); ++change) {
+        words.append(change.value().isNull() ? "--unset=" + change.key() : change.key() + '=' + change.value());
+    }
+    for (const QString& word : command) {
+        words.append(word.toLocal8Bit());
+    }
+    std::vector<char*> pointers;
+    for (QByteArray& word : words) {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+    if (posix_spawnp(&m_pid, pointers[0], nullptr, nullptr, pointers.data(), environ) != 0) {
+        qFatal("%s does not start.", qPrintable(command.join(QLatin1Char(' '))));
     }
 }
 
-}  // namespace
+ChildProcess::~ChildProcess() {
+    ::kill(m_pid, SIGKILL);
+    waitpid(m_pid, nullptr, 0);
+}
+
+bool ChildProcess::isRunning() const {
+    siginfo_t end{};
+    return waitid(P_PID, static_cast<id_t>(m_pid), &end, WEXITED | WNOHANG | WNOWAIT) == 0 && end.si_pid == 0;
+}
 
 PrivatePulse::PrivatePulse() {
-    const QByteArray cookie = m_folder.filePath(QStringLiteral("cookie")).toLocal8Bit();
-    const std::pair<QByteArray, QByteArray> changes[] = {
-        {"PULSE_SERVER", address().toLocal8Bit()}, {"PULSE_COOKIE", cookie}, {"PULSE_SOURCE", {}}, {"PULSE_SINK", {}}};
-    for (const auto& [name, value] : changes) {
-        m_environment.append({name, qgetenv(name.constData())});
-        setEnvironment(name, value);
-    }
+    qputenv("PULSE_SERVER", "unix:" + m_folder.filePath(QStringLiteral("native")).toLocal8Bit());
+    qputenv("PULSE_COOKIE", m_folder.filePath(QStringLiteral("cookie")).toLocal8Bit());
+    qunsetenv("PULSE_SOURCE");
+    qunsetenv("PULSE_SINK");
     start();
 }
 
-PrivatePulse::~PrivatePulse() {
-    m_server.reset();
-    for (const auto& [name, value] : m_environment) {
-        setEnvironment(name, value);
-    }
-}
-
-QString PrivatePulse::address() const {
-    return QStringLiteral("unix:") + m_folder.filePath(QStringLiteral("native"));
-}
-
-QString PrivatePulse::refusingAddress() {
-    const QString port = QString::number(freePort());
-    const QString cookie = m_folder.filePath(QStringLiteral("another-cookie"));
-    pactl({QStringLiteral("load-module"), QStringLiteral("module-native-protocol-tcp"),
-           QStringLiteral("listen=127.0.0.1"), QStringLiteral("port=") + port,
-           QStringLiteral("auth-cookie=") + cookie});
-    return QStringLiteral("tcp:127.0.0.1:") + port;
+QByteArray PrivatePulse::refusingAddress() const {
+    const QByteArray port = QByteArray::number(freePort());
+    pactl("load-module module-native-protocol-tcp listen=127.0.0.1 port=" + port +
+          " auth-cookie=" + m_folder.filePath(QStringLiteral("another-cookie")).toLocal8Bit());
+    return "tcp:127.0.0.1:" + port;
 }
 
 void PrivatePulse::start() {
@@ -87,22 +104,8 @@ void PrivatePulse::start() {
                                      {"XDG_RUNTIME_DIR", folder},
                                      {"PULSE_RUNTIME_PATH", folder},
                                      {"PULSE_STATE_PATH", folder}});
-    QElapsedTimer waited;
-    waited.start();
-    while (waited.elapsed() < kPatience && m_server->isRunning()) {
-        // It complains as long as there is no server.
-        ChildProcess question({QStringLiteral("sh"), QStringLiteral("-c"),
-                               QStringLiteral("exec timeout 20 pactl get-default-source 2>/dev/null")});
-        if (question.output().trimmed() == "microphone") {
-            return;
-        }
-        QThread::msleep(5);
-    }
-    qFatal("The private sound server does not come up.");
-}
-
-void PrivatePulse::kill() {
-    m_server.reset();
+    waitUntil([] { return runs("timeout 20 pactl get-default-source 2>/dev/null | grep -qx microphone"); },
+              "The private sound server does not come up.");
 }
 
 void PrivatePulse::freeze() const {
@@ -113,41 +116,20 @@ void PrivatePulse::thaw() const {
     ::kill(m_server->pid(), SIGCONT);
 }
 
-void PrivatePulse::setMicrophone(int sampleRate, int channels) {
-    const QString modules = pactl({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")});
-    const QStringList ours = modules.split(QLatin1Char('\n')).filter(QStringLiteral("mic_sink"));
-    for (auto line = ours.crbegin(); line != ours.crend(); ++line) {
-        unloadModule(line->section(QLatin1Char('\t'), 0, 0));
-    }
-    const QString rate = QStringLiteral("rate=%1").arg(sampleRate);
-    const QString width = QStringLiteral("channels=%1").arg(channels);
-    pactl({QStringLiteral("load-module"), QStringLiteral("module-null-sink"), QStringLiteral("sink_name=mic_sink"),
-           QStringLiteral("norewinds=1"), rate, width});
-    pactl({QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
-           QStringLiteral("source_name=microphone"), QStringLiteral("master=mic_sink.monitor"),
-           QStringLiteral("remix=no"), rate, width});
-    pactl({QStringLiteral("set-default-source"), QStringLiteral("microphone")});
+void PrivatePulse::setMicrophone(int sampleRate, int channels) const {
+    const QByteArray shape = " rate=" + QByteArray::number(sampleRate) + " channels=" + QByteArray::number(channels);
+    pactl("list short modules | grep mic_sink | cut -f1 | tac | xargs -rn1 pactl unload-module");
+    pactl("load-module module-null-sink sink_name=mic_sink norewinds=1" + shape);
+    pactl("load-module module-remap-source source_name=microphone master=mic_sink.monitor remix=no" + shape);
+    pactl("set-default-source microphone");
 }
 
-void PrivatePulse::addMicrophone() {
-    pactl({QStringLiteral("load-module"), QStringLiteral("module-remap-source"),
-           QStringLiteral("source_name=other_microphone"), QStringLiteral("master=mic_sink.monitor")});
-}
-
-void PrivatePulse::unloadModule(const QString& name) {
-    pactl({QStringLiteral("unload-module"), name});
-}
-
-void PrivatePulse::moveRecording(const QString& source) {
-    const QString outputs = pactl({QStringLiteral("list"), QStringLiteral("source-outputs")});
+void PrivatePulse::moveRecording(const QByteArray& source) const {
     // The remapped microphones are recordings too; ours carries the program's name.
-    const QString head = outputs.left(outputs.indexOf(QStringLiteral("application.name = \"Tavi\"")));
-    const QRegularExpression number(QStringLiteral("Source Output #(\\d+)"));
-    QString index;
-    for (auto matches = number.globalMatch(head); matches.hasNext();) {
-        index = matches.next().captured(1);
-    }
-    pactl({QStringLiteral("move-source-output"), index, source});
+    pactl(
+        "move-source-output $(pactl list source-outputs | awk '/^Source Output/ { number = substr($3, 2) } "
+        "/application.name = \"Tavi\"/ { print number }') " +
+        source);
 }
 
 ProcessHandle PrivatePulse::play(const QByteArray& samples, int sampleRate, int channels) {
@@ -168,25 +150,14 @@ ProcessHandle PrivatePulse::listen(const QString& path, int channels, const QStr
         QStringList{QStringLiteral("parec"), QStringLiteral("--raw"), QStringLiteral("--device=%1.monitor").arg(sink),
                     QStringLiteral("--format=float32ne"), QStringLiteral("--rate=48000"),
                     QStringLiteral("--latency-msec=50"), QStringLiteral("--channels=%1").arg(channels), path});
-    QElapsedTimer waited;
-    waited.start();
-    while (QFile(path).size() == 0) {
-        if (waited.elapsed() > kPatience) {
-            qFatal("Nothing is heard from the sink.");
-        }
-        QThread::msleep(5);
-    }
+    waitUntil([&path] { return QFile(path).size() > 0; }, "Nothing is heard from the sink.");
     return listener;
 }
 
-QString PrivatePulse::pactl(const QStringList& arguments) const {
-    ChildProcess process(QStringList{QStringLiteral("timeout"), QStringLiteral("20"), QStringLiteral("pactl")} +
-                         arguments);
-    const QByteArray output = process.output();
-    if (process.exitCode() != 0) {
-        qFatal("pactl %s fails.", qPrintable(arguments.join(QLatin1Char(' '))));
+void PrivatePulse::pactl(const QByteArray& arguments) const {
+    if (!runs("timeout 20 pactl " + arguments + " >/dev/null")) {
+        qFatal("pactl %s fails.", arguments.constData());
     }
-    return QString::fromLocal8Bit(output);
 }
 
 }  // namespace tavi::test

@@ -1,58 +1,70 @@
 #pragma once
 
+#include <sys/types.h>
+
+#include <QByteArray>
+#include <QMap>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <memory>
 
-#include "support/ChildProcess.h"
-
 namespace tavi::test {
+
+/// A process that is killed when this goes away, and with the test's main thread if that crashes. Fails the program
+/// when it cannot be started.
+///
+/// Not QProcess: its way of forking hides the main thread's locks from ThreadSanitizer.
+class ChildProcess {
+public:
+    /// The environment is the program's own with these changes; a null value removes a variable.
+    explicit ChildProcess(const QStringList& command, const QMap<QByteArray, QByteArray>& environment = {});
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    pid_t pid() const { return m_pid; }
+    bool isRunning() const;
+
+private:
+    pid_t m_pid = 0;
+};
 
 using ProcessHandle = std::unique_ptr<ChildProcess>;
 
 /// A sound server of the test's own, without sound cards: what is played into "mic_sink" is what its default source,
 /// the "microphone", hears; "speaker" is the default sink. Programs and libraries started later find it through
-/// PULSE_SERVER; the environment is as before when this goes away. Fails the program when the server does not come up.
+/// PULSE_SERVER. Fails the program when the server does not come up.
 class PrivatePulse {
 public:
     PrivatePulse();
-    ~PrivatePulse();
-    PrivatePulse(const PrivatePulse&) = delete;
-    PrivatePulse& operator=(const PrivatePulse&) = delete;
 
-    /// What PULSE_SERVER names.
-    QString address() const;
     /// Another address of the server, where nobody is let in.
-    QString refusingAddress();
+    QByteArray refusingAddress() const;
 
     /// Starts the server again after kill().
     void start();
     /// Ends the server as a crash would.
-    void kill();
+    void kill() { m_server.reset(); }
     /// Stops and continues the server's process: it answers nothing meanwhile.
     void freeze() const;
     void thaw() const;
 
     /// Replaces the microphone by one of that shape.
-    void setMicrophone(int sampleRate, int channels);
-    /// A second microphone, "other_microphone".
-    void addMicrophone();
-    /// Takes the module of that name or number away, such as "module-remap-source": every microphone.
-    void unloadModule(const QString& name);
+    void setMicrophone(int sampleRate, int channels) const;
+    void removeMicrophones() const { pactl("unload-module module-remap-source"); }
     /// Puts the one recording stream on another source.
-    void moveRecording(const QString& source);
+    void moveRecording(const QByteArray& source) const;
     /// Plays raw 16-bit samples of the native byte order into the microphone, until the handle goes away.
     ProcessHandle play(const QByteArray& samples, int sampleRate, int channels);
     /// Writes what a sink plays to a file, as interleaved floats at 48000 Hz, until the handle goes away. It has begun
     /// when this returns.
     ProcessHandle listen(const QString& path, int channels, const QString& sink = QStringLiteral("speaker")) const;
-    /// What pactl prints; fails the program when it fails.
-    QString pactl(const QStringList& arguments) const;
+    /// Has the shell run pactl with these arguments; fails the program when that fails.
+    void pactl(const QByteArray& arguments) const;
 
 private:
     QTemporaryDir m_folder;
     ProcessHandle m_server;
-    QList<std::pair<QByteArray, QByteArray>> m_environment;
     int m_files = 0;
 };
 

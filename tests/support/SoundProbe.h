@@ -30,10 +30,6 @@ double levelOf(std::span<const float> samples);
 /// Hertz of the tone in the samples, from its upward zero crossings; 0 where there are less than two.
 double frequencyOf(std::span<const float> samples, int rate);
 
-/// The longest stretch of a steady tone that was never silent: a player that gets no processor for a moment leaves
-/// holes in what a microphone hears.
-std::span<const float> steadyPartOf(std::span<const float> samples, int rate);
-
 /// The middle of a channel, without the tenths at both ends.
 std::span<const float> middleOf(const std::vector<float>& samples);
 

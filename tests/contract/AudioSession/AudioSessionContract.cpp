@@ -2,7 +2,6 @@
 
 #include <QtCore/qtestsupport_core.h>
 #include <future>
-#include <optional>
 
 #include "adapters/pulse/PulseAudioSession.h"
 #include "adapters/pulse/PulseConnection.h"
@@ -30,7 +29,7 @@ private:
 class PulseSessionWorld {
 public:
     AudioSession& session() { return m_session; }
-    void removeMicrophone() { m_server.unloadModule(QStringLiteral("module-remap-source")); }
+    void removeMicrophone() { m_server.removeMicrophones(); }
     void removeServer() { m_server.kill(); }
     void answerQuestions() {}
 
@@ -46,8 +45,7 @@ protected:
         std::promise<bool> answer;
         m_world.session().requestRecordPermission([&answer](bool granted) { answer.set_value(granted); });
         m_world.answerQuestions();
-        auto future = answer.get_future();
-        return future.wait_for(std::chrono::seconds(10)) == std::future_status::ready && future.get();
+        return answer.get_future().get();
     }
     Result<void> setCategory() {
         return m_world.session().setCategory(AudioSession::Category::PlayAndRecord,
@@ -65,7 +63,6 @@ TYPED_TEST(AudioSessionContract, RecordsWithAMicrophone) {
     EXPECT_TRUE(this->setCategory());
     EXPECT_TRUE(this->m_world.session().setActive(true));
     EXPECT_TRUE(this->m_world.session().isInputAvailable());
-    EXPECT_TRUE(this->ask());
 
     this->m_world.removeMicrophone();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !this->m_world.session().isInputAvailable(); }));

@@ -15,7 +15,6 @@
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
 #include "support/PrivateBus.h"
-#include "support/RecordingDelegate.h"
 
 namespace tavi::test {
 
@@ -23,9 +22,26 @@ namespace {
 
 using Kind = ActivationRequest::Kind;
 
-QString line(const QStringList& calls) {
-    return calls.join(QLatin1String(", "));
-}
+/// Writes down what it is told: the life cycle by the calls' last word, URLs and shortcuts as they are.
+class RecordingDelegate : public ApplicationDelegate {
+public:
+    void applicationDidBecomeActive() override { calls << QStringLiteral("active"); }
+    void applicationWillResignActive() override { calls << QStringLiteral("resign"); }
+    void applicationDidEnterBackground() override { calls << QStringLiteral("background"); }
+    void applicationWillEnterForeground() override { calls << QStringLiteral("foreground"); }
+    void applicationWillTerminate() override { calls << QStringLiteral("terminate"); }
+    bool applicationOpenURL(const QUrl& url) override {
+        calls << QStringLiteral("open ") + url.toString();
+        return true;
+    }
+    void applicationPerformActionForShortcutItem(const ShortcutItem& item,
+                                                 std::function<void(bool)> completionHandler) override {
+        calls << QStringLiteral("shortcut ") + item.type;
+        completionHandler(false);
+    }
+
+    QStringList calls;
+};
 
 class DBusApplicationTest : public ::testing::Test {
 protected:
@@ -52,8 +68,13 @@ protected:
 
     /// Waits until the delegate has been told exactly this, all in all since the last time.
     void expectCalls(const char* expected) {
-        spinUntil([&] { return line(m_delegate.calls).size() >= qsizetype(qstrlen(expected)); });
-        EXPECT_EQ(line(m_delegate.take()).toStdString(), expected);
+        QString calls;
+        spinUntil([&] {
+            calls = m_delegate.calls.join(QLatin1String(", "));
+            return calls.size() >= qsizetype(qstrlen(expected));
+        });
+        EXPECT_EQ(calls.toStdString(), expected);
+        m_delegate.calls.clear();
     }
 
     PrivateBus m_bus;
@@ -120,16 +141,13 @@ TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
     expectCalls("active");
     window.requestActivate();
     ASSERT_TRUE(spinUntil([] { return QGuiApplication::applicationState() == Qt::ApplicationActive; }));
-    window.hide();
-    expectCalls("resign, background");
-    window.show();
-    window.requestActivate();
-    expectCalls("foreground, active");
-    window.showMinimized();
-    expectCalls("resign, background");
-    window.showNormal();
-    window.requestActivate();
-    expectCalls("foreground, active");
+    for (const auto leave : {&QWindow::hide, &QWindow::showMinimized}) {
+        (window.*leave)();
+        expectCalls("resign, background");
+        window.showNormal();
+        window.requestActivate();
+        expectCalls("foreground, active");
+    }
 
     ASSERT_TRUE(spinUntil([this] { return m_desktop.isWatched; }));
     m_desktop.setScreenSaverActive(true);

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QUrl>
 
 #include "adapters/qt/QtUserDefaults.h"
 #include "adapters/qt/TerminationSignals.h"
@@ -34,15 +33,6 @@ protected:
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(QStringLiteral("settings.ini"));
 };
-
-TEST_F(SettingsFile, IsPlainText) {
-    QtUserDefaults defaults(m_path);
-    defaults.setObject(QVariant::fromValue(12.5F), QStringLiteral("RewindSong"));
-    defaults.setObject(true, QStringLiteral("QuickMail"));
-    defaults.setObject(QVariant::fromValue(QUrl(QStringLiteral("a:b"))), QStringLiteral("odd"));
-    ASSERT_TRUE(defaults.synchronize());
-    EXPECT_EQ(text(), "[General]\nQuickMail=true\nRewindSong=12.5\nodd=a:b\n");
-}
 
 TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
     QtUserDefaults defaults(m_path);

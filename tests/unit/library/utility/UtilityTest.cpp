@@ -14,7 +14,7 @@ TEST(UtilityTest, sizesTurnIntoMegabytesAtExactlyOne) {
         int bytes;
         const char* text;
         const char* size;
-    } rows[] = {{512, "0 KB", "0.000488"}, {1048575, "1024 KB", "0.999999"}, {11010048, "10.5 MB", "10.500000"}};
+    } rows[] = {{512, "0 KB", "0.000488"}, {1048575, "1024 KB", "0.999999"}, {1048576, "1.0 MB", "1.000000"}};
     for (const auto& row : rows) {
         const QString path = container.addDocument(QStringLiteral("a"), {});
         ASSERT_TRUE(QFile::resize(path, row.bytes));
