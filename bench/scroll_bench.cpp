@@ -34,9 +34,10 @@ int main(int argc, char** argv) {
         }
         made.tabBar.select(1);
     });
-    shell.resize({390, 844});
-    QQuickItem* list = shell.item(QStringLiteral("tableView"));
-    if (list == nullptr || list->property("count").toInt() != kRecordings) {
+    shell.window->resize(390, 844);
+    shell.settle();
+    QQuickItem* list = shell.item("tableView");
+    if (list->property("count").toInt() != kRecordings) {
         std::fprintf(stderr, "scroll_bench: there is no list of %d\n", kRecordings);
         return 1;
     }

@@ -10,7 +10,7 @@ RATE = 48000
 
 
 def write_tone(path, hertz, seconds):
-    """A stereo sine at half the full scale, and half a second of silence so that its end is not lost in a player's or recorder's buffer."""
+    """A stereo sine at half the full scale, and half a second of silence so that its end is not lost in a buffer."""
     samples = array.array("h")
     for i in range(int(seconds * RATE)):
         value = round(16384 * math.sin(2 * math.pi * hertz * i / RATE))

@@ -130,6 +130,16 @@ class Recording(AppTest):
             shown = self.wait(lambda: (now := self.desktop.picture()) != before and now, f"the screen after {key}")
         self.assertEqual(self.desktop.stop(app), 0)
 
+    def test_urls_in_any_case_start_the_program_and_stop_the_recording(self):
+        self.start("TaviRecordStart:")
+        for stop, start in (("TaviRecordStop:", "tavirecordstart://"), ("TAVIRECORDSTOP://", None)):
+            before = len(self.recordings())
+            self.play_while_recording()
+            self.tavi(stop)
+            self.assert_holds_tone(self.wait_saved(before + 1))
+            if start:
+                self.tavi(start)
+
     def test_termination_saves_the_recording(self):
         app = self.start("record")
         self.play_while_recording()
@@ -233,6 +243,9 @@ class CommandLine(AppTest):
             # Two seconds of the tone in three of the file.
             self.assertAlmostEqual(channel[3], 0.5 / 2 ** 0.5, delta=0.004)
             self.assertLess(channel[9], 0.001)
+        picture = self.desktop.folder / "wave.png"
+        self.tavi("waveform", self.tone, "--png", picture)
+        self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
         made = pathlib.Path(self.tavi("trim", self.tone, "--from", "0.5", "--to", "2.25").stdout.strip())
         self.assertEqual(probe(made)["duration"], 1.75)
         before = made.read_bytes()

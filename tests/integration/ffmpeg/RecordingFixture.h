@@ -12,7 +12,7 @@
 
 #include "adapters/ffmpeg/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
-#include "support/SoundProbe.h"
+#include "integration/SoundProbe.h"
 
 namespace tavi::test {
 

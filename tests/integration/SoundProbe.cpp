@@ -1,4 +1,4 @@
-#include "support/SoundProbe.h"
+#include "integration/SoundProbe.h"
 
 #include <QFile>
 #include <algorithm>
