@@ -63,6 +63,9 @@ AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& pa
     if (opened->is("caf")) {
         const auto header = readCafHeader(fd);
         opened->m_primingFrames = header ? header->primingFrames : 0;
+    } else if (opened->is("mov") && stream.start_time != AV_NOPTS_VALUE && stream.start_time < 0) {
+        // An edit leaves out what comes before; that of a file with fragments only moves the times.
+        opened->m_primingFrames = av_rescale_q(-stream.start_time, base, {1, static_cast<int>(rate)});
     }
     packets = std::move(opened);
     return kAudioNoError;

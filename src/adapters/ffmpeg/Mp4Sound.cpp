@@ -6,6 +6,7 @@ extern "C" {
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <initializer_list>
 #include <string_view>
 
@@ -121,7 +122,12 @@ std::optional<Mp4Sound> Mp4Sound::open(int fd) {
 bool Mp4Sound::readMovie(const Mp4Box& movie) {
     const auto children = boxesIn(m_fd, movie);
     if (findMp4Box(children, mp4Type("mvex")) != nullptr) {
-        return false;
+        auto fragments = Mp4Fragments::open(m_fd);
+        if (!fragments) {
+            return false;
+        }
+        m_fragments = std::move(*fragments);
+        m_isPlain = false;
     }
     const Mp4Box* track = nullptr;
     for (const Mp4Box& child : children) {
@@ -292,7 +298,8 @@ bool Mp4Sound::readEdits(const Mp4Box& list, std::uint32_t movieTimeScale) {
     m_start = isLong ? static_cast<std::int64_t>(reader.u64()) : static_cast<std::int32_t>(reader.u32());
     constexpr std::int64_t kLatest = std::int64_t{1} << 48;
     const bool isAtNormalSpeed = reader.u32() == 1U << 16;
-    if (movieTimeScale > 0 && duration < static_cast<std::uint64_t>(kLatest)) {
+    // An edit in a file that was still to grow says nothing of its length.
+    if (!m_fragments && movieTimeScale > 0 && duration < static_cast<std::uint64_t>(kLatest)) {
         m_editedDuration = av_rescale(static_cast<std::int64_t>(duration), m_timeScale, movieTimeScale);
     } else {
         m_isPlain = false;
@@ -302,6 +309,9 @@ bool Mp4Sound::readEdits(const Mp4Box& list, std::uint32_t movieTimeScale) {
 
 bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
                              const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const {
+    if (m_fragments) {
+        return forEachPacketOfFragments(time, preroll, visit);
+    }
     const std::uint64_t first = m_tables.packetAt(time);
     auto place = m_tables.placeBefore(first - std::min(first, preroll));
     std::int64_t start = 0;
@@ -312,6 +322,28 @@ bool Mp4Sound::forEachPacket(std::int64_t time, std::uint64_t preroll,
         }
     }
     return place && place->packet == m_tables.packets();
+}
+
+bool Mp4Sound::forEachPacketOfFragments(std::int64_t time, std::uint64_t preroll,
+                                        const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const {
+    // Packets that have been read and not been visited.
+    std::deque<std::pair<std::int64_t, Mp4Packet>> waiting;
+    std::int64_t start = 0;
+    bool isWanted = true;
+    const auto end = m_fragments->forEachRun([&](const Mp4Run& run) {
+        std::int64_t offset = run.offset;
+        for (const Mp4Sample& sample : run.samples) {
+            waiting.emplace_back(start, Mp4Packet{offset, sample.size, sample.duration});
+            offset += sample.size;
+            start += sample.duration;
+            while (!waiting.empty() && (start > time || waiting.size() > preroll)) {
+                const auto& [begin, packet] = waiting.front();
+                isWanted = isWanted && (start <= time || visit(begin, packet));
+                waiting.pop_front();
+            }
+        }
+    });
+    return end.has_value();
 }
 
 }  // namespace tavi

@@ -6,16 +6,17 @@
 #include <span>
 #include <vector>
 
+#include "adapters/ffmpeg/Mp4Fragments.h"
 #include "adapters/ffmpeg/Mp4PacketTables.h"
 
 namespace tavi {
 
-/// The one track of sound in an ordinary MP4 or M4A file (ISO/IEC 14496-12, 8.6 and 8.7), as its tables describe it.
-/// Borrows the descriptor, and holds little of a long file. One thread at a time.
+/// The one track of sound in an MP4 or M4A file (ISO/IEC 14496-12, 8.6 to 8.8), as its tables or its fragments describe
+/// it. Borrows the descriptor, and holds little of a long file. One thread at a time.
 class Mp4Sound {
 public:
-    /// Nothing for other files, fragmented ones and those without exactly one track of sound, and where the track is
-    /// edited in more ways than by leaving out its start or end.
+    /// Nothing for other files and those without exactly one track of sound, and where the track is edited in more ways
+    /// than by leaving out its start or end.
     static std::optional<Mp4Sound> open(int fd);
 
     std::uint32_t timeScale() const { return m_timeScale; }
@@ -23,8 +24,10 @@ public:
     std::int64_t start() const { return m_start; }
     /// Media time that is meant to be heard from there on; nothing where the file does not say it by an edit.
     std::optional<std::int64_t> editedDuration() const { return m_editedDuration; }
-    /// Whether the file has nothing but that track and no box beside the usual ones that could change what is heard.
+    /// Whether the file has nothing but that track, no fragments, and no box beside the usual ones that could change
+    /// what is heard.
     bool isPlain() const { return m_isPlain; }
+    /// Of a file without fragments.
     const Mp4PacketTables& tables() const { return m_tables; }
     /// The box "stsd" as it is, and the coding it names, such as "mp4a".
     std::span<const std::uint8_t> description() const { return m_description; }
@@ -47,6 +50,8 @@ public:
 private:
     explicit Mp4Sound(int fd) : m_fd(fd) {}
 
+    bool forEachPacketOfFragments(std::int64_t time, std::uint64_t preroll,
+                                  const std::function<bool(std::int64_t, const Mp4Packet&)>& visit) const;
     bool readMovie(const Mp4Box& movie);
     bool readTrack(const Mp4Box& track, std::uint32_t movieTimeScale);
     bool readMedia(const Mp4Box& media);
@@ -62,6 +67,7 @@ private:
     std::vector<std::uint8_t> m_description;
     std::optional<Mp4Box> m_userData;
     Mp4PacketTables m_tables;
+    std::optional<Mp4Fragments> m_fragments;
 };
 
 }  // namespace tavi

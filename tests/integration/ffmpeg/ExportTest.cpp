@@ -182,10 +182,18 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
 TEST_F(ExportTest, InterruptedRecordingsAreCutExactlyToo) {
     for (const std::size_t index : {std::size_t{0}, std::size_t{3}}) {
         const QString source = recording(kTypes[index], kQualities[2], false);
-        expectCompleted(*session(source, target(), AssetFileType::AppleM4A), 44100, 100003, 50000);
-        const auto own = heard(target());
-        EXPECT_EQ(own.size(), 100000U);
-        EXPECT_LE(difference(heard(source), std::size_t{2} * 100003, own, 0, 32768), kEdges[index].tolerance);
+        const auto whole = heard(source);
+        const auto frames = static_cast<std::int64_t>(whole.size() / 2);
+        for (const auto& [start, length] :
+             {std::pair<std::int64_t, std::int64_t>{0, 1}, {1023, 3000}, {100003, 50000}, {frames - 100, 100}}) {
+            SCOPED_TRACE(testing::Message() << kTypes[index].extension << " from " << start << " for " << length);
+            expectCompleted(*session(source, target(), AssetFileType::AppleM4A), 44100, start, length);
+            const auto own = heard(target());
+            EXPECT_EQ(own.size(), static_cast<std::size_t>(length) * 2);
+            EXPECT_LE(difference(whole, static_cast<std::size_t>(start) * 2, own, 0, 32768), kEdges[index].tolerance);
+        }
+        ASSERT_TRUE(Mp4Finalizer::finalize(source));
+        EXPECT_TRUE(heard(source) == whole);
     }
 }
 
