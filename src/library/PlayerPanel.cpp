@@ -91,7 +91,8 @@ void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
 }
 
 void PlayerPanel::showWaveform() {
-    constexpr quint32 kFlat = 2;
+    // As many points as a waveform has: the line of few ends before the plot does.
+    constexpr quint32 kFlat = 1024;
     constexpr float kNearlyFull = 0.95F;
     constexpr std::array<float, kFlat> kSilence{};
     m_audioPlot->updateBuffer(kSilence.data(), kFlat);
