@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
 #include <QFile>
 
 #include "adapters/dbus/DBusIdleTimer.h"
@@ -28,11 +28,17 @@ protected:
     bool isFake() const { return GetParam() == Kind::Fake; }
     /// Waits until everything sent so far has been dealt with on both sides.
     bool settle() {
+        QObject context;
         for (int round = 0; round < 3; ++round) {
-            const QDBusPendingCall ping = m_client.asyncCall(
-                QDBusMessage::createMethodCall(m_service.baseService(), QStringLiteral("/"),
-                                               QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")));
-            if (!spinUntil([&ping] { return ping.isFinished(); })) {
+            // The watcher is told in the order in which messages are; the call itself knows before.
+            bool answered = false;
+            auto* watcher =
+                new QDBusPendingCallWatcher(m_client.asyncCall(QDBusMessage::createMethodCall(
+                                                m_service.baseService(), QStringLiteral("/"),
+                                                QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"))),
+                                            &context);
+            QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context, [&answered] { answered = true; });
+            if (!spinUntil([&answered] { return answered; })) {
                 return false;
             }
         }

@@ -99,6 +99,7 @@ TEST_P(RemoteControlContract, HandsOnWhatIsPressedWhileItReceives) {
 
     m_control->beginReceivingRemoteControlEvents();
     m_control->beginReceivingRemoteControlEvents();
+    ASSERT_TRUE(spinUntil([this] { return isFake() || isOnBus(); }));
     const std::vector<Press> presses{
         {Subtype::Play, 0.0, "Play", {}},
         {Subtype::Pause, 0.0, "Pause", {}},
