@@ -168,7 +168,8 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     if (Result<void> opened = output.open(job, stream); !opened) {
         return opened;
     }
-    const std::int64_t origin = stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0;
+    const std::int64_t origin =
+        input->heardFrom().value_or(stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0);
     const std::int64_t start = origin + timeOf(job.start);
     const std::int64_t end = origin + timeOf(job.end);
     const std::int64_t first = start - timeOf(prerollOf(*stream.codecpar));
@@ -192,9 +193,9 @@ Result<void> exportAnyPackets(const ExportJob& job) {
         if (next <= first) {
             continue;
         }
-        packet.pts = packet.dts = begin - start;
-        // The last one ends with the stretch.
-        packet.duration = begin < end ? std::min(packet.duration, end - begin) : packet.duration;
+        // The last one that is heard ends with the stretch, and what follows it takes no time.
+        packet.pts = packet.dts = std::min(begin, end) - start;
+        packet.duration = std::min(packet.duration, std::max<std::int64_t>(0, end - begin));
         // What the whole file leaves out at its ends is not at those of the stretch.
         av_packet_free_side_data(&packet);
         job.control.setProgress(static_cast<double>(std::max<std::int64_t>(0, begin - start)) /

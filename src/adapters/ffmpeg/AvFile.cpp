@@ -1,5 +1,9 @@
 #include "adapters/ffmpeg/AvFile.h"
 
+extern "C" {
+#include <libavutil/avstring.h>
+}
+
 #include <algorithm>
 #include <cstdio>
 
@@ -98,6 +102,16 @@ AudioStatus AvFile::open(int fd, std::unique_ptr<AvFile>& file) {
     }
     file = std::move(opened);
     return kAudioNoError;
+}
+
+bool AvFile::is(const char* container) const {
+    return av_match_name(container, m_input->iformat->name) != 0;
+}
+
+std::optional<std::int64_t> AvFile::heardFrom() {
+    const std::int64_t first = stream().start_time;
+    // A movie's edit leaves out what comes before; that of a file with fragments only moves the times.
+    return is("mov") && first != AV_NOPTS_VALUE && first < 0 ? std::optional<std::int64_t>(0) : std::nullopt;
 }
 
 bool AvFile::next(AVPacket& packet) {

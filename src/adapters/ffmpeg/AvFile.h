@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "adapters/ffmpeg/AvHandles.h"
 #include "platform/ExtAudioFile.h"
@@ -22,6 +23,10 @@ public:
     AVFormatContext& context() { return *m_input; }
     /// The track of sound that plays when nothing is chosen.
     AVStream& stream() { return *m_input->streams[m_stream]; }
+    /// Whether the container has that name in libavformat.
+    bool is(const char* container) const;
+    /// The time from which on that track is heard, where packets before it are not.
+    std::optional<std::int64_t> heardFrom();
     /// The next packet of that track; false at the end.
     bool next(AVPacket& packet);
     AudioFileInfo info();

@@ -63,16 +63,13 @@ AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& pa
     if (opened->is("caf")) {
         const auto header = readCafHeader(fd);
         opened->m_primingFrames = header ? header->primingFrames : 0;
-    } else if (opened->is("mov") && stream.start_time != AV_NOPTS_VALUE && stream.start_time < 0) {
-        // An edit leaves out what comes before; that of a file with fragments only moves the times.
-        opened->m_primingFrames = av_rescale_q(-stream.start_time, base, {1, static_cast<int>(rate)});
     }
     packets = std::move(opened);
     return kAudioNoError;
 }
 
 bool ContainerPackets::is(const char* container) const {
-    return av_match_name(container, m_file->context().iformat->name) != 0;
+    return m_file->is(container);
 }
 
 bool ContainerPackets::tellsExactTimes() const {

@@ -19,6 +19,7 @@ public:
     std::uint32_t maxPacketSize() const override { return m_maxPacketSize; }
     std::int64_t declaredLength(int rate) override;
     std::int64_t primingFrames() const override { return m_primingFrames; }
+    std::optional<std::int64_t> startTime() const override { return m_file->heardFrom(); }
     bool next(AVPacket& packet) override {
         m_isFresh = false;
         return m_file->next(packet);

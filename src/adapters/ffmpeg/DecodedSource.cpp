@@ -165,7 +165,7 @@ AudioStatus DecodedSource::start() {
         return kAudioFileUnsupportedDataFormatError;
     }
     if (m_hasFrame && m_frame->pts != AV_NOPTS_VALUE) {
-        m_origin = framesOf(m_frame->pts) + m_packets->primingFrames();
+        m_origin = framesOf(m_packets->startTime().value_or(m_frame->pts)) + m_packets->primingFrames();
     }
     if (m_hasFrame && m_frame->ch_layout.order == AV_CHANNEL_ORDER_NATIVE) {
         m_channelMask = m_frame->ch_layout.u.mask;

@@ -27,7 +27,7 @@ std::optional<Asset> assetOfHeader(const QByteArray& path) {
     if (!seconds) {
         return std::nullopt;
     }
-    const std::int64_t frames = std::llround(*seconds * format->sampleRate);
+    const std::int64_t frames = std::llround(std::min(*seconds * format->sampleRate, 1e15));
     bool isThere = false;
     sound->forEachPacket(sound->start() + frames - 1, 0, [&](std::int64_t begin, const Mp4Packet& packet) {
         isThere = sound->start() + frames <= begin + packet.duration && packet.offset <= size &&

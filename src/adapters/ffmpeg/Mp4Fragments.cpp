@@ -13,6 +13,8 @@ namespace {
 /// More than any header or fragment of a recording, and little enough to hold.
 constexpr std::int64_t kMaximumHeaderBytes = std::int64_t{16} << 20;
 constexpr std::uint32_t kMaximumRunSamples = 1U << 20;
+/// Minutes at any rate, and so short that no sum overflows.
+constexpr std::uint32_t kLongestSample = 1U << 24;
 
 std::optional<Mp4Box> findMovie(int fd, std::int64_t size) {
     std::int64_t offset = 0;
@@ -43,6 +45,22 @@ std::vector<std::uint8_t> readBody(int fd, const Mp4Box& box) {
 bool isCutOff(int fd, std::int64_t offset, std::int64_t size) {
     const auto box = readMp4Box(fd, offset, size);
     return size - offset < 8 || !box || box->end > size || box->type == 0;
+}
+
+/// Whether the movie header itself tells where samples are, as it does when only later ones are in fragments.
+bool hasSamples(const Mp4Child& track) {
+    std::span<const std::uint8_t> body = track.body;
+    for (const std::uint32_t type : {mp4Type("mdia"), mp4Type("minf"), mp4Type("stbl"), mp4Type("stsz")}) {
+        const auto children = mp4Children(body);
+        const Mp4Child* child = children ? findMp4Child(*children, type) : nullptr;
+        if (child == nullptr) {
+            return false;
+        }
+        body = child->body;
+    }
+    Mp4Reader reader(body);
+    reader.skip(8);
+    return reader.u32() > 0;
 }
 
 }  // namespace
@@ -80,7 +98,8 @@ Result<Mp4Fragments> Mp4Fragments::open(int fd) {
     const auto isTrack = [](const Mp4Child& child) { return child.type == mp4Type("trak"); };
     const Mp4Child* extends = findMp4Child(*children, mp4Type("mvex"));
     const auto extensions = extends != nullptr ? mp4Children(extends->body) : std::nullopt;
-    if (!extensions || std::count_if(children->begin(), children->end(), isTrack) != 1) {
+    if (!extensions || std::count_if(children->begin(), children->end(), isTrack) != 1 ||
+        hasSamples(*std::find_if(children->begin(), children->end(), isTrack))) {
         return unusable;
     }
     const Mp4Child* defaults = findMp4Child(*extensions, mp4Type("trex"));
@@ -99,8 +118,9 @@ Result<Mp4Fragments> Mp4Fragments::open(int fd) {
     return fragments;
 }
 
-Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<void(const Mp4Run&)>& visit) const {
+Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<bool(const Mp4Run&)>& visit) const {
     const std::int64_t size = regularFileSize(m_fd);
+    m_bytesLeft = size;
     std::int64_t offset = m_movieEnd;
     std::int64_t end = m_movieEnd;
     while (offset < size && !isCutOff(m_fd, offset, size)) {
@@ -128,7 +148,9 @@ Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<void(const Mp4
             if (run.offset < data.body || runEnd > data.end) {
                 return failure(QStringLiteral("The recording is damaged in its midst."));
             }
-            visit({run.offset, samples});
+            if (!visit({run.offset, samples})) {
+                return data.end;
+            }
         }
         offset = data.end;
         end = data.end;
@@ -205,6 +227,10 @@ bool Mp4Fragments::readRun(std::span<const std::uint8_t> body, const Defaults& d
             sample.size = reader.u32();
         }
         reader.skip(((flags & 0x400) != 0 ? 4U : 0U) + ((flags & 0x800) != 0 ? 4U : 0U));
+        m_bytesLeft -= sample.size;
+        if (sample.size == 0 || sample.duration > kLongestSample || m_bytesLeft < 0) {
+            return false;
+        }
         m_samples.push_back(sample);
         position += sample.size;
     }

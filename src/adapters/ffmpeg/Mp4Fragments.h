@@ -25,7 +25,8 @@ struct Mp4Run {
 /// with the file. It borrows the descriptor.
 class Mp4Fragments {
 public:
-    /// Reads the movie header. Fails when the file is no fragmented MP4 file with exactly one track, a track of sound.
+    /// Reads the movie header. Fails when the file is no fragmented MP4 file with exactly one track, a track of sound,
+    /// and when the header has sound of its own beside the fragments.
     static Result<Mp4Fragments> open(int fd);
 
     /// Whether a file has a movie header of its own for the whole sound, and so no fragments. False for no MP4 file
@@ -36,10 +37,10 @@ public:
     std::int64_t movieOffset() const { return m_movieOffset; }
     std::span<const std::uint8_t> movie() const { return m_movie; }
 
-    /// Hands out the samples of every whole fragment in order and returns where the last of them ends. A fragment that
-    /// was cut off by the end of the file does not count; neither does a movie header at the end. Fails when something
-    /// in the midst of the file makes no sense.
-    Result<std::int64_t> forEachRun(const std::function<void(const Mp4Run&)>& visit) const;
+    /// Hands out the samples of every whole fragment in order, until visit returns false, and returns where the last
+    /// fragment it came to ends. A fragment that was cut off by the end of the file does not count; neither does a
+    /// movie header at the end. Fails when something in the midst of the file makes no sense.
+    Result<std::int64_t> forEachRun(const std::function<bool(const Mp4Run&)>& visit) const;
 
 private:
     struct Defaults {
@@ -70,6 +71,8 @@ private:
     // The fragment being read.
     mutable std::vector<Mp4Sample> m_samples;
     mutable std::vector<StoredRun> m_runs;
+    /// How many bytes samples may still have: all of them together no more than the file.
+    mutable std::int64_t m_bytesLeft = 0;
 };
 
 }  // namespace tavi

@@ -329,7 +329,6 @@ bool Mp4Sound::forEachPacketOfFragments(std::int64_t time, std::uint64_t preroll
     // Packets that have been read and not been visited.
     std::deque<std::pair<std::int64_t, Mp4Packet>> waiting;
     std::int64_t start = 0;
-    bool isWanted = true;
     const auto end = m_fragments->forEachRun([&](const Mp4Run& run) {
         std::int64_t offset = run.offset;
         for (const Mp4Sample& sample : run.samples) {
@@ -337,11 +336,13 @@ bool Mp4Sound::forEachPacketOfFragments(std::int64_t time, std::uint64_t preroll
             offset += sample.size;
             start += sample.duration;
             while (!waiting.empty() && (start > time || waiting.size() > preroll)) {
-                const auto& [begin, packet] = waiting.front();
-                isWanted = isWanted && (start <= time || visit(begin, packet));
+                if (start > time && !visit(waiting.front().first, waiting.front().second)) {
+                    return false;
+                }
                 waiting.pop_front();
             }
         }
+        return true;
     });
     return end.has_value();
 }

@@ -24,6 +24,7 @@ public:
     std::int64_t start() const { return m_start; }
     /// Media time that is meant to be heard from there on; nothing where the file does not say it by an edit.
     std::optional<std::int64_t> editedDuration() const { return m_editedDuration; }
+    bool isFragmented() const { return m_fragments.has_value(); }
     /// Whether the file has nothing but that track, no fragments, and no box beside the usual ones that could change
     /// what is heard.
     bool isPlain() const { return m_isPlain; }

@@ -58,6 +58,7 @@ Result<Mp4Totals> Mp4Totals::of(const Mp4Fragments& fragments) {
             times.add(sample.duration);
             totals.duration += sample.duration;
         }
+        return true;
     });
     if (!end) {
         return tl::unexpected(end.error());
@@ -109,6 +110,7 @@ Result<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragment
         for (const Mp4Sample& sample : run.samples) {
             times.add(sample.duration);
         }
+        return true;
     });
     times.finish();
 
@@ -121,7 +123,11 @@ Result<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragment
         appender.u32(1);
         firstChunk += count;
     });
-    end = end ? fragments.forEachRun([&](const Mp4Run& run) { chunks.add(run.samples.size()); }) : end;
+    const auto addRun = [&](const Mp4Run& run) {
+        chunks.add(run.samples.size());
+        return true;
+    };
+    end = end ? fragments.forEachRun(addRun) : end;
     chunks.finish();
 
     beginTable(appender, mp4Type("stsz"), 20 + 4 * totals.samples);
@@ -131,12 +137,16 @@ Result<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragment
         for (const Mp4Sample& sample : run.samples) {
             appender.u32(sample.size);
         }
+        return true;
     };
     end = end ? fragments.forEachRun(addSizes) : end;
 
     beginTable(appender, mp4Type("co64"), 16 + 8 * totals.chunks);
     appender.u32(totals.chunks);
-    const auto addOffset = [&](const Mp4Run& run) { appender.u64(static_cast<std::uint64_t>(run.offset)); };
+    const auto addOffset = [&](const Mp4Run& run) {
+        appender.u64(static_cast<std::uint64_t>(run.offset));
+        return true;
+    };
     end = end ? fragments.forEachRun(addOffset) : end;
     if (!end) {
         return tl::unexpected(end.error());

@@ -208,6 +208,9 @@ Result<bool> exportMp4Packets(const ExportJob& job) {
     const std::int64_t there =
         origin + std::accumulate(packets.begin(), packets.end(), std::int64_t{0},
                                  [](std::int64_t sum, const Mp4Packet& packet) { return sum + packet.duration; });
+    if (!isUnderstood && sound->isFragmented()) {
+        return false;
+    }
     if (!isUnderstood || packets.empty() || there < end) {
         return damaged();
     }

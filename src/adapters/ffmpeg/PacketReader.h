@@ -23,6 +23,8 @@ public:
     /// Frames at the start of the decoded sound that are not meant to be heard, beside those that the packets
     /// themselves tell the decoder to leave out.
     virtual std::int64_t primingFrames() const { return 0; }
+    /// The time at which the sound begins, where that is not the first one that the decoder tells.
+    virtual std::optional<std::int64_t> startTime() const { return std::nullopt; }
 
     /// The next packet; false at the end.
     virtual bool next(AVPacket& packet) = 0;

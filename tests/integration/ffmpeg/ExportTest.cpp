@@ -179,21 +179,27 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
     }
 }
 
-TEST_F(ExportTest, InterruptedRecordingsAreCutExactlyToo) {
-    for (const std::size_t index : {std::size_t{0}, std::size_t{3}}) {
-        const QString source = recording(kTypes[index], kQualities[2], false);
-        const auto whole = heard(source);
+TEST_F(ExportTest, FragmentsAreCutExactlyToo) {
+    const QString finished = recording(kTypes[0], kQualities[2]);
+    // In these the header tells of the first second, the fragments of the rest.
+    const QString late = converted(finished, QStringLiteral("recording.late"),
+                                   "-c:a alac -movflags frag_keyframe -frag_duration 1000000 -f mp4");
+    for (const auto& [index, source] : {std::pair(0, QString()), {3, QString()}, {0, late}}) {
+        const Type& type = kTypes[static_cast<std::size_t>(index)];
+        const double tolerance = kEdges[static_cast<std::size_t>(index)].tolerance;
+        const QString path = source.isEmpty() ? recording(type, kQualities[2], false) : source;
+        const auto whole = heard(path);
         const auto frames = static_cast<std::int64_t>(whole.size() / 2);
         for (const auto& [start, length] :
              {std::pair<std::int64_t, std::int64_t>{0, 1}, {1023, 3000}, {100003, 50000}, {frames - 100, 100}}) {
-            SCOPED_TRACE(testing::Message() << kTypes[index].extension << " from " << start << " for " << length);
-            expectCompleted(*session(source, target(), AssetFileType::AppleM4A), 44100, start, length);
+            SCOPED_TRACE(testing::Message() << qPrintable(path) << " from " << start << " for " << length);
+            expectCompleted(*session(path, target(), AssetFileType::AppleM4A), 44100, start, length);
             const auto own = heard(target());
             EXPECT_EQ(own.size(), static_cast<std::size_t>(length) * 2);
-            EXPECT_LE(difference(whole, static_cast<std::size_t>(start) * 2, own, 0, 32768), kEdges[index].tolerance);
+            EXPECT_LE(difference(whole, static_cast<std::size_t>(start) * 2, own, 0, 32768), tolerance);
         }
-        ASSERT_TRUE(Mp4Finalizer::finalize(source));
-        EXPECT_TRUE(heard(source) == whole);
+        EXPECT_EQ(Mp4Finalizer::finalize(path).has_value(), source.isEmpty());
+        EXPECT_TRUE(heard(path) == whole);
     }
 }
 

@@ -25,7 +25,7 @@ struct Foreign {
     int slack;
 };
 
-constexpr std::array<Foreign, 16> kForeign{{
+constexpr std::array<Foreign, 18> kForeign{{
     {"cbr.mp3", "-c:a libmp3lame -b:a 96k", 1e-6F, 0, 0},
     {"vbr.mp3", "-c:a libmp3lame -q:a 3", 1e-6F, 0, 0},
     {"bare.mp3", "-c:a libmp3lame -b:a 96k -write_xing 0 -id3v2_version 0", 1e-6F, 1261, 0},
@@ -40,6 +40,8 @@ constexpr std::array<Foreign, 16> kForeign{{
     {"plain.m4a", "-c:a aac -b:a 128k", 0.01F, 0, 0},
     {"faststart.m4a", "-c:a aac -b:a 128k -movflags +faststart", 0.01F, 0, 0},
     {"alac.m4a", "-c:a alac", 0, 0, 0},
+    {"fragments.m4a", "-c:a alac -movflags empty_moov -frag_duration 500000", 0, 0, 0},
+    {"late-fragments.m4a", "-c:a alac -movflags frag_keyframe -frag_duration 500000", 0, 0, 0},
     {"alac.caf", "-c:a alac", 0, 0, 0},
     {"pcm.mka", "-c:a pcm_s16le", 0, 0, 45},
 }};
