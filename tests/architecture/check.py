@@ -143,6 +143,11 @@ PLANTED = {
     "tests/unit/recording/Real.cpp": '#include "adapters/qt/QtClock.h"\n',
 }
 
+# Several faults in one file of a screen.
+CROWDED = "src/recording/Crowded.cpp"
+CROWD = "#include <pulse/simple.h>\nQTimer t;\nauto n = QDateTime::currentDateTime();\nQDBusConnection c;\n"
+CROWD_FAULTS = ["<pulse/simple.h>", "QDBusConnection", "QDateTime::currentDateTime", "QTimer"]
+
 
 def self_test():
     def faults_of(files):
@@ -158,6 +163,9 @@ def self_test():
         found = faults_of(CLEAN | {name: code})
         if len(found) != 1 or not found[0].startswith(name + ":"):
             wrong.append(f"planted in {name}, found {found}")
+    found = faults_of(CLEAN | {CROWDED: CROWD})
+    if [fault.split()[1] for fault in found] != CROWD_FAULTS:
+        wrong.append(f"planted in {CROWDED}, found {found}")
     return wrong
 
 

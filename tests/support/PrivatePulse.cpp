@@ -104,8 +104,13 @@ void PrivatePulse::start() {
                                      {"XDG_RUNTIME_DIR", folder},
                                      {"PULSE_RUNTIME_PATH", folder},
                                      {"PULSE_STATE_PATH", folder}});
-    waitUntil([] { return runs("timeout 20 pactl get-default-source 2>/dev/null | grep -qx microphone"); },
-              "The private sound server does not come up.");
+    const auto isUp = [this] {
+        if (!m_server->isRunning()) {
+            qFatal("The private sound server has ended.");
+        }
+        return runs("timeout 20 pactl get-default-source 2>/dev/null | grep -qx microphone");
+    };
+    waitUntil(isUp, "The private sound server does not come up.");
 }
 
 void PrivatePulse::freeze() const {
@@ -146,6 +151,7 @@ ProcessHandle PrivatePulse::play(const QByteArray& samples, int sampleRate, int 
 }
 
 ProcessHandle PrivatePulse::listen(const QString& path, int channels, const QString& sink) const {
+    QFile::remove(path);
     auto listener = std::make_unique<ChildProcess>(
         QStringList{QStringLiteral("parec"), QStringLiteral("--raw"), QStringLiteral("--device=%1.monitor").arg(sink),
                     QStringLiteral("--format=float32ne"), QStringLiteral("--rate=48000"),

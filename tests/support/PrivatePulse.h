@@ -10,8 +10,8 @@
 
 namespace tavi::test {
 
-/// A process that is killed when this goes away, and with the test's main thread if that crashes. Fails the program
-/// when it cannot be started.
+/// A process that is killed when this goes away, and with the test's main thread if that crashes. A command that cannot
+/// be run ends at once, as in a shell.
 ///
 /// Not QProcess: its way of forking hides the main thread's locks from ThreadSanitizer.
 class ChildProcess {
@@ -56,8 +56,8 @@ public:
     void moveRecording(const QByteArray& source) const;
     /// Plays raw 16-bit samples of the native byte order into the microphone, until the handle goes away.
     ProcessHandle play(const QByteArray& samples, int sampleRate, int channels);
-    /// Writes what a sink plays to a file, as interleaved floats at 48000 Hz, until the handle goes away. It has begun
-    /// when this returns.
+    /// Writes what a sink plays to a new file, as interleaved floats at 48000 Hz, until the handle goes away. It has
+    /// begun when this returns. An older file of that name goes; nothing may write to it any more.
     ProcessHandle listen(const QString& path, int channels, const QString& sink = QStringLiteral("speaker")) const;
     /// Has the shell run pactl with these arguments; fails the program when that fails.
     void pactl(const QByteArray& arguments) const;

@@ -68,6 +68,9 @@ TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
     const auto own = created(QStringLiteral("mine"));
     EXPECT_EQ(own->documentsPath(), m_folder.filePath(QStringLiteral("mine/Documents")));
     EXPECT_EQ(QFile::permissions(own->cachesPath()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+TEST_P(QtAppContainerTest, SaysWhichFolderCannotBeMade) {
     QFile file(m_folder.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const auto container = QtAppContainer::create(QStringLiteral("file/below"));

@@ -3,6 +3,7 @@
 #include "adapters/pulse/PulseAudioInput.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "support/CollectingListener.h"
+#include "support/EventLoop.h"
 #include "support/FakeAudioInput.h"
 #include "support/PrivatePulse.h"
 
@@ -88,6 +89,7 @@ TYPED_TEST(AudioInputContract, FailsOnceAndIsSilentThen) {
     input->pause();
     input->resume();
     this->m_world.hear();
+    spinUntil([tick = 0]() mutable { return ++tick > 3; });
     EXPECT_EQ(this->m_listener.heard().events, before.events);
     EXPECT_EQ(this->m_listener.heard().frames(), before.frames());
 }

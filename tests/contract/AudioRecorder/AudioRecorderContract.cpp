@@ -138,7 +138,7 @@ TYPED_TEST(AudioRecorderContract, WaitingEndsTheRecordingAndDroppingTellsNobody)
     recorder = this->made();
     ASSERT_TRUE(recorder->record());
     recorder.reset();
-    this->m_world.wait([] { return true; });
+    this->m_world.wait([tick = 0]() mutable { return ++tick > 3; });
     EXPECT_EQ(this->m_ends.size(), 1U);
 }
 

@@ -2,7 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <QDeadlineTimer>
+#include <QtGlobal>
+#include <atomic>
 #include <cmath>
+#include <thread>
 
 #include "support/FakeAudioInput.h"
 #include "support/ManualRunLoop.h"
@@ -106,19 +110,29 @@ TEST_F(CaptureRecorderTest, StopTakesWhatTheInputStillOwesButWaitsNotForever) {
     inputs.answersPause = false;
     for (const bool answers : {true, false}) {
         Written file;
+        Listener ears;
         CaptureRecorder other(inputs, std::make_unique<FakeWriter>(file), runLoop);
+        other.setDelegate(&ears);
         other.record();
         deliver(0.25F, 100);
         other.pause();
         other.record();
         other.stop();
         deliver(0.25F, 50);
+        runLoop.drain();
+        EXPECT_TRUE(ears.ends.empty());
         if (answers) {
             inputs.last->finishPause();
         } else {
             runLoop.advance(1.0);
         }
+        // The file is finished on another thread. The limit only ends a test that hangs.
+        for (const QDeadlineTimer limit(20'000); ears.ends.empty() && !limit.hasExpired(); std::this_thread::yield()) {
+            runLoop.drain();
+        }
+        EXPECT_EQ(ears.ends, std::vector<QString>{QString()});
         other.waitUntilFinished();
+        EXPECT_EQ(ears.ends.size(), 1U);
         EXPECT_EQ(file.samples.size(), 150U);
     }
 }
@@ -161,7 +175,12 @@ TEST_F(CaptureRecorderTest, EveryEndFinishesTheFileAndIsToldOnce) {
     EXPECT_TRUE(listener.ends.empty());
 }
 
-TEST_F(CaptureRecorderTest, AStalledDiskLosesOnlyWhatMemoryCannotHold) {
+TEST_F(CaptureRecorderTest, AStalledDiskLosesOnlyWhatMemoryCannotHoldAndThatIsLogged) {
+    static std::atomic<bool> isLogged;
+    isLogged = false;
+    const auto old = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+        isLogged = isLogged || text.contains(QLatin1String("frames of the recording were lost"));
+    });
     recorder->record();
     {
         const std::lock_guard stalled(written.stall);
@@ -172,6 +191,8 @@ TEST_F(CaptureRecorderTest, AStalledDiskLosesOnlyWhatMemoryCannotHold) {
     const std::int64_t kept = recorder->framesRecorded();
     inputs.last->deliver(nullptr, 480);
     recorder->waitUntilFinished();
+    qInstallMessageHandler(old);
+    EXPECT_TRUE(isLogged);
     EXPECT_GE(kept, 10 * kRate);
     EXPECT_LT(kept, 12 * kRate);
     EXPECT_EQ(static_cast<std::int64_t>(written.samples.size()), recorder->framesRecorded());
