@@ -41,16 +41,20 @@ class AppTest(unittest.TestCase):
         app = self.desktop.spawn(PROGRAM, "--container", self.container, *arguments, log=self.log)
         self.addCleanup(self.desktop.stop, app)
         self.desktop.window(app)
-        self.wait(self.is_on_bus, "the name on the bus")
+        self.wait(lambda: NAME in self.bus_names(), "the name on the bus")
         return app
 
-    def is_on_bus(self):
-        names = self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
-                                 "--method", "org.freedesktop.DBus.ListNames").stdout
-        return NAME in names
+    def bus_names(self):
+        return self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
+                                "--method", "org.freedesktop.DBus.ListNames").stdout
 
     def tavi(self, *arguments, check=True):
         return self.desktop.run(PROGRAM, "--container", self.container, *arguments, check=check)
+
+    def activate(self, action):
+        name = re.search(rf"{re.escape(NAME)}[\w.]*", self.bus_names()).group()
+        self.desktop.run("gdbus", "call", "--session", "--dest", name, "--object-path", "/" + NAME.replace(".", "/"),
+                         "--method", "org.freedesktop.Application.ActivateAction", action, "[]", "{}")
 
     def wait(self, condition, what):
         try:
@@ -109,20 +113,24 @@ class Recording(AppTest):
                 self.assertEqual({key: found[key] for key in expected}, expected)
                 self.assert_holds_tone(saved, tolerance=tolerance)
 
-    def test_keys_record_pause_resume_stop_and_choose_tabs(self):
+    def test_keys_and_the_bus_record_pause_resume_and_stop(self):
         first = write_tone(self.desktop.folder / "first.wav", 500, 1.0)
         left_out = write_tone(self.desktop.folder / "left_out.wav", 3000, 1.0)
         app = self.start()
         self.wait(lambda: self.desktop.colours() > 8, "the record screen")
-        for sound in (first, left_out, self.tone):
-            self.desktop.keys("space")
-            self.wait_capturing(sound != left_out)
-            self.play(sound)
-        self.desktop.keys("ctrl+s")
-        saved = Sound(self.wait_saved())
-        self.assertAlmostEqual(saved.tone_seconds(500), 1.0, delta=0.1)
-        self.assertAlmostEqual(saved.tone_seconds(1000), 2.0, delta=0.1)
-        self.assertLess(saved.tone_seconds(3000), 0.1)
+        for count, record, stop in ((1, lambda: self.desktop.keys("space"), lambda: self.desktop.keys("ctrl+s")),
+                                    (2, lambda: self.activate("record"), lambda: self.activate("stop"))):
+            for sound in (first, left_out, self.tone):
+                record()
+                self.wait_capturing(sound != left_out)
+                self.play(sound)
+            before = set(self.recordings())
+            stop()
+            self.wait_saved(count)
+            saved = Sound(*set(self.recordings()) - before)
+            self.assertAlmostEqual(saved.tone_seconds(500), 1.0, delta=0.1)
+            self.assertAlmostEqual(saved.tone_seconds(1000), 2.0, delta=0.1)
+            self.assertLess(saved.tone_seconds(3000), 0.1)
         shown = self.desktop.picture()
         for key in ("ctrl+2", "ctrl+3", "ctrl+1"):
             self.desktop.keys(key)
@@ -139,6 +147,10 @@ class Recording(AppTest):
             self.assert_holds_tone(self.wait_saved(before + 1))
             if start:
                 self.tavi(start)
+        # Another start only shows the window that is there.
+        self.assertEqual(self.tavi().returncode, 0)
+        windows = self.desktop.run("xdotool", "search", "--onlyvisible", "--class", ".", check=False).stdout.split()
+        self.assertEqual(len(windows), 1)
 
     def test_termination_saves_the_recording(self):
         app = self.start("record")

@@ -4,9 +4,12 @@
 #include <QtEndian>
 #include <filesystem>
 
+#include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
+#include "adapters/ffmpeg/FfmpegAudioConverters.h"
 #include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 #include "support/ClientBuffers.h"
+#include "support/ManualRunLoop.h"
 #include "support/WavFile.h"
 
 namespace tavi::test {
@@ -146,6 +149,41 @@ TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
                 EXPECT_GE(length, isFinished ? written + type.priming : written / 3);
                 const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
                 EXPECT_LT(length, written + type.priming + tail);
+            }
+        }
+    }
+}
+
+TEST_F(ReadingTest, EveryRecordableTypeShowsTheLevelOfItsSound) {
+    // A tenth of full scale on the right.
+    std::vector<float> samples = tone(kStereo, std::size_t{48000} * 10);
+    for (std::size_t i = 1; i < samples.size(); i += 2) {
+        samples[i] *= 0.2F;
+    }
+    FfmpegAudioConverters converters;
+    ManualRunLoop runLoop;
+    for (const Type& type : kTypes) {
+        for (const Quality& quality : kQualities) {
+            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
+            const auto path = QFile::encodeName(record(type, quality, samples)).toStdString();
+            const auto reader = EZAudioFile::audioFileWithURL(path, {m_files, converters, runLoop});
+            ASSERT_TRUE(reader);
+            if (type.packet == 1 && quality.rate == 44100) {
+                EXPECT_EQ(reader->totalClientFrames() / 1024, 430);
+            }
+            reader->seekToFrame(777);
+            const auto data = reader->getWaveformDataWithNumberOfPoints(40);
+            ASSERT_TRUE(data);
+            EXPECT_EQ(reader->frameIndex(), 777);
+            ASSERT_EQ(data->numberOfChannels(), 2);
+            const double allowed = type.formatID == kAudioFormatAppleLossless ? 0.1 : 1;
+            for (int channel = 0; channel < 2; ++channel) {
+                const double amplitude = quality.channels == 1 ? 0.3 : channel == 0 ? 0.5 : 0.1;
+                const double level = 20 * std::log10(amplitude) - 3.0103;
+                for (std::uint32_t point = 1; point < 39; ++point) {
+                    const auto shown = static_cast<double>(data->bufferForChannel(channel)[point]);
+                    EXPECT_NEAR(20 * std::log10(shown), level, allowed) << point;
+                }
             }
         }
     }
