@@ -1,8 +1,10 @@
 #include "API/AudioTrimmerController/EZAudio/TPCircularBuffer/TPCircularBuffer.h"
 
 #include <gmock/gmock.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 #include <thread>
 #include <vector>
@@ -45,24 +47,75 @@ TEST(TPCircularBuffer, WrapsThroughTheMirrorInOneCopy) {
 
 TEST(TPCircularBuffer, RulesEndTheProcess) {
     Ring ring;
-    EXPECT_DEATH(TPCircularBufferProduce(&ring.buffer, kPage + 1), "fillCount <= buffer->length");
-    EXPECT_DEATH(TPCircularBufferConsume(&ring.buffer, 1), "fillCount >= 0");
+    EXPECT_DEATH(TPCircularBufferProduce(&ring.buffer, kPage + 1),
+                 "fillCount <= buffer->length.*TPCircularBufferProduce, file TPCircularBuffer.h, line 145");
+    EXPECT_DEATH(TPCircularBufferConsume(&ring.buffer, 1),
+                 "fillCount >= 0.*TPCircularBufferConsume, file TPCircularBuffer.h, line 109");
     TPCircularBuffer other;
-    EXPECT_DEATH(TPCircularBufferInit(&other, 0), "length > 0");
+    EXPECT_DEATH(TPCircularBufferInit(&other, 0),
+                 "length > 0.*_TPCircularBufferInit, file TPCircularBuffer.c, line 26");
+    EXPECT_DEATH(_TPCircularBufferInit(&other, 1, 24), "TPCircularBuffer: Header version mismatch");
 }
 
-TEST(TPCircularBuffer, MappingIsTriedFourTimes) {
-    static int failures = 0;
-    circularBufferMemory().remap = [](void* half, std::size_t length, int descriptor) -> void* {
-        return failures-- > 0 ? nullptr : systemCircularBufferMemory().remap(half, length, descriptor);
+namespace {
+
+int failures = 0;
+int attempts = 0;
+
+bool isFailing() {
+    ++attempts;
+    errno = ENOMEM;
+    return failures-- > 0;
+}
+
+}  // namespace
+
+TEST(TPCircularBuffer, EveryStepOfTheMappingIsTriedFourTimes) {
+    struct Step {
+        const char* report;
+        void (*breakIn)(TPCircularBufferMemory& memory);
     };
-    for (const int times : {4, 3}) {
-        failures = times;
-        TPCircularBuffer buffer;
-        EXPECT_EQ(TPCircularBufferInit(&buffer, 1), times < 4);
-        TPCircularBufferCleanup(&buffer);
+    const Step steps[] = {
+        {"TPCircularBuffer.c:48: Buffer allocation: Cannot allocate memory\n",
+         [](TPCircularBufferMemory& memory) {
+             memory.reserve = [](std::size_t length, int* descriptor) -> void* {
+                 return isFailing() ? nullptr : systemCircularBufferMemory().reserve(length, descriptor);
+             };
+         }},
+        {"TPCircularBuffer.c:61: Buffer deallocation: Cannot allocate memory\n",
+         [](TPCircularBufferMemory& memory) {
+             memory.releaseSecondHalf = [](void* half, std::size_t length) {
+                 return !isFailing() && systemCircularBufferMemory().releaseSecondHalf(half, length);
+             };
+         }},
+        {"TPCircularBuffer.c:85: Remap buffer memory: Cannot allocate memory\n",
+         [](TPCircularBufferMemory& memory) {
+             memory.remap = [](void* half, std::size_t length, int descriptor) -> void* {
+                 return isFailing() ? nullptr : systemCircularBufferMemory().remap(half, length, descriptor);
+             };
+         }},
+        {"Couldn't map buffer memory to end of buffer\n",
+         [](TPCircularBufferMemory& memory) {
+             memory.remap = [](void* half, std::size_t length, int descriptor) {
+                 return isFailing() ? mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)
+                                    : systemCircularBufferMemory().remap(half, length, descriptor);
+             };
+         }},
+    };
+    for (const Step& step : steps) {
+        for (const int times : {4, 3}) {
+            step.breakIn(circularBufferMemory());
+            failures = times;
+            attempts = 0;
+            TPCircularBuffer buffer;
+            ::testing::internal::CaptureStdout();
+            EXPECT_EQ(TPCircularBufferInit(&buffer, 1), times < 4);
+            EXPECT_EQ(::testing::internal::GetCapturedStdout(), times < 4 ? "" : step.report);
+            EXPECT_EQ(attempts, 4);
+            TPCircularBufferCleanup(&buffer);
+            circularBufferMemory() = systemCircularBufferMemory();
+        }
     }
-    circularBufferMemory() = systemCircularBufferMemory();
 }
 
 TEST(TPCircularBuffer, CarriesEveryByteBetweenTwoThreads) {
