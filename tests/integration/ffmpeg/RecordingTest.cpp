@@ -56,6 +56,17 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
     }
 }
 
+TEST_F(RecordingTest, SixteenBitPcmIsRecordedAtElevenKilohertz) {
+    const Type type{"wav", kAudioFormatLinearPCM, "pcm_s16le", "wav", 1, 0, 0.1, 16};
+    const auto sound = decodeSound(record(type, {11025, 1, 127}, tone(kStereo, 96000, false, 440)));
+    ASSERT_TRUE(sound);
+    EXPECT_EQ(sound->codec, type.codec);
+    EXPECT_EQ(sound->rate, 11025);
+    EXPECT_NEAR(static_cast<double>(sound->frames()), 22050, 1);
+    EXPECT_NEAR(levelOf(middleOf(sound->planes[0])), -9.03, type.decibels);
+    EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 440, 1);
+}
+
 TEST_F(RecordingTest, TonesAboveTheNewBandDoNotFoldIntoIt) {
     for (const Quality& quality : {kQualities[0], kQualities[1]}) {
         const QString path = record(kTypes[0], quality, tone(kStereo, 96000, false, 0.65 * quality.rate));

@@ -315,5 +315,13 @@ TEST_F(PlayingTest, aRowPlaysWithoutTheCloudAndItsTrimmerStopsIt) {
     EXPECT_TRUE(trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
 }
 
+TEST_F(PlayingTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {
+    EXPECT_EQ(vc.cloudHeaderText(), QStringLiteral("iCloud Sync Recording's"));
+    settings.setCloudSyncOn(false);
+    EXPECT_EQ(vc.numberOfSections(), 1);
+    vc.viewWillAppear();
+    EXPECT_EQ(vc.cloudHeaderText(), QString());
+}
+
 }  // namespace
 }  // namespace tavi::test
