@@ -19,7 +19,7 @@
 #include <functional>
 #include <vector>
 
-#include "adapters/ffmpeg/FfmpegAssets.h"
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 
 namespace {
 

@@ -20,8 +20,8 @@ extern "C" {
 #include <functional>
 #include <map>
 
-#include "adapters/ffmpeg/FfmpegAudioDuration.h"
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"

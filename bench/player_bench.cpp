@@ -14,9 +14,9 @@
 #include <thread>
 #include <vector>
 
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
-#include "adapters/ffmpeg/FfmpegAudioTempo.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseConnection.h"

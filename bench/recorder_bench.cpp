@@ -11,7 +11,7 @@
 #include <thread>
 #include <vector>
 
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/recorder/CaptureRecorder.h"
 

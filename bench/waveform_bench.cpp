@@ -17,9 +17,9 @@
 #include <vector>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
 
 namespace {

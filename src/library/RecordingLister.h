@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
+#include "files/FileIdentity.h"
 #include "library/RecordingEntry.h"
-#include "library/utility/FileIdentity.h"
 #include "platform/AudioDuration.h"
 #include "platform/RunLoop.h"
 

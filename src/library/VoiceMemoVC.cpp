@@ -5,8 +5,8 @@
 #include <QPointer>
 #include <algorithm>
 
+#include "files/NativePath.h"
 #include "library/RecordingOrder.h"
-#include "library/utility/NativePath.h"
 
 namespace tavi {
 

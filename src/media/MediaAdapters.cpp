@@ -1,9 +1,9 @@
-#include "adapters/ffmpeg/FfmpegAssets.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
-#include "adapters/ffmpeg/FfmpegAudioDuration.h"
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
-#include "adapters/ffmpeg/FfmpegAudioTempo.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/MediaLibrary.h"
 
 /// The library's one entry: its adapters, which live as long as the process.

@@ -7,8 +7,8 @@
 #include <QLoggingCategory>
 #include <QPointer>
 
+#include "files/FileMove.h"
 #include "library/utility/DateTexts.h"
-#include "library/utility/FileMove.h"
 #include "library/utility/Utility.h"
 #include "recording/AudioSettings.h"
 #include "recording/RecordingMail.h"

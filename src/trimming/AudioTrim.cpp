@@ -6,8 +6,8 @@
 #include <QLoggingCategory>
 #include <QPointer>
 
-#include "library/utility/FileMove.h"
-#include "library/utility/NativePath.h"
+#include "files/FileMove.h"
+#include "files/NativePath.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {

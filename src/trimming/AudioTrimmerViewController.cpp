@@ -4,7 +4,7 @@
 #include <QFile>
 #include <utility>
 
-#include "library/utility/NativePath.h"
+#include "files/NativePath.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerStage.h"
 

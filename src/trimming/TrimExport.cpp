@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <algorithm>
 
-#include "library/utility/NativePath.h"
+#include "files/NativePath.h"
 
 namespace tavi {
 

@@ -14,20 +14,23 @@ import tempfile
 # screen, what it may include, and ui.
 MODULES = {
     "platform": [],
+    "files": [],
+    "sound": ["files"],
     "API/AudioTrimmerController/EZAudio": [],
     "app/settings": [],
     "app/cli": [],
-    "library/utility": [],
-    "trimming/waves": ["API/AudioTrimmerController/EZAudio", "library/utility"],
+    "library/utility": ["files"],
+    "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": [],
     "watch": [],
     "passcode": ["app/settings"],
     "support": ["app/settings"],
     "ui": [],
-    "recording": ["trimming/waves", "cloud", "watch", "app/settings", "library/utility"],
-    "trimming": ["trimming/waves", "API/AudioTrimmerController/EZAudio", "cloud", "app/settings", "library/utility"],
-    "library": ["trimming", "trimming/waves", "cloud", "app/settings", "library/utility"],
-    "app": ["recording", "library", "trimming", "passcode", "cloud", "watch", "support", "app/settings", "library/utility"],
+    "recording": ["trimming/waves", "cloud", "watch", "app/settings", "files", "library/utility"],
+    "trimming": ["trimming/waves", "API/AudioTrimmerController/EZAudio", "cloud", "app/settings", "files", "library/utility"],
+    "library": ["trimming", "trimming/waves", "cloud", "app/settings", "files", "library/utility"],
+    "app": [
+        "recording", "library", "trimming", "passcode", "cloud", "watch", "support", "app/settings", "files", "library/utility"],
 }
 FEATURE_TESTS = {name.split("/")[0] for name in MODULES}
 ENGINE = "API/AudioTrimmerController/EZAudio"
@@ -66,7 +69,7 @@ def allowed(module):
     if module == "main":
         return None
     if module.startswith("adapters/"):
-        return {"platform", ENGINE}
+        return {"platform", "files", "sound", ENGINE}
     if module.endswith("/qml"):
         base = module[: -len("/qml")]
         return {base, "ui", "ui/qml", "platform", *MODULES[base]}

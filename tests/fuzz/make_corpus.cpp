@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 
 int main(int argc, char** argv) {
     constexpr std::pair<const char*, std::uint32_t> kTypes[] = {{"m4a", tavi::kAudioFormatAppleLossless},

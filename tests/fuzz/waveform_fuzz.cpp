@@ -10,9 +10,9 @@
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
-#include "adapters/ffmpeg/FfmpegAudioDuration.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 
 namespace {
 

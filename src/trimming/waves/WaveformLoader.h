@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
-#include "library/utility/FileIdentity.h"
+#include "files/FileIdentity.h"
 
 namespace tavi {
 

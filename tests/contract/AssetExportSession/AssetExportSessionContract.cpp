@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <atomic>
 
-#include "adapters/ffmpeg/FfmpegAssets.h"
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "support/FakeAssets.h"
 #include "support/ManualRunLoop.h"
 #include "support/WavFile.h"

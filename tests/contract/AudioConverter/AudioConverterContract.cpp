@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
 #include "support/ClientBuffers.h"
 #include "support/FakeAudioConverter.h"
 

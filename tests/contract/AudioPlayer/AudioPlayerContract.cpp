@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "adapters/ffmpeg/FfmpegAudioTempo.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseConnection.h"

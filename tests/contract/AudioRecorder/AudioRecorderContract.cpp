@@ -3,7 +3,7 @@
 #include <QFile>
 #include <cmath>
 
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/pulse/PulseAudioInput.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/qt/QtRunLoop.h"

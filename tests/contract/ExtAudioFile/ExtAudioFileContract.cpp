@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "support/ClientBuffers.h"
 #include "support/FakeExtAudioFile.h"
 #include "support/WavFile.h"

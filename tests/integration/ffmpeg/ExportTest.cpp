@@ -4,9 +4,9 @@
 #include <csignal>
 #include <random>
 
-#include "adapters/ffmpeg/FfmpegAssets.h"
-#include "adapters/ffmpeg/Mp4Finalizer.h"
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "integration/ffmpeg/RecordingFixture.h"
+#include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi::test {
 

@@ -3,8 +3,8 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-#include "adapters/ffmpeg/Mp4Finalizer.h"
 #include "integration/ffmpeg/RecordingFixture.h"
+#include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi::test {
 

@@ -3,8 +3,8 @@
 
 #include <QtEndian>
 
-#include "adapters/ffmpeg/Mp4Packets.h"
-#include "adapters/ffmpeg/PositionedIo.h"
+#include "adapters/ffmpeg/reading/Mp4Packets.h"
+#include "files/PositionedIo.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 
 namespace tavi::test {

@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 #include "support/ClientBuffers.h"
 #include "support/ManualRunLoop.h"

@@ -10,8 +10,8 @@
 #include <numbers>
 #include <vector>
 
-#include "adapters/ffmpeg/FfmpegAudioDuration.h"
-#include "adapters/ffmpeg/FfmpegAudioFileWriters.h"
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "integration/SoundProbe.h"
 
 namespace tavi::test {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <numbers>
 
-#include "adapters/ffmpeg/FfmpegAudioTempo.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseConnection.h"

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "adapters/ffmpeg/FfmpegAssets.h"
-#include "adapters/ffmpeg/FfmpegAudioConverters.h"
-#include "adapters/ffmpeg/FfmpegExtAudioFiles.h"
+#include "adapters/ffmpeg/converting/FfmpegAudioConverters.h"
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
+#include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 #include "support/EventLoop.h"

@@ -1,0 +1,324 @@
+#include "adapters/ffmpeg/exporting/PacketExport.h"
+
+#include <array>
+#include <numeric>
+
+#include "adapters/ffmpeg/exporting/Mp4SoundWriter.h"
+#include "adapters/ffmpeg/reading/AdtsPackets.h"
+#include "sound/SoundHeaders.h"
+#include "sound/caf/Ima4Cut.h"
+#include "sound/mp4/Mp4Sound.h"
+
+namespace tavi {
+
+namespace {
+
+/// Packets of AAC that a decoder hears before the first that is played: each overlaps with the one before.
+constexpr std::uint64_t kAacPreroll = 2;
+constexpr int kAacPacketFrames = 1024;
+// Where the heard part begins in the last packet of an M4A file, FFmpeg's demuxer plays nothing. So one packet always
+// follows the first that is heard, though it may be behind the end.
+
+std::vector<std::uint8_t> littleEndian(std::initializer_list<std::pair<std::uint64_t, int>> fields) {
+    std::vector<std::uint8_t> bytes;
+    for (const auto& [value, size] : fields) {
+        for (int i = 0; i < size; ++i) {
+            bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+        }
+    }
+    return bytes;
+}
+
+/// A four-letter code, to be written with the low byte first.
+std::pair<std::uint64_t, int> letters(const char (&text)[5]) {
+    const std::uint32_t code = fourCharacterCode(text);
+    return {__builtin_bswap32(code), 4};
+}
+
+tl::unexpected<Error> damaged() {
+    return failure(QStringLiteral("The sound file is damaged."));
+}
+
+Result<bool> done(const ExportJob& job) {
+    job.file.flush();
+    const Result<void> result = job.file.result();
+    return result ? Result<bool>(true) : tl::unexpected(result.error());
+}
+
+}  // namespace
+
+Result<bool> exportWavPackets(const ExportJob& job) {
+    const auto header = readWavHeader(job.source);
+    if (!header || job.type != AssetFileType::Wave || job.end > header->frames) {
+        return false;
+    }
+    const auto dataBytes = static_cast<std::uint64_t>(job.end - job.start) * header->frameBytes;
+    const std::uint64_t padding = dataBytes & 1;
+    std::vector<std::uint8_t> format(std::min(header->formatBytes, 4096U));
+    if (format.size() < header->formatBytes ||
+        readFully(job.source, format.data(), format.size(), header->formatOffset) < format.size()) {
+        return damaged();
+    }
+    format.resize(format.size() + (format.size() & 1));
+    // Everything behind the first eight bytes.
+    constexpr std::uint64_t kLongSizesBytes = 36;
+    std::uint64_t size = 4 + 8 + format.size() + 8 + dataBytes + padding;
+    const bool isLong = size + kLongSizesBytes > 0xffffffff;
+    if (isLong) {
+        size += kLongSizesBytes;
+        const std::uint64_t frames = static_cast<std::uint64_t>(job.end - job.start);
+        job.file.append(littleEndian({letters("RF64"),
+                                      {0xffffffff, 4},
+                                      letters("WAVE"),
+                                      letters("ds64"),
+                                      {28, 4},
+                                      {size, 8},
+                                      {dataBytes, 8},
+                                      {frames, 8},
+                                      {0, 4}}));
+    } else {
+        job.file.append(littleEndian({letters("RIFF"), {size, 4}, letters("WAVE")}));
+    }
+    job.file.append(littleEndian({letters("fmt "), {header->formatBytes, 4}}));
+    job.file.append(format);
+    job.file.append(littleEndian({letters("data"), {isLong ? 0xffffffff : dataBytes, 4}}));
+    job.file.setControl(job.control, static_cast<std::int64_t>(dataBytes));
+    job.file.copy(job.source, header->dataOffset + job.start * header->frameBytes,
+                  static_cast<std::int64_t>(dataBytes));
+    job.file.flush();
+    job.file.append(std::vector<std::uint8_t>(padding));
+    return done(job);
+}
+
+namespace {
+
+/// The chunks that describe the sound; names and remarks too, as long as they are small.
+Result<void> copyCafChunks(const ExportJob& job) {
+    constexpr std::int64_t kMaximumBytes = std::int64_t{1} << 20;
+    const std::int64_t size = regularFileSize(job.source);
+    for (std::int64_t offset = 8; offset + 12 <= size;) {
+        std::array<std::uint8_t, 12> bytes{};
+        if (readFully(job.source, bytes.data(), bytes.size(), offset) < bytes.size()) {
+            return damaged();
+        }
+        Mp4Reader reader(bytes);
+        const std::uint32_t type = reader.u32();
+        const auto length = static_cast<std::int64_t>(reader.u64());
+        if (length < 0 || length > size - offset - 12) {
+            break;
+        }
+        const bool isDescribing = type != mp4Type("data") && type != mp4Type("pakt") && type != mp4Type("free");
+        if (isDescribing && length <= kMaximumBytes) {
+            std::vector<std::uint8_t> chunk(static_cast<std::size_t>(12 + length));
+            if (readFully(job.source, chunk.data(), chunk.size(), offset) < chunk.size()) {
+                return damaged();
+            }
+            job.file.append(chunk);
+        }
+        offset += 12 + length;
+    }
+    return {};
+}
+
+}  // namespace
+
+Result<bool> exportCafPackets(const ExportJob& job) {
+    const auto header = readCafHeader(job.source);
+    const bool isLinear = header && header->formatID == kAudioFormatLinearPCM && header->packetFrames == 1;
+    const bool isIma4 = header && header->formatID == kAudioFormatAppleIMA4 && header->channels <= 8 &&
+                        header->packetFrames == kIma4PacketFrames &&
+                        header->packetBytes == kIma4PacketBytes * header->channels;
+    if (job.type != AssetFileType::CoreAudioFormat || !(isLinear || isIma4) || header->packetBytes == 0 ||
+        header->channels == 0 || job.end > header->frames) {
+        return false;
+    }
+    const std::int64_t perPacket = header->packetFrames;
+    const std::int64_t start = header->primingFrames + job.start;
+    const std::int64_t end = header->primingFrames + job.end;
+    const std::int64_t first = start / perPacket;
+    const std::int64_t packets = (end + perPacket - 1) / perPacket - first;
+    Mp4Writer magic;
+    magic.u32(mp4Type("caff"));
+    magic.u32(0x10000);
+    job.file.append(magic.data());
+    if (const Result<void> copied = copyCafChunks(job); !copied) {
+        return tl::unexpected(copied.error());
+    }
+    Mp4Writer writer;
+    if (isIma4) {
+        const std::int64_t priming = start - first * perPacket;
+        writer.u32(mp4Type("pakt"));
+        writer.u64(24);
+        writer.u64(static_cast<std::uint64_t>(packets));
+        writer.u64(static_cast<std::uint64_t>(job.end - job.start));
+        writer.u32(static_cast<std::uint64_t>(priming));
+        writer.u32(static_cast<std::uint64_t>(packets * perPacket - priming - (job.end - job.start)));
+    }
+    const std::int64_t dataBytes = packets * header->packetBytes;
+    writer.u32(mp4Type("data"));
+    writer.u64(static_cast<std::uint64_t>(dataBytes + 4));
+    writer.u32(0);
+    job.file.append(writer.data());
+    std::vector<std::uint8_t> changed;
+    if (isIma4) {
+        auto found = Ima4Cut(job.source, *header, [&job] { return job.control.isCancelled(); }).firstPackets(first);
+        if (!found) {
+            return tl::unexpected(found.error());
+        }
+        changed = std::move(*found);
+        changed.resize(std::min(changed.size(), static_cast<std::size_t>(dataBytes)));
+    }
+    job.file.setControl(job.control, dataBytes);
+    job.file.append(changed);
+    const auto replaced = static_cast<std::int64_t>(changed.size());
+    job.file.copy(job.source, header->dataOffset + first * header->packetBytes + replaced, dataBytes - replaced);
+    return done(job);
+}
+
+Result<bool> exportMp4Packets(const ExportJob& job) {
+    const auto sound = job.type == AssetFileType::AppleM4A ? Mp4Sound::open(job.source) : std::nullopt;
+    const bool isAac = sound && sound->coding() == mp4Type("mp4a");
+    if (!sound || !(isAac || sound->coding() == mp4Type("alac"))) {
+        return false;
+    }
+    const auto mediaTime = [&](std::int64_t frame) {
+        return sound->start() + av_rescale(frame, sound->timeScale(), job.rate);
+    };
+    const std::int64_t start = mediaTime(job.start);
+    const std::int64_t end = mediaTime(job.end);
+    const std::uint64_t preroll = isAac ? kAacPreroll : 0;
+    const std::int64_t size = regularFileSize(job.source);
+    std::vector<Mp4Packet> packets;
+    std::int64_t bytes = 0;
+    std::int64_t origin = -1;
+    std::int64_t last = -1;
+    const bool isUnderstood = sound->forEachPacket(start, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
+        // Packets that share bytes could make a small file a large one.
+        const bool isThere = packet.size > 0 && packet.offset <= size && packet.size <= size - packet.offset &&
+                             bytes + packet.size <= size;
+        if (isThere && (begin < end || last <= start)) {
+            packets.push_back(packet);
+            origin = origin < 0 ? begin : origin;
+            last = begin;
+            bytes += packet.size;
+            return true;
+        }
+        return false;
+    });
+    const std::int64_t there =
+        origin + std::accumulate(packets.begin(), packets.end(), std::int64_t{0},
+                                 [](std::int64_t sum, const Mp4Packet& packet) { return sum + packet.duration; });
+    if (!isUnderstood && sound->isFragmented()) {
+        return false;
+    }
+    if (!isUnderstood || packets.empty() || there < end) {
+        return damaged();
+    }
+    if (last <= start) {
+        packets.push_back(packets.back());
+    }
+    Mp4SoundWriter writer(job.file);
+    job.file.setControl(job.control, bytes);
+    for (const Mp4Packet& packet : packets) {
+        writer.add(packet.size, packet.duration);
+        job.file.copy(job.source, packet.offset, packet.size);
+        if (!job.file.result()) {
+            break;
+        }
+    }
+    job.file.flush();
+    writer.endAt(end - origin);
+    writer.finish({sound->timeScale(), sound->description(), sound->userData(), start - origin, end - start});
+    return done(job);
+}
+
+namespace {
+
+/// What the header of an ADTS frame says (ISO/IEC 13818-7, 6.2), put as an AudioSpecificConfig.
+struct AdtsConfiguration {
+    explicit AdtsConfiguration(const std::uint8_t* header) {
+        headerBytes = (header[1] & 1) != 0 ? 7 : 9;
+        const unsigned configuration = (header[2] & 1U) << 2 | header[3] >> 6U;
+        channels = configuration == 7 ? 8 : configuration;
+        // The profile counts from 1 there.
+        const unsigned object = (header[2] >> 6U) + 1U;
+        const unsigned rateIndex = header[2] >> 2U & 15U;
+        config = {static_cast<std::uint8_t>(object << 3 | rateIndex >> 1),
+                  static_cast<std::uint8_t>(rateIndex << 7 | configuration << 3)};
+    }
+
+    int headerBytes = 0;
+    /// 0 where only the sound itself tells.
+    std::uint32_t channels = 0;
+    std::array<std::uint8_t, 2> config{};
+};
+
+}  // namespace
+
+Result<bool> exportAdtsPackets(const ExportJob& job) {
+    constexpr std::size_t kGatheredBytes = std::size_t{256} * 1024;
+    const auto packets = job.type == AssetFileType::AppleM4A ? AdtsPackets::open(job.source) : nullptr;
+    if (!packets) {
+        return false;
+    }
+    const std::int64_t rate = packets->timeBase().den;
+    const std::int64_t start = av_rescale(job.start, rate, job.rate);
+    const std::int64_t end = av_rescale(job.end, rate, job.rate);
+    const std::int64_t first = std::max<std::int64_t>(0, start / kAacPacketFrames - static_cast<int>(kAacPreroll));
+    const std::int64_t last = std::max((end + kAacPacketFrames - 1) / kAacPacketFrames, start / kAacPacketFrames + 2);
+    const AvPacket packet(av_packet_alloc());
+    std::vector<std::uint8_t> gathered;
+    std::optional<AdtsConfiguration> found;
+    std::uint32_t size = 0;
+    std::int64_t origin = -1;
+    Mp4SoundWriter writer(job.file);
+    packets->seek(first);
+    while (packets->next(*packet) && packet->pts < last) {
+        const AdtsConfiguration own(packet->data);
+        if (packet->duration != 1 || packet->size <= own.headerBytes || own.channels == 0 ||
+            (found && own.config != found->config)) {
+            return failure(QStringLiteral("This kind of AAC cannot be put into an M4A file as it is."));
+        }
+        found = own;
+        origin = origin < 0 ? packet->pts * kAacPacketFrames : origin;
+        if (gathered.size() >= kGatheredBytes) {
+            job.file.append(gathered);
+            gathered.clear();
+            job.control.setProgress(static_cast<double>(packet->pts - first) / static_cast<double>(last - first));
+            if (job.control.isCancelled() || !job.file.result()) {
+                break;
+            }
+        }
+        size = static_cast<std::uint32_t>(packet->size - own.headerBytes);
+        gathered.insert(gathered.end(), packet->data + own.headerBytes, packet->data + packet->size);
+        writer.add(size, kAacPacketFrames);
+    }
+    if (!found) {
+        return damaged();
+    }
+    if (writer.duration() <= start / kAacPacketFrames * kAacPacketFrames - origin + kAacPacketFrames) {
+        const std::vector<std::uint8_t> again(gathered.end() - size, gathered.end());
+        gathered.insert(gathered.end(), again.begin(), again.end());
+        writer.add(size, kAacPacketFrames);
+    }
+    job.file.append(gathered);
+    if (writer.duration() < end - origin && job.file.result() && !job.control.isCancelled()) {
+        return failure(QStringLiteral("The sound file became shorter while it was read."));
+    }
+    writer.endAt(end - origin);
+    const auto description = mp4AacDescription(found->config, found->channels, static_cast<std::uint32_t>(rate));
+    writer.finish({static_cast<std::uint32_t>(rate), description, {}, start - origin, end - start});
+    return done(job);
+}
+
+Result<void> exportPackets(const ExportJob& job) {
+    for (const auto& way : {exportWavPackets, exportCafPackets, exportMp4Packets, exportAdtsPackets}) {
+        const Result<bool> isDone = way(job);
+        if (!isDone || *isDone) {
+            return isDone ? Result<void>() : tl::unexpected(isDone.error());
+        }
+    }
+    return exportAnyPackets(job);
+}
+
+}  // namespace tavi

@@ -1,0 +1,43 @@
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+
+#include <fcntl.h>
+
+#include "adapters/ffmpeg/reading/AvFile.h"
+#include "files/PositionedIo.h"
+#include "sound/HeaderDuration.h"
+
+namespace tavi {
+
+namespace {
+
+double libraryDuration(int fd) {
+    std::unique_ptr<AvFile> file;
+    if (AvFile::open(fd, file) != kAudioNoError || file->stream().codecpar->sample_rate <= 0) {
+        return 0;
+    }
+    const AVStream* stream = &file->stream();
+    const AVFormatContext* context = &file->context();
+    double seconds = 0;
+    if (stream->duration != AV_NOPTS_VALUE) {
+        seconds = static_cast<double>(stream->duration) * av_q2d(stream->time_base);
+    } else if (context->duration != AV_NOPTS_VALUE) {
+        seconds = static_cast<double>(context->duration) / AV_TIME_BASE;
+    }
+    return seconds > 0 ? seconds : 0;
+}
+
+}  // namespace
+
+double FfmpegAudioDuration::durationOfFile(const QString& path) const {
+    // Not blocking, as a pipe of that name would.
+    const FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK);
+    if (!file.isValid() || regularFileSize(file.get()) <= 0) {
+        return 0;
+    }
+    if (const auto seconds = headerDuration(file.get())) {
+        return *seconds;
+    }
+    return libraryDuration(file.get());
+}
+
+}  // namespace tavi

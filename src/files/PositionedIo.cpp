@@ -1,0 +1,89 @@
+#include "files/PositionedIo.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+#include <system_error>
+
+namespace tavi {
+
+FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
+    if (this != &other) {
+        reset();
+        m_fd = std::exchange(other.m_fd, -1);
+    }
+    return *this;
+}
+
+FileDescriptor FileDescriptor::open(const QString& path, int flags, mode_t mode) {
+    return open(QFile::encodeName(path).toStdString(), flags, mode);
+}
+
+FileDescriptor FileDescriptor::open(const std::string& path, int flags, mode_t mode) {
+    int fd = -1;
+    do {
+        fd = ::open(path.c_str(), flags | O_CLOEXEC, mode);
+    } while (fd < 0 && errno == EINTR);
+    return FileDescriptor(fd);
+}
+
+void FileDescriptor::reset() {
+    if (m_fd >= 0) {
+        // Not repeated after EINTR: Linux has released the descriptor by then.
+        ::close(m_fd);
+        m_fd = -1;
+    }
+}
+
+PwriteFunction systemPwrite() {
+    return ::pwrite;
+}
+
+WriteResult writeFully(const PwriteFunction& pwrite, int fd, const void* data, std::size_t size, std::int64_t offset) {
+    const auto* bytes = static_cast<const unsigned char*>(data);
+    WriteResult result;
+    while (result.written < size) {
+        const ssize_t count = pwrite(fd, bytes + result.written, size - result.written,
+                                     static_cast<off_t>(offset + static_cast<std::int64_t>(result.written)));
+        if (count > 0) {
+            result.written += static_cast<std::size_t>(count);
+        } else if (count == 0 || errno != EINTR) {
+            result.error = count == 0 ? EIO : errno;
+            break;
+        }
+    }
+    return result;
+}
+
+std::size_t readFully(int fd, void* data, std::size_t size, std::int64_t offset) {
+    auto* bytes = static_cast<unsigned char*>(data);
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t count =
+            ::pread(fd, bytes + done, size - done, static_cast<off_t>(offset + static_cast<std::int64_t>(done)));
+        if (count > 0) {
+            done += static_cast<std::size_t>(count);
+        } else if (count == 0 || errno != EINTR) {
+            break;
+        }
+    }
+    return done;
+}
+
+std::int64_t regularFileSize(int fd) {
+    struct stat status = {};
+    return ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) ? std::int64_t{status.st_size} : -1;
+}
+
+QString writeErrorText(int error) {
+    if (error == ENOSPC || error == EDQUOT) {
+        return QStringLiteral("The disk is full.");
+    }
+    return QStringLiteral("The recording could not be written: ") +
+           QString::fromStdString(std::generic_category().message(error));
+}
+
+}  // namespace tavi

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "files/PositionedIo.h"
+#include "sound/SoundHeaders.h"
+#include "sound/io/PcmSamples.h"
+#include "sound/io/SoundSource.h"
+
+namespace tavi {
+
+/// Linear PCM in WAV and RF64 files, read in large blocks.
+class WavSource : public SoundSource {
+public:
+    /// Null for what it does not read; the descriptor is taken only on success.
+    static std::unique_ptr<WavSource> open(FileDescriptor& file);
+
+    const AudioStreamBasicDescription& format() const override { return m_format; }
+    std::uint64_t channelMask() const override { return m_header.channelMask; }
+    std::int64_t length() override { return m_header.frames; }
+    std::uint32_t maxPacketSize() const override { return m_header.frameBytes; }
+    std::size_t read(float* const* planes, std::size_t frames) override;
+    void seek(std::int64_t frame) override { m_position = frame; }
+
+private:
+    WavSource() = default;
+
+    FileDescriptor m_file;
+    WavHeader m_header;
+    AudioStreamBasicDescription m_format;
+    PcmEncoding m_encoding;
+    std::int64_t m_position = 0;
+    std::vector<std::uint8_t> m_bytes;
+};
+
+}  // namespace tavi
