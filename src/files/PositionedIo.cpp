@@ -6,7 +6,6 @@
 
 #include <QFile>
 #include <cerrno>
-#include <system_error>
 
 namespace tavi {
 
@@ -76,14 +75,6 @@ std::size_t readFully(int fd, void* data, std::size_t size, std::int64_t offset)
 std::int64_t regularFileSize(int fd) {
     struct stat status = {};
     return ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) ? std::int64_t{status.st_size} : -1;
-}
-
-QString writeErrorText(int error) {
-    if (error == ENOSPC || error == EDQUOT) {
-        return QStringLiteral("The disk is full.");
-    }
-    return QStringLiteral("The recording could not be written: ") +
-           QString::fromStdString(std::generic_category().message(error));
 }
 
 }  // namespace tavi

@@ -56,7 +56,4 @@ std::size_t readFully(int fd, void* data, std::size_t size, std::int64_t offset)
 /// Length in bytes of a regular file; -1 for anything else.
 std::int64_t regularFileSize(int fd);
 
-/// "The disk is full." or "The recording could not be written: " and the system's words for it.
-QString writeErrorText(int error);
-
 }  // namespace tavi

@@ -45,6 +45,8 @@ LIBRARIES = [
     (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
     (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "main"}),
 ]
+# Modules in plain C++, without Qt.
+PLAIN = {ENGINE, "sound"}
 GRAPHICS = re.compile(r"^(Qt(Quick|Qml|Gui|Widgets)\b|QQ(uick|ml)|QGuiApplication|QPainter|QWindow|QImage)")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 NOISE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
@@ -90,8 +92,8 @@ def check_includes(module, code):
                 yield f"<{header}> belongs to {', '.join(sorted(owners))}"
         if logic and GRAPHICS.match(header):
             yield f"<{header}> draws; {module} holds no drawing"
-        if module == ENGINE and re.match(r"^(Qt?[A-Z]|Q[A-Z])", header):
-            yield f"<{header}> is Qt; the engine is plain C++"
+        if module in PLAIN and re.match(r"^(Qt?[A-Z]|Q[A-Z])", header):
+            yield f"<{header}> is Qt; {module} is plain C++"
 
 
 def check_source(path, code):
@@ -141,6 +143,8 @@ PLANTED = {
     "src/adapters/recorder/Chain.cpp": '#include "adapters/pulse/Input.h"\n',
     "src/adapters/recorder/Codec.cpp": "extern \"C\" {\n#include <libavcodec/avcodec.h>\n}\n",
     "src/API/AudioTrimmerController/EZAudio/Qt.h": "#include <QString>\n",
+    "src/sound/mp4/Qt.h": "#include <QtGlobal>\n",
+    "src/sound/mp4/Codec.h": "#include <libavutil/mem.h>\n",
     "src/platform/Up.h": '#include "recording/AudioRecordVC.h"\n',
     "src/elsewhere/Stray.cpp": "int stray;\n",
     "tests/unit/recording/Real.cpp": '#include "adapters/qt/QtClock.h"\n',

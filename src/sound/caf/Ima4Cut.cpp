@@ -276,8 +276,8 @@ std::optional<std::vector<std::uint8_t>> Ima4Cut::correctedPackets(std::size_t c
     return packets;
 }
 
-Result<std::vector<std::uint8_t>> Ima4Cut::firstPackets(std::int64_t packet) {
-    const auto fails = [] { return failure(QStringLiteral("The sound file could not be read.")); };
+FileResult<std::vector<std::uint8_t>> Ima4Cut::firstPackets(std::int64_t packet) {
+    const auto fails = [] { return fileFailure("The sound file could not be read."); };
     std::vector<std::vector<std::uint8_t>> corrected;
     std::size_t count = 0;
     for (std::size_t channel = 0; channel < m_header.channels; ++channel) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/Error.h"
+#include "files/FileError.h"
 #include "sound/SoundHeaders.h"
 #include "sound/caf/Ima4Packet.h"
 
@@ -24,7 +24,7 @@ public:
 
     /// Packets of all channels that stand in for as many from that packet on. Mostly one; more where the sound leaves
     /// no room for the correction. Fails when the file cannot be read.
-    Result<std::vector<std::uint8_t>> firstPackets(std::int64_t packet);
+    FileResult<std::vector<std::uint8_t>> firstPackets(std::int64_t packet);
 
 private:
     /// A channel's packets from that one on, as far as codes are changed; nothing when the file cannot be read.

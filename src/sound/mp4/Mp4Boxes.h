@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/AudioRecorder.h"
+#include "platform/AudioTypes.h"
 
 namespace tavi {
 

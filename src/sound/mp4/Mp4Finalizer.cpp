@@ -176,42 +176,42 @@ int coverFragments(int fd, std::int64_t from, std::int64_t to, const PwriteFunct
 
 }  // namespace
 
-Result<void> Mp4Finalizer::finalize(int fd, const PwriteFunction& pwrite) {
+FileResult<void> Mp4Finalizer::finalize(int fd, const PwriteFunction& pwrite) {
     if (Mp4Fragments::isOrdinary(fd)) {
         return {};
     }
-    const Result<Mp4Fragments> fragments = Mp4Fragments::open(fd);
+    const FileResult<Mp4Fragments> fragments = Mp4Fragments::open(fd);
     if (!fragments) {
         return tl::unexpected(fragments.error());
     }
-    const Result<Mp4Totals> totals = Mp4Totals::of(*fragments);
+    const FileResult<Mp4Totals> totals = Mp4Totals::of(*fragments);
     if (!totals) {
         return tl::unexpected(totals.error());
     }
     const std::optional<Movie> movie = readMovie(fragments->movie());
     if (!movie || totals->tableBytes() > kLargest32 / 2) {
-        return failure(QStringLiteral("The recording's header cannot be understood."));
+        return fileFailure("The recording's header cannot be understood.");
     }
     if (::ftruncate(fd, totals->end) != 0) {
-        return failure(writeErrorText(errno));
+        return fileFailure(writeErrorText(errno));
     }
     Mp4Appender appender(fd, totals->end, pwrite);
     appender.bytes(writeMovie(*movie, *totals).data());
-    const Result<void> appended = appendMp4Tables(appender, *fragments, *totals);
+    const FileResult<void> appended = appendMp4Tables(appender, *fragments, *totals);
     appender.flush();
     int error = appender.error();
     if (appended && error == 0) {
         error = ::fsync(fd) != 0 ? errno : coverFragments(fd, fragments->movieOffset(), totals->end, pwrite);
-        return error == 0 ? Result<void>() : failure(writeErrorText(error));
+        return error == 0 ? FileResult<void>() : fileFailure(writeErrorText(error));
     }
     // The file goes on as a fragmented one, without half a header at its end.
     const bool isRestored = ::ftruncate(fd, totals->end) == 0;
-    return !appended && isRestored ? appended : failure(writeErrorText(error != 0 ? error : EIO));
+    return !appended && isRestored ? appended : fileFailure(writeErrorText(error != 0 ? error : EIO));
 }
 
-Result<void> Mp4Finalizer::finalize(const QString& path) {
-    const FileDescriptor file = FileDescriptor::open(path, O_RDWR);
-    return file.isValid() ? finalize(file.get()) : failure(writeErrorText(errno));
+FileResult<void> Mp4Finalizer::finalize(const std::filesystem::path& path) {
+    const FileDescriptor file = FileDescriptor::open(path.native(), O_RDWR);
+    return file.isValid() ? finalize(file.get()) : fileFailure(writeErrorText(errno));
 }
 
 }  // namespace tavi

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
 
+#include "files/FileError.h"
 #include "files/PositionedIo.h"
-#include "platform/Error.h"
 
 namespace tavi {
 
@@ -22,8 +22,8 @@ public:
     /// Does nothing to an ordinary MP4 file. Fails, without changing it, on a file that it does not understand: one
     /// with several tracks, damaged in its midst, or none of MPEG-4. The descriptor must be open for reading and
     /// writing.
-    static Result<void> finalize(int fd, const PwriteFunction& pwrite = systemPwrite());
-    static Result<void> finalize(const QString& path);
+    static FileResult<void> finalize(int fd, const PwriteFunction& pwrite = systemPwrite());
+    static FileResult<void> finalize(const std::filesystem::path& path);
 };
 
 }  // namespace tavi

@@ -80,8 +80,8 @@ bool Mp4Fragments::isOrdinary(int fd) {
     return hasTrack;
 }
 
-Result<Mp4Fragments> Mp4Fragments::open(int fd) {
-    const auto unusable = failure(QStringLiteral("This is no interrupted recording."));
+FileResult<Mp4Fragments> Mp4Fragments::open(int fd) {
+    const auto unusable = fileFailure("This is no interrupted recording.");
     const auto movie = findMovie(fd, regularFileSize(fd));
     if (!movie) {
         return unusable;
@@ -118,7 +118,7 @@ Result<Mp4Fragments> Mp4Fragments::open(int fd) {
     return fragments;
 }
 
-Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<bool(const Mp4Run&)>& visit) const {
+FileResult<std::int64_t> Mp4Fragments::forEachRun(const std::function<bool(const Mp4Run&)>& visit) const {
     const std::int64_t size = regularFileSize(m_fd);
     m_bytesLeft = size;
     std::int64_t offset = m_movieEnd;
@@ -137,7 +137,7 @@ Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<bool(const Mp4
         }
         const Mp4Box data = *readMp4Box(m_fd, offset, size);
         if (!readFragment(readBody(m_fd, box), box.offset) || data.type != mp4Type("mdat")) {
-            return failure(QStringLiteral("The recording is damaged in its midst."));
+            return fileFailure("The recording is damaged in its midst.");
         }
         for (const StoredRun& run : m_runs) {
             const auto samples = std::span<const Mp4Sample>(m_samples).subspan(run.first, run.count);
@@ -146,7 +146,7 @@ Result<std::int64_t> Mp4Fragments::forEachRun(const std::function<bool(const Mp4
                 runEnd += sample.size;
             }
             if (run.offset < data.body || runEnd > data.end) {
-                return failure(QStringLiteral("The recording is damaged in its midst."));
+                return fileFailure("The recording is damaged in its midst.");
             }
             if (!visit({run.offset, samples})) {
                 return data.end;

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/Error.h"
+#include "files/FileError.h"
 
 namespace tavi {
 
@@ -27,7 +27,7 @@ class Mp4Fragments {
 public:
     /// Reads the movie header. Fails when the file is no fragmented MP4 file with exactly one track, a track of sound,
     /// and when the header has sound of its own beside the fragments.
-    static Result<Mp4Fragments> open(int fd);
+    static FileResult<Mp4Fragments> open(int fd);
 
     /// Whether a file has a movie header of its own for the whole sound, and so no fragments. False for no MP4 file
     /// too.
@@ -40,7 +40,7 @@ public:
     /// Hands out the samples of every whole fragment in order, until visit returns false, and returns where the last
     /// fragment it came to ends. A fragment that was cut off by the end of the file does not count; neither does a
     /// movie header at the end. Fails when something in the midst of the file makes no sense.
-    Result<std::int64_t> forEachRun(const std::function<bool(const Mp4Run&)>& visit) const;
+    FileResult<std::int64_t> forEachRun(const std::function<bool(const Mp4Run&)>& visit) const;
 
 private:
     struct Defaults {

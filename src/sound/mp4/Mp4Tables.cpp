@@ -46,11 +46,11 @@ void beginTable(Mp4Appender& appender, std::uint32_t type, std::uint64_t size) {
 
 }  // namespace
 
-Result<Mp4Totals> Mp4Totals::of(const Mp4Fragments& fragments) {
+FileResult<Mp4Totals> Mp4Totals::of(const Mp4Fragments& fragments) {
     Mp4Totals totals;
     RunLength times([&](std::uint64_t, std::uint64_t) { ++totals.timeRuns; });
     RunLength chunks([&](std::uint64_t, std::uint64_t) { ++totals.chunkRuns; });
-    const Result<std::int64_t> end = fragments.forEachRun([&](const Mp4Run& run) {
+    const FileResult<std::int64_t> end = fragments.forEachRun([&](const Mp4Run& run) {
         ++totals.chunks;
         chunks.add(run.samples.size());
         totals.samples += run.samples.size();
@@ -99,14 +99,14 @@ void Mp4Appender::number(std::uint64_t value, int size) {
     }
 }
 
-Result<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragments, const Mp4Totals& totals) {
+FileResult<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragments, const Mp4Totals& totals) {
     beginTable(appender, mp4Type("stts"), 16 + 8 * totals.timeRuns);
     appender.u32(totals.timeRuns);
     RunLength times([&](std::uint64_t count, std::uint64_t duration) {
         appender.u32(count);
         appender.u32(duration);
     });
-    Result<std::int64_t> end = fragments.forEachRun([&](const Mp4Run& run) {
+    FileResult<std::int64_t> end = fragments.forEachRun([&](const Mp4Run& run) {
         for (const Mp4Sample& sample : run.samples) {
             times.add(sample.duration);
         }

@@ -20,7 +20,7 @@ struct Mp4Totals {
     /// Where the last whole fragment ends.
     std::int64_t end = 0;
 
-    static Result<Mp4Totals> of(const Mp4Fragments& fragments);
+    static FileResult<Mp4Totals> of(const Mp4Fragments& fragments);
 
     /// Bytes of the four tables with their headers.
     std::uint64_t tableBytes() const {
@@ -53,6 +53,6 @@ private:
 
 /// Appends the boxes stts, stsc, stsz and co64 (ISO/IEC 14496-12, 8.6.1.2, 8.7.4, 8.7.3.2, 8.7.5) for the fragments;
 /// reads them once for each table instead of holding anything. One run of samples is one chunk.
-Result<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragments, const Mp4Totals& totals);
+FileResult<void> appendMp4Tables(Mp4Appender& appender, const Mp4Fragments& fragments, const Mp4Totals& totals);
 
 }  // namespace tavi

@@ -6,7 +6,6 @@
 
 #include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "integration/ffmpeg/RecordingFixture.h"
-#include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi::test {
 
@@ -198,7 +197,7 @@ TEST_F(ExportTest, FragmentsAreCutExactlyToo) {
             EXPECT_EQ(own.size(), static_cast<std::size_t>(length) * 2);
             EXPECT_LE(difference(whole, static_cast<std::size_t>(start) * 2, own, 0, 32768), tolerance);
         }
-        EXPECT_EQ(Mp4Finalizer::finalize(path).has_value(), source.isEmpty());
+        EXPECT_EQ(finalize(path), source.isEmpty());
         EXPECT_TRUE(heard(path) == whole);
     }
 }
@@ -348,7 +347,7 @@ TEST_F(ExportTest, DamagedRecordingsAreNeitherBelievedNorACrash) {
                 drain(**reader);
             }
             // Either it can be made whole, or it is left as it is.
-            if (!Mp4Finalizer::finalize(path)) {
+            if (!finalize(path)) {
                 EXPECT_EQ(contents(path), damaged);
             }
         }

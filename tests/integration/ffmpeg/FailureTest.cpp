@@ -119,11 +119,11 @@ TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {
         EXPECT_TRUE(isFragmented(path));
         // The last fragment is cut off in the middle.
         ASSERT_TRUE(QFile::resize(path, QFile(path).size() - 99));
-        ASSERT_TRUE(Mp4Finalizer::finalize(path));
+        ASSERT_TRUE(finalize(path));
         EXPECT_FALSE(isFragmented(path));
         expectTone(path, 3.5, 5.1);
         const qint64 size = QFile(path).size();
-        EXPECT_TRUE(Mp4Finalizer::finalize(path));
+        EXPECT_TRUE(finalize(path));
         EXPECT_EQ(QFile(path).size(), size);
     }
 }
@@ -135,7 +135,7 @@ TEST_F(FailureTest, FinalizingCanFailAtAnyWriteAndBeDoneAgain) {
         const QString path = this->file(QStringLiteral("copy"), interrupted);
         const FileDescriptor file = FileDescriptor::open(path, O_RDWR);
         int calls = 0;
-        const Result<void> result = Mp4Finalizer::finalize(
+        const FileResult<void> result = Mp4Finalizer::finalize(
             file.get(), [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
                 if (calls++ == failing) {
                     errno = ENOSPC;
@@ -150,7 +150,7 @@ TEST_F(FailureTest, FinalizingCanFailAtAnyWriteAndBeDoneAgain) {
             EXPECT_GE(calls, 3);
             break;
         }
-        EXPECT_TRUE(Mp4Finalizer::finalize(path));
+        EXPECT_TRUE(finalize(path));
         EXPECT_FALSE(isFragmented(path));
         expectTone(path, 4.5, 6);
     }
@@ -169,7 +169,7 @@ TEST_F(FailureTest, RecordingsBeyondFourGigabytesAreMadeWhole) {
     file.seek(second + hole);
     file.write(bytes.mid(second));
     file.close();
-    ASSERT_TRUE(Mp4Finalizer::finalize(file.fileName()));
+    ASSERT_TRUE(finalize(file.fileName()));
     EXPECT_FALSE(isFragmented(file.fileName()));
     expectTone(file.fileName(), 4.5, 6);
     EXPECT_EQ(decodeSound(file.fileName())->planes, decodeSound(original)->planes);

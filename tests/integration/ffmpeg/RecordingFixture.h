@@ -13,6 +13,7 @@
 #include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "integration/SoundProbe.h"
+#include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi::test {
 
@@ -119,6 +120,11 @@ protected:
         QFile file(m_folder.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
         return file.fileName();
+    }
+
+    /// Turns what a killed program left into an ordinary file.
+    static bool finalize(const QString& path) {
+        return Mp4Finalizer::finalize(QFile::encodeName(path).toStdString()).has_value();
     }
 
     static QByteArray contents(const QString& path) {

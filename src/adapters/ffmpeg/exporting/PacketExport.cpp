@@ -3,6 +3,7 @@
 #include <array>
 #include <numeric>
 
+#include "adapters/ffmpeg/FileErrors.h"
 #include "adapters/ffmpeg/exporting/Mp4SoundWriter.h"
 #include "adapters/ffmpeg/reading/AdtsPackets.h"
 #include "sound/SoundHeaders.h"
@@ -163,7 +164,7 @@ Result<bool> exportCafPackets(const ExportJob& job) {
     if (isIma4) {
         auto found = Ima4Cut(job.source, *header, [&job] { return job.control.isCancelled(); }).firstPackets(first);
         if (!found) {
-            return tl::unexpected(found.error());
+            return tl::unexpected(errorOf(found.error()));
         }
         changed = std::move(*found);
         changed.resize(std::min(changed.size(), static_cast<std::size_t>(dataBytes)));

@@ -10,6 +10,7 @@ extern "C" {
 #include <algorithm>
 #include <string_view>
 
+#include "adapters/ffmpeg/FileErrors.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "sound/mp4/Mp4Finalizer.h"
 
@@ -156,7 +157,7 @@ Result<void> FfmpegAudioFileWriter::openContainer() {
     }
     avio_flush(m_io.get());
     if (m_file->error() != 0) {
-        return failure(writeErrorText(m_file->error()));
+        return failure(QString::fromStdString(writeErrorText(m_file->error())));
     }
     return {};
 }
@@ -195,7 +196,7 @@ Result<void> FfmpegAudioFileWriter::write(const float* interleaved, std::size_t 
         interleaved += static_cast<std::ptrdiff_t>(count) * m_channelsIn;
         frames -= static_cast<std::size_t>(count);
         if (m_file->error() != 0) {
-            return fail({writeErrorText(m_file->error())});
+            return fail({QString::fromStdString(writeErrorText(m_file->error()))});
         }
     }
     return {};
@@ -321,14 +322,14 @@ Result<void> FfmpegAudioFileWriter::finish() {
     // What follows has to do with whatever room there is.
     m_file->releaseReserve();
     if (m_format.isFragmented) {
-        const Result<void> finalized = Mp4Finalizer::finalize(m_file->fd(), m_file->pwrite());
+        const Result<void> finalized = resultOf(Mp4Finalizer::finalize(m_file->fd(), m_file->pwrite()));
         result = result ? finalized : result;
     }
     if (m_file->isBroken()) {
-        result = failure(writeErrorText(m_file->error()));
+        result = failure(QString::fromStdString(writeErrorText(m_file->error())));
     }
     if (const int error = m_file->sync(); error != 0 && result) {
-        result = failure(writeErrorText(error));
+        result = failure(QString::fromStdString(writeErrorText(error)));
     }
     m_container.reset();
     m_io.reset();

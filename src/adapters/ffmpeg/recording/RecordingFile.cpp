@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "files/FileError.h"
+
 namespace tavi {
 
 namespace {
@@ -24,7 +26,7 @@ bool isDiskFull(int error) {
 Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const QString& path, PwriteFunction pwrite) {
     FileDescriptor file = FileDescriptor::open(path, O_RDWR | O_CREAT | O_EXCL, 0666);
     if (!file.isValid()) {
-        return failure(isDiskFull(errno) ? writeErrorText(errno)
+        return failure(isDiskFull(errno) ? QString::fromStdString(writeErrorText(errno))
                                          : QStringLiteral("The recording could not be created: ") +
                                                QString::fromStdString(std::generic_category().message(errno)));
     }
