@@ -229,7 +229,6 @@ int run(int& argc, char** argv) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-    // A file that cannot be read is told to the user; it does not end the program.
     tavi::EZAudioUtilities::setShouldExitOnCheckResultFail(false);
     tavi::installTrace();
     return tavi::run(argc, argv);

@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
+#include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
 #include "trimming/waves/EZAudioDisplayLink.h"
 #include "trimming/waves/EZAudioPlotWaveformLayer.h"
 #include "trimming/waves/EZPlot.h"
@@ -90,16 +90,12 @@ protected:
 private:
     void initPlot(const QRectF& frame);
 
-    struct FreeHistory {
-        void operator()(PlotHistoryInfo* info) const { EZAudioUtilities::freeHistoryInfo(info); }
-    };
-
     DisplayRefreshes& m_refreshes;
     QRectF m_bounds;
     EZAudioPlotWaveformLayer m_waveformLayer;
     std::vector<QPointF> m_points;
     quint32 m_pointCount = 0;
-    std::unique_ptr<PlotHistoryInfo, FreeHistory> m_historyInfo;
+    OwnedHistoryInfo m_historyInfo;
     bool m_shouldCenterYAxis = false;
     bool m_shouldOptimizeForRealtimePlot = false;
     std::unique_ptr<EZAudioDisplayLink> m_displayLink;

@@ -64,12 +64,6 @@ std::shared_ptr<EZAudioFile> EZAudioFile::audioFileWithURL(const std::string& ur
     return file;
 }
 
-EZAudioFile::~EZAudioFile() {
-    m_floatConverter.reset();
-    freeFloatData();
-    m_info->extAudioFile.reset();
-}
-
 template <class Call>
 AudioStatus EZAudioFile::onFile(const Call& call) const {
     return m_info->extAudioFile ? call(*m_info->extAudioFile) : kAudioParameterError;
@@ -100,14 +94,8 @@ AudioStreamBasicDescription EZAudioFile::defaultClientFormat() {
     return EZAudioUtilities::stereoFloatNonInterleavedFormatWithSampleRate(defaultClientFormatSampleRate());
 }
 
-void EZAudioFile::freeFloatData() {
-    EZAudioUtilities::freeFloatBuffers(m_floatData, m_floatDataChannels);
-    m_floatData = nullptr;
-    m_floatDataChannels = 0;
-}
-
 void EZAudioFile::setClientFormat(const AudioStreamBasicDescription& clientFormat) {
-    freeFloatData();
+    m_floatData.reset();
     m_info->clientFormat = clientFormat;
     EZAudioUtilities::checkResult(onFile([&](ExtAudioFile& file) { return file.setClientDataFormat(clientFormat); }),
                                   "Couldn't set client data format on file");
@@ -115,8 +103,9 @@ void EZAudioFile::setClientFormat(const AudioStreamBasicDescription& clientForma
     std::uint32_t maxPacketSize = 0;
     EZAudioUtilities::checkResult(onFile([&](ExtAudioFile& file) { return file.fileMaxPacketSize(maxPacketSize); }),
                                   "Failed to get max packet size");
-    m_floatDataChannels = clientFormat.channelsPerFrame;
-    m_floatData = EZAudioUtilities::floatBuffersWithNumberOfFrames(kFloatDataFrames, m_floatDataChannels);
+    const std::uint32_t channels = clientFormat.channelsPerFrame;
+    m_floatData = OwnedFloatBuffers(EZAudioUtilities::floatBuffersWithNumberOfFrames(kFloatDataFrames, channels),
+                                    FreeFloatBuffers{channels});
 }
 
 AudioFileInfo EZAudioFile::metadata() const {
@@ -158,8 +147,8 @@ void EZAudioFile::readFrames(std::uint32_t frames, AudioBufferList* audioBufferL
     if (delegate && delegate->wantsAudio()) {
         // The arrays hold no more.
         const std::uint32_t count = std::min(frames, kFloatDataFrames);
-        m_floatConverter->convertDataFromAudioBufferList(audioBufferList, count, m_floatData);
-        delegate->audioFile(*this, m_floatData, count, m_info->clientFormat.channelsPerFrame);
+        m_floatConverter->convertDataFromAudioBufferList(audioBufferList, count, m_floatData.get());
+        delegate->audioFile(*this, m_floatData.get(), count, m_info->clientFormat.channelsPerFrame);
     }
 }
 
@@ -294,12 +283,10 @@ bool EZAudioFile::seekToClientFrame(ExtAudioFile& file, std::int64_t frame) cons
     if (file.seek(from) != kAudioNoError) {
         return false;
     }
-    AudioBufferList* list = EZAudioUtilities::audioBufferListWithNumberOfFrames(
-        surplus, m_info->clientFormat.channelsPerFrame, EZAudioUtilities::isInterleaved(m_info->clientFormat));
+    const OwnedBufferList list(EZAudioUtilities::audioBufferListWithNumberOfFrames(
+        surplus, m_info->clientFormat.channelsPerFrame, EZAudioUtilities::isInterleaved(m_info->clientFormat)));
     std::uint32_t frames = surplus;
-    const AudioStatus status = surplus > 0 ? file.read(frames, *list) : kAudioNoError;
-    EZAudioUtilities::freeBufferList(list);
-    return status == kAudioNoError;
+    return surplus == 0 || file.read(frames, *list) == kAudioNoError;
 }
 
 std::unique_ptr<EZAudioFloatData> EZAudioFile::getWaveformData() {

@@ -6,29 +6,15 @@
 #include <memory>
 #include <string>
 
+#include "API/AudioTrimmerController/EZAudio/EZAudioFileDelegate.h"
 #include "API/AudioTrimmerController/EZAudio/EZAudioFloatConverter.h"
 #include "API/AudioTrimmerController/EZAudio/EZAudioFloatData.h"
+#include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
 #include "API/AudioTrimmerController/EZAudio/SerialQueue.h"
 #include "platform/AudioConverter.h"
 #include "platform/ExtAudioFile.h"
 
 namespace tavi {
-
-class EZAudioFile;
-
-/// Hears where a reader is and what it reads, on the thread that reads or seeks.
-class EZAudioFileDelegate {
-public:
-    virtual ~EZAudioFileDelegate() = default;
-
-    virtual void audioFileUpdatedPosition(EZAudioFile&) {}
-    virtual void audioFile(EZAudioFile&, std::int64_t /*updatedPosition*/) {}
-    /// Whether audioFile() below is wanted; it costs a conversion.
-    virtual bool wantsAudio() const { return false; }
-    /// What has been read, one array of bufferSize floats a channel; valid until this returns.
-    virtual void audioFile(EZAudioFile&, float** /*readAudio*/, std::uint32_t /*bufferSize*/,
-                           std::uint32_t /*numberOfChannels*/) {}
-};
 
 /// Reads a sound file in a client format, and reduces it to points of loudness.
 ///
@@ -53,7 +39,6 @@ public:
                                                          const AudioStreamBasicDescription& clientFormat);
     EZAudioFile(const EZAudioFile&) = delete;
     EZAudioFile& operator=(const EZAudioFile&) = delete;
-    ~EZAudioFile();
     /// A new reader of the same file.
     std::shared_ptr<EZAudioFile> copy() const { return audioFileWithURL(url(), m_services); }
 
@@ -118,7 +103,6 @@ private:
     std::int64_t askFrameIndex() const;
     void seekFile(std::int64_t frame);
     void sendPosition();
-    void freeFloatData();
     /// A second reader of the same file, for one half of a waveform; null where one is not worth it.
     std::unique_ptr<ExtAudioFile> openForHalf(std::uint32_t numberOfPoints) const;
     bool seekToClientFrame(ExtAudioFile& file, std::int64_t frame) const;
@@ -130,8 +114,7 @@ private:
     mutable std::atomic_flag m_lock;
     mutable std::atomic<std::int64_t> m_frameIndex = 0;
     std::unique_ptr<EZAudioFloatConverter> m_floatConverter;
-    float** m_floatData = nullptr;
-    std::uint32_t m_floatDataChannels = 0;
+    OwnedFloatBuffers m_floatData;
     SerialQueue m_waveformQueue;
 };
 

@@ -38,13 +38,9 @@ EZAudioFloatConverter::EZAudioFloatConverter(const AudioStreamBasicDescription& 
     }
     // A packet may be larger than the buffer is meant to be.
     m_info->packetsPerBuffer = std::max(m_info->packetsPerBuffer, 1U);
-    m_info->floatAudioBufferList = EZAudioUtilities::audioBufferListWithNumberOfFrames(
+    m_info->floatAudioBufferList.reset(EZAudioUtilities::audioBufferListWithNumberOfFrames(
         m_info->packetsPerBuffer, m_info->outputFormat.channelsPerFrame,
-        EZAudioUtilities::isInterleaved(m_info->outputFormat));
-}
-
-EZAudioFloatConverter::~EZAudioFloatConverter() {
-    EZAudioUtilities::freeBufferList(m_info->floatAudioBufferList);
+        EZAudioUtilities::isInterleaved(m_info->outputFormat)));
 }
 
 void EZAudioFloatConverter::convertDataFromAudioBufferList(AudioBufferList* audioBufferList, std::uint32_t frames,

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
 #include "platform/AudioConverter.h"
 
 namespace tavi {
@@ -16,7 +17,6 @@ public:
 
     EZAudioFloatConverter(const EZAudioFloatConverter&) = delete;
     EZAudioFloatConverter& operator=(const EZAudioFloatConverter&) = delete;
-    ~EZAudioFloatConverter();
 
     const AudioStreamBasicDescription& inputFormat() const { return m_info->inputFormat; }
     const AudioStreamBasicDescription& outputFormat() const { return m_info->outputFormat; }
@@ -29,7 +29,7 @@ public:
 private:
     struct Info {
         std::unique_ptr<AudioConverter> converter;
-        AudioBufferList* floatAudioBufferList = nullptr;
+        OwnedBufferList floatAudioBufferList;
         AudioStreamBasicDescription inputFormat;
         AudioStreamBasicDescription outputFormat;
         /// Empty but for formats with packets of varying size.

@@ -106,7 +106,7 @@ PlotHistoryInfo* EZAudioUtilities::historyInfoWithDefaultLength(std::int32_t def
     auto* info = static_cast<PlotHistoryInfo*>(std::calloc(1, sizeof(PlotHistoryInfo)));
     info->bufferSize = defaultLength;
     info->buffer = static_cast<float*>(std::calloc(static_cast<std::size_t>(maximumLength), sizeof(float)));
-    // On purpose as many bytes as the maximum has samples: the ring holds what the usual window needs, not the largest.
+    // As many bytes as the maximum has samples, not four times as many: enough for the usual window.
     circularBuffer(&info->circularBuffer, maximumLength);
     const std::size_t zeroBytes = static_cast<std::size_t>(maximumLength) * sizeof(float);
     std::int32_t space = 0;
@@ -143,8 +143,7 @@ void EZAudioUtilities::appendBuffer(const float* buffer, std::uint32_t bufferSiz
     if (tail == nullptr) {
         return;
     }
-    // On purpose the window is taken before what is too much is consumed: plots show the samples as they stood after
-    // the call before, and their timing is tuned to it.
+    // On purpose before the excess is consumed: the window shows the samples as they stood after the call before.
     std::memcpy(historyInfo->buffer, tail, static_cast<std::size_t>(std::min(wanted, held)));
     if (held >= wanted) {
         TPCircularBufferConsume(ring, held - wanted);

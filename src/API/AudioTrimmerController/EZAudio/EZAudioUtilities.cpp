@@ -167,8 +167,7 @@ float** EZAudioUtilities::floatBuffersWithNumberOfFrames(std::uint32_t frames, s
 }
 
 void EZAudioUtilities::freeFloatBuffers(float** buffers, std::uint32_t channels) {
-    // On purpose an array without a first block is left alone: it is only half built, and nothing says what else of it
-    // may be freed.
+    // On purpose: an array without a first block is only half built, and nothing tells what of it may be freed.
     if (buffers == nullptr || channels == 0 || buffers[0] == nullptr) {
         return;
     }
@@ -210,7 +209,7 @@ std::string EZAudioUtilities::displayTimeStringFromSeconds(double seconds) {
     constexpr double kMost = 1e15;
     const auto total =
         std::isnan(seconds) ? 0 : static_cast<std::int64_t>(std::ceil(std::clamp(seconds, -kMost, kMost)));
-    // On purpose hours are dropped: the places that show these texts have room for minutes and seconds.
+    // Hours are dropped: the places that show these texts have room for minutes and seconds.
     return formatted("%02d:%02d", static_cast<int>(total / 60 % 60), static_cast<int>(total % 60));
 }
 

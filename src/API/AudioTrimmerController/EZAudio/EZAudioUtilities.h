@@ -26,7 +26,8 @@ struct PlotHistoryInfo {
 /// and 32 bits a channel unless their names say otherwise.
 class EZAudioUtilities {
 public:
-    /// Whether a failed check ends the process; true at first.
+    /// Whether a failed check ends the process. On at first, as users of the engine expect; the program turns it off,
+    /// because a damaged recording must not end it.
     static void setShouldExitOnCheckResultFail(bool shouldExit);
     static bool shouldExitOnCheckResultFail();
     /// Every call of the engine into the platform goes through here: on a status other than 0 a line with the operation

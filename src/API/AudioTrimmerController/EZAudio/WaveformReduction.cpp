@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
+#include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
 
 namespace tavi {
 
@@ -44,9 +44,9 @@ void WaveformReduction::reduce(std::uint32_t first, std::uint32_t last) const {
     const std::uint32_t channels = clientFormat.channelsPerFrame;
     const bool isInterleaved = EZAudioUtilities::isInterleaved(clientFormat);
     const std::uint32_t capacity = std::min(framesPerPoint, kPieceFrames);
-    AudioBufferList* list = EZAudioUtilities::audioBufferListWithNumberOfFrames(capacity, channels, isInterleaved);
+    const OwnedBufferList list(EZAudioUtilities::audioBufferListWithNumberOfFrames(capacity, channels, isInterleaved));
     std::vector<float> scratch(isInterleaved ? capacity : 0);
-    // Of interleaved sound only this part of a run counts. That is on purpose: it is what such waveforms look like.
+    // On purpose only this part of a run of interleaved sound: so the waveforms of such clients have always looked.
     const std::uint32_t counted = isInterleaved ? framesPerPoint / channels : framesPerPoint;
     for (std::uint32_t point = first; point < last; ++point) {
         std::vector<RunningLevel> levels(channels);
@@ -70,7 +70,6 @@ void WaveformReduction::reduce(std::uint32_t first, std::uint32_t last) const {
             points[channel][point] = levels[channel].value();
         }
     }
-    EZAudioUtilities::freeBufferList(list);
 }
 
 }  // namespace tavi

@@ -1,11 +1,11 @@
-#include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
-
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <cstdlib>
 #include <memory>
 #include <vector>
+
+#include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
 
 namespace tavi::test {
 namespace {
@@ -61,8 +61,7 @@ TEST(EZAudioUtilities, ScrollsHistories) {
 }
 
 TEST(EZAudioUtilities, KeepsAWindowOfRecentSamples) {
-    const std::unique_ptr<PlotHistoryInfo, decltype(&Utilities::freeHistoryInfo)> info(
-        Utilities::historyInfoWithDefaultLength(3, 8192), &Utilities::freeHistoryInfo);
+    const OwnedHistoryInfo info(Utilities::historyInfoWithDefaultLength(3, 8192));
     const auto window = [&info] { return std::vector(info->buffer, info->buffer + 4); };
     const float samples[] = {1, 2, 3, 4, 5};
     Utilities::appendBuffer(samples, 2, info.get());
