@@ -78,40 +78,34 @@ void CaptureBuffer::audioInputDidPause() {
     const int answered = m_pausesAnswered.fetch_add(1) + 1;
     const int last = m_endAfterPauses.load();
     if (last >= 0 && answered >= last) {
-        didEnd();
+        end(std::nullopt);
     }
 }
 
 void CaptureBuffer::audioInputDidFail(const Error& error) {
-    if (m_ended.load(std::memory_order_relaxed)) {
-        return;
-    }
-    m_error = error;
-    didEnd();
+    end(error);
 }
 
 void CaptureBuffer::requestEnd() {
     m_endAfterPauses.store(m_pausesAsked);
     if (m_pausesAnswered.load() >= m_pausesAsked) {
-        didEnd();
+        end(std::nullopt);
     }
 }
 
 void CaptureBuffer::end(const std::optional<Error>& error) {
-    if (!m_ended.load(std::memory_order_acquire)) {
-        m_error = error;
-        didEnd();
+    // A stop and a failing input may meet: whoever comes first says how it ended, and then that it has.
+    if (m_isEndTaken.exchange(true)) {
+        return;
     }
+    m_error = error;
+    m_ended.store(true, std::memory_order_release);
+    wake();
+    m_endSignal.release();
 }
 
 bool CaptureBuffer::waitForEnd(double seconds) {
     return isEnded() || m_endSignal.try_acquire_for(std::chrono::duration<double>(seconds));
-}
-
-void CaptureBuffer::didEnd() {
-    m_ended.store(true, std::memory_order_release);
-    wake();
-    m_endSignal.release();
 }
 
 CaptureBuffer::Level CaptureBuffer::takeLevel() {

@@ -45,7 +45,7 @@ public:
     void requestEnd();
     /// Waits for the end that was asked for, but no longer than that many seconds; whether it came.
     bool waitForEnd(double seconds);
-    /// The input is finished with this error, or with none; only while no input can call.
+    /// The input is finished with this error, or with none, unless it has ended before. Any thread.
     void end(const std::optional<Error>& error);
     /// Levels of what arrived since the last call.
     Level takeLevel();
@@ -70,7 +70,6 @@ public:
 
 private:
     void wake() { m_wake.release(); }
-    void didEnd();
     std::size_t bytesPerFrame() const { return sizeof(float) * static_cast<std::size_t>(m_format.channels); }
 
     AudioInputFormat m_format;
@@ -87,6 +86,7 @@ private:
     std::atomic<int> m_pausesAnswered = 0;
     /// How many answers make the end; negative while no end is asked for.
     std::atomic<int> m_endAfterPauses = -1;
+    std::atomic<bool> m_isEndTaken = false;
     std::atomic<bool> m_ended = false;
     std::counting_semaphore<> m_wake{0};
     std::counting_semaphore<> m_endSignal{0};

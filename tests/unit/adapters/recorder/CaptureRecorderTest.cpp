@@ -210,4 +210,22 @@ TEST_F(CaptureRecorderTest, MetersThePowerOfWhatArrivedSinceTheLastUpdate) {
     EXPECT_EQ(recorder->averagePowerForChannel(1), -160.0F);
 }
 
+TEST(CaptureBuffer, TheEndThatIsSeenIsTheEndThatStays) {
+    for (int round = 0; round < 3000; ++round) {
+        CaptureBuffer buffer;
+        std::optional<Error> seen;
+        std::thread encoder([&] {
+            while (!buffer.isEnded()) {
+                buffer.wait();
+            }
+            seen = buffer.error();
+        });
+        std::thread capture([&] { buffer.audioInputDidFail({QStringLiteral("gone")}); });
+        buffer.requestEnd();
+        capture.join();
+        encoder.join();
+        ASSERT_EQ(seen.has_value(), buffer.error().has_value());
+    }
+}
+
 }  // namespace tavi::test
