@@ -7,11 +7,12 @@
 #include <vector>
 
 #include "files/PositionedIo.h"
-#include "sound/SoundHeaders.h"
 #include "sound/adts/AdtsStream.h"
+#include "sound/caf/CafHeader.h"
 #include "sound/mp4/Mp4Boxes.h"
 #include "sound/mp4/Mp4Fragments.h"
 #include "sound/mp4/Mp4Tables.h"
+#include "sound/wav/WavHeader.h"
 
 namespace tavi {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "files/FileError.h"
-#include "sound/SoundHeaders.h"
+#include "sound/caf/CafHeader.h"
 #include "sound/caf/Ima4Packet.h"
 
 namespace tavi {

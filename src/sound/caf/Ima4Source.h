@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "files/PositionedIo.h"
-#include "sound/SoundHeaders.h"
+#include "sound/caf/CafHeader.h"
 #include "sound/caf/Ima4Packet.h"
 #include "sound/io/SoundSource.h"
 

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "files/PositionedIo.h"
-#include "sound/SoundHeaders.h"
 #include "sound/io/PcmSamples.h"
 #include "sound/io/SoundSource.h"
+#include "sound/wav/WavHeader.h"
 
 namespace tavi {
 

@@ -6,9 +6,12 @@
 #include "adapters/ffmpeg/FileErrors.h"
 #include "adapters/ffmpeg/exporting/Mp4SoundWriter.h"
 #include "adapters/ffmpeg/reading/AdtsPackets.h"
-#include "sound/SoundHeaders.h"
+#include "sound/caf/CafHeader.h"
+#include "sound/caf/CafWriter.h"
 #include "sound/caf/Ima4Cut.h"
 #include "sound/mp4/Mp4Sound.h"
+#include "sound/wav/WavHeader.h"
+#include "sound/wav/WavWriter.h"
 
 namespace tavi {
 
@@ -19,22 +22,6 @@ constexpr std::uint64_t kAacPreroll = 2;
 constexpr int kAacPacketFrames = 1024;
 // Where the heard part begins in the last packet of an M4A file, FFmpeg's demuxer plays nothing. So one packet always
 // follows the first that is heard, though it may be behind the end.
-
-std::vector<std::uint8_t> littleEndian(std::initializer_list<std::pair<std::uint64_t, int>> fields) {
-    std::vector<std::uint8_t> bytes;
-    for (const auto& [value, size] : fields) {
-        for (int i = 0; i < size; ++i) {
-            bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-        }
-    }
-    return bytes;
-}
-
-/// A four-letter code, to be written with the low byte first.
-std::pair<std::uint64_t, int> letters(const char (&text)[5]) {
-    const std::uint32_t code = fourCharacterCode(text);
-    return {__builtin_bswap32(code), 4};
-}
 
 tl::unexpected<Error> damaged() {
     return failure(QStringLiteral("The sound file is damaged."));
@@ -60,29 +47,7 @@ Result<bool> exportWavPackets(const ExportJob& job) {
         readFully(job.source, format.data(), format.size(), header->formatOffset) < format.size()) {
         return damaged();
     }
-    format.resize(format.size() + (format.size() & 1));
-    // Everything behind the first eight bytes.
-    constexpr std::uint64_t kLongSizesBytes = 36;
-    std::uint64_t size = 4 + 8 + format.size() + 8 + dataBytes + padding;
-    const bool isLong = size + kLongSizesBytes > 0xffffffff;
-    if (isLong) {
-        size += kLongSizesBytes;
-        const std::uint64_t frames = static_cast<std::uint64_t>(job.end - job.start);
-        job.file.append(littleEndian({letters("RF64"),
-                                      {0xffffffff, 4},
-                                      letters("WAVE"),
-                                      letters("ds64"),
-                                      {28, 4},
-                                      {size, 8},
-                                      {dataBytes, 8},
-                                      {frames, 8},
-                                      {0, 4}}));
-    } else {
-        job.file.append(littleEndian({letters("RIFF"), {size, 4}, letters("WAVE")}));
-    }
-    job.file.append(littleEndian({letters("fmt "), {header->formatBytes, 4}}));
-    job.file.append(format);
-    job.file.append(littleEndian({letters("data"), {isLong ? 0xffffffff : dataBytes, 4}}));
+    job.file.append(wavHeader(format, dataBytes, static_cast<std::uint64_t>(job.end - job.start)));
     job.file.setControl(job.control, static_cast<std::int64_t>(dataBytes));
     job.file.copy(job.source, header->dataOffset + job.start * header->frameBytes,
                   static_cast<std::int64_t>(dataBytes));
@@ -90,38 +55,6 @@ Result<bool> exportWavPackets(const ExportJob& job) {
     job.file.append(std::vector<std::uint8_t>(padding));
     return done(job);
 }
-
-namespace {
-
-/// The chunks that describe the sound; names and remarks too, as long as they are small.
-Result<void> copyCafChunks(const ExportJob& job) {
-    constexpr std::int64_t kMaximumBytes = std::int64_t{1} << 20;
-    const std::int64_t size = regularFileSize(job.source);
-    for (std::int64_t offset = 8; offset + 12 <= size;) {
-        std::array<std::uint8_t, 12> bytes{};
-        if (readFully(job.source, bytes.data(), bytes.size(), offset) < bytes.size()) {
-            return damaged();
-        }
-        Mp4Reader reader(bytes);
-        const std::uint32_t type = reader.u32();
-        const auto length = static_cast<std::int64_t>(reader.u64());
-        if (length < 0 || length > size - offset - 12) {
-            break;
-        }
-        const bool isDescribing = type != mp4Type("data") && type != mp4Type("pakt") && type != mp4Type("free");
-        if (isDescribing && length <= kMaximumBytes) {
-            std::vector<std::uint8_t> chunk(static_cast<std::size_t>(12 + length));
-            if (readFully(job.source, chunk.data(), chunk.size(), offset) < chunk.size()) {
-                return damaged();
-            }
-            job.file.append(chunk);
-        }
-        offset += 12 + length;
-    }
-    return {};
-}
-
-}  // namespace
 
 Result<bool> exportCafPackets(const ExportJob& job) {
     const auto header = readCafHeader(job.source);
@@ -138,28 +71,15 @@ Result<bool> exportCafPackets(const ExportJob& job) {
     const std::int64_t end = header->primingFrames + job.end;
     const std::int64_t first = start / perPacket;
     const std::int64_t packets = (end + perPacket - 1) / perPacket - first;
-    Mp4Writer magic;
-    magic.u32(mp4Type("caff"));
-    magic.u32(0x10000);
-    job.file.append(magic.data());
-    if (const Result<void> copied = copyCafChunks(job); !copied) {
-        return tl::unexpected(copied.error());
-    }
-    Mp4Writer writer;
-    if (isIma4) {
-        const std::int64_t priming = start - first * perPacket;
-        writer.u32(mp4Type("pakt"));
-        writer.u64(24);
-        writer.u64(static_cast<std::uint64_t>(packets));
-        writer.u64(static_cast<std::uint64_t>(job.end - job.start));
-        writer.u32(static_cast<std::uint64_t>(priming));
-        writer.u32(static_cast<std::uint64_t>(packets * perPacket - priming - (job.end - job.start)));
-    }
     const std::int64_t dataBytes = packets * header->packetBytes;
-    writer.u32(mp4Type("data"));
-    writer.u64(static_cast<std::uint64_t>(dataBytes + 4));
-    writer.u32(0);
-    job.file.append(writer.data());
+    const std::int64_t priming = start - first * perPacket;
+    const std::int64_t frames = job.end - job.start;
+    const CafPacketTable table{packets, frames, priming, packets * perPacket - priming - frames};
+    const auto head = cafHeaderLike(job.source, isIma4 ? std::optional(table) : std::nullopt, dataBytes);
+    if (!head) {
+        return tl::unexpected(errorOf(head.error()));
+    }
+    job.file.append(*head);
     std::vector<std::uint8_t> changed;
     if (isIma4) {
         auto found = Ima4Cut(job.source, *header, [&job] { return job.control.isCancelled(); }).firstPackets(first);

@@ -11,8 +11,9 @@
 
 #include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "files/PositionedIo.h"
-#include "sound/SoundHeaders.h"
+#include "sound/caf/CafHeader.h"
 #include "sound/caf/Ima4Packet.h"
+#include "sound/wav/WavHeader.h"
 
 namespace tavi {
 

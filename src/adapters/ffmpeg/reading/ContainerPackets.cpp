@@ -10,7 +10,7 @@ extern "C" {
 
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
-#include "sound/SoundHeaders.h"
+#include "sound/caf/CafHeader.h"
 
 namespace tavi {
 

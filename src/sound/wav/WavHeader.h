@@ -25,23 +25,4 @@ struct WavHeader {
 /// Nothing for files of another type or codec, and for those that make no sense.
 std::optional<WavHeader> readWavHeader(int fd);
 
-/// What a CAF file (Apple Core Audio Format 1.0) says about itself.
-struct CafHeader {
-    double sampleRate = 0;
-    std::uint32_t formatID = 0;
-    std::uint32_t formatFlags = 0;
-    /// 0 where packets vary.
-    std::uint32_t packetBytes = 0;
-    std::uint32_t packetFrames = 0;
-    std::uint32_t channels = 0;
-    std::int64_t dataOffset = 0;
-    /// What is there of it.
-    std::int64_t dataBytes = 0;
-    std::int64_t primingFrames = 0;
-    /// Frames that are meant to be heard; -1 where the file does not tell.
-    std::int64_t frames = -1;
-};
-
-std::optional<CafHeader> readCafHeader(int fd);
-
 }  // namespace tavi

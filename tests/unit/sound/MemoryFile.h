@@ -1,0 +1,49 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "files/PositionedIo.h"
+#include "sound/io/SoundSource.h"
+
+namespace tavi::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// A file that is nowhere but in memory, with those bytes; longer ones end in a hole.
+inline FileDescriptor memoryFile(std::span<const std::uint8_t> bytes, std::int64_t size = 0) {
+    FileDescriptor file(::memfd_create("sound", MFD_CLOEXEC));
+    EXPECT_EQ(writeFully(systemPwrite(), file.get(), bytes.data(), bytes.size(), 0).error, 0);
+    EXPECT_EQ(::ftruncate(file.get(), std::max<std::int64_t>(size, std::ssize(bytes))), 0);
+    return file;
+}
+
+inline Bytes contents(const FileDescriptor& file) {
+    Bytes bytes(static_cast<std::size_t>(regularFileSize(file.get())));
+    EXPECT_EQ(readFully(file.get(), bytes.data(), bytes.size(), 0), bytes.size());
+    return bytes;
+}
+
+/// What a source has from a frame on, a row of samples a channel; asked for in pieces of an odd size.
+inline std::vector<std::vector<float>> readFrom(SoundSource& source, std::int64_t frame) {
+    constexpr std::size_t kPiece = 1001;
+    std::vector<std::vector<float>> sound(source.format().channelsPerFrame);
+    std::vector<std::vector<float>> piece(sound.size(), std::vector<float>(kPiece));
+    std::vector<float*> planes;
+    std::transform(piece.begin(), piece.end(), std::back_inserter(planes), [](auto& plane) { return plane.data(); });
+    source.seek(frame);
+    while (const std::size_t count = source.read(planes.data(), kPiece)) {
+        for (std::size_t channel = 0; channel < sound.size(); ++channel) {
+            sound[channel].insert(sound[channel].end(), planes[channel], planes[channel] + count);
+        }
+    }
+    return sound;
+}
+
+}  // namespace tavi::test
