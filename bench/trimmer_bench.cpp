@@ -67,9 +67,15 @@ void measure(const QSize& size) {
         sound->planes[0].push_back(static_cast<float>(std::sin(i * 0.05) * std::sin(i * 0.0003)));
     }
     sounds.sounds[path.toStdString()] = sound;
-    WaveformLoader waveforms({sounds, converters, runLoop});
-    AudioTrimmerStage stage(
-        {assets, players, {recorders, session}, waveforms, refreshes, container, notifications, runLoop});
+    WaveformLoader waveforms({.files = sounds, .converters = converters, .queues = runLoop});
+    AudioTrimmerStage stage({.exports = assets,
+                             .players = players,
+                             .recorder = {.recorders = recorders, .audioSession = session},
+                             .waveforms = waveforms,
+                             .refreshes = refreshes,
+                             .container = container,
+                             .notifications = notifications,
+                             .runLoop = runLoop});
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral(":/"));

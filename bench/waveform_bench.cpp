@@ -100,8 +100,8 @@ double ours(const QString& path, std::vector<float>& points) {
     tavi::FfmpegAudioConverters converters;
     tavi::QtRunLoop runLoop;
     const auto start = Clock::now();
-    const auto file =
-        tavi::EZAudioFile::audioFileWithURL(QFile::encodeName(path).toStdString(), {files, converters, runLoop});
+    const auto file = tavi::EZAudioFile::audioFileWithURL(
+        QFile::encodeName(path).toStdString(), {.files = files, .converters = converters, .queues = runLoop});
     const auto data = file->getWaveformDataWithNumberOfPoints(kPoints);
     const double seconds = secondsSince(start);
     points.assign(data->bufferForChannel(1), data->bufferForChannel(1) + kPoints);

@@ -5,11 +5,10 @@
 #include <QFile>
 #include <QImage>
 #include <QSaveFile>
-#include <cerrno>
-#include <cstdio>
-#include <system_error>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
+#include "Output.h"
+#include "SettingsFiles.h"
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
@@ -96,7 +95,8 @@ int runWaveform(const CommandLine& line) {
         return reportFile(line.file, openErrorText(status));
     }
     probe.reset();
-    const auto file = EZAudioFile::audioFileWithURL(line.file.toStdString(), {media, media, runLoop});
+    const auto file = EZAudioFile::audioFileWithURL(line.file.toStdString(),
+                                                    {.files = media, .converters = media, .queues = runLoop});
     if (!file || file->totalFrames() <= 0) {
         return reportFile(line.file, QStringLiteral("it holds no sound"));
     }
@@ -172,19 +172,6 @@ int runTrim(const CommandLine& line, const AppContainer& container) {
 }
 
 }  // namespace
-
-int reportFailure(const Error& error, int exitCode) {
-    std::fprintf(stderr, "tavi: %s\n", qUtf8Printable(error.text));
-    return exitCode;
-}
-
-int print(const QByteArray& text) {
-    const auto size = static_cast<std::size_t>(text.size());
-    const bool isWritten = std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-    return isWritten ? EXIT_SUCCESS
-                     : reportFailure({QStringLiteral("the standard output cannot be written: ") +
-                                      QString::fromStdString(std::generic_category().message(errno))});
-}
 
 bool isHeadless(Command command) {
     return command == Command::Get || command == Command::Set || command == Command::List ||

@@ -14,6 +14,12 @@ extern "C" Q_DECL_EXPORT const tavi::MediaLibrary::Adapters* taviMediaAdapters()
     static tavi::FfmpegExtAudioFiles files;
     static tavi::FfmpegAudioConverters converters;
     static tavi::FfmpegAssets assets;
-    static const tavi::MediaLibrary::Adapters adapters{writers, durations, tempos, files, converters, assets, assets};
+    static const tavi::MediaLibrary::Adapters adapters{.writers = writers,
+                                                       .durations = durations,
+                                                       .tempos = tempos,
+                                                       .files = files,
+                                                       .converters = converters,
+                                                       .exportSessions = assets,
+                                                       .readers = assets};
     return &adapters;
 }

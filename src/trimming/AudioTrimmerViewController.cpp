@@ -36,7 +36,7 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
       m_services(services),
       m_input(std::move(input)),
       m_audioPlot(EZAudioPlot::init(services.refreshes)),
-      m_player({services.players, services.runLoop}, filePath(), m_selection),
+      m_player({.players = services.players, .runLoop = services.runLoop}, filePath(), m_selection),
       m_export(services.exports, services.runLoop),
       m_recorder(services.recorder, services.container, [this] { didFinishRecording(); }) {
     connect(&m_selection, &TrimSelection::panned, &m_player, &TrimPlayer::stopAudioPlayer);

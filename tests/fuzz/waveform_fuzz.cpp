@@ -27,7 +27,8 @@ void read(const std::string& path, const tavi::AudioStreamBasicDescription& form
     tavi::FfmpegExtAudioFiles files;
     tavi::FfmpegAudioConverters converters;
     NoQueues queues;
-    const auto file = tavi::EZAudioFile::audioFileWithURL(path, {files, converters, queues}, {}, format);
+    const auto file = tavi::EZAudioFile::audioFileWithURL(
+        path, {.files = files, .converters = converters, .queues = queues}, {}, format);
     if (!file || file->totalFrames() < 0) {
         std::abort();
     }

@@ -9,10 +9,21 @@ namespace tavi::test {
 struct FakeLibrary {
     explicit FakeLibrary(FakeServices& fakes, const AudioDuration& lengths)
         : lister(lengths, fakes.runLoop),
-          waveforms({fakes.files, fakes.converters, fakes.runLoop}),
-          player(
-              {fakes.players, fakes.session, fakes.remote, fakes.settings, fakes.runLoop, waveforms, fakes.refreshes}),
-          vc({fakes.settings, fakes.container, fakes.notifications, lister, fakes.remote, fakes.trimmers}, player) {}
+          waveforms({.files = fakes.files, .converters = fakes.converters, .queues = fakes.runLoop}),
+          player({.players = fakes.players,
+                  .session = fakes.session,
+                  .remoteControl = fakes.remote,
+                  .settings = fakes.settings,
+                  .runLoop = fakes.runLoop,
+                  .waveforms = waveforms,
+                  .refreshes = fakes.refreshes}),
+          vc({.settings = fakes.settings,
+              .container = fakes.container,
+              .notifications = fakes.notifications,
+              .lister = lister,
+              .remoteControl = fakes.remote,
+              .trimmers = fakes.trimmers},
+             player) {}
 
     RecordingLister lister;
     WaveformLoader waveforms;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
+#include "recording/AudioRecordVC.h"
 #include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
@@ -18,6 +19,18 @@ namespace tavi::test {
 struct FakeServices {
     FakeServices() { QLocale::setDefault(QLocale(QStringLiteral("en_US"))); }
 
+    /// For the recording screen.
+    AudioRecordVC::Services recordServices(Presenter& presenter, TabBar& tabBar, MailComposer& mailComposer) {
+        return {.audioSession = session,
+                .audioRecorders = recorders,
+                .settings = settings,
+                .container = container,
+                .runLoop = runLoop,
+                .presenter = presenter,
+                .tabBar = tabBar,
+                .mailComposer = mailComposer};
+    }
+
     ManualRunLoop runLoop;
     TemporaryContainer container;
     NotificationCenter notifications;
@@ -32,9 +45,15 @@ struct FakeServices {
     FakeExtAudioFiles files;
     FakeAudioConverters converters;
     FakeDisplayRefreshes refreshes;
-    WaveformLoader trimmerWaveforms{{files, converters, runLoop}};
-    AudioTrimmerStage trimmers{
-        {assets, players, {recorders, session}, trimmerWaveforms, refreshes, container, notifications, runLoop}};
+    WaveformLoader trimmerWaveforms{{.files = files, .converters = converters, .queues = runLoop}};
+    AudioTrimmerStage trimmers{{.exports = assets,
+                                .players = players,
+                                .recorder = {.recorders = recorders, .audioSession = session},
+                                .waveforms = trimmerWaveforms,
+                                .refreshes = refreshes,
+                                .container = container,
+                                .notifications = notifications,
+                                .runLoop = runLoop}};
 };
 
 }  // namespace tavi::test

@@ -122,11 +122,11 @@ struct ShellScreens : FakeServices {
     TabBarController tabBar;
     AlertPresenter presenter;
     FakeMailComposer mail;
-    AudioRecordVC recording{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
+    AudioRecordVC recording{recordServices(presenter, tabBar, mail)};
     FakeLibrary fakeLibrary{*this, durations};
     VoiceMemoVC& library = fakeLibrary.vc;
     PlayerPanel& player = fakeLibrary.player;
-    SettingVC settingVC{{settings, runLoop, presenter}};
+    SettingVC settingVC{{.settings = settings, .runLoop = runLoop, .presenter = presenter}};
 };
 
 /// The program's window with its screens.

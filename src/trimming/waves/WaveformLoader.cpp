@@ -99,7 +99,8 @@ void WaveformLoader::load(const QByteArray& path, Completion completion) {
     m_services.queues.dispatchBackground(
         [this, path, identity, finish, job, &queues = m_services.queues, &converters = m_services.converters] {
             std::vector<float> points;
-            const auto file = EZAudioFile::audioFileWithURL(path.toStdString(), {job->files, converters, queues});
+            const auto file = EZAudioFile::audioFileWithURL(
+                path.toStdString(), {.files = job->files, .converters = converters, .queues = queues});
             if (const auto data = file && file->totalFrames() > 0 ? file->getWaveformData() : nullptr) {
                 const float* first = data->bufferForChannel(0);
                 points.assign(first, first + data->bufferSize());

@@ -166,7 +166,8 @@ TEST_F(ReadingTest, EveryRecordableTypeShowsTheLevelOfItsSound) {
         for (const Quality& quality : kQualities) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
             const auto path = QFile::encodeName(record(type, quality, samples)).toStdString();
-            const auto reader = EZAudioFile::audioFileWithURL(path, {m_files, converters, runLoop});
+            const auto reader =
+                EZAudioFile::audioFileWithURL(path, {.files = m_files, .converters = converters, .queues = runLoop});
             ASSERT_TRUE(reader);
             if (type.packet == 1 && quality.rate == 44100) {
                 EXPECT_EQ(reader->totalClientFrames() / 1024, 430);

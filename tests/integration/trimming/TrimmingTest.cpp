@@ -41,9 +41,15 @@ TEST_F(TrimmingTest, CutsRecordingsOfEveryType) {
         ASSERT_TRUE(recording.open(QIODevice::ReadOnly));
         const QByteArray before = recording.readAll();
 
-        WaveformLoader waveforms({files, converters, runLoop});
-        AudioTrimmerStage stage(
-            {assets, players, {recorders, session}, waveforms, refreshes, container, notifications, runLoop});
+        WaveformLoader waveforms({.files = files, .converters = converters, .queues = runLoop});
+        AudioTrimmerStage stage({.exports = assets,
+                                 .players = players,
+                                 .recorder = {.recorders = recorders, .audioSession = session},
+                                 .waveforms = waveforms,
+                                 .refreshes = refreshes,
+                                 .container = container,
+                                 .notifications = notifications,
+                                 .runLoop = runLoop});
         QByteArray trimmed;
         AudioTrimmerViewController::presentAudioTrimmerController(
             stage, nullptr, path, {}, path.mid(path.lastIndexOf('/') + 1),

@@ -25,8 +25,15 @@ protected:
     FakeTabBar tabBar;
     FakePresenter presenter;
     FakeMailComposer mail;
-    AudioRecordVC screen{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
-    AppDelegate delegate{{application, idleTimer, settings, sharedDefaults, container, session, tabBar, screen}};
+    AudioRecordVC screen{recordServices(presenter, tabBar, mail)};
+    AppDelegate delegate{{.application = application,
+                          .idleTimer = idleTimer,
+                          .settings = settings,
+                          .sharedDefaults = sharedDefaults,
+                          .container = container,
+                          .audioSession = session,
+                          .tabBar = tabBar,
+                          .objrecordVC = screen}};
 };
 
 }  // namespace

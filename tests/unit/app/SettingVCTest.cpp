@@ -38,7 +38,7 @@ protected:
     SettingsStore settings{defaults};
     ManualRunLoop runLoop;
     FakePresenter presenter;
-    SettingVC vc{{settings, runLoop, presenter}};
+    SettingVC vc{{.settings = settings, .runLoop = runLoop, .presenter = presenter}};
 };
 
 TEST_F(SettingVCTest, aMovedSliderSnapsAndIsLabelledInEnglishUntilTheRowsAreBuiltAgain) {
@@ -83,7 +83,8 @@ TEST_F(SettingVCTest, aQualityIsStoredAsItReadsAndSwitchesNegated) {
 }
 
 TEST_F(SettingVCTest, aChoiceAfterTheScreenIsGoneDoesNothing) {
-    auto gone = std::make_unique<SettingVC>(SettingVC::Services{settings, runLoop, presenter});
+    auto gone = std::make_unique<SettingVC>(
+        SettingVC::Services{.settings = settings, .runLoop = runLoop, .presenter = presenter});
     gone->showExtentionActionsheet();
     choose("Caf");
     gone->showQualityActionsheet();

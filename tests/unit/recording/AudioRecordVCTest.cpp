@@ -45,7 +45,7 @@ protected:
     FakePresenter presenter;
     FakeTabBar tabBar;
     FakeMailComposer mail;
-    AudioRecordVC screen{{session, recorders, settings, container, runLoop, presenter, tabBar, mail}};
+    AudioRecordVC screen{recordServices(presenter, tabBar, mail)};
 };
 
 }  // namespace

@@ -16,9 +16,15 @@ protected:
     }
 
     std::unique_ptr<AudioTrim> open(const char* section, const char* name = "talk.wav") {
-        auto screen = std::make_unique<AudioTrim>(
-            AudioTrim::Services{assets, assets, players, settings, container, presenter, runLoop},
-            QFile::encodeName(container.documentsPath()) + '/' + name, QLatin1String(section));
+        auto screen = std::make_unique<AudioTrim>(AudioTrim::Services{.exports = assets,
+                                                                      .readers = assets,
+                                                                      .players = players,
+                                                                      .settings = settings,
+                                                                      .container = container,
+                                                                      .presenter = presenter,
+                                                                      .runLoop = runLoop},
+                                                  QFile::encodeName(container.documentsPath()) + '/' + name,
+                                                  QLatin1String(section));
         screen->setTrimDelegate([this] { ++reloads; });
         screen->setSaveToCloud([this](const QByteArray&, const QString& file) { saved.append(file); });
         QObject::connect(screen.get(), &AudioTrim::closed, screen.get(), [this] { ++closings; });

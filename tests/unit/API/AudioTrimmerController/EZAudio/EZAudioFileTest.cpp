@@ -67,7 +67,7 @@ protected:
     ManualRunLoop m_runLoop;
     FakeExtAudioFiles m_files;
     FakeAudioConverters m_converters;
-    EZAudioFile::Services m_services{m_files, m_converters, m_runLoop};
+    EZAudioFile::Services m_services{.files = m_files, .converters = m_converters, .queues = m_runLoop};
 };
 
 TEST_F(EZAudioFileTest, OpensWhatIsThereAndTellsItsLength) {

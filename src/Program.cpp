@@ -1,0 +1,217 @@
+#include "Program.h"
+
+#include <QDBusConnection>
+#include <QFont>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include "Output.h"
+#include "Screens.h"
+#include "SettingsFiles.h"
+#include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/DBusApplication.h"
+#include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/dbus/MprisRemoteControl.h"
+#include "adapters/desktop/DesktopMailComposer.h"
+#include "adapters/player/FilePlayer.h"
+#include "adapters/pulse/PulseAudioInput.h"
+#include "adapters/pulse/PulseAudioOutput.h"
+#include "adapters/pulse/PulseAudioSession.h"
+#include "adapters/pulse/PulseConnection.h"
+#include "adapters/qt/MediaLibrary.h"
+#include "adapters/qt/QtRunLoop.h"
+#include "adapters/qt/TerminationSignals.h"
+#include "adapters/quick/QuickDisplayRefreshes.h"
+#include "adapters/recorder/CaptureRecorder.h"
+#include "app/AppDelegate.h"
+#include "app/SettingVC.h"
+#include "library/PlayerPanel.h"
+#include "library/RecordingLister.h"
+#include "library/VoiceMemoVC.h"
+#include "recording/AudioRecordVC.h"
+#include "trimming/AudioTrimmerStage.h"
+#include "trimming/waves/WaveformLoader.h"
+#include "ui/AlertPresenter.h"
+#include "ui/TabBarController.h"
+#include "ui/Texts.h"
+
+namespace tavi {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcApp, "tavi.app", QtInfoMsg)
+
+/// What the screens work with: an adapter for each port, and the shell.
+struct Platform {
+    Platform(const AppContainer& folders, const QString& busName)
+        : container(folders), application(bus, QDBusConnection::systemBus(), busName) {
+        application.claim();
+    }
+
+    const AppContainer& container;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    DBusApplication application;
+    SettingsFiles settings{container};
+    MediaLibrary media;
+    QtRunLoop runLoop;
+    std::shared_ptr<PulseConnection> pulse = std::make_shared<PulseConnection>();
+    PulseAudioSession audioSession{pulse};
+    PulseAudioInputs audioInputs{pulse};
+    PulseAudioOutputs audioOutputs{pulse};
+    CaptureRecorders audioRecorders{audioInputs, media, runLoop};
+    FilePlayers audioPlayers{media, media, audioOutputs, runLoop};
+    DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
+    DesktopMailComposer mailComposer{bus};
+    MprisRemoteControl remoteControl{bus};
+    QuickDisplayRefreshes refreshes;
+    NotificationCenter notifications;
+    AlertPresenter presenter;
+    TabBarController tabBar;
+};
+
+/// The screens, and what only they share. Wired by the members' names.
+struct Screens {
+    explicit Screens(Platform& services) : platform(services) {}
+
+    Platform& platform;
+    EZAudioFile::Services waveformServices{
+        .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
+    AudioRecordVC recording{{.audioSession = platform.audioSession,
+                             .audioRecorders = platform.audioRecorders,
+                             .settings = platform.settings.store,
+                             .container = platform.container,
+                             .runLoop = platform.runLoop,
+                             .presenter = platform.presenter,
+                             .tabBar = platform.tabBar,
+                             .mailComposer = platform.mailComposer}};
+    RecordingLister lister{platform.media, platform.runLoop};
+    WaveformLoader waveforms{waveformServices};
+    PlayerPanel player{{.players = platform.audioPlayers,
+                        .session = platform.audioSession,
+                        .remoteControl = platform.remoteControl,
+                        .settings = platform.settings.store,
+                        .runLoop = platform.runLoop,
+                        .waveforms = waveforms,
+                        .refreshes = platform.refreshes}};
+    WaveformLoader trimmerWaveforms{waveformServices};
+    AudioTrimmerStage trimmers{
+        {.exports = platform.media,
+         .players = platform.audioPlayers,
+         .recorder = {.recorders = platform.audioRecorders, .audioSession = platform.audioSession},
+         .waveforms = trimmerWaveforms,
+         .refreshes = platform.refreshes,
+         .container = platform.container,
+         .notifications = platform.notifications,
+         .runLoop = platform.runLoop}};
+    VoiceMemoVC library{{.settings = platform.settings.store,
+                         .container = platform.container,
+                         .notifications = platform.notifications,
+                         .lister = lister,
+                         .remoteControl = platform.remoteControl,
+                         .trimmers = trimmers},
+                        player};
+    SettingVC settings{
+        {.settings = platform.settings.store, .runLoop = platform.runLoop, .presenter = platform.presenter}};
+    AppDelegate delegate{{.application = platform.application,
+                          .idleTimer = platform.idleTimer,
+                          .settings = platform.settings.store,
+                          .sharedDefaults = platform.settings.shared,
+                          .container = platform.container,
+                          .audioSession = platform.audioSession,
+                          .tabBar = platform.tabBar,
+                          .objrecordVC = recording}};
+};
+
+/// What this start does once the window is there.
+LaunchOptions launchOptionsOf(const CommandLine& line) {
+    switch (line.command) {
+        case CommandLine::Command::Record:
+            return {QStringLiteral("Record")};
+        case CommandLine::Command::Library:
+            return {QStringLiteral("Recordings")};
+        default:
+            return {};
+    }
+}
+
+QList<QUrl> urlsOf(const CommandLine& line) {
+    return line.command == CommandLine::Command::Stop ? QList<QUrl>{QUrl(QStringLiteral("TaviRecordStop:"))}
+                                                      : line.urls;
+}
+
+/// How the window is painted, unless the environment says otherwise. Before the application is made.
+void choosePainting() {
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) {
+        // Painting in software starts sooner, and repaints the few pixels that change for less.
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME")) {
+        // A picture follows its cause at once; the usual pause between them would cost another wake-up each time.
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    }
+}
+
+void describe(QGuiApplication& application) {
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavi"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.quillfen.voicerecorder"));
+    QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
+    installTexts(application);
+}
+
+/// Builds the window; null where it cannot be built. The engine owns it.
+QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
+    engine.addImportPath(QStringLiteral(":/"));
+    engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&screens.recording)},
+                                 {QStringLiteral("library"), QVariant::fromValue(&screens.library)},
+                                 {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
+                                 {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
+                                 {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
+                                 {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)}});
+    engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
+    return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
+}
+
+/// What the window does for its screens, and they for it.
+void connectWindow(QQuickWindow* window, Screens& screens) {
+    const auto shown = [&platform = screens.platform] {
+        qCDebug(lcApp, "first-frame");
+        platform.runLoop.dispatchBackground([&media = platform.media] { media.load(); });
+    };
+    QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);
+    QObject::connect(&screens.library, &VoiceMemoVC::raiseRequested, window, [window] {
+        window->showNormal();
+        window->raise();
+        window->requestActivate();
+    });
+    QObject::connect(&screens.library, &VoiceMemoVC::quitRequested, window, &QWindow::close);
+    screens.platform.refreshes.setWindow(window);
+}
+
+}  // namespace
+
+int runProgram(int& argc, char** argv, const CommandLine& line, const AppContainer& container) {
+    choosePainting();
+    QGuiApplication application(argc, argv);
+    describe(application);
+    const TerminationSignals signals([](int) { QCoreApplication::quit(); });
+    Platform platform(container, busNameForContainer(line.container));
+    Screens screens(platform);
+    screens.delegate.applicationDidFinishLaunching(launchOptionsOf(line));
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = loadWindow(engine, screens);
+    if (window == nullptr) {
+        return reportFailure({QStringLiteral("the window cannot be built")});
+    }
+    connectWindow(window, screens);
+    platform.application.setDelegate(&screens.delegate);
+    platform.application.setWindow(window);
+    for (const QUrl& url : urlsOf(line)) {
+        screens.delegate.applicationOpenURL(url);
+    }
+    platform.application.launchFinished();
+    return QGuiApplication::exec();
+}
+
+}  // namespace tavi
