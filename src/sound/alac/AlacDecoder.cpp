@@ -59,6 +59,19 @@ void predictFrom(const std::int32_t* errors, std::int32_t* coefficients, int shi
     std::copy_n(gains.begin(), kOrder, coefficients);
 }
 
+/// Turns a mixture and the difference of two channels into the channels. Without signs: what a hostile packet names may
+/// be larger than any sound, and then wraps.
+void unmix(int shift, int weight, int count, std::int32_t* mixture, std::int32_t* differences) {
+    for (int i = 0; i < count; ++i) {
+        const auto difference = static_cast<std::uint32_t>(differences[i]);
+        const auto weighted = static_cast<std::int32_t>(difference * static_cast<std::uint32_t>(weight));
+        const std::uint32_t right =
+            static_cast<std::uint32_t>(mixture[i]) - static_cast<std::uint32_t>(weighted >> shift);
+        mixture[i] = static_cast<std::int32_t>(right + difference);
+        differences[i] = static_cast<std::int32_t>(right);
+    }
+}
+
 }  // namespace
 
 /// Big-endian bits. It may be asked for more than there are; the caller sees that afterwards.
@@ -157,14 +170,7 @@ bool AlacDecoder::decodeElement(BitReader& bits, int channels, int& count) {
         if (mixShift > 31) {
             return false;
         }
-        std::int32_t* left = m_samples[0].data();
-        std::int32_t* right = m_samples[1].data();
-        for (int i = 0; i < count; ++i) {
-            const std::int32_t difference = right[i];
-            const std::int32_t mixed = left[i] - (difference * mixWeight >> mixShift);
-            left[i] = mixed + difference;
-            right[i] = mixed;
-        }
+        unmix(mixShift, mixWeight, count, m_samples[0].data(), m_samples[1].data());
     }
     return true;
 }
