@@ -5,7 +5,7 @@ import Tavi.Settings
 import Tavi.Trimming
 import Tavi.Ui
 
-/// The window: three tabs, and alerts above them.
+/// The window: three tabs, and notices and alerts above them.
 Window {
     id: window
 
@@ -14,6 +14,7 @@ Window {
     required property SettingVC settings
     required property TabBarController tabBar
     required property AlertPresenter presenter
+    required property NoticeLine notices
     required property AudioTrimmerStage trimmers
     /// Something covers the screens and takes the keys.
     readonly property bool covered: presenter.active || trimmer.shown
@@ -166,6 +167,14 @@ Window {
         id: trimmer
 
         stage: window.trimmers
+    }
+
+    NoticeBar {
+        objectName: "notice"
+        x: content.x + Math.round((content.width - width) / 2)
+        y: content.height - height - 8
+        width: Math.min(implicitWidth, content.width - 2 * Theme.margin)
+        notices: window.notices
     }
 
     Loader {

@@ -34,6 +34,7 @@
 #include "trimming/AudioTrimmerStage.h"
 #include "trimming/waves/WaveformLoader.h"
 #include "ui/AlertPresenter.h"
+#include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
 
@@ -68,6 +69,7 @@ struct Platform {
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;
     AlertPresenter presenter;
+    NoticeLine notices{runLoop};
     TabBarController tabBar;
 };
 
@@ -168,6 +170,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
+                                 {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)}});
     engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());

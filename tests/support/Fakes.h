@@ -10,6 +10,7 @@
 #include "platform/AudioSession.h"
 #include "platform/IdleTimer.h"
 #include "platform/MailComposer.h"
+#include "platform/Notices.h"
 #include "platform/Presenter.h"
 #include "platform/RemoteControl.h"
 #include "platform/TabBar.h"
@@ -47,6 +48,14 @@ public:
 
     std::vector<Alert> alerts;
     std::vector<Alert> sheets;
+};
+
+/// Keeps the notices in their order; a test chooses an action by calling it.
+class FakeNotices : public Notices {
+public:
+    void postNotice(Notice notice) override { posted.push_back(std::move(notice)); }
+
+    std::vector<Notice> posted;
 };
 
 class FakeTabBar : public TabBar {

@@ -80,6 +80,12 @@ const State kStates[] = {
     {"playing", 1, play},
     {"unplayable", 1, [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1); }},
     {"found", 1, [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
+    {"notice", 1,
+     [](Shell& s) {
+         showLibrary(s);
+         s.notices.postNotice(
+             {QStringLiteral("The recording called “Interview” was deleted."), QStringLiteral("Undo"), {}});
+     }},
     {"settings", 2, {}},
     {"sheet", 2, [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
     {"alert", 0, [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},

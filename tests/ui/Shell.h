@@ -12,6 +12,7 @@
 #include "recording/AudioRecordVC.h"
 #include "support/FakeLibrary.h"
 #include "ui/AlertPresenter.h"
+#include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 
 namespace tavi::test {
@@ -121,6 +122,7 @@ inline QByteArray addTalk(FakeServices& fakes) {
 struct ShellScreens : FakeServices {
     TabBarController tabBar;
     AlertPresenter presenter;
+    NoticeLine notices{runLoop};
     FakeMailComposer mail;
     AudioRecordVC recording{recordServices(presenter, tabBar, mail)};
     FakeLibrary fakeLibrary{*this, durations};
@@ -143,6 +145,7 @@ public:
                                       {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
                                       {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
                                       {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
+                                      {QStringLiteral("notices"), QVariant::fromValue(&notices)},
                                       {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 

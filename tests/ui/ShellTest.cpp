@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+
 #include "Shell.h"
 #include "support/FakeDisplayRefresh.h"
 #include "trimming/waves/EZAudioPlotItem.h"
@@ -110,6 +112,46 @@ TEST(Alerts, QueueAndAnswerKeys) {
     EXPECT_FALSE(presenter.isActive());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
+}
+
+TEST(Notices, SayThingsInPassing) {
+    Shell shell;
+    const auto isRead = [&shell](const char* text) {
+        QAccessibleInterface* access = QAccessible::queryAccessibleInterface(shell.item("notice"));
+        return access->role() == QAccessible::AlertMessage && !access->state().invisible &&
+               access->text(QAccessible::Name) == QLatin1String(text);
+    };
+    const QQuickItem* focused = shell.window->activeFocusItem();
+    shell.notices.postNotice({QStringLiteral("First")});
+    shell.runLoop.advance(5.0);
+    int undone = 0;
+    shell.notices.postNotice({QStringLiteral("Second"), QStringLiteral("Undo"), [&undone] { ++undone; }});
+    shell.runLoop.advance(5.0);
+    shell.settle();
+    EXPECT_TRUE(isRead("Second")) << "the time of the first is over";
+    EXPECT_EQ(shell.window->activeFocusItem(), focused);
+    shell.tap("noticeAction");
+    EXPECT_EQ(undone, 1);
+    EXPECT_FALSE(shell.notices.isActive());
+    shell.notices.act();
+    EXPECT_EQ(undone, 1);
+
+    shell.notices.postNotice(
+        {QStringLiteral("The recording could not be kept because the disk is full. ").repeated(4)});
+    for (const QSize size : {QSize(360, 640), QSize(1200, 800)}) {
+        shell.window->resize(size);
+        shell.settle();
+        const QQuickItem& line = *shell.item("notice");
+        EXPECT_TRUE(QRectF(QPointF(), size).contains(line.mapRectToScene(line.boundingRect())));
+        shell.tap("notice");
+        EXPECT_TRUE(shell.notices.isActive());
+    }
+    shell.runLoop.advance(6.0);
+    shell.settle();
+    EXPECT_FALSE(shell.notices.isActive());
+    for (const QQuickItem* item : shell.visibleItems()) {
+        EXPECT_NE(item->objectName(), QStringLiteral("notice"));
+    }
 }
 
 TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {

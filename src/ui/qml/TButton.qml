@@ -25,7 +25,7 @@ T.Button {
     contentItem: Item {
         id: content
 
-        implicitWidth: row.implicitWidth
+        implicitWidth: words.implicitWidth + (image.visible ? image.width + row.spacing : 0)
         implicitHeight: row.implicitHeight
 
         Row {
@@ -35,6 +35,8 @@ T.Button {
             spacing: 4
 
             Label {
+                id: words
+
                 width: Math.min(implicitWidth, content.width - (image.visible ? image.width + row.spacing : 0))
                 text: control.text
                 color: control.tint
