@@ -1,3 +1,7 @@
+tavi_precompiled(tavi_test_headers LINKS Qt6::Core GTest::gmock tl::expected
+  HEADERS <QByteArray> <QDateTime> <QFile> <QObject> <QPointer> <QString> <QStringList> <QTemporaryDir> <QVariant>
+    <algorithm> <filesystem> <functional> <memory> <optional> <vector> <tl/expected.hpp> <gmock/gmock.h>)
+
 # tavi_test(NAME SOURCES file... LINKS target... [LABELS label...] [ENVIRONMENT NAME=value...])
 #
 # Declares one GoogleTest executable and its CTest entry. tests/support/main.cpp gives it a QCoreApplication. LABELS choose
@@ -9,8 +13,9 @@ function(tavi_test name)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${arg_LINKS} tavi_test_support GTest::gmock tavi_warnings)
   target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+  tavi_use_precompiled(${name} tavi_test_headers)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT 300)
+  set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT 60)
   # Sound is played in real time: two servers at once leave each other gaps.
   if("tavi_test_pulse" IN_LIST arg_LINKS)
     set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)

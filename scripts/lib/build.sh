@@ -4,6 +4,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 program=$root/build/release/bin/tavi
 # Another checkout of the same sources finds what this one has compiled.
 export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=true
+# It may keep what was compiled with precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # configure PRESET [OPTION...]: configures build/PRESET quietly.
 configure() {
