@@ -16,7 +16,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcTrimming, "tavi.trimming", QtInfoMsg)
 
-constexpr double kTimeInterval = 0.01;
 constexpr double kRefreshDelay = 0.5;
 constexpr double kCloudDelay = 2.0;
 constexpr float kMargin = 2.0F;
@@ -28,12 +27,11 @@ AudioTrim::AudioTrim(const Services& services, QByteArray fileName, QString sect
       m_services(services),
       m_fileName(std::move(fileName)),
       m_section(std::move(section)),
-      m_waveformView(services.readers) {
+      m_waveformView(services.readers),
+      m_player(services.players, services.runLoop) {
     connect(&m_rangeSlider, &RangeSlider::valueChanged, this, &AudioTrim::updateRangeLabel);
-}
-
-AudioTrim::~AudioTrim() {
-    stopTimer();
+    connect(&m_player, &AudioTrimPlayer::isPlayingChanged, this, &AudioTrim::outletsChanged);
+    connect(&m_player, &AudioTrimPlayer::timeChanged, this, &AudioTrim::timeChanged);
 }
 
 QString AudioTrim::lblFileName() const {
@@ -53,20 +51,20 @@ ButtonOutlet AudioTrim::btnSave() const {
 ButtonOutlet AudioTrim::btnTrim() const {
     ButtonOutlet button;
     button.title = qtTrId("trim_audio");
-    button.enabled = m_isTrimEnabled;
+    button.enabled = m_isTrimEnabled && !isTrimming();
     return button;
 }
 
 ButtonOutlet AudioTrim::btnStop() const {
     ButtonOutlet button;
-    button.enabled = m_timer != nullptr;
+    button.enabled = m_player.isPlaying();
     return button;
 }
 
 ButtonOutlet AudioTrim::btnPlay() const {
     ButtonOutlet button;
-    button.enabled = m_player != nullptr;
-    button.selected = m_timer != nullptr;
+    button.enabled = m_player.canPlay();
+    button.selected = m_player.isRecordingPlaying();
     return button;
 }
 
@@ -83,7 +81,7 @@ void AudioTrim::viewDidLoad() {
     m_waveformView.setProgressColor(QStringLiteral("#ff3333"));
     m_waveformView.setAsset(m_services.exports.assetWithURL(m_fileName));
     m_waveformView.setProgress(1.0);
-    makePlayer(m_fileName);
+    m_player.load(m_fileName);
     m_rangeSlider.minimumValue = 0.0F;
     m_rangeSlider.selectedMinimumValue = kMargin;
     if (duration() > 0.0) {
@@ -92,7 +90,6 @@ void AudioTrim::viewDidLoad() {
     }
     m_rangeSlider.minimumRange = 1.0F;
     Q_EMIT outletsChanged();
-    Q_EMIT timeChanged();
 }
 
 void AudioTrim::updateRangeLabel() {
@@ -102,80 +99,18 @@ void AudioTrim::updateRangeLabel() {
     Q_EMIT outletsChanged();
 }
 
-bool AudioTrim::makePlayer(const QByteArray& path) {
-    auto player = m_services.players.playerWithContentsOfURL(path);
-    if (!player) {
-        qCWarning(lcTrimming, "Error in audioPlayer: %s", qUtf8Printable(player.error().text));
-        m_player.reset();
-        return false;
-    }
-    m_player = std::move(*player);
-    m_player->setDelegate(this);
-    return true;
-}
-
-void AudioTrim::playOriginalAudio() {
-    if (m_player == nullptr) {
-        return;
-    }
-    if (m_player->isPlaying()) {
-        m_player->pause();
-        stopTimer();
-    } else if (m_player->play()) {
-        startTimer();
-    }
-}
-
 void AudioTrim::playTrimmedAudio() {
-    if (!m_isTrimmed) {
-        playOriginalAudio();
-        return;
+    if (m_isTrimmed) {
+        m_player.playCut(m_outputPath);
+    } else {
+        m_player.playOrPause();
     }
-    stopAudio();
-    if (makePlayer(m_outputPath) && m_player->play()) {
-        startTimer();
-    }
-    Q_EMIT outletsChanged();
-}
-
-void AudioTrim::stopAudio() {
-    if (m_player != nullptr) {
-        m_player->stop();
-    }
-    stopTimer();
-}
-
-void AudioTrim::playerSliderMoved(double seconds) {
-    if (m_player != nullptr) {
-        m_player->setCurrentTime(seconds);
-        Q_EMIT timeChanged();
-    }
-}
-
-void AudioTrim::startTimer() {
-    const QPointer<AudioTrim> self(this);
-    m_timer = m_services.runLoop.scheduledTimer(kTimeInterval, true, [self] {
-        if (self) {
-            Q_EMIT self->timeChanged();
-        }
-    });
-    Q_EMIT outletsChanged();
-}
-
-void AudioTrim::stopTimer() {
-    if (m_timer != nullptr) {
-        m_timer->invalidate();
-        m_timer.reset();
-        Q_EMIT timeChanged();
-        Q_EMIT outletsChanged();
-    }
-}
-
-void AudioTrim::audioPlayerDidFinishPlaying(AudioPlayer&, bool) {
-    stopTimer();
 }
 
 void AudioTrim::trimAudio() {
+    if (isTrimming()) {
+        return;
+    }
     m_isTrimmed = true;
     m_indicatorText = qtTrId("trim_progress");
     Q_EMIT outletsChanged();
@@ -196,24 +131,18 @@ void AudioTrim::trimAudio() {
     if (!m_services.settings.isCloudSyncOn() || m_section != QLatin1String("1")) {
         close();
     } else {
-        leaveToCloud();
+        saveImagesInIPhone();
     }
 }
 
-void AudioTrim::leaveToCloud() {
-    const QPointer<AudioTrim> self(this);
-    m_services.runLoop.dispatchAfter(kCloudDelay, [self] {
+void AudioTrim::saveImagesInIPhone() const {
+    // Of this cut, whatever comes next and whether or not the screen is still there.
+    m_services.runLoop.dispatchAfter(kCloudDelay, [save = m_saveToCloud, path = m_outputPath] {
         qCInfo(lcTrimming, "Do some work");
-        if (self) {
-            self->saveImagesInIPhone(QFileInfo(QFile::decodeName(self->m_outputPath)).fileName());
+        if (save) {
+            save(path, QFileInfo(QFile::decodeName(path)).fileName());
         }
     });
-}
-
-void AudioTrim::saveImagesInIPhone(const QString& name) {
-    if (m_saveToCloud) {
-        m_saveToCloud(m_outputPath, name);
-    }
 }
 
 bool AudioTrim::exportAsset(const Asset& asset, const QByteArray& path) {
@@ -250,12 +179,6 @@ bool AudioTrim::exportAsset(const Asset& asset, const QByteArray& path) {
     return true;
 }
 
-void AudioTrim::reloadList() const {
-    if (m_reloadTableViewDataSource) {
-        m_reloadTableViewDataSource();
-    }
-}
-
 void AudioTrim::backButtonpressed() {
     if (!m_isTrimDone) {
         close();
@@ -282,7 +205,9 @@ void AudioTrim::addTrimFileWithFilePath(const QString& folder) {
     m_indicatorText.clear();
     Q_EMIT outletsChanged();
     close();
-    reloadList();
+    if (m_reloadTableViewDataSource) {
+        m_reloadTableViewDataSource();
+    }
 }
 
 void AudioTrim::removeFile(const QString& fileName) {
@@ -296,7 +221,7 @@ void AudioTrim::removeFile(const QString& fileName) {
 }
 
 void AudioTrim::close() {
-    stopAudio();
+    m_player.stop();
     Q_EMIT closed();
 }
 

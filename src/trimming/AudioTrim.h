@@ -7,17 +7,17 @@
 #include "app/settings/SettingsStore.h"
 #include "platform/AppContainer.h"
 #include "platform/AssetExportSession.h"
-#include "platform/AudioPlayer.h"
 #include "platform/Outlets.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
+#include "trimming/AudioTrimPlayer.h"
 #include "trimming/RangeSlider.h"
 #include "trimming/waves/SCWaveformView.h"
 
 namespace tavi {
 
 /// The screen that exports whole seconds of a recording, always as M4A data. Main thread only.
-class AudioTrim : public QObject, private AudioPlayerDelegate {
+class AudioTrim : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString lblFileName READ lblFileName CONSTANT)
@@ -49,7 +49,6 @@ public:
 
     /// fileName is the recording's full path, in the name's own bytes; section the list's section that it comes from.
     AudioTrim(const Services& services, QByteArray fileName, QString section, QObject* parent = nullptr);
-    ~AudioTrim() override;
 
     QString title() const { return qtTrId("trimming_audio"); }
     QString lblFileName() const;
@@ -63,8 +62,9 @@ public:
     QString indicatorText() const { return m_indicatorText; }
     QString lblCurrentTime() const;
     QString lblDuration() const;
-    double currentTime() const { return m_player ? m_player->currentTime() : 0.0; }
-    double duration() const { return m_player ? m_player->duration() : 0.0; }
+    /// Of what plays, of the recording while nothing does.
+    double currentTime() const { return m_player.currentTime(); }
+    double duration() const { return m_player.duration(); }
     /// The stretch to keep, as the slider said last.
     double leftValue() const { return m_leftValue; }
     double rightValue() const { return m_rightValue; }
@@ -88,12 +88,15 @@ public:
 public Q_SLOTS:
     void viewDidLoad();
     void updateRangeLabel();
-    void playOriginalAudio();
+    void playOriginalAudio() { m_player.playOrPause(); }
+    /// Plays the cut; the recording while nothing has been cut.
     void playTrimmedAudio();
-    void stopAudio();
+    void stopAudio() { m_player.stop(); }
     /// The position slider was moved.
-    void playerSliderMoved(double seconds);
+    void playerSliderMoved(double seconds) { m_player.setCurrentTime(seconds); }
+    /// Cuts, and leaves unless the cut goes to the cloud. Nothing while a cut is being made.
     void trimAudio();
+    /// Leaves; a cut that was kept on screen is asked about first.
     void backButtonpressed();
     void closeButtonpressed() { close(); }
 
@@ -104,13 +107,8 @@ Q_SIGNALS:
     void closed();
 
 private:
-    void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override;
-    bool makePlayer(const QByteArray& path);
-    void startTimer();
-    void stopTimer();
-    void leaveToCloud();
-    void saveImagesInIPhone(const QString& name);
-    void reloadList() const;
+    bool isTrimming() const { return !m_indicatorText.isEmpty(); }
+    void saveImagesInIPhone() const;
     void close();
 
     Services m_services;
@@ -118,8 +116,7 @@ private:
     QString m_section;
     RangeSlider m_rangeSlider;
     SCWaveformView m_waveformView;
-    std::unique_ptr<AudioPlayer> m_player;
-    std::shared_ptr<Timer> m_timer;
+    AudioTrimPlayer m_player;
     std::function<void()> m_reloadTableViewDataSource;
     std::function<void(const QByteArray&, const QString&)> m_saveToCloud;
     QByteArray m_outputPath;

@@ -227,9 +227,19 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
         shown.drag(*thumb, movement);
         EXPECT_NEAR(screen.leftValue(), seconds, 0.01) << "a second stays, and the ends are the ends";
     }
-    shown.tap("btnTrim");
-    EXPECT_EQ(fakes.assets.sessions.size(), 1U);
-    EXPECT_FALSE(screen.indicatorText().isEmpty());
+    for (const int trims : {1, 2}) {
+        shown.item("btnTrim")->forceActiveFocus(Qt::TabFocusReason);
+        for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Right}) {
+            shown.key(key);
+        }
+        shown.tap("btnTrim");
+        EXPECT_EQ(fakes.assets.sessions.size(), static_cast<std::size_t>(trims)) << "covered while it trims";
+        EXPECT_NEAR(screen.leftValue(), 0.0, 0.01);
+        fakes.runLoop.drain();
+        shown.settle();
+    }
+    shown.key(Qt::Key_Escape);
+    EXPECT_EQ(presenter.alerts.size(), 1U) << "whether to keep what was cut";
 }
 
 TEST(Settings, ControlsShowWhatTheScreenDecides) {

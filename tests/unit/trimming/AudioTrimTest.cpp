@@ -8,11 +8,14 @@
 namespace tavi::test {
 namespace {
 
+const QString kOutput = QStringLiteral("Trim_2024_Mar_05_14_03_59.wav");
+
 class AudioTrimTest : public ::testing::Test, protected FakeServices {
 protected:
     AudioTrimTest() {
         assets.files["talk.wav"] = {{20 * 44100, 44100}, 1, {}};
         players.seconds["talk.wav"] = 20.0;
+        settings.setCloudSyncOn(true);
     }
 
     std::unique_ptr<AudioTrim> open(const char* section, const char* name = "talk.wav") {
@@ -26,7 +29,10 @@ protected:
                                                   QFile::encodeName(container.documentsPath()) + '/' + name,
                                                   QLatin1String(section));
         screen->setTrimDelegate([this] { ++reloads; });
-        screen->setSaveToCloud([this](const QByteArray&, const QString& file) { saved.append(file); });
+        screen->setSaveToCloud([this](const QByteArray& path, const QString& file) {
+            EXPECT_TRUE(path.endsWith('/' + file.toUtf8())) << path.constData();
+            saved.append(file);
+        });
         QObject::connect(screen.get(), &AudioTrim::closed, screen.get(), [this] { ++closings; });
         screen->viewDidLoad();
         // 10 points a second.
@@ -51,7 +57,6 @@ TEST_F(AudioTrimTest, ExportsWholeSecondsAsM4aAndClosesOrSavesToTheCloud) {
         const char* section;
         bool saves;
     };
-    const QString output = QStringLiteral("Trim_2024_Mar_05_14_03_59.wav");
     // The setting is on where nothing goes to the cloud; only a recording of the cloud's is saved there.
     for (const auto& [isCloudOn, section, saves] : {Case{true, "1", true}, {true, "0", false}, {false, "1", false}}) {
         SCOPED_TRACE(::testing::Message() << isCloudOn << section);
@@ -70,35 +75,107 @@ TEST_F(AudioTrimTest, ExportsWholeSecondsAsM4aAndClosesOrSavesToTheCloud) {
         EXPECT_EQ(reloads, 2) << "when it is exported, and half a second after the start";
         EXPECT_TRUE(saved.isEmpty());
         runLoop.advance(1.5);
-        EXPECT_EQ(saved, saves ? QStringList(output) : QStringList());
+        EXPECT_EQ(saved, saves ? QStringList(kOutput) : QStringList());
     }
 }
 
-TEST_F(AudioTrimTest, PlaysWhatWasCutAndAsksBeforeItLeaves) {
-    settings.setCloudSyncOn(true);
+TEST_F(AudioTrimTest, OneTrimAtATimeAndEachGoesToTheCloud) {
+    assets.areExportsHeldBack = true;
+    auto screen = open("1");
+    EXPECT_TRUE(screen->btnTrim().enabled);
+    screen->trimAudio();
+    EXPECT_FALSE(screen->btnTrim().enabled);
+    screen->trimAudio();
+    ASSERT_EQ(assets.sessions.size(), 1U);
+    assets.sessions[0]->end(AssetExportStatus::Failed, {});
+    runLoop.drain();
+    EXPECT_TRUE(screen->indicatorText().isEmpty() && screen->btnTrim().enabled);
+    screen->backButtonpressed();
+    EXPECT_EQ(closings, 1) << "nothing to be asked about";
+
+    runLoop.manualClock().advance(1.0);
+    screen->trimAudio();
+    ASSERT_EQ(assets.sessions.size(), 2U);
+    assets.sessions[1]->finish();
+    screen.reset();
+    runLoop.advance(2.5);
+    EXPECT_EQ(saved, QStringList({kOutput, QStringLiteral("Trim_2024_Mar_05_14_04_00.wav")}));
+}
+
+TEST_F(AudioTrimTest, PlaysTheRecordingAndWhatWasCutFromIt) {
     const auto screen = open("1");
+    const auto shows = [&](bool isRecordingPlaying, bool isPlaying, const char* time, const char* duration) {
+        EXPECT_EQ(screen->btnPlay().selected, isRecordingPlaying);
+        EXPECT_EQ(screen->btnStop().enabled, isPlaying);
+        EXPECT_EQ(runLoop.activeTimers(), isPlaying ? 2U : 0U) << "the display's and the player's";
+        EXPECT_EQ(screen->lblCurrentTime(), QLatin1String(time));
+        EXPECT_EQ(screen->lblDuration(), QLatin1String(duration));
+    };
     screen->playTrimmedAudio();
-    EXPECT_TRUE(screen->btnPlay().selected) << "the recording, as nothing is cut";
+    runLoop.advance(1.0);
+    shows(true, true, "00:01", "00:20");  // The recording, as nothing is cut.
     screen->playOriginalAudio();
-    EXPECT_EQ(runLoop.activeTimers(), 0U);
+    screen->playerSliderMoved(5.0);
+    shows(false, false, "00:05", "00:20");
+    screen->trimAudio();
+    runLoop.advance(3.0);
+    screen->playTrimmedAudio();
+    shows(false, false, "00:05", "00:20");  // No such file.
+
+    players.seconds[screen->outputPath().split('/').back()] = 7.0;
+    screen->playOriginalAudio();
+    screen->playTrimmedAudio();
+    runLoop.advance(2.0);
+    shows(false, true, "00:02", "00:07");
+    runLoop.advance(5.5);
+    shows(false, false, "00:05", "00:20");  // The cut's end.
+    screen->playTrimmedAudio();
+    screen->playOriginalAudio();
+    runLoop.advance(1.0);
+    shows(true, true, "00:06", "00:20");
+    runLoop.advance(15.0);
+    shows(false, false, "00:20", "00:20");
+    screen->playTrimmedAudio();
+    screen->closeButtonpressed();
+    shows(false, false, "00:20", "00:20");
+}
+
+TEST_F(AudioTrimTest, AsksBeforeItLeavesACut) {
+    const auto screen = open("1");
     screen->trimAudio();
     runLoop.drain();
-    players.seconds[screen->outputPath().split('/').back()] = 7.0;
-    screen->playTrimmedAudio();
-    EXPECT_EQ(screen->lblDuration(), QStringLiteral("00:07"));
-    runLoop.advance(7.5);
-    EXPECT_FALSE(screen->btnPlay().selected) << "the end";
     screen->backButtonpressed();
+    ASSERT_EQ(presenter.alerts.size(), 1U);
     EXPECT_EQ(closings, 0);
-    presenter.alerts.at(0).actions[0].handler();
+    presenter.alerts[0].actions[0].handler();
     EXPECT_EQ(closings, 1);
+}
+
+TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
+    const auto screen = open("1");
+    screen->trimAudio();
+    runLoop.drain();
+    reloads = 0;
+    const QString folder = container.documentsPath();
+    screen->addTrimFileWithFilePath(container.cachesPath());
+    EXPECT_TRUE(QFile::exists(container.cachesPath() + QLatin1Char('/') + kOutput));
+    EXPECT_FALSE(QFile::exists(folder + QLatin1Char('/') + kOutput));
+    EXPECT_EQ(reloads, 1);
+    container.addDocument(QStringLiteral("old.wav"), "old");
+    for (int i = 0; i < 2; ++i) {
+        screen->removeFile(QStringLiteral("old.wav"));
+        EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/old.wav")));
+    }
+    EXPECT_EQ(closings, 3);
 }
 
 TEST_F(AudioTrimTest, WithoutSoundExportsNothingAndClosesAsAfterATrim) {
     const auto screen = open("0", "text.txt");
+    EXPECT_FALSE(screen->btnPlay().enabled);
     screen->playOriginalAudio();
     screen->trimAudio();
     EXPECT_TRUE(assets.sessions.empty());
+    EXPECT_TRUE(screen->indicatorText().isEmpty());
     EXPECT_EQ(closings, 1);
 }
 
