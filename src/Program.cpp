@@ -80,6 +80,12 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
+    SessionFile sessionFile{{.settings = platform.settings.store,
+                             .container = platform.container,
+                             .runLoop = platform.runLoop,
+                             .notifications = platform.notifications,
+                             .presenter = platform.presenter,
+                             .mailComposer = platform.mailComposer}};
     AudioRecordVC recording{{.audioSession = platform.audioSession,
                              .audioRecorders = platform.audioRecorders,
                              .settings = platform.settings.store,
@@ -87,7 +93,7 @@ struct Screens {
                              .runLoop = platform.runLoop,
                              .presenter = platform.presenter,
                              .tabBar = platform.tabBar,
-                             .mailComposer = platform.mailComposer}};
+                             .sessionFile = sessionFile}};
     RecordingLister lister{platform.media, platform.runLoop};
     WaveformLoader waveforms{waveformServices};
     PlayerPanel player{{.players = platform.audioPlayers,

@@ -2,16 +2,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QPointer>
 
-#include "files/FileMove.h"
 #include "library/utility/DateTexts.h"
 #include "library/utility/Utility.h"
 #include "recording/AudioSettings.h"
-#include "recording/RecordingMail.h"
 
 namespace tavi {
 
@@ -21,7 +18,6 @@ Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
 
 constexpr double kClockInterval = 1.0;
 constexpr double kLevelInterval = 0.1;
-constexpr double kMailDelay = 2.0;
 constexpr double kLoudest = 0.0;
 constexpr double kSilence = -160.0;
 constexpr double kZeroPoint = -45.0;
@@ -33,7 +29,9 @@ QString recordButtonImage(bool isRunning) {
 }  // namespace
 
 AudioRecordVC::AudioRecordVC(const Services& services, QObject* parent)
-    : QObject(parent), m_services(services), m_lblTimer(clockText(0)) {}
+    : QObject(parent), m_services(services), m_lblTimer(clockText(0)) {
+    connect(&m_services.sessionFile, &SessionFile::saved, this, &AudioRecordVC::didSave);
+}
 
 AudioRecordVC::~AudioRecordVC() {
     stopTimer();
@@ -77,7 +75,8 @@ void AudioRecordVC::viewDidLoad() {
 
 void AudioRecordVC::viewWillAppear() {
     createDirAtSharedContainerPath();
-    readFileType();
+    m_services.sessionFile.updateRecordFilePath();
+    showFileType();
     m_lblDate = recordingDateText(m_services.runLoop.clock().now(), QLocale());
     if (!m_isRecording) {
         m_isStopEnabled = false;
@@ -91,10 +90,9 @@ void AudioRecordVC::createDirAtSharedContainerPath() const {
     QDir().mkpath(m_services.container.groupContainerPath(kApplicationGroup) + QLatin1Char('/') + qtTrId("user_abc"));
 }
 
-void AudioRecordVC::readFileType() {
-    const QString type = m_services.settings.audioFileType();
-    m_lblFileType = QStringLiteral("%1 - %2").arg(m_services.settings.audioQualityType(), type);
-    m_recordFilePath = m_services.container.cachesPath() + QStringLiteral("/vexmosounds.") + type;
+void AudioRecordVC::showFileType() {
+    const SettingsStore& settings = m_services.settings;
+    m_lblFileType = QStringLiteral("%1 - %2").arg(settings.audioQualityType(), settings.audioFileType());
 }
 
 void AudioRecordVC::initWaveViewMirror() {
@@ -169,10 +167,9 @@ void AudioRecordVC::pauseRecording() {
 void AudioRecordVC::startRecording(QObject* sender) {
     Q_UNUSED(sender)
     m_services.tabBar.setUserInteractionEnabled(false);
-    // The type may have changed since the screen appeared, and the file is to be of the type that it is saved as.
-    readFileType();
     m_isRecordingLabelHidden = false;
-    QFile::remove(m_recordFilePath);
+    m_services.sessionFile.begin();
+    showFileType();
     m_isStopEnabled = false;
     Q_EMIT outletsChanged();
 
@@ -187,7 +184,7 @@ void AudioRecordVC::startRecording(QObject* sender) {
     session.setActive(true);
     const AudioRecordSettings recordSetting =
         generateAudioSettings(m_services.settings.audioFileType(), m_services.settings.audioQualityType());
-    auto recorder = m_services.audioRecorders.recorderWithPath(m_recordFilePath, recordSetting);
+    auto recorder = m_services.audioRecorders.recorderWithPath(m_services.sessionFile.recordFilePath(), recordSetting);
     if (!recorder) {
         abandonStart(qtTrId("alert_title"), recorder.error().text);
         return;
@@ -306,64 +303,16 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
         m_nameToSave.reset();
         return;
     }
-    saveFileToDoc(*m_nameToSave);
+    m_services.sessionFile.saveFileToDoc(*m_nameToSave);
 }
 
-void AudioRecordVC::saveFileToDoc(const QString& name) {
-    const QString destination = m_services.container.documentsPath() + QLatin1Char('/') + name + QLatin1Char('.') +
-                                m_services.settings.audioFileType();
-    // Another file system takes as long as copying hours of sound takes.
-    const auto move = [from = m_recordFilePath, destination] {
-        if (const auto moved = moveItem(from, destination); !moved) {
-            // On purpose the user is not told: the recording stays at the temporary path until the next one starts.
-            qCWarning(lcRecording, "%s", qPrintable(moved.error().text));
-        }
-    };
-    if (m_isTerminating) {
-        move();
-        didSave(destination);
-        return;
-    }
-    const QPointer<AudioRecordVC> self(this);
-    RunLoop& runLoop = m_services.runLoop;
-    runLoop.dispatchBackground([self, &runLoop, move, destination] {
-        move();
-        runLoop.dispatchMain([self, destination] {
-            if (self) {
-                self->didSave(destination);
-            }
-        });
-    });
-}
-
-void AudioRecordVC::didSave(const QString& path) {
+void AudioRecordVC::didSave() {
     m_nameToSave.reset();
     m_waveViewMirror.resetWave();
-    if (m_isTerminating) {
-        return;
-    }
     m_audioRecorder.reset();
-    const QPointer<AudioRecordVC> self(this);
-    m_services.runLoop.dispatchAfter(kMailDelay, [self, path] {
-        if (self && self->m_services.settings.isQuickMailOn()) {
-            self->emailAudioFile(path);
-        }
-    });
     if (m_startsWhenSaved) {
         m_startsWhenSaved = false;
         startRecording(nullptr);
-    }
-}
-
-void AudioRecordVC::emailAudioFile(const QString& path) {
-    if (isTooLargeToMail(path)) {
-        showAlertWithTitle(qtTrId("alert_error"), qtTrId("file_size_msg"));
-    } else if (m_services.mailComposer.canSendMail()) {
-        m_services.mailComposer.compose(mailWithAudioFile(path), [](const Result<void>& result) {
-            if (!result) {
-                qCWarning(lcRecording, "%s", qPrintable(result.error().text));
-            }
-        });
     }
 }
 
@@ -372,13 +321,13 @@ void AudioRecordVC::showAlertWithTitle(const QString& title, const QString& mess
 }
 
 void AudioRecordVC::finishBeforeTermination() {
-    m_isTerminating = true;
     if (m_isRecording) {
         endSession(true);
     }
-    if (isSaving() && m_audioRecorder != nullptr) {
+    if (m_audioRecorder != nullptr) {
         m_audioRecorder->waitUntilFinished();
     }
+    m_services.sessionFile.finishBeforeTermination();
 }
 
 }  // namespace tavi

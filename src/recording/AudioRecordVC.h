@@ -9,11 +9,11 @@
 #include "platform/AppContainer.h"
 #include "platform/AudioRecorder.h"
 #include "platform/AudioSession.h"
-#include "platform/MailComposer.h"
 #include "platform/Outlets.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
+#include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
 #include "watch/MessageListening.h"
 
@@ -42,7 +42,7 @@ public:
         RunLoop& runLoop;
         Presenter& presenter;
         TabBar& tabBar;
-        MailComposer& mailComposer;
+        SessionFile& sessionFile;
     };
 
     explicit AudioRecordVC(const Services& services, QObject* parent = nullptr);
@@ -86,9 +86,7 @@ private:
     void resumeRecording();
     void stopFromWatch();
     void endSession(bool enablesTabBar);
-    void saveFileToDoc(const QString& name);
-    void didSave(const QString& path);
-    void emailAudioFile(const QString& path);
+    void didSave();
 
     void createDirAtSharedContainerPath() const;
     void initWaveViewMirror();
@@ -97,7 +95,7 @@ private:
     void stopTimer();
     void updateTimer();
     void waveViewUpdate();
-    void readFileType();
+    void showFileType();
     void showAlertWithTitle(const QString& title, const QString& message);
     bool isSaving() const { return m_nameToSave.has_value(); }
 
@@ -105,14 +103,12 @@ private:
     MessageListening* m_wormhole = nullptr;
     WaveView m_waveViewMirror;
     std::unique_ptr<AudioRecorder> m_audioRecorder;
-    QString m_recordFilePath;
 
     bool m_isRecording = false;
     bool m_isRecordingRunning = false;
     bool m_isReset = false;
     bool m_isStopEnabled = false;
     bool m_isRecordingLabelHidden = true;
-    bool m_isTerminating = false;
     /// Base name of a stopped recording from its stop until its file is in its place.
     std::optional<QString> m_nameToSave;
     /// The record button was used while the last recording was being saved; the temporary file is not free before.

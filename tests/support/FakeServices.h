@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
-#include "recording/AudioRecordVC.h"
 #include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
@@ -18,18 +17,6 @@ namespace tavi::test {
 /// What the screens that play, record and trim work on, all of it fake, and the trimmers' stage on it.
 struct FakeServices {
     FakeServices() { QLocale::setDefault(QLocale(QStringLiteral("en_US"))); }
-
-    /// For the recording screen.
-    AudioRecordVC::Services recordServices(Presenter& presenter, TabBar& tabBar, MailComposer& mailComposer) {
-        return {.audioSession = session,
-                .audioRecorders = recorders,
-                .settings = settings,
-                .container = container,
-                .runLoop = runLoop,
-                .presenter = presenter,
-                .tabBar = tabBar,
-                .mailComposer = mailComposer};
-    }
 
     ManualRunLoop runLoop;
     TemporaryContainer container;

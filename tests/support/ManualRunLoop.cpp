@@ -38,7 +38,21 @@ void ManualRunLoop::dispatchMain(std::function<void()> callback) {
 }
 
 void ManualRunLoop::dispatchBackground(std::function<void()> callback) {
-    dispatchMain(std::move(callback));
+    const std::lock_guard lock(m_mutex);
+    if (m_isBackgroundHeld) {
+        m_held.push_back(std::move(callback));
+    } else {
+        m_queue.push_back(std::move(callback));
+    }
+}
+
+void ManualRunLoop::holdBackground(bool isHeld) {
+    const std::lock_guard lock(m_mutex);
+    m_isBackgroundHeld = isHeld;
+    if (!isHeld) {
+        std::move(m_held.begin(), m_held.end(), std::back_inserter(m_queue));
+        m_held.clear();
+    }
 }
 
 void ManualRunLoop::advance(double seconds) {

@@ -34,6 +34,8 @@ public:
     void advance(double seconds);
     /// Runs what was dispatched, and what that dispatches, without letting time pass.
     void drain();
+    /// While held back, background work waits as behind a slow disk; then it goes on.
+    void holdBackground(bool isHeld);
     /// How many timers could still fire.
     std::size_t activeTimers() const;
 
@@ -45,6 +47,8 @@ private:
     std::vector<std::shared_ptr<ManualTimer>> m_timers;
     mutable std::mutex m_mutex;
     std::deque<std::function<void()>> m_queue;
+    bool m_isBackgroundHeld = false;
+    std::vector<std::function<void()>> m_held;
 };
 
 }  // namespace tavi::test

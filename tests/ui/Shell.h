@@ -9,8 +9,8 @@
 #include <functional>
 
 #include "app/SettingVC.h"
-#include "recording/AudioRecordVC.h"
 #include "support/FakeLibrary.h"
+#include "support/FakeRecording.h"
 #include "ui/AlertPresenter.h"
 #include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
@@ -123,8 +123,8 @@ struct ShellScreens : FakeServices {
     TabBarController tabBar;
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
-    FakeMailComposer mail;
-    AudioRecordVC recording{recordServices(presenter, tabBar, mail)};
+    FakeRecording fakeRecording{*this, presenter, tabBar};
+    AudioRecordVC& recording = fakeRecording.vc;
     FakeLibrary fakeLibrary{*this, durations};
     VoiceMemoVC& library = fakeLibrary.vc;
     PlayerPanel& player = fakeLibrary.player;

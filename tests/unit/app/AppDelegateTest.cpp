@@ -4,7 +4,7 @@
 
 #include <QDir>
 
-#include "support/FakeServices.h"
+#include "support/FakeRecording.h"
 
 namespace tavi::test {
 
@@ -24,8 +24,8 @@ protected:
     FakeUserDefaults sharedDefaults;
     FakeTabBar tabBar;
     FakePresenter presenter;
-    FakeMailComposer mail;
-    AudioRecordVC screen{recordServices(presenter, tabBar, mail)};
+    FakeRecording recording{*this, presenter, tabBar};
+    AudioRecordVC& screen = recording.vc;
     AppDelegate delegate{{.application = application,
                           .idleTimer = idleTimer,
                           .settings = settings,

@@ -1,11 +1,10 @@
-#include "recording/AudioRecordVC.h"
+#include "support/FakeRecording.h"
 
 #include <gmock/gmock.h>
 
 #include <QDir>
 
 #include "recording/AudioSettings.h"
-#include "support/FakeServices.h"
 
 namespace tavi::test {
 
@@ -44,8 +43,9 @@ protected:
 
     FakePresenter presenter;
     FakeTabBar tabBar;
-    FakeMailComposer mail;
-    AudioRecordVC screen{recordServices(presenter, tabBar, mail)};
+    FakeRecording recording{*this, presenter, tabBar};
+    FakeMailComposer& mail = recording.mail;
+    AudioRecordVC& screen = recording.vc;
 };
 
 }  // namespace
@@ -207,6 +207,49 @@ TEST_F(AudioRecordVCTest, ListensToTheCompanionsOnceAChannelIsAttached) {
     runLoop.drain();
     EXPECT_EQ(documents().size(), 1);
     EXPECT_FALSE(tabBar.isUserInteractionEnabled()) << "a stop from afar leaves the tab bar disabled";
+}
+
+TEST_F(AudioRecordVCTest, TheLibraryIsToldOfEveryRecordingThatIsInItsPlace) {
+    std::vector<qsizetype> told;
+    QObject::connect(&notifications, &NotificationCenter::posted, &notifications, [&](const QString& name) {
+        EXPECT_EQ(name, QStringLiteral("DataUpdated"));
+        told.push_back(documents().size());
+    });
+    for (int i = 0; i < 2; ++i) {
+        tapRecord();
+        runLoop.advance(1.0);
+        tapStop();
+    }
+    EXPECT_EQ(told, (std::vector<qsizetype>{1, 2}));
+}
+
+TEST_F(AudioRecordVCTest, TheEndOfTheProgramWaitsForTheRecording) {
+    // How far the session is when the program ends: it runs, it is paused, its file is not whole, its file is to be
+    // moved, and another one waits behind it.
+    enum Progress { Running, Paused, Stopped, Whole, Awaited };
+    for (const Progress progress : {Running, Paused, Stopped, Whole, Awaited}) {
+        const qsizetype before = documents().size();
+        runLoop.holdBackground(true);
+        tapRecord();
+        runLoop.advance(1.0);
+        if (progress == Paused) {
+            tapRecord();
+        }
+        if (progress >= Stopped) {
+            screen.stopAndSaveRecording(nullptr);
+        }
+        if (progress >= Whole) {
+            runLoop.drain();
+        }
+        if (progress == Awaited) {
+            tapRecord();
+        }
+        screen.finishBeforeTermination();
+        EXPECT_EQ(documents().size(), before + 1) << progress;
+        runLoop.holdBackground(false);
+        runLoop.drain();
+        EXPECT_EQ(documents().size(), before + 1) << progress;
+    }
 }
 
 }  // namespace tavi::test

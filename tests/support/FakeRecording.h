@@ -1,0 +1,31 @@
+#pragma once
+
+#include "recording/AudioRecordVC.h"
+#include "support/FakeServices.h"
+
+namespace tavi::test {
+
+/// The recording screen with all that it needs beside the shell.
+struct FakeRecording {
+    FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar)
+        : file({.settings = fakes.settings,
+                .container = fakes.container,
+                .runLoop = fakes.runLoop,
+                .notifications = fakes.notifications,
+                .presenter = presenter,
+                .mailComposer = mail}),
+          vc({.audioSession = fakes.session,
+              .audioRecorders = fakes.recorders,
+              .settings = fakes.settings,
+              .container = fakes.container,
+              .runLoop = fakes.runLoop,
+              .presenter = presenter,
+              .tabBar = tabBar,
+              .sessionFile = file}) {}
+
+    FakeMailComposer mail;
+    SessionFile file;
+    AudioRecordVC vc;
+};
+
+}  // namespace tavi::test
