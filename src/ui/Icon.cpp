@@ -1,10 +1,10 @@
 #include "ui/Icon.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QImageReader>
+#include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSvgRenderer>
 
 namespace tavi {
 
@@ -57,11 +57,12 @@ QImage Icon::rendered() const {
     if (base.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    QByteArray drawing = file.readAll().replace("currentColor", m_color.name().toLatin1());
-    QBuffer buffer(&drawing);
-    QImageReader reader(&buffer, "svg");
-    reader.setScaledSize((size() * window()->effectiveDevicePixelRatio()).toSize());
-    return reader.read();
+    QSvgRenderer drawing(file.readAll().replace("currentColor", m_color.name().toLatin1()));
+    QImage image((size() * window()->effectiveDevicePixelRatio()).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    drawing.render(&painter);
+    return image;
 }
 
 QSGNode* Icon::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
