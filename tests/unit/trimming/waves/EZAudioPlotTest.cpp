@@ -60,6 +60,9 @@ TEST(EZAudioPlot, DrawsFedSamplesAsPolylines) {
             EXPECT_EQ(fixture.lines()[i].closed, fill && i + 1 == lines.size());
         }
         EXPECT_EQ(fixture.plot->waveformLayer().fillColor, fill ? QStringLiteral("#ff0000") : QString());
+        fixture.plot->setColor(QStringLiteral("blue"));
+        EXPECT_EQ(fixture.plot->waveformLayer().strokeColor, QStringLiteral("blue"));
+        EXPECT_EQ(fixture.plot->waveformLayer().fillColor, fill ? QStringLiteral("blue") : QString());
     }
 }
 
@@ -114,6 +117,9 @@ TEST(EZAudioPlot, FollowsTheDisplayWhileOptimizedForRealtime) {
     }();
     orphan->start();
     refreshes.showFrame();
+    EXPECT_FALSE(orphan->displayLink().isPaused());
+    orphan->stop();
+    EXPECT_TRUE(orphan->displayLink().isPaused()) << "or the display goes on waking the program";
 }
 
 /// Words and pauses, every level another than its neighbours.

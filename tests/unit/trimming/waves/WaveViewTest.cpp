@@ -32,6 +32,11 @@ TEST(WaveView, DrawsEachReadingAsTall) {
     Feed line(WaveView::Default);
     line.wave.startWavingWithValue(-40.0);
     EXPECT_DOUBLE_EQ(line.wave.newPoint().y(), 25.0);
+    // The range reaches the farther edge twice over, whichever side of the middle the base line is on.
+    for (const auto& [height, range] : {std::pair{80.0, 160.0}, {50.0, 100.0}, {30.0, 140.0}}) {
+        line.wave.setBanchmarkHeight(height);
+        EXPECT_EQ(line.wave.waveRange(), range);
+    }
 }
 
 TEST(WaveView, StartsAgainAtTheLeftBeyondTheRightEdge) {

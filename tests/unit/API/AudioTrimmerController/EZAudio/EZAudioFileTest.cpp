@@ -77,8 +77,16 @@ TEST_F(EZAudioFileTest, OpensWhatIsThereAndTellsItsLength) {
     ASSERT_TRUE(file);
     EXPECT_EQ(file->duration(), 1.5);
     EXPECT_EQ(file->totalClientFrames(), 66150);
+    EXPECT_EQ(file->formattedDuration(), "00:02");
     file->setCurrentTime(0.75);
     EXPECT_EQ(file->frameIndex(), 6000);
+    EXPECT_EQ(file->currentTime(), 0.75);
+    EXPECT_EQ(file->formattedCurrentTime(), "00:01");
+    EXPECT_EQ(file->copy()->frameIndex(), 0) << "of the same file, with a place of its own";
+    const std::string description = file->description();
+    EXPECT_EQ(description.find("EZAudioFile {\n    url: a,\n    duration: 1.500000,\n    totalFrames: 12000,\n"), 0U);
+    EXPECT_LT(description.find("fileFormat: { \nSample Rate:             8000"),
+              description.find("clientFormat: { \nSample Rate:            44100"));
     // What is no sound file gives a reader of nothing.
     m_files.sounds["a"] = std::make_shared<FakeSound>();
     const auto text = open();
@@ -106,9 +114,17 @@ TEST_F(EZAudioFileTest, ReadsAndTellsItsDelegate) {
     ASSERT_EQ(listener->heard.size(), 2048U);
     EXPECT_EQ(listener->heard[1000], sound->planes[0][2900]) << "more frames than the converter's buffer has";
     EXPECT_EQ(listener->heard[2047], sound->planes[1][2923]);
+    // In another format the arrays are others, too.
+    file->setClientFormat(clientFormat(44100, 1));
+    file->seekToFrame(1000);
+    listener->heard.clear();
+    read(3);
+    const auto mean = [&sound](std::size_t frame) { return (sound->planes[0][frame] + sound->planes[1][frame]) / 2; };
+    EXPECT_THAT(listener->heard, ElementsAre(mean(1000), mean(1001), mean(1002)));
     file->seekToFrame(3000);
     EXPECT_EQ(read(10), std::pair(0U, true));
-    EXPECT_THAT(listener->positions, ElementsAre(-700, 700, -1900, 1900, -2924, 2924, -3000, 3000, -3000, 3000));
+    EXPECT_THAT(listener->positions,
+                ElementsAre(-700, 700, -1900, 1900, -2924, 2924, -1000, 1000, -1003, 1003, -3000, 3000, -3000, 3000));
 }
 
 TEST_F(EZAudioFileTest, ATenSecondFileHas430FramesAPointAndKeepsItsPlace) {
@@ -144,26 +160,30 @@ TEST_F(EZAudioFileTest, InterleavedSoundCountsInPart) {
 }
 
 TEST_F(EZAudioFileTest, TwoReadersGiveWhatOneGives) {
-    for (const double rate : {8000.0, 44100.0}) {
-        for (const int seconds : {31, 33, 70}) {
-            const auto sound = add(rate, static_cast<std::size_t>(rate) * static_cast<std::size_t>(seconds));
-            sound->readable = static_cast<std::int64_t>(rate) * 31;
-            sound->isRandomAccess = false;
-            m_files.opened = 0;
-            const auto one = waveform(*open(), 1001);
-            EXPECT_EQ(m_files.opened, 1);
-            sound->isRandomAccess = true;
-            const auto file = open();
-            const auto two = waveform(*file, 1001);
-            EXPECT_EQ(m_files.opened, 3);
-            m_files.failingOpens = 4;
-            const auto alone = waveform(*file, 1001);
-            m_files.failingOpens = 0;
-            for (const auto channel : {0U, 1U}) {
-                EXPECT_THAT(two[channel], Pointwise(::testing::NanSensitiveFloatEq(), one[channel])) << rate;
-                EXPECT_THAT(alone[channel], Pointwise(::testing::NanSensitiveFloatEq(), one[channel])) << rate;
-            }
+    for (const auto& [rate, seconds] : {std::pair(8000.0, 33), {8000.0, 70}, {44100.0, 33}}) {
+        const auto sound = add(rate, static_cast<std::size_t>(rate) * static_cast<std::size_t>(seconds));
+        sound->readable = static_cast<std::int64_t>(rate) * 31;
+        sound->isRandomAccess = false;
+        m_files.opened = 0;
+        const auto one = waveform(*open(), 1001);
+        EXPECT_EQ(m_files.opened, 1);
+        sound->isRandomAccess = true;
+        const auto file = open();
+        const auto two = waveform(*file, 1001);
+        EXPECT_EQ(m_files.opened, 3);
+        m_files.failingOpens = 4;
+        const auto alone = waveform(*file, 1001);
+        m_files.failingOpens = 0;
+        for (const auto channel : {0U, 1U}) {
+            EXPECT_THAT(two[channel], Pointwise(::testing::NanSensitiveFloatEq(), one[channel])) << rate;
+            EXPECT_THAT(alone[channel], Pointwise(::testing::NanSensitiveFloatEq(), one[channel])) << rate;
         }
+        // Another file at the same path is not taken for its second half.
+        add(rate, sound->planes[0].size() + 1);
+        const std::size_t opened = m_files.reads.size();
+        waveform(*file, 1001);
+        ASSERT_EQ(m_files.reads.size(), opened + 1);
+        EXPECT_TRUE(m_files.reads.back()->empty());
     }
 }
 

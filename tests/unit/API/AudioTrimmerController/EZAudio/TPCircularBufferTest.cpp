@@ -118,6 +118,23 @@ TEST(TPCircularBuffer, EveryStepOfTheMappingIsTriedFourTimes) {
     }
 }
 
+TEST(TPCircularBuffer, GivesEveryAddressBackOnce) {
+    static std::size_t released = 0;
+    circularBufferMemory().release = [](void* start, std::size_t length) {
+        released += length;
+        systemCircularBufferMemory().release(start, length);
+    };
+    TPCircularBuffer buffer;
+    TPCircularBufferClear(&buffer);
+    TPCircularBufferCleanup(&buffer);
+    EXPECT_EQ(released, 0U);
+    ASSERT_TRUE(TPCircularBufferInit(&buffer, 2 * kPage + 1));
+    TPCircularBufferCleanup(&buffer);
+    TPCircularBufferCleanup(&buffer);
+    circularBufferMemory() = systemCircularBufferMemory();
+    EXPECT_EQ(released, 6 * static_cast<std::size_t>(kPage));
+}
+
 TEST(TPCircularBuffer, CarriesEveryByteBetweenTwoThreads) {
     Ring ring;
     constexpr std::uint32_t kValues = 200'000;

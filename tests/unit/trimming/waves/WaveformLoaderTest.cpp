@@ -1,0 +1,94 @@
+#include "trimming/waves/WaveformLoader.h"
+
+#include <gmock/gmock.h>
+
+#include "support/FakeAudioConverter.h"
+#include "support/FakeExtAudioFile.h"
+#include "support/ManualRunLoop.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::FloatEq;
+using ::testing::SizeIs;
+
+class WaveformLoaderTest : public ::testing::Test {
+protected:
+    /// A file of a level in its first channel, and of another in its second.
+    QByteArray add(const QByteArray& name, float level, std::size_t frames = 10'240) {
+        const QByteArray path = container.addDocument(QString::fromUtf8(name), name).toUtf8();
+        const auto sound = std::make_shared<FakeSound>();
+        sound->planes = {std::vector<float>(frames, level), std::vector<float>(frames, 0.9F)};
+        files.sounds[path.toStdString()] = sound;
+        return path;
+    }
+    void load(const QByteArray& path) {
+        loader.load(path, [this](const std::vector<float>& points) { loaded.push_back(points); });
+    }
+
+    ManualRunLoop runLoop;
+    TemporaryContainer container;
+    FakeExtAudioFiles files;
+    FakeAudioConverters converters;
+    WaveformLoader loader{{files, converters, runLoop}};
+    std::vector<std::vector<float>> loaded;
+};
+
+TEST_F(WaveformLoaderTest, GivesThePointsOfTheFirstChannel) {
+    load(add("a", 0.25F));
+    EXPECT_TRUE(loaded.empty()) << "never before it returns";
+    runLoop.drain();
+    load(add("short", 0.25F, 700));
+    runLoop.drain();
+    load(container.addDocument(QStringLiteral("text"), "text").toUtf8());
+    runLoop.drain();
+    ASSERT_THAT(loaded, ElementsAre(SizeIs(1024), SizeIs(1024), SizeIs(0)));
+    EXPECT_THAT(loaded[0], Each(FloatEq(0.25F)));
+    EXPECT_THAT(loaded[1], Each(0.0F)) << "too few frames for a level";
+}
+
+TEST_F(WaveformLoaderTest, RemembersTheLastFilesUntilTheyChange) {
+    const QByteArray a = add("a", 0.1F);
+    const auto opens = [&](const QByteArray& path) {
+        const int before = files.opened;
+        load(path);
+        runLoop.drain();
+        return files.opened > before;
+    };
+    EXPECT_TRUE(opens(a));
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_TRUE(opens(add(QByteArray::number(i), 0.2F)));
+    }
+    EXPECT_FALSE(opens(a));
+    EXPECT_THAT(loaded.back(), Each(FloatEq(0.1F)));
+    EXPECT_TRUE(opens(add("9", 0.2F)));
+    EXPECT_FALSE(opens(a)) << "asked for again meanwhile";
+    EXPECT_TRUE(opens(add("0", 0.2F))) << "forgotten";
+    container.addDocument(QStringLiteral("a"), "changed");
+    EXPECT_TRUE(opens(a));
+}
+
+TEST_F(WaveformLoaderTest, WhatNobodyWaitsForEndsSoonAndTellsNobody) {
+    const QByteArray known = add("known", 0.1F);
+    load(known);
+    runLoop.drain();
+    loaded.clear();
+    load(known);
+    loader.cancel();
+    const QByteArray slow = add("slow", 0.2F);
+    files.sounds[slow.toStdString()]->onRead = [this] { loader.cancel(); };
+    load(slow);
+    runLoop.drain();
+    EXPECT_TRUE(loaded.empty());
+    EXPECT_THAT(*files.reads.back(), SizeIs(1)) << "nothing more is read";
+    load(slow);
+    load(known);
+    runLoop.drain();
+    EXPECT_THAT(loaded, ElementsAre(Each(FloatEq(0.1F)))) << "the one asked for last";
+}
+
+}  // namespace
+}  // namespace tavi::test
