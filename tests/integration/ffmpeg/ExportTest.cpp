@@ -149,19 +149,23 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
                 SCOPED_TRACE(testing::Message() << kTypes[index].extension << " " << quality.rate << " from " << start
                                                 << " for " << length);
                 expectCompleted(*session(source, target(), edges.type), asset.duration.timescale, start, length);
-                const std::int64_t kept = std::min(length, frames - start);
+                const std::int64_t cut = std::min(length, frames - start);
+                const std::int64_t kept = storedFrames(kTypes[index], quality, cut);
                 const auto channels = static_cast<std::size_t>(quality.channels);
                 const auto from = static_cast<std::size_t>(start);
 
-                const auto own = heard(target());
+                auto own = heard(target());
                 EXPECT_EQ(m_assets.assetWithURL(bytes(target())).duration, (AssetTime{kept, asset.duration.timescale}));
-                EXPECT_EQ(own.size(), static_cast<std::size_t>(kept) * channels);
+                ASSERT_EQ(own.size(), static_cast<std::size_t>(kept) * channels);
+                // The frame that makes the bytes even is the last one again.
+                EXPECT_TRUE(kept == cut || own.end()[-1] == own.end()[-2]);
+                own.resize(static_cast<std::size_t>(cut) * channels);
                 EXPECT_LE(difference(whole, (from + edges.unlike) * channels, own, edges.unlike * channels, 32768),
                           start == 0 ? kExact : edges.tolerance);
                 // Within a step of the coding.
                 EXPECT_LE(difference(whole, from * channels, own, 0, 32768), edges.tolerance + 0.12);
 
-                const auto other = decodeSound(target());
+                auto other = decodeSound(target());
                 ASSERT_TRUE(other);
                 EXPECT_EQ(other->codec, kTypes[index].codec);
                 EXPECT_EQ(other->container,
@@ -171,6 +175,7 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
                 EXPECT_GE(other->frames(), early + static_cast<std::size_t>(kept));
                 EXPECT_LT(other->frames(), early + static_cast<std::size_t>(kept + edges.longer));
                 const std::size_t unlike = edges.unlike == 0 ? 0 : edges.unlike - early;
+                other->planes[0].resize(other->planes[0].size() - static_cast<std::size_t>(kept - cut));
                 EXPECT_LE(difference(decoded->planes[0], from + unlike, other->planes[0], early + unlike, 1),
                           start == 0 ? 1e-9 : edges.tolerance + 1e-9);
             }

@@ -46,6 +46,12 @@ struct Quality {
 
 inline constexpr std::array<Quality, 3> kQualities{{{8000, 1, 0}, {16000, 2, 64}, {44100, 2, 127}}};
 
+/// How many frames a file has to which so many are written: a WAV file gets an even number of bytes.
+inline std::int64_t storedFrames(const Type& type, const Quality& quality, std::int64_t frames) {
+    const bool isOdd = type.formatID == kAudioFormatLinearPCM && type.bits / 8 * quality.channels * frames % 2 != 0;
+    return frames + (isOdd ? 1 : 0);
+}
+
 inline AudioRecordSettings settingsFor(const Type& type, const Quality& quality) {
     AudioRecordSettings settings;
     settings.formatID = type.formatID;

@@ -41,7 +41,8 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
             EXPECT_GT(decoded, written - 1);
             EXPECT_LT(decoded, written + type.packet + 1);
             const bool isExact = type.priming == 0 && type.packet != 64;
-            const double told = isExact ? std::round(written) : static_cast<double>(sound->frames());
+            const auto stored = static_cast<double>(storedFrames(type, quality, std::llround(written)));
+            const double told = isExact ? stored : static_cast<double>(sound->frames());
             EXPECT_NEAR(m_durations.durationOfFile(path) * quality.rate, told, 0.01);
 
             const double level = -9.03 - (input.leftOnly && sound->channels == 1 ? 6.02 : 0);
@@ -54,17 +55,6 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
             }
         }
     }
-}
-
-TEST_F(RecordingTest, SixteenBitPcmIsRecordedAtElevenKilohertz) {
-    const Type type{"wav", kAudioFormatLinearPCM, "pcm_s16le", "wav", 1, 0, 0.1, 16};
-    const auto sound = decodeSound(record(type, {11025, 1, 127}, tone(kStereo, 96000, false, 440)));
-    ASSERT_TRUE(sound);
-    EXPECT_EQ(sound->codec, type.codec);
-    EXPECT_EQ(sound->rate, 11025);
-    EXPECT_NEAR(static_cast<double>(sound->frames()), 22050, 1);
-    EXPECT_NEAR(levelOf(middleOf(sound->planes[0])), -9.03, type.decibels);
-    EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 440, 1);
 }
 
 TEST_F(RecordingTest, TonesAboveTheNewBandDoNotFoldIntoIt) {

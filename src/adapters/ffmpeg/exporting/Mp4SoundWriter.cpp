@@ -157,7 +157,7 @@ void Mp4SoundWriter::finish(const Mp4SoundDescription& sound) {
     writer.begin(mp4Type("stbl"));
     writer.bytes(sound.description);
     writeTables(writer);
-    for (int open = 4; open > 1; --open) {
+    for (int open = 5; open > 1; --open) {
         writer.end();
     }
     writer.bytes(sound.userData);

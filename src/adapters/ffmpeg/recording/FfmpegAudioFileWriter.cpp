@@ -8,6 +8,7 @@ extern "C" {
 
 #include <QFile>
 #include <algorithm>
+#include <numeric>
 #include <string_view>
 
 #include "adapters/ffmpeg/FileErrors.h"
@@ -156,6 +157,7 @@ Result<void> FfmpegAudioFileWriter::openContainer() {
         return avFailure(QStringLiteral("The recording could not be set up"), code);
     }
     avio_flush(m_io.get());
+    m_dataOffset = m_file->size();
     if (m_file->error() != 0) {
         return failure(QString::fromStdString(writeErrorText(m_file->error())));
     }
@@ -299,6 +301,13 @@ Result<void> FfmpegAudioFileWriter::drain() {
                                    m_format.sampleFormat);
             result = take(m_frameSize - m_filled);
         } else {
+            if (m_filled * m_encoder->block_align % 2 != 0) {
+                // Some players of WAV files give up at the byte that would pad an odd number: the last frame comes
+                // twice.
+                av_samples_copy(m_frame->data, m_frame->data, m_filled, m_filled - 1, 1, m_format.channels,
+                                m_format.sampleFormat);
+                ++m_filled;
+            }
             m_frame->nb_samples = m_filled;
             m_frame->pts = m_framesEncoded;
             m_framesEncoded += m_filled;
@@ -344,7 +353,9 @@ void FfmpegAudioFileWriter::closeContainer() {
         if (m_format.isFragmented) {
             return;
         }
-        // The lengths in the headers are to be those of what is there.
+        // The lengths in the headers are to be those of what is there, in whole frames or packets.
+        const std::int64_t unit = std::lcm(2, std::max(1, m_encoder->block_align));
+        m_file->shorten(m_dataOffset + (m_file->size() - m_dataOffset) / unit * unit);
         avio_seek(m_io.get(), m_file->size(), SEEK_SET);
     }
     if (m_format.isFragmented && !m_hasFragments) {

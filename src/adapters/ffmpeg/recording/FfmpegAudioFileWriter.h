@@ -62,6 +62,8 @@ private:
     /// Frames given to the encoder, and the presentation time up to which the container was flushed.
     std::int64_t m_framesEncoded = 0;
     std::int64_t m_flushedUntil = 0;
+    /// Bytes before the sound.
+    std::int64_t m_dataOffset = 0;
     bool m_hasFragments = false;
     bool m_finished = false;
     std::optional<Error> m_failure;

@@ -70,6 +70,12 @@ void RecordingFile::write(const void* data, std::size_t size) {
     }
 }
 
+void RecordingFile::shorten(std::int64_t size) {
+    if (size < m_size && ::ftruncate(m_file.get(), size) == 0) {
+        m_size = size;
+    }
+}
+
 int RecordingFile::sync() {
     if (::fsync(m_file.get()) != 0) {
         return errno;

@@ -37,6 +37,8 @@ public:
     /// Bytes were lost: the file ends before what was written.
     bool isBroken() const { return m_broken; }
 
+    /// Drops what stands behind that many bytes.
+    void shorten(std::int64_t size);
     /// Gives the reserve back.
     void releaseReserve() { m_reserve.reset(); }
     /// Brings the file and its entry in the folder to the disk. The errno of what failed, or 0.

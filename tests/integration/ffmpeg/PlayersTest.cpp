@@ -1,0 +1,126 @@
+#include <cstdlib>
+
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
+#include "integration/ffmpeg/RecordingFixture.h"
+
+namespace tavi::test {
+
+namespace {
+
+/// What the programs of others make of a type that we write.
+struct Played {
+    /// MediaInfo's names of the container, and of the codec.
+    const char* name;
+    AssetFileType cut;
+    const char* cutName;
+    /// Frames that GStreamer leaves out at the end: of AAC at low rates it drops the last packet, whoever wrote the
+    /// file. Negative where it has no reader for the container.
+    int lost;
+    /// Frames that players may play beside those that are meant to be heard: they know of whole packets only.
+    int more;
+};
+
+constexpr std::array<Played, kTypes.size()> kPlayed{{
+    {"MPEG-4 ALAC", AssetFileType::AppleM4A, "MPEG-4 ALAC", 0, 4096},
+    {"Wave PCM", AssetFileType::Wave, "Wave PCM", 0, 0},
+    {"CAF ADPCM", AssetFileType::CoreAudioFormat, "CAF ADPCM", -1, 127},
+    {"MPEG-4 AAC", AssetFileType::AppleM4A, "MPEG-4 AAC", 1024, 2048},
+    {"ADTS AAC", AssetFileType::AppleM4A, "MPEG-4 AAC", 1024, 2048},
+}};
+
+/// Files that GStreamer, mpv and MediaInfo are to read, as they are on people's desktops.
+class PlayersTest : public RecordingFixture {
+protected:
+    /// An odd number of bytes at 8 bits and one channel, behind which GStreamer's reader of WAV files gives up.
+    static constexpr int kFrames = 12001;
+
+    QString cut(const QString& source, AssetFileType type) {
+        const QString path = m_folder.filePath(QStringLiteral("cut"));
+        QFile::remove(path);
+        auto session =
+            m_assets.exportSession(m_assets.assetWithURL(QFile::encodeName(source)), AssetExportPreset::Passthrough);
+        EXPECT_TRUE(session);
+        (*session)->setOutputURL(QFile::encodeName(path));
+        (*session)->setOutputFileType(type);
+        (*session)->setTimeRange({{100, 8000}, {kFrames - 2000, 8000}});
+        (*session)->exportAsynchronously([] {});
+        (*session)->waitUntilFinished();
+        EXPECT_EQ((*session)->status(), AssetExportStatus::Completed);
+        return path;
+    }
+
+    /// What a shell command writes to "%1", having "%2" as its source.
+    QByteArray outputOf(const char* command, const QString& source) const {
+        const QString output = file(QStringLiteral("output"), {});
+        EXPECT_EQ(std::system(QFile::encodeName(QString::fromLatin1(command).arg(output, source)).constData()), 0);
+        return contents(output);
+    }
+
+    /// The first channel of what a player makes of a file.
+    std::vector<float> played(const char* command, const QString& source, int channels) const {
+        const QByteArray bytes = outputOf(command, source);
+        std::vector<float> samples;
+        for (qsizetype at = 0; at < bytes.size(); at += static_cast<qsizetype>(sizeof(float)) * channels) {
+            samples.emplace_back();
+            std::memcpy(&samples.back(), bytes.constData() + at, sizeof(float));
+        }
+        return samples;
+    }
+
+    void expectPlayed(const QString& path, const Type& type, const Quality& quality, const char* name,
+                      const Played& players) {
+        const QByteArray told = outputOf(
+            "mediainfo '--Inform=General;%Format% ' '%2' >'%1'; "
+            "mediainfo '--Inform=Audio;%Format% %SamplingRate% %Channels%' '%2' >>'%1'",
+            path);
+        const QByteArray start = QByteArray(name) + ' ' + QByteArray::number(quality.rate);
+        const QByteArray end = ' ' + QByteArray::number(quality.channels);
+        EXPECT_TRUE(told.simplified().startsWith(start) && told.simplified().endsWith(end)) << told.constData();
+        const double rate = quality.rate;
+        const auto frames = static_cast<std::size_t>(std::llround(m_durations.durationOfFile(path) * rate));
+        const auto expectTone = [&](const std::vector<float>& samples, int lost) {
+            EXPECT_GE(samples.size() + static_cast<std::size_t>(lost), frames);
+            EXPECT_LE(samples.size(), frames + static_cast<std::size_t>(players.more));
+            EXPECT_NEAR(levelOf(middleOf(samples)), -9.03, type.decibels);
+            EXPECT_NEAR(frequencyOf(middleOf(samples), static_cast<int>(rate)), 1000, 2);
+        };
+        expectTone(played("mpv --no-config --really-quiet --no-video --ao=pcm --audio-format=float "
+                          "--ao-pcm-waveheader=no --ao-pcm-file='%1' '%2'",
+                          path, quality.channels),
+                   0);
+        if (players.lost >= 0) {
+            expectTone(played("gst-launch-1.0 -q filesrc location='%2' ! decodebin ! audioconvert ! "
+                              "audio/x-raw,format=F32LE,layout=interleaved ! filesink location='%1'",
+                              path, quality.channels),
+                       players.lost);
+        }
+    }
+
+    FfmpegAssets m_assets;
+};
+
+TEST_F(PlayersTest, OthersPlayAllThatIsRecordedCutAndLeftByAKilledProgram) {
+    for (std::size_t index = 0; index < kTypes.size(); ++index) {
+        const Type& type = kTypes[index];
+        const Played& players = kPlayed[index];
+        for (const Quality& quality : kQualities) {
+            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
+            const AudioInputFormat format{static_cast<int>(quality.rate), quality.channels};
+            const QString whole = record(type, quality, tone(format, kFrames), format);
+            expectPlayed(whole, type, quality, players.name, players);
+            if (quality.value == 0) {
+                SCOPED_TRACE("cut");
+                expectPlayed(cut(whole, players.cut), type, quality, players.cutName, players);
+            }
+        }
+        SCOPED_TRACE(testing::Message() << type.extension << " interrupted");
+        const Quality& low = kQualities[0];
+        const QString path = record(type, low, tone({8000, 1}, 3 * kFrames), {8000, 1}, false);
+        finalize(path);
+        expectPlayed(path, type, low, players.name, players);
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test
