@@ -16,25 +16,20 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
 
-constexpr double kClockInterval = 1.0;
-constexpr double kLevelInterval = 0.1;
+constexpr int kRecordTab = 0;
 constexpr double kLoudest = 0.0;
 constexpr double kSilence = -160.0;
 constexpr double kZeroPoint = -45.0;
 
-QString recordButtonImage(bool isRunning) {
-    return isRunning ? QStringLiteral("record_pause.png") : QStringLiteral("rec_normal.png");
-}
-
 }  // namespace
 
-AudioRecordVC::AudioRecordVC(const Services& services, QObject* parent)
-    : QObject(parent), m_services(services), m_lblTimer(clockText(0)) {
+AudioRecordVC::AudioRecordVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     connect(&m_services.sessionFile, &SessionFile::saved, this, &AudioRecordVC::didSave);
+    connect(&m_clock, &SessionClock::updateTimer, this, &AudioRecordVC::updateTimer);
+    connect(&m_clock, &SessionClock::waveViewUpdate, this, &AudioRecordVC::waveViewUpdate);
 }
 
 AudioRecordVC::~AudioRecordVC() {
-    stopTimer();
     if (m_audioRecorder != nullptr) {
         m_audioRecorder->setDelegate(nullptr);
     }
@@ -42,23 +37,31 @@ AudioRecordVC::~AudioRecordVC() {
 
 ButtonOutlet AudioRecordVC::btnRecord() const {
     ButtonOutlet button;
-    button.image = recordButtonImage(m_isRecordingRunning);
+    button.image = isRecordingRunning() ? QStringLiteral("record_pause.png") : QStringLiteral("rec_normal.png");
     return button;
 }
 
 ButtonOutlet AudioRecordVC::btnStop() const {
     ButtonOutlet button;
-    button.enabled = m_isStopEnabled;
+    button.enabled = isRecording();
     return button;
 }
 
 LabelOutlet AudioRecordVC::lblTimer() const {
-    return {m_lblTimer, {}, false};
+    return {clockText(isRecording() ? m_clock.secondStart() : 0), {}, false};
 }
 
 LabelOutlet AudioRecordVC::lblRecording() const {
-    const bool isPaused = m_isRecording && !m_isRecordingRunning;
-    return {isPaused ? qtTrId("lbl_record_pause") : qtTrId("lbl_recording"), {}, m_isRecordingLabelHidden};
+    // After a start that failed it stays visible, on purpose: the recording that was asked for is still to be made.
+    const bool isShown = isRecording() || m_state == State::Failed;
+    return {m_state == State::Paused ? qtTrId("lbl_record_pause") : qtTrId("lbl_recording"), {}, !isShown};
+}
+
+QString AudioRecordVC::hint() const {
+    if (m_state == State::Saving) {
+        return qtTrId("record_saving");
+    }
+    return m_state == State::Starting ? qtTrId("record_starting") : qtTrId("record_hint");
 }
 
 LabelOutlet AudioRecordVC::lblFileType() const {
@@ -78,8 +81,7 @@ void AudioRecordVC::viewWillAppear() {
     m_services.sessionFile.updateRecordFilePath();
     showFileType();
     m_lblDate = recordingDateText(m_services.runLoop.clock().now(), QLocale());
-    if (!m_isRecording) {
-        m_isStopEnabled = false;
+    if (!isRecording()) {
         initWaveViewMirror();
     }
     listenToWormhole();
@@ -127,9 +129,9 @@ void AudioRecordVC::playAndPauseRecording(QObject* sender) {
     qCDebug(lcRecording, "record-tap");
     const QPointer<AudioRecordVC> self(this);
     RunLoop& runLoop = m_services.runLoop;
-    m_services.audioSession.requestRecordPermission([self, &runLoop](bool granted) {
-        runLoop.dispatchMain([self, granted] {
-            if (self) {
+    m_services.audioSession.requestRecordPermission([self, &runLoop, ends = m_ends](bool granted) {
+        runLoop.dispatchMain([self, ends, granted] {
+            if (self && self->m_ends == ends) {
                 self->permissionAnswered(granted);
             }
         });
@@ -139,39 +141,48 @@ void AudioRecordVC::playAndPauseRecording(QObject* sender) {
 void AudioRecordVC::permissionAnswered(bool granted) {
     if (!granted) {
         showAlertWithTitle(qtTrId("microphone_denied"), qtTrId("access_device_microphone"));
-    } else if (isSaving()) {
-        m_startsWhenSaved = !m_startsWhenSaved;
-    } else if (!m_isRecording) {
-        startRecording(nullptr);
-    } else if (!m_isRecordingRunning) {
-        resumeRecording();
-    } else {
-        pauseRecording();
+        return;
+    }
+    switch (m_state) {
+        case State::Idle:
+        case State::Failed:
+            return startRecording(nullptr);
+        case State::Saving:
+            return setState(State::Starting);
+        case State::Starting:
+            return;
+        case State::Recording:
+            return pauseRecording();
+        case State::Paused:
+            return resumeRecording();
     }
 }
 
 void AudioRecordVC::resumeRecording() {
+    showSession();
     m_audioRecorder->record();
-    startTimer();
-    m_isRecordingRunning = true;
-    Q_EMIT outletsChanged();
+    m_clock.startTimer(isReset());
+    setState(State::Recording);
 }
 
 void AudioRecordVC::pauseRecording() {
     m_audioRecorder->pause();
-    stopTimer();
-    m_isRecordingRunning = false;
-    Q_EMIT outletsChanged();
+    m_clock.stopTimer();
+    setState(State::Paused);
+}
+
+void AudioRecordVC::showSession() {
+    // The user may have gone elsewhere since the tap. Nothing is recorded unseen, and the tabs are locked here only.
+    m_services.tabBar.setSelectedIndex(kRecordTab);
+    m_services.tabBar.setUserInteractionEnabled(false);
 }
 
 void AudioRecordVC::startRecording(QObject* sender) {
     Q_UNUSED(sender)
-    m_services.tabBar.setUserInteractionEnabled(false);
-    m_isRecordingLabelHidden = false;
+    setState(State::Starting);
+    showSession();
     m_services.sessionFile.begin();
     showFileType();
-    m_isStopEnabled = false;
-    Q_EMIT outletsChanged();
 
     AudioSession& session = m_services.audioSession;
     const auto category =
@@ -197,12 +208,9 @@ void AudioRecordVC::startRecording(QObject* sender) {
         abandonStart(qtTrId("audio_hardware_alert_title"), qtTrId("audio_hardware_alert_message"));
         return;
     }
-    m_isRecording = true;
-    m_isRecordingRunning = true;
-    m_isStopEnabled = true;
     m_audioRecorder->record();
-    startTimer();
-    Q_EMIT outletsChanged();
+    m_clock.startTimer(isReset());
+    setState(State::Recording);
 }
 
 void AudioRecordVC::abandonStart(const QString& title, const QString& message) {
@@ -210,48 +218,19 @@ void AudioRecordVC::abandonStart(const QString& title, const QString& message) {
         m_audioRecorder->setDelegate(nullptr);
         m_audioRecorder.reset();
     }
-    // On purpose the tab bar stays disabled and the label visible until the next successful stop: the user is kept at
-    // the screen where the recording that was asked for is still to be made.
+    // The tab bar stays disabled until the next successful stop, on purpose: the user is kept at the screen where the
+    // recording that was asked for is still to be made.
+    setState(State::Failed);
     showAlertWithTitle(title, message);
-}
-
-void AudioRecordVC::startTimer() {
-    if (m_isReset) {
-        m_secondStart = 0;
-        m_isReset = false;
-    }
-    const QPointer<AudioRecordVC> self(this);
-    m_timer = m_services.runLoop.scheduledTimer(kClockInterval, true, [self] {
-        if (self) {
-            self->updateTimer();
-        }
-    });
-    m_waveTimer = m_services.runLoop.scheduledTimer(kLevelInterval, true, [self] {
-        if (self) {
-            self->waveViewUpdate();
-        }
-    });
-}
-
-void AudioRecordVC::stopTimer() {
-    for (auto* timer : {&m_timer, &m_waveTimer}) {
-        if (*timer != nullptr) {
-            (*timer)->invalidate();
-            timer->reset();
-        }
-    }
 }
 
 void AudioRecordVC::updateTimer() {
     m_audioRecorder->updateMeters();
-    // The clock counts its own ticks, not the recorder's time.
-    m_secondStart += 1;
-    m_lblTimer = clockText(m_secondStart);
     Q_EMIT clockChanged();
 }
 
 void AudioRecordVC::waveViewUpdate() {
-    if (m_isRecording) {
+    if (isRecording()) {
         m_audioRecorder->updateMeters();
         m_waveViewMirror.startWavingWithValue(static_cast<double>(m_audioRecorder->averagePowerForChannel(0)));
     }
@@ -263,8 +242,8 @@ void AudioRecordVC::stopAndSaveRecording(QObject* sender) {
 }
 
 void AudioRecordVC::stopFromWatch() {
-    if (m_isStopEnabled) {
-        // On purpose the tab bar stays disabled: stopped from afar, the screen stays where its user left it.
+    if (btnStop().enabled) {
+        // The tab bar stays disabled, on purpose: stopped from afar, the screen stays where its user left it.
         endSession(false);
     }
 }
@@ -273,24 +252,20 @@ void AudioRecordVC::endSession(bool enablesTabBar) {
     if (enablesTabBar) {
         m_services.tabBar.setUserInteractionEnabled(true);
     }
-    const bool hadSession = m_isRecording;
-    m_isReset = true;
-    m_isRecording = false;
-    m_isRecordingRunning = false;
-    stopTimer();
-    m_isStopEnabled = false;
-    m_lblTimer = clockText(0);
-    m_isRecordingLabelHidden = true;
-    Q_EMIT clockChanged();
-    Q_EMIT outletsChanged();
-    if (hadSession) {
-        m_nameToSave = fileBaseName(m_services.runLoop.clock().now(), QLocale());
+    ++m_ends;
+    m_clock.stopTimer();
+    if (isRecording()) {
+        m_name = fileBaseName(m_services.runLoop.clock().now(), QLocale());
         m_audioRecorder->stop();
+        setState(State::Saving);
+    } else {
+        // What waits behind the saving of a session is given up; the saving goes on.
+        setState(m_state == State::Starting || m_state == State::Saving ? State::Saving : State::Idle);
     }
 }
 
 void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) {
-    const bool endedByItself = m_isRecording;
+    const bool endedByItself = isRecording();
     if (endedByItself) {
         endSession(true);
     }
@@ -300,19 +275,19 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
     }
     if (endedByItself && recorder.framesRecorded() == 0) {
         // Nothing was captured: there is nothing to save.
-        m_nameToSave.reset();
+        setState(State::Idle);
         return;
     }
-    m_services.sessionFile.saveFileToDoc(*m_nameToSave);
+    m_services.sessionFile.saveFileToDoc(m_name);
 }
 
 void AudioRecordVC::didSave() {
-    m_nameToSave.reset();
     m_waveViewMirror.resetWave();
     m_audioRecorder.reset();
-    if (m_startsWhenSaved) {
-        m_startsWhenSaved = false;
+    if (m_state == State::Starting) {
         startRecording(nullptr);
+    } else {
+        setState(State::Idle);
     }
 }
 
@@ -320,8 +295,14 @@ void AudioRecordVC::showAlertWithTitle(const QString& title, const QString& mess
     m_services.presenter.presentAlert({title, message, {{qtTrId("alert_title_ok")}}});
 }
 
+void AudioRecordVC::setState(State state) {
+    m_state = state;
+    Q_EMIT clockChanged();
+    Q_EMIT outletsChanged();
+}
+
 void AudioRecordVC::finishBeforeTermination() {
-    if (m_isRecording) {
+    if (isRecording()) {
         endSession(true);
     }
     if (m_audioRecorder != nullptr) {

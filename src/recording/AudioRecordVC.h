@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -13,6 +12,7 @@
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
+#include "recording/SessionClock.h"
 #include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
 #include "watch/MessageListening.h"
@@ -28,11 +28,26 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(tavi::LabelOutlet lblRecording READ lblRecording NOTIFY outletsChanged)
     Q_PROPERTY(tavi::LabelOutlet lblFileType READ lblFileType NOTIFY outletsChanged)
     Q_PROPERTY(tavi::LabelOutlet lblDate READ lblDate NOTIFY outletsChanged)
+    Q_PROPERTY(QString hint READ hint NOTIFY outletsChanged)
     Q_PROPERTY(tavi::WaveView* waveViewMirror READ waveViewMirror CONSTANT)
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY outletsChanged)
     Q_PROPERTY(bool isRecordingRunning READ isRecordingRunning NOTIFY outletsChanged)
 
 public:
+    /// What the screen is about. All else that depends on it, but for the lock of the tab bar, is read from it.
+    enum class State {
+        /// There is no session.
+        Idle,
+        /// A session was asked for. It starts as soon as the last one is saved, for both need the temporary file.
+        Starting,
+        Recording,
+        Paused,
+        /// A session was stopped; its file is not among the recordings yet.
+        Saving,
+        /// A session could not be started.
+        Failed,
+    };
+
     /// What the screen works with; all of it must outlive the screen.
     struct Services {
         AudioSession& audioSession;
@@ -54,9 +69,16 @@ public:
     LabelOutlet lblRecording() const;
     LabelOutlet lblFileType() const;
     LabelOutlet lblDate() const;
+    /// Shown in the place of lblRecording while that is hidden.
+    QString hint() const;
     WaveView* waveViewMirror() { return &m_waveViewMirror; }
-    bool isRecording() const { return m_isRecording; }
-    bool isRecordingRunning() const { return m_isRecordingRunning; }
+    State state() const { return m_state; }
+    /// Whether there is a session, started and not yet stopped.
+    bool isRecording() const { return m_state == State::Recording || m_state == State::Paused; }
+    /// Whether it captures now.
+    bool isRecordingRunning() const { return m_state == State::Recording; }
+    /// Whether the clock begins at 0 when it starts next.
+    bool isReset() const { return !isRecording(); }
 
     /// Attaches the companions' channel; it is listened to from the next appearance on. Nothing attaches one by itself.
     void setWormhole(MessageListening* wormhole) { m_wormhole = wormhole; }
@@ -80,6 +102,7 @@ private:
 
     void permissionAnswered(bool granted);
     void startRecording(QObject* sender);
+    void showSession();
     /// Shows the error and gives up the session that was being started; the tab bar and the label stay as they are.
     void abandonStart(const QString& title, const QString& message);
     void pauseRecording();
@@ -91,33 +114,24 @@ private:
     void createDirAtSharedContainerPath() const;
     void initWaveViewMirror();
     void listenToWormhole();
-    void startTimer();
-    void stopTimer();
     void updateTimer();
     void waveViewUpdate();
     void showFileType();
     void showAlertWithTitle(const QString& title, const QString& message);
-    bool isSaving() const { return m_nameToSave.has_value(); }
+    void setState(State state);
 
     Services m_services;
     MessageListening* m_wormhole = nullptr;
     WaveView m_waveViewMirror;
     std::unique_ptr<AudioRecorder> m_audioRecorder;
+    SessionClock m_clock{m_services.runLoop};
 
-    bool m_isRecording = false;
-    bool m_isRecordingRunning = false;
-    bool m_isReset = false;
-    bool m_isStopEnabled = false;
-    bool m_isRecordingLabelHidden = true;
-    /// Base name of a stopped recording from its stop until its file is in its place.
-    std::optional<QString> m_nameToSave;
-    /// The record button was used while the last recording was being saved; the temporary file is not free before.
-    bool m_startsWhenSaved = false;
+    State m_state = State::Idle;
+    /// Sessions ended so far. What a tap asked for before one of the ends is not done after it.
+    int m_ends = 0;
+    /// Base name of the session that was stopped last.
+    QString m_name;
 
-    std::int64_t m_secondStart = 0;
-    std::shared_ptr<Timer> m_timer;
-    std::shared_ptr<Timer> m_waveTimer;
-    QString m_lblTimer;
     QString m_lblFileType;
     QString m_lblDate;
 };

@@ -25,6 +25,13 @@ void record(Shell& shell) {
     }
 }
 
+void save(Shell& shell) {
+    record(shell);
+    shell.runLoop.holdBackground(true);
+    shell.recording.stopAndSaveRecording();
+    shell.runLoop.drain();
+}
+
 void fillLibrary(const Shell& shell) {
     const char* const names[] = {
         "2024_Mar_05_14_03_59.m4a",
@@ -75,6 +82,8 @@ const State kStates[] = {
     {"recording", 0, record},
     {"focus", 0, [](Shell& s) { s.key(Qt::Key_Tab); }},
     {"paused", 0, [](Shell& s) { record(s), s.startRecording(); }},
+    {"saving", 0, save},
+    {"starting", 0, [](Shell& s) { save(s), s.startRecording(); }},
     {"empty", 1, {}},
     {"list", 1, showLibrary},
     {"playing", 1, play},

@@ -101,7 +101,7 @@ FocusScope {
             Label {
                 anchors.fill: parent
                 visible: root.screen.lblRecording.hidden
-                text: qsTrId("record_hint")
+                text: root.screen.hint
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
             }

@@ -308,6 +308,14 @@
         <source></source>
         <translation>Tap the red button to record</translation>
     </message>
+    <message id="record_saving">
+        <source></source>
+        <translation>Saving…</translation>
+    </message>
+    <message id="record_starting">
+        <source></source>
+        <translation>Saving, then recording…</translation>
+    </message>
     <message id="library_empty_title">
         <source></source>
         <translation>No recordings yet</translation>

@@ -18,29 +18,65 @@ protected:
         screen.viewWillAppear();
     }
 
-    void tapRecord() {
+    void tapRecord(bool isGranted = true) {
         screen.playAndPauseRecording(nullptr);
-        session.answer(true);
+        session.answer(isGranted);
         runLoop.drain();
     }
     void tapStop() {
         screen.stopAndSaveRecording(nullptr);
         runLoop.drain();
     }
+    void finishSaving() {
+        runLoop.holdBackground(false);
+        runLoop.drain();
+    }
+    /// From Idle into the state of that letter, with a disk so slow that nothing is saved before finishSaving().
+    void reach(char letter) {
+        runLoop.holdBackground(true);
+        recorders.creation = letter == 'F' ? failure(QStringLiteral("no file")) : Result<void>{};
+        const std::map<char, std::string> steps{{'I', ""},    {'F', "r"},   {'R', "rx"},
+                                                {'P', "rxr"}, {'S', "rxs"}, {'T', "rxsr"}};
+        for (const char step : steps.at(letter)) {
+            step == 'r' ? tapRecord() : step == 's' ? tapStop() : recorders.last()->capture(100, -10.0F);
+        }
+        recorders.creation = {};
+    }
+    /// The state's letter, and whether the tab bar is enabled. All else that the state decides has to agree with it.
+    std::string state() const {
+        const struct {
+            char letter;
+            bool isRecording, isRunning;
+            const char *image, *text;
+        } looks[] = {{'I', false, false, "rec_normal.png", "record_hint"},
+                     {'T', false, false, "rec_normal.png", "record_starting"},
+                     {'R', true, true, "record_pause.png", "lbl_recording"},
+                     {'P', true, false, "rec_normal.png", "lbl_record_pause"},
+                     {'S', false, false, "rec_normal.png", "record_saving"},
+                     {'F', false, false, "rec_normal.png", "lbl_recording"}};
+        const auto& look = looks[static_cast<std::size_t>(screen.state())];
+        EXPECT_EQ(screen.isRecording(), look.isRecording);
+        EXPECT_EQ(screen.isReset(), !look.isRecording);
+        EXPECT_EQ(screen.btnStop().enabled, look.isRecording);
+        EXPECT_EQ(screen.isRecordingRunning(), look.isRunning);
+        EXPECT_EQ(recorders.last() != nullptr && recorders.last()->isRecording(), look.isRunning);
+        EXPECT_EQ(screen.btnRecord().image, QLatin1String(look.image));
+        const bool isHidden = screen.lblRecording().hidden;
+        EXPECT_EQ(isHidden, !look.isRecording && look.letter != 'F');
+        EXPECT_EQ(isHidden ? screen.hint() : screen.lblRecording().text, QLatin1String(look.text));
+        return std::string(1, look.letter) + (tabBar.isUserInteractionEnabled() ? '+' : '-');
+    }
     QStringList documents() const {
         return QDir(container.documentsPath()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
-    /// Recording, running, stop enabled, tab bar enabled, label hidden.
-    std::vector<bool> state() const {
-        return {screen.isRecording(), screen.isRecordingRunning(), screen.btnStop().enabled,
-                tabBar.isUserInteractionEnabled(), screen.lblRecording().hidden};
-    }
     QString lastAlert() const { return presenter.alerts.empty() ? QString() : presenter.alerts.back().message; }
 
-    const std::vector<bool> kIdle{false, false, false, true, true};
-    const std::vector<bool> kRecording{true, true, true, false, false};
-    const std::vector<bool> kPaused{true, false, true, false, false};
-
+    struct Channel : MessageListening {
+        void listenForMessageWithIdentifier(const QString& name, std::function<void(const QVariant&)> called) override {
+            listeners[name] = std::move(called);
+        }
+        QMap<QString, std::function<void(const QVariant&)>> listeners;
+    } channel;
     FakePresenter presenter;
     FakeTabBar tabBar;
     FakeRecording recording{*this, presenter, tabBar};
@@ -71,102 +107,200 @@ TEST(AudioSettings, TypeAndQualityChooseTheFormat) {
     }
 }
 
-TEST_F(AudioRecordVCTest, ASessionGoesThroughItsStatesAndIsSaved) {
-    EXPECT_EQ(state(), kIdle);
-    tapRecord();
-    EXPECT_EQ(state(), kRecording);
-    EXPECT_EQ(session.lastCategory, AudioSession::Category::PlayAndRecord);
-    runLoop.advance(61.0);
-    tapRecord();
-    EXPECT_EQ(state(), kPaused);
-    EXPECT_EQ(runLoop.activeTimers(), 0U);
-    runLoop.advance(100.0);
-    tapRecord();
-    EXPECT_EQ(state(), kRecording);
-    runLoop.advance(3600.0);
-    EXPECT_EQ(screen.lblTimer().text, QStringLiteral("01:01:01"));
-    screen.stopAndSaveRecording(nullptr);
-    EXPECT_EQ(state(), kIdle);
-    EXPECT_TRUE(documents().isEmpty()) << "moved before it was whole";
-    runLoop.drain();
-    EXPECT_EQ(documents(), QStringList{QStringLiteral("2024_Mar_05_15_06_40.m4a")});
-    EXPECT_FALSE(QFile::exists(recorders.lastPath));
-    runLoop.advance(2.0);
-    EXPECT_TRUE(mail.messages.empty());
-    tapRecord();
-    EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:00"));
+TEST_F(AudioRecordVCTest, EveryActionInEveryState) {
+    const std::function<void()> actions[] = {
+        [&] { tapRecord(); },
+        [&] { tapRecord(false); },
+        [&] { tapStop(); },
+        [&] { channel.listeners[QStringLiteral("Stop")]({}), runLoop.drain(); },
+        [&] {
+            recorders.last() != nullptr ? recorders.last()->fail({QStringLiteral("gone")}) : void(), runLoop.drain();
+        },
+        [&] { finishSaving(); },
+        [&] { screen.viewWillAppear(); },
+    };
+    const struct {
+        char from;
+        /// The state, the tab bar, and how many recordings there are in the end: after a tap on the record button that
+        /// is permitted, one that is refused, the stop button, a companion's stop, the end of the microphone, the end
+        /// of the saving, and the screen's appearing.
+        const char* to[7];
+    } cases[] = {{'I', {"R-1", "I+0", "I+0", "I+0", "I+0", "I+0", "I+0"}},
+                 {'R', {"P-1", "R-1", "S+1", "S-1", "S+1", "R-1", "R-1"}},
+                 {'P', {"R-1", "P-1", "S+1", "S-1", "S+1", "P-1", "P-1"}},
+                 {'S', {"T+2", "S+1", "S+1", "S+1", "S+1", "I+1", "S+1"}},
+                 {'T', {"T+2", "T+2", "S+1", "T+2", "T+2", "R-2", "T+2"}},
+                 {'F', {"R-1", "F-0", "I+0", "F-0", "F-0", "F-0", "F-0"}}};
+    screen.setWormhole(&channel);
+    screen.viewWillAppear();
+    for (const auto& row : cases) {
+        for (std::size_t action = 0; action < std::size(actions); ++action) {
+            SCOPED_TRACE(::testing::Message() << row.from << " " << action);
+            const qsizetype before = documents().size();
+            reach(row.from);
+            actions[action]();
+            const std::string reached = state();
+            runLoop.advance(1.0);
+            finishSaving();
+            tapStop();
+            EXPECT_EQ(reached + std::to_string(documents().size() - before), row.to[action]);
+            EXPECT_EQ(state(), "I+") << "the screen is not ready for the next session";
+            runLoop.advance(1.0);
+        }
+    }
+}
+
+TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
+    const struct {
+        const char *type, *quality;
+        std::uint32_t format;
+        const char *label, *name;
+    } cases[] = {{"m4a", "Medium", kAudioFormatAppleLossless, "Medium - m4a", "2024_Mar_05_15_10_00.m4a"},
+                 {"caf", "Low", kAudioFormatAppleIMA4, "Low - caf", "2024_Mar_05_16_16_01.caf"}};
+    int readings = 0;
+    screen.waveViewMirror()->setFrameSize({1000.0, 100.0});
+    QObject::connect(screen.waveViewMirror(), &WaveView::needsDisplay, &notifications, [&] { ++readings; });
+    EXPECT_TRUE(QDir(container.groupContainerPath(kApplicationGroup) + QStringLiteral("/user_abc")).exists());
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.type);
+        // Set while the screen is seen, as by the command line.
+        settings.setAudioFileType(QLatin1String(row.type));
+        settings.setAudioQualityType(QLatin1String(row.quality));
+        tapRecord();
+        EXPECT_EQ(screen.lblFileType().text, QLatin1String(row.label));
+        EXPECT_EQ(recorders.lastSettings.formatID, row.format);
+        EXPECT_EQ(recorders.lastPath,
+                  container.cachesPath() + QStringLiteral("/vexmosounds.") + QLatin1String(row.type));
+        EXPECT_EQ(session.lastCategory, AudioSession::Category::PlayAndRecord);
+        EXPECT_TRUE(session.isActive);
+        EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:00"));
+        for (const auto& [seconds, text] : {std::pair{61.0, "00:01:01"}, {3599.0, "01:01:00"}, {1.0, "01:01:01"}}) {
+            readings = 0;
+            recorders.last()->capture(100, -5.0F);
+            runLoop.advance(seconds);
+            EXPECT_EQ(screen.lblTimer().text, QLatin1String(text));
+            EXPECT_EQ(readings, seconds * 10.0);
+            EXPECT_GT(screen.waveViewMirror()->mirrorBar().height(), 50.0);
+            tapRecord();
+            readings = 0;
+            runLoop.advance(100.0);
+            EXPECT_EQ(screen.lblTimer().text, QLatin1String(text));
+            EXPECT_EQ(readings, 0);
+            tapRecord();
+        }
+        screen.stopAndSaveRecording(nullptr);
+        EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:00"));
+        EXPECT_FALSE(documents().contains(QLatin1String(row.name))) << "moved before it was whole";
+        runLoop.drain();
+        EXPECT_TRUE(documents().contains(QLatin1String(row.name))) << qPrintable(documents().join(QLatin1Char(' ')));
+        EXPECT_FALSE(QFile::exists(recorders.lastPath));
+        EXPECT_EQ(screen.waveViewMirror()->newPoint().x(), 0.0);
+    }
+    runLoop.advance(86400.0);
+    EXPECT_EQ(screen.lblDate().text, QStringLiteral("05 Mar 2024"));
+    screen.viewWillAppear();
+    EXPECT_EQ(screen.lblDate().text, QStringLiteral("06 Mar 2024"));
 }
 
 TEST_F(AudioRecordVCTest, WhatStandsInTheWayIsSaidInOneAlert) {
     enum Obstacle { Refused, NoCategory, NoRecorder, NoInput };
     // After a failed start the tab bar stays disabled and the label visible until the next successful stop.
-    const std::vector<bool> abandoned(5, false);
     const struct {
         Obstacle obstacle;
-        const char* alert;
-        std::vector<bool> state;
-    } cases[] = {{Refused, "access_device_microphone", kIdle},
-                 {NoCategory, "no server", abandoned},
-                 {NoRecorder, "no file", abandoned},
-                 {NoInput, "audio_hardware_alert_message", abandoned}};
+        const char *title, *message, *state;
+    } cases[] = {{Refused, "microphone_denied", "access_device_microphone", "I+"},
+                 {NoCategory, "alert_title", "no server", "F-"},
+                 {NoRecorder, "alert_title", "no file", "F-"},
+                 {NoInput, "audio_hardware_alert_title", "audio_hardware_alert_message", "F-"},
+                 {Refused, "microphone_denied", "access_device_microphone", "F-"}};
     std::size_t alerts = 0;
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.alert);
+        SCOPED_TRACE(row.message);
         session.categoryResult = row.obstacle == NoCategory ? failure(QStringLiteral("no server")) : Result<void>{};
         recorders.creation = row.obstacle == NoRecorder ? failure(QStringLiteral("no file")) : Result<void>{};
         session.inputAvailable = row.obstacle != NoInput;
-        screen.playAndPauseRecording(nullptr);
-        session.answer(row.obstacle != Refused);
-        runLoop.drain();
+        tapRecord(row.obstacle != Refused);
         EXPECT_EQ(state(), row.state);
-        EXPECT_EQ(lastAlert(), QLatin1String(row.alert));
-        EXPECT_EQ(presenter.alerts.size(), ++alerts);
+        ASSERT_EQ(presenter.alerts.size(), ++alerts);
+        EXPECT_EQ(presenter.alerts.back().title, QLatin1String(row.title));
+        EXPECT_EQ(lastAlert(), QLatin1String(row.message));
     }
     session.inputAvailable = true;
     tapRecord();
-    EXPECT_EQ(state(), kRecording);
+    EXPECT_EQ(state(), "R-");
     tapStop();
-    EXPECT_EQ(state(), kIdle);
+    EXPECT_EQ(state(), "I+");
     EXPECT_EQ(documents().size(), 1);
 }
 
 TEST_F(AudioRecordVCTest, ARecordingThatEndsByItselfIsSavedAndSaid) {
-    tapRecord();
-    recorders.last()->capture(100, -10.0F);
-    recorders.last()->fail(Error{QStringLiteral("unplugged")});
-    runLoop.drain();
-    EXPECT_EQ(state(), kIdle);
-    EXPECT_EQ(lastAlert(), QStringLiteral("unplugged"));
-    EXPECT_EQ(presenter.alerts.size(), 1U);
-    EXPECT_EQ(documents().size(), 1);
-
-    runLoop.advance(5.0);
-    tapRecord();
-    recorders.last()->fail(Error{QStringLiteral("never there")});
-    runLoop.drain();
-    EXPECT_EQ(state(), kIdle);
-    EXPECT_EQ(documents().size(), 1) << "an empty recording was saved";
+    // When the input or the disk gives up; whether there is something to save then.
+    const struct {
+        char state;
+        bool hasSound;
+        qsizetype saved;
+    } cases[] = {{'R', true, 1}, {'P', true, 1}, {'R', false, 0}, {'R', true, 1}};
+    for (const auto& row : cases) {
+        const qsizetype before = documents().size();
+        const std::size_t alerts = presenter.alerts.size();
+        tapRecord();
+        recorders.last()->capture(row.hasSound ? 100 : 0, -10.0F);
+        if (row.state == 'P') {
+            tapRecord();
+        }
+        recorders.last()->fail({QStringLiteral("unplugged")});
+        runLoop.drain();
+        EXPECT_EQ(state(), "I+");
+        EXPECT_EQ(lastAlert(), QStringLiteral("unplugged"));
+        EXPECT_EQ(presenter.alerts.size(), alerts + 1);
+        EXPECT_EQ(documents().size(), before + row.saved);
+        runLoop.advance(5.0);
+    }
 }
 
-TEST_F(AudioRecordVCTest, ANewSessionWaitsUntilTheLastOneIsInItsPlace) {
+TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {
+    const auto answer = [this] { session.answer(true), runLoop.drain(); };
+    screen.playAndPauseRecording(nullptr);
+    tabBar.setSelectedIndex(1);
+    answer();
+    EXPECT_EQ(state(), "R-");
+    EXPECT_EQ(tabBar.selectedIndex(), 0);
+
     tapRecord();
-    screen.stopAndSaveRecording(nullptr);
+    tabBar.setSelectedIndex(1);
     tapRecord();
-    EXPECT_EQ(state(), kRecording);
-    EXPECT_EQ(documents().size(), 1);
+    EXPECT_EQ(tabBar.selectedIndex(), 0) << "recorded unseen after a pause";
+
+    // A pause that the stop overtakes does not start the next recording.
+    screen.playAndPauseRecording(nullptr);
+    tapStop();
+    answer();
+    EXPECT_EQ(state(), "I+");
+    screen.playAndPauseRecording(nullptr);
+    tapStop();
+    answer();
+    EXPECT_EQ(state(), "I+");
+
     runLoop.advance(1.0);
-    screen.finishBeforeTermination();
-    EXPECT_EQ(documents().size(), 2) << "the program ended without the recording";
+    reach('T');
+    tabBar.setSelectedIndex(2);
+    finishSaving();
+    EXPECT_EQ(state(), "R-");
+    EXPECT_EQ(tabBar.selectedIndex(), 0);
 }
 
 TEST_F(AudioRecordVCTest, ASecondRecordingOfTheSameSecondReplacesNothing) {
     tapRecord();
     tapStop();
-    // Its name is taken; on purpose it stays where the next start removes it.
+    // Its name is taken; it stays where the next start removes it, on purpose.
     tapRecord();
     tapStop();
     EXPECT_EQ(documents().size(), 1);
     EXPECT_TRUE(QFile::exists(recorders.lastPath));
+    runLoop.advance(1.0);
+    tapRecord();
+    tapStop();
+    EXPECT_EQ(documents().size(), 2);
 }
 
 TEST_F(AudioRecordVCTest, MailsWhatIsNotTooLarge) {
@@ -191,22 +325,18 @@ TEST_F(AudioRecordVCTest, MailsWhatIsNotTooLarge) {
 }
 
 TEST_F(AudioRecordVCTest, ListensToTheCompanionsOnceAChannelIsAttached) {
-    struct Channel : MessageListening {
-        void listenForMessageWithIdentifier(const QString& name, std::function<void(const QVariant&)> called) override {
-            listeners[name] = std::move(called);
-        }
-        QMap<QString, std::function<void(const QVariant&)>> listeners;
-    } channel;
     screen.setWormhole(&channel);
     screen.viewWillAppear();
+    channel.listeners[QStringLiteral("ChangeRecord")](QStringLiteral("from afar"));
+    EXPECT_EQ(presenter.alerts.back().title + lastAlert(), QStringLiteral("from afar"));
     channel.listeners[QStringLiteral("Record")]({});
     session.answer(true);
     runLoop.drain();
-    EXPECT_EQ(state(), kRecording);
+    EXPECT_EQ(state(), "R-");
     channel.listeners[QStringLiteral("Stop")]({});
     runLoop.drain();
     EXPECT_EQ(documents().size(), 1);
-    EXPECT_FALSE(tabBar.isUserInteractionEnabled()) << "a stop from afar leaves the tab bar disabled";
+    EXPECT_EQ(state(), "I-") << "a stop from afar leaves the tab bar disabled";
 }
 
 TEST_F(AudioRecordVCTest, TheLibraryIsToldOfEveryRecordingThatIsInItsPlace) {
