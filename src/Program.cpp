@@ -10,7 +10,6 @@
 #include "Output.h"
 #include "Screens.h"
 #include "SettingsFiles.h"
-#include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/MprisRemoteControl.h"
@@ -132,23 +131,6 @@ struct Screens {
                           .objrecordVC = recording}};
 };
 
-/// What this start does once the window is there.
-LaunchOptions launchOptionsOf(const CommandLine& line) {
-    switch (line.command) {
-        case CommandLine::Command::Record:
-            return {QStringLiteral("Record")};
-        case CommandLine::Command::Library:
-            return {QStringLiteral("Recordings")};
-        default:
-            return {};
-    }
-}
-
-QList<QUrl> urlsOf(const CommandLine& line) {
-    return line.command == CommandLine::Command::Stop ? QList<QUrl>{QUrl(QStringLiteral("TaviRecordStop:"))}
-                                                      : line.urls;
-}
-
 /// How the window is painted, unless the environment says otherwise. Before the application is made.
 void choosePainting() {
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) {
@@ -200,14 +182,15 @@ void connectWindow(QQuickWindow* window, Screens& screens) {
 
 }  // namespace
 
-int runProgram(int& argc, char** argv, const CommandLine& line, const AppContainer& container) {
+int runProgram(int& argc, char** argv, const ProgramRequest& request, const QString& busName,
+               const AppContainer& container) {
     choosePainting();
     QGuiApplication application(argc, argv);
     describe(application);
     const TerminationSignals signals([](int) { QCoreApplication::quit(); });
-    Platform platform(container, busNameForContainer(line.container));
+    Platform platform(container, busName);
     Screens screens(platform);
-    screens.delegate.applicationDidFinishLaunching(launchOptionsOf(line));
+    screens.delegate.applicationDidFinishLaunching({request.shortcutType});
     QQmlApplicationEngine engine;
     QQuickWindow* window = loadWindow(engine, screens);
     if (window == nullptr) {
@@ -216,7 +199,7 @@ int runProgram(int& argc, char** argv, const CommandLine& line, const AppContain
     connectWindow(window, screens);
     platform.application.setDelegate(&screens.delegate);
     platform.application.setWindow(window);
-    for (const QUrl& url : urlsOf(line)) {
+    for (const QUrl& url : request.urls) {
         screens.delegate.applicationOpenURL(url);
     }
     platform.application.launchFinished();

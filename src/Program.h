@@ -6,6 +6,7 @@
 namespace tavi {
 
 /// The program with its window, until it is closed; returns the exit code. Nobody else may use the container.
-int runProgram(int& argc, char** argv, const CommandLine& line, const AppContainer& container);
+int runProgram(int& argc, char** argv, const ProgramRequest& request, const QString& busName,
+               const AppContainer& container);
 
 }  // namespace tavi

@@ -5,13 +5,16 @@
 #include <cstdio>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
-#include "Headless.h"
 #include "Output.h"
 #include "Program.h"
+#include "SettingsFiles.h"
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtAppContainer.h"
+#include "adapters/qt/QtRunLoop.h"
+#include "adapters/quick/QuickDisplayRefreshes.h"
 #include "app/cli/CommandLine.h"
 
 namespace tavi {
@@ -38,55 +41,68 @@ void installTrace() {
     });
 }
 
-/// What the running program is asked to do in place of this start.
-ActivationRequest requestOf(const CommandLine& line) {
-    switch (line.command) {
-        case CommandLine::Command::Record:
-            return {ActivationRequest::Kind::Action, {}, QStringLiteral("record")};
-        case CommandLine::Command::Stop:
-            return {ActivationRequest::Kind::Action, {}, QStringLiteral("stop")};
-        case CommandLine::Command::Library:
-            return {ActivationRequest::Kind::Action, {}, QStringLiteral("library")};
-        case CommandLine::Command::Url:
-            return {ActivationRequest::Kind::Open, QUrl::toStringList(line.urls), {}};
-        default:
-            return {};
+ActivationRequest activationOf(const ProgramRequest& request) {
+    using Kind = ActivationRequest::Kind;
+    if (!request.urls.isEmpty()) {
+        return {.kind = Kind::Open, .uris = QUrl::toStringList(request.urls), .action = {}};
     }
+    return {.kind = request.shortcutType.isEmpty() ? Kind::Activate : Kind::Action,
+            .uris = {},
+            .action = request.shortcutType};
 }
 
 /// Hands the request to the instance that holds the lock.
-int runBesideOther(int& argc, char** argv, const CommandLine& line, const Error& lockError) {
+int runBesideOther(int& argc, char** argv, const ProgramRequest& request, const QString& busName,
+                   const Error& lockError) {
     const QCoreApplication application(argc, argv);
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         return reportFailure({lockError.text + QStringLiteral(" Without a session bus it cannot be told.")});
     }
-    const auto handed = handOver(bus, busNameForContainer(line.container), requestOf(line));
+    const auto handed = handOver(bus, busName, activationOf(request));
     return handed ? EXIT_SUCCESS : reportFailure(handed.error());
 }
 
+/// Does without the window what prints and ends.
+int runPrinting(int& argc, char** argv, const PrintingCommand& command, const AppContainer& container) {
+    const QCoreApplication application(argc, argv);
+    SettingsFiles settings(container);
+    MediaLibrary media;
+    QtRunLoop runLoop;
+    QuickDisplayRefreshes refreshes;
+    const auto text = command({.container = container,
+                               .suites = {.standard = settings.standard, .shared = settings.shared},
+                               .runLoop = runLoop,
+                               .durations = media,
+                               .files = media,
+                               .converters = media,
+                               .exports = media,
+                               .refreshes = refreshes});
+    return text ? print(*text) : reportFailure(text.error());
+}
+
 int run(int& argc, char** argv) {
-    const QList<QByteArray> arguments(argv + 1, argv + argc);
-    const auto line = parseCommandLine(arguments);
+    const auto line = parseCommandLine({argv + 1, argv + argc});
     if (!line) {
         return reportFailure(line.error(), kUsageExitCode);
     }
-    using Command = CommandLine::Command;
-    if (line->command == Command::Help || line->command == Command::Version) {
-        return print((line->command == Command::Help ? helpText() : versionText()).toUtf8());
+    if (const auto* text = std::get_if<QByteArray>(&line->command)) {
+        return print(*text);
     }
     const auto container = QtAppContainer::create(line->container);
     if (!container) {
         return reportFailure(container.error());
     }
-    if (isHeadless(line->command)) {
-        return runHeadless(argc, argv, *line, **container);
+    if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
+        return runPrinting(argc, argv, *command, **container);
     }
+    const auto& request = std::get<ProgramRequest>(line->command);
+    const QString busName = busNameForContainer(line->container);
     const auto lock = InstanceLock::take((*container)->cachesPath());
     if (!lock) {
-        return runBesideOther(argc, argv, *line, lock.error());
+        return runBesideOther(argc, argv, request, busName, lock.error());
     }
-    return runProgram(argc, argv, *line, **container);
+    return runProgram(argc, argv, request, busName, **container);
 }
 
 }  // namespace

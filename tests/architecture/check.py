@@ -18,7 +18,8 @@ MODULES = {
     "sound": ["files"],
     "API/AudioTrimmerController/EZAudio": [],
     "app/settings": [],
-    "app/cli": [],
+    "app/cli": [
+        "library", "trimming", "trimming/waves", "trimming/waves/qml", "API/AudioTrimmerController/EZAudio", "app/settings", "files"],
     "library/utility": ["files"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": [],

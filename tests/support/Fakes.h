@@ -30,11 +30,12 @@ public:
     void removeObjectForKey(const QString& key) override { m_values.remove(key); }
     bool synchronize() override {
         writes.append(QStringLiteral("synchronize"));
-        return true;
+        return canWrite;
     }
 
     /// Keys written, and "synchronize" where that was called.
     QStringList writes;
+    bool canWrite = true;
 
 private:
     QMap<QString, QVariant> m_values;

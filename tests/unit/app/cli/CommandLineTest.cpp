@@ -2,94 +2,107 @@
 
 #include <gmock/gmock.h>
 
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+
 namespace tavi::test {
 
 namespace {
 
-using Command = CommandLine::Command;
-
-QList<QByteArray> words(const char* line) {
-    QList<QByteArray> words = QByteArray(line).split('|');
-    words.removeAll(QByteArray());
-    return words;
+/// Words of a command line are divided by "|".
+QList<QByteArray> words(const QByteArray& line) {
+    return line.isEmpty() ? QList<QByteArray>() : line.split('|');
 }
 
-TEST(CommandLine, UnderstandsEveryCommand) {
-    struct Case {
-        const char* arguments;
-        Command command;
-        const char* container = "";
-        const char* key = "";
-        const char* value = "";
-        const char* urls = "";
-        bool json = false;
-    };
-    const Case cases[] = {
-        {"", Command::Open},
-        {"--container|/tmp/a b", Command::Open, "/tmp/a b"},
-        {"--container=dir|record", Command::Record, "dir"},
-        {"--|library", Command::Library},
-        {"list|--json", Command::List, "", "", "", "", true},
-        {"get|AudioFileType", Command::Get, "", "AudioFileType"},
-        {"set|RewindSong|-5", Command::Set, "", "RewindSong", "-5"},
-        {"set|note|--help", Command::Set, "", "note", "--help"},
-        {"taviRECORDstop://x?y=1|TaviliteConnect://", Command::Url, "", "", "",
-         "tavirecordstop://x?y=1 taviliteconnect://"},
-        {"--help", Command::Help},
-        {"--container|d|--version|nonsense", Command::Version, "d"},
-    };
-    for (const Case& test : cases) {
-        SCOPED_TRACE(test.arguments);
-        const auto line = parseCommandLine(words(test.arguments));
-        ASSERT_TRUE(line.has_value()) << qPrintable(line.error().text);
-        EXPECT_EQ(line->command, test.command);
-        EXPECT_EQ(line->container, QLatin1String(test.container));
-        EXPECT_EQ(line->key, QLatin1String(test.key));
-        EXPECT_EQ(line->value, QLatin1String(test.value));
-        EXPECT_EQ(QUrl::toStringList(line->urls).join(QLatin1Char(' ')), QLatin1String(test.urls));
-        EXPECT_EQ(line->json, test.json);
+/// What stands for the line: "[container] " where there is one, and the quick action and URLs that the program is asked
+/// for, the text that is printed, "prints" for a command that prints, or "! " and what is wrong.
+std::string meaning(const char* line) {
+    const auto parsed = parseCommandLine(words(line));
+    if (!parsed) {
+        return "! " + parsed.error().text.toStdString();
     }
-    EXPECT_EQ(parseCommandLine({"set", "k", ""})->value, QString());
+    const std::string where = parsed->container.isEmpty() ? "" : "[" + parsed->container.toStdString() + "] ";
+    if (const auto* request = std::get_if<ProgramRequest>(&parsed->command)) {
+        const QStringList asked = QStringList{request->shortcutType} + QUrl::toStringList(request->urls);
+        return where + asked.join(QLatin1Char(' ')).trimmed().toStdString();
+    }
+    const auto* text = std::get_if<QByteArray>(&parsed->command);
+    return where + (text != nullptr ? text->toStdString() : "prints");
 }
 
-TEST(CommandLine, ReadsWhatIsDoneWithAFile) {
-    const auto wave = parseCommandLine(words("--container|d|waveform|--points|7|a\xff b.wav|--png|out.png"));
-    ASSERT_TRUE(wave.has_value());
-    EXPECT_EQ(wave->command, Command::Waveform);
-    EXPECT_EQ(wave->file, "a\xff b.wav");
-    EXPECT_EQ(wave->output, "out.png");
-    EXPECT_EQ(wave->points, 7);
-    const auto trim = parseCommandLine(words("trim|--to|2.5|--from|0.25|--|-x.m4a"));
-    ASSERT_TRUE(trim.has_value());
-    EXPECT_EQ(trim->file, "-x.m4a");
-    EXPECT_EQ(trim->from, 0.25);
-    EXPECT_EQ(trim->to, 2.5);
+QString helpOf(const char* line) {
+    return QString::fromStdString(meaning(line));
 }
 
-TEST(CommandLine, SaysWhatIsWrong) {
+QStringList allMatches(const QString& text, const char* expression) {
+    QStringList found;
+    const QRegularExpression pattern(QString::fromLatin1(expression), QRegularExpression::MultilineOption);
+    for (auto match = pattern.globalMatch(text); match.hasNext();) {
+        found.append(match.next().captured(1));
+    }
+    return found;
+}
+
+TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
     const std::pair<const char*, const char*> cases[] = {
-        {"--container", "--container needs a folder"},
-        {"--container=", "--container needs a folder"},
-        {"record|now", "“record” does not take “now”"},
-        {"set|key", "“set” needs the key of a setting and its value"},
-        {"waveform|a|--from|1", "“waveform” does not take “--from”"},
-        {"waveform|a|--points|0", "--points needs a number from 1 to 8192, not “0”"},
-        {"waveform|a|--json|--png|b", "“waveform” prints or draws, not both"},
-        {"trim|a|--from|1", "“trim” needs --from and --to"},
-        {"trim|a|--from|x|--to|2", "--from needs a number from 0 to 1e+09, not “x”"},
-        {"trim|a|--from|1|--to", "--to needs a value"},
-        {"music/a.wav", "files cannot be imported from the command line: “music/a.wav”"},
-        {"https://example.org/", "the scheme of “https://example.org/” is not one that the recorder opens"},
-        {"TaviRecordStop:|stop", "unknown command “stop”"},
-        {"TaviRecordStop://[", "“TaviRecordStop://[” is not a valid URL"},
+        {"", ""},
+        {"--container|/tmp/a b", "[/tmp/a b] "},
+        {"--container=dir|record", "[dir] Record"},
+        {"stop", "tavirecordstop:"},
+        {"library", "Recordings"},
+        {"taviRECORDstop://x?y=1|TaviliteConnect://", "tavirecordstop://x?y=1 taviliteconnect://"},
+        {"--container|d|--version|nonsense", "tavi " TAVI_VERSION "\n"},
+        {"list|--json", "prints"},
+        {"waveform|--points|8192|--|--x=", "prints"},
+        {"trim|record|--from|0|--to|1e9", "prints"},
+
+        {"--container", "! --container: 1 required DIR missing"},
+        {"--container=|record", "! --container= needs a value"},
+        {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
+        {"record|now", "! The following argument was not expected: now"},
+        {"--fast", "! The following argument was not expected: --fast"},
+        {"get", "! KEY is required"},
+        {"set|key", "! VALUE is required"},
+        {"waveform|--json", "! FILE is required"},
+        {"waveform|a|--from|1", "! The following arguments were not expected: 1 --from"},
+        {"waveform|a|--points|0", "! --points: Value 0 not in range 1 to 8192"},
+        {"waveform|a|--points|8193", "! --points: Value 8193 not in range 1 to 8192"},
+        {"waveform|a|--points|7.5", "! --points: Value 7.5 not in range 1 to 8192"},
+        {"waveform|a|--json|--png|b", "! --json excludes --png"},
+        {"trim|a|--from|1", "! --to is required"},
+        {"trim|a|--from|x|--to|2", "! --from: “x” is no number of seconds"},
+        {"trim|a|--from|0|--to|nan", "! --to: “nan” is no number of seconds"},
+        {"trim|a|--from|-1|--to|1", "! --from: “-1” is no number of seconds"},
+        {"trim|a|--from|1|--to", "! --to: 1 required SECONDS missing"},
+        {"fly", "! unknown command “fly”"},
+        {"Record", "! unknown command “Record”"},
+        {"music/a.wav", "! files cannot be imported from the command line: “music/a.wav”"},
+        {"https://example.org/", "! the scheme of “https://example.org/” is not one that the recorder opens"},
+        {"TaviRecordStop:|stop", "! URLs and commands do not go together"},
+        {"TaviRecordStop://[", "! “TaviRecordStop://[” is not a valid URL"},
     };
-    for (const auto& [arguments, error] : cases) {
-        SCOPED_TRACE(arguments);
-        const auto line = parseCommandLine(words(arguments));
-        ASSERT_FALSE(line.has_value());
-        EXPECT_EQ(line.error().text.toStdString(), error);
+    for (const auto& [line, expected] : cases) {
+        EXPECT_EQ(meaning(line), expected) << line;
     }
-    EXPECT_FALSE(parseCommandLine({"get", ""}).has_value());
+}
+
+TEST(CommandLine, HelpAndManualPageTellTheSame) {
+    QFile file(QStringLiteral(TAVI_MANUAL));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString manual = QString::fromUtf8(file.readAll()).remove(QLatin1Char('\\'));
+    const QString help = helpOf("--help");
+    const QStringList commands = allMatches(help.section(QLatin1String("\nCommands"), 1), "^  ([a-z]+)  ");
+    ASSERT_EQ(commands.size(), 8);
+    const QString described = manual.section(QLatin1String(".SS"), 1).section(QLatin1String(".SH"), 0, 0);
+    EXPECT_EQ(allMatches(described, "^\\.TP\n\\.BR?I? \"?([a-z]+)"), commands);
+    for (const QString& command : commands) {
+        QStringList options = allMatches(helpOf((command + QLatin1String("|--help")).toUtf8()), "(--[a-z]+)");
+        options.removeAll(QLatin1String("--help"));
+        const QString from = described.section(QRegularExpression(QStringLiteral("\\.BR?I? ") + command), 1);
+        const QStringList told = allMatches(from.section(QLatin1String(".TP"), 0, 0), "(--[a-z]+)");
+        EXPECT_EQ(QSet(told.begin(), told.end()), QSet(options.begin(), options.end())) << qPrintable(command);
+    }
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
-#include "app/Commands.h"
+#include "app/cli/SettingTexts.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <array>
 #include <optional>
 
@@ -120,32 +117,6 @@ Result<void> writeSetting(const Suites& suites, const QString& key, const QStrin
         return failure(QStringLiteral("the settings cannot be written"));
     }
     return {};
-}
-
-QByteArray recordingsText(const std::vector<RecordingEntry>& recordings, bool json) {
-    if (json) {
-        QJsonArray array;
-        for (const RecordingEntry& entry : recordings) {
-            QJsonObject object;
-            for (const QLatin1String key : {entrykey::kFilename, entrykey::kSize, entrykey::kFilesize,
-                                            entrykey::kModdate, entrykey::kExtension, entrykey::kDuration}) {
-                object.insert(key, entry.value(key));
-            }
-            array.append(object);
-        }
-        return QJsonDocument(array).toJson();
-    }
-    QByteArray text;
-    for (const RecordingEntry& entry : recordings) {
-        QString name = entry.value(entrykey::kFilename);
-        for (QChar& character : name) {
-            character = character.category() == QChar::Other_Control ? QLatin1Char('?') : character;
-        }
-        const QStringList parts{name, entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
-                                entry.value(entrykey::kModdate)};
-        text += parts.join(QLatin1Char('\t')).toUtf8() + '\n';
-    }
-    return text;
 }
 
 }  // namespace tavi

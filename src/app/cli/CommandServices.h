@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/settings/SettingsStore.h"
+#include "platform/AppContainer.h"
+#include "platform/AssetExportSession.h"
+#include "platform/AudioConverter.h"
+#include "platform/AudioDuration.h"
+#include "platform/DisplayRefresh.h"
+#include "platform/ExtAudioFile.h"
+#include "platform/RunLoop.h"
+#include "platform/UserDefaults.h"
+
+namespace tavi {
+
+/// The two suites of settings, as the command line sees them.
+struct Suites {
+    UserDefaults& standard;
+    /// Of the application group.
+    UserDefaults& shared;
+
+    /// The settings as the program finds them after its first launch, which this may be: a value that is set before it
+    /// would be lost to the launch otherwise.
+    SettingsStore launched() const {
+        SettingsStore store(standard);
+        store.writeFirstLaunchValues();
+        store.writeSortIfAbsent();
+        return store;
+    }
+};
+
+/// What the commands that print and end work with. All of it outlives the command.
+struct CommandServices {
+    const AppContainer& container;
+    Suites suites;
+    RunLoop& runLoop;
+    const AudioDuration& durations;
+    ExtAudioFiles& files;
+    AudioConverters& converters;
+    AssetExportSessions& exports;
+    DisplayRefreshes& refreshes;
+};
+
+}  // namespace tavi

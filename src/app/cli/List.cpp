@@ -1,0 +1,53 @@
+#include "app/cli/List.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "library/RecordingLister.h"
+#include "library/RecordingOrder.h"
+
+namespace tavi {
+
+namespace {
+
+QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
+    QJsonArray array;
+    for (const RecordingEntry& entry : recordings) {
+        QJsonObject object;
+        for (const QLatin1String key : {entrykey::kFilename, entrykey::kSize, entrykey::kFilesize, entrykey::kModdate,
+                                        entrykey::kExtension, entrykey::kDuration}) {
+            object.insert(key, entry.value(key));
+        }
+        array.append(object);
+    }
+    return QJsonDocument(array).toJson();
+}
+
+/// A line a recording. Control characters in a name show as "?", so that none can look like another line.
+QByteArray recordingsText(const std::vector<RecordingEntry>& recordings) {
+    QByteArray text;
+    for (const RecordingEntry& entry : recordings) {
+        QString name = entry.value(entrykey::kFilename);
+        for (QChar& character : name) {
+            character = character.category() == QChar::Other_Control ? QLatin1Char('?') : character;
+        }
+        const QStringList parts{name, entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
+                                entry.value(entrykey::kModdate)};
+        text += parts.join(QLatin1Char('\t')).toUtf8() + '\n';
+    }
+    return text;
+}
+
+}  // namespace
+
+Result<QByteArray> run(const ListOptions& options, const CommandServices& services) {
+    RecordingLister lister(services.durations, services.runLoop);
+    auto recordings =
+        lister.list(QFile::encodeName(services.container.documentsPath()), RecordingLister::Lengths::Measured);
+    sortRecordings(recordings, services.suites.launched().sort());
+    return options.json ? recordingsJson(recordings) : recordingsText(recordings);
+}
+
+}  // namespace tavi

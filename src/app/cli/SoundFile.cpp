@@ -1,0 +1,39 @@
+#include "app/cli/SoundFile.h"
+
+#include <QFile>
+
+namespace tavi {
+
+namespace {
+
+QString openErrorText(AudioStatus status) {
+    switch (status) {
+        case kAudioFileFileNotFoundError:
+            return QStringLiteral("there is no such file");
+        case kAudioFilePermissionsError:
+            return QStringLiteral("it may not be read");
+        case kAudioFileUnsupportedFileTypeError:
+        case kAudioFileUnsupportedDataFormatError:
+            return QStringLiteral("it is no sound file that can be read");
+        case kAudioFileInvalidFileError:
+            return QStringLiteral("it is damaged");
+        default:
+            return QStringLiteral("it cannot be read");
+    }
+}
+
+}  // namespace
+
+tl::unexpected<Error> failureOf(const std::string& path, const QString& why) {
+    return failure(QFile::decodeName(QByteArray::fromStdString(path)) + QStringLiteral(": ") + why);
+}
+
+Result<void> checkSoundFile(const std::string& path, ExtAudioFiles& files) {
+    std::unique_ptr<ExtAudioFile> file;
+    if (const AudioStatus status = files.open(path, file); status != kAudioNoError) {
+        return failureOf(path, openErrorText(status));
+    }
+    return {};
+}
+
+}  // namespace tavi

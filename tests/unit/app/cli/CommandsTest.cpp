@@ -1,0 +1,173 @@
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "app/cli/CommandLine.h"
+#include "library/RecordingEntry.h"
+#include "support/FakeServices.h"
+
+namespace tavi::test {
+
+namespace {
+
+/// Words of a command line divided by "|", and what the command then prints, or "! " and why it fails.
+struct Said {
+    const char* words;
+    std::string printed;
+};
+
+class CommandsTest : public ::testing::Test, protected FakeServices {
+protected:
+    std::string tavi(const QByteArray& words) {
+        const auto line = parseCommandLine(words.split('|'));
+        const auto printed = line.and_then([this](const CommandLine& parsed) {
+            return std::get<PrintingCommand>(parsed.command)({.container = container,
+                                                              .suites = {.standard = defaults, .shared = shared},
+                                                              .runLoop = runLoop,
+                                                              .durations = durations,
+                                                              .files = files,
+                                                              .converters = converters,
+                                                              .exports = assets,
+                                                              .refreshes = refreshes});
+        });
+        return printed ? printed->toStdString() : "! " + printed.error().text.toStdString();
+    }
+
+    /// One after the other: what a command leaves behind is there for the next.
+    void expectSaid(const std::vector<Said>& dialogue) {
+        for (const Said& said : dialogue) {
+            EXPECT_EQ(tavi(said.words), said.printed) << said.words;
+        }
+    }
+
+    /// A sound file, for whoever opens it: the samples at 10 Hz.
+    std::string addSound(const QString& name, const std::vector<std::vector<float>>& planes) {
+        const QByteArray path = QFile::encodeName(container.addDocument(name, "sound"));
+        const auto sound = std::make_shared<FakeSound>();
+        sound->rate = 10.0;
+        sound->planes = planes;
+        files.sounds[path.toStdString()] = sound;
+        const auto frames = static_cast<std::int64_t>(planes.empty() ? 0 : planes[0].size());
+        assets.files[QFile::encodeName(name)] = {{frames, 10}, 2, {}};
+        return path.toStdString();
+    }
+
+    FakeUserDefaults shared;
+};
+
+}  // namespace
+
+TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
+    const std::string noSeconds = " is a number of seconds from 0 to 60, not “";
+    expectSaid({{"get|AudioFileType", "m4a\n"},
+                {"set|AudioFileType|caf", ""},
+                {"set|AudioFileType|CAF", "! AudioFileType is m4a, wav, aac, mp4 or caf, not “CAF”"},
+                {"get|AudioFileType", "caf\n"},
+                {"get|QuickMail", "true\n"},
+                {"set|QuickMail|NO", ""},
+                {"get|QuickMail", "false\n"},
+                {"set|QuickMail|Yes", ""},
+                {"set|QuickMail|maybe", "! QuickMail is true or false, not “maybe”"},
+                {"get|QuickMail", "true\n"},
+                {"set|AudioQualityType|Größe|", "! The following argument was not expected: "},
+                {"set|AudioQualityType|Größe", ""},
+                {"get|AudioQualityType", "Größe\n"},
+                {"get|Sort", "1\n"},
+                {"set|Sort|6", ""},
+                {"set|Sort|7", "! Sort is a number from 0 to 6, not “7”"},
+                {"set|Sort|-1", "! Sort is a number from 0 to 6, not “-1”"},
+                {"set|Sort|2x", "! Sort is a number from 0 to 6, not “2x”"},
+                {"get|Sort", "6\n"},
+                {"set|Sort|0", ""},
+                {"get|Sort", "0\n"},
+                {"get|ForwardSong", "! ForwardSong has no value"},
+                {"set|ForwardSong|60", ""},
+                {"set|ForwardSong|60.5", "! ForwardSong" + noSeconds + "60.5”"},
+                {"get|ForwardSong", "60\n"},
+                {"set|RewindSong|7.5", ""},
+                {"set|RewindSong|-1", "! RewindSong" + noSeconds + "-1”"},
+                {"set|RewindSong|nan", "! RewindSong" + noSeconds + "nan”"},
+                {"get|RewindSong", "7.5\n"},
+                {"set|ThemeColor|list", ""},
+                {"get|ThemeColor", "list\n"},
+                {"set|ThemeColor|", ""},
+                {"get|ThemeColor", "\n"},
+                {"set|AppStart|1", ""},
+                {"get|quickmail", "! “quickmail” is not a setting"},
+                {"set||x", "! “” is not a setting"}});
+    EXPECT_TRUE(shared.boolForKey(settingskey::kAppStart));
+    EXPECT_FALSE(defaults.objectForKey(settingskey::kAppStart).isValid());
+    EXPECT_EQ(shared.writes.last(), QStringLiteral("synchronize"));
+    defaults.canWrite = false;
+    expectSaid({{"set|Sort|2", "! the settings cannot be written"}});
+}
+
+TEST_F(CommandsTest, ListsTheRecordingsInTheOrderThatIsSet) {
+    container.addDocument(QStringLiteral("b.wav"), QByteArray(2048, 'x'));
+    container.addDocument(QStringLiteral("a\nc\t\x1b.m4a"), QByteArray(3 << 20, 'x'));
+    for (const QString& name : QDir(container.documentsPath()).entryList(QDir::Files)) {
+        QFile file(container.documentsPath() + QLatin1Char('/') + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) &&
+                    file.setFileTime(runLoop.clock().now(), QFileDevice::FileModificationTime));
+    }
+    durations.seconds[QStringLiteral("b.wav")] = 3725.0;
+    const std::string a = "a?c??.m4a\t3.0 MB\t00:00\t05 Mar,2024 | 02:03 PM\n";
+    const std::string b = "b.wav\t2 KB\t62:05\t05 Mar,2024 | 02:03 PM\n";
+    expectSaid({{"list", b + a}, {"set|Sort|2", ""}, {"list", a + b}});
+    const QJsonArray array = QJsonDocument::fromJson(QByteArray::fromStdString(tavi("list|--json"))).array();
+    ASSERT_EQ(array.size(), 2);
+    EXPECT_EQ(array[0][entrykey::kFilename].toString(), QStringLiteral("a\nc\t\x1b.m4a"));
+    EXPECT_EQ(QJsonDocument(array[1].toObject()).toJson(QJsonDocument::Compact),
+              R"({"duration":"62:05","extension":"wav","filename":"b.wav","filesize":"2 KB","moddate":"05 Mar,2024 | )"
+              R"(02:03 PM","size":"0.001953"})");
+}
+
+TEST_F(CommandsTest, PrintsOrDrawsAWaveform) {
+    const std::string file = addSound(QStringLiteral("a b.wav"), {{0.5F, 0.5F, 0.25F, 0.25F}, {0, 0, 1, 1}});
+    const QByteArray wave = "waveform|" + QByteArray::fromStdString(file) + "|--points|2";
+    expectSaid({{wave, "0.5\t0\n0.25\t1\n"},
+                {wave + "|--json", "{\"channels\":2,\"points\":2,\"data\":[[0.5,0.25],[0,1]]}\n"}});
+    const QByteArray picture = QFile::encodeName(container.root()) + "/wave.png";
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(tavi(wave + "|--png|" + picture), "");
+        QFile drawn(QFile::decodeName(picture));
+        ASSERT_TRUE(drawn.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(drawn.readAll().startsWith("\x89PNG"));
+    }
+    EXPECT_THAT(tavi(wave + "|--png|" + picture + "/x"), ::testing::StartsWith("! " + picture.toStdString() + "/x: "));
+    EXPECT_THAT(tavi(wave + "|--png|\xff.png"), ::testing::EndsWith("a picture's name must be text"));
+}
+
+TEST_F(CommandsTest, SaysWhyASoundFileCannotBeUsed) {
+    const QByteArray noSound = QByteArray::fromStdString(addSound(QStringLiteral("text"), {}));
+    const QByteArray empty = QByteArray::fromStdString(addSound(QStringLiteral("empty"), {{}}));
+    for (const QByteArray& command : {QByteArray("waveform|"), QByteArray("trim|--from|0|--to|1|")}) {
+        EXPECT_EQ(tavi(command + "/absent"), "! /absent: there is no such file");
+        EXPECT_EQ(tavi(command + noSound), "! " + noSound.toStdString() + ": it is no sound file that can be read");
+    }
+    EXPECT_EQ(tavi("waveform|" + empty), "! " + empty.toStdString() + ": it holds no sound");
+    files.failingOpens = 1;
+    EXPECT_EQ(tavi("waveform|" + empty), "! " + empty.toStdString() + ": it may not be read");
+}
+
+TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
+    const QByteArray file = QByteArray::fromStdString(addSound(QStringLiteral("talk.WAV"), {std::vector(50, 0.5F)}));
+    const QByteArray folder = QFile::encodeName(container.documentsPath());
+    const std::string first = (folder + "/Trim_2024_Mar_05_14_03_59").toStdString();
+    const std::string why = "! " + file.toStdString() + ": ";
+    expectSaid({{"trim|" + file + "|--from|0.5|--to|2", first + ".WAV\n"},
+                {"trim|--from=4.5|--to=1e9|" + file, first + "_2.WAV\n"},
+                {"trim|" + file + "|--from|1|--to|2|--out|" + file, why + "File exists"},
+                {"trim|" + file + "|--from|2|--to|2", why + "--to must be later than --from"},
+                {"trim|" + file + "|--from|5|--to|6", why + "it is only 5 s long"}});
+    const FakeAssetExportSession::State& made = *assets.sessions.at(0);
+    EXPECT_EQ(made.outputFileType, AssetFileType::Wave);
+    EXPECT_EQ(made.timeRange->start.seconds(), 0.5);
+    EXPECT_EQ(made.timeRange->duration.seconds(), 1.5);
+    EXPECT_EQ(assets.sessions.size(), 3U);
+}
+
+}  // namespace tavi::test
