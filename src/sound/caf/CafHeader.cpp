@@ -6,6 +6,7 @@
 #include "files/PositionedIo.h"
 #include "platform/AudioTypes.h"
 #include "sound/io/Bytes.h"
+#include "sound/io/SampleRate.h"
 
 namespace tavi {
 
@@ -86,7 +87,7 @@ std::optional<CafHeader> readCafHeader(int fd) {
         }
         return true;
     });
-    if (!isCaf || !hasData || !(header.sampleRate >= 1 && header.sampleRate <= 1e6)) {
+    if (!isCaf || !hasData || !isSampleRate(header.sampleRate)) {
         return std::nullopt;
     }
     const std::int64_t there = framesThere(header);

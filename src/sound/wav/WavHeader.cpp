@@ -6,6 +6,7 @@
 #include "platform/AudioTypes.h"
 #include "sound/io/Bytes.h"
 #include "sound/io/FileWindow.h"
+#include "sound/io/SampleRate.h"
 
 namespace tavi {
 
@@ -74,7 +75,8 @@ std::optional<WavHeader> readWavHeader(int fd) {
             length = isOpen ? there : std::min(length == kNoLength ? longDataBytes : length, there);
             header.dataOffset = offset + 8;
             header.frames = header.frameBytes > 0 ? static_cast<std::int64_t>(length / header.frameBytes) : 0;
-            return isLinear && header.sampleRate > 0 && header.frameBytes > 0 ? std::optional(header) : std::nullopt;
+            return isLinear && isSampleRate(header.sampleRate) && header.frameBytes > 0 ? std::optional(header)
+                                                                                        : std::nullopt;
         }
         offset += 8 + static_cast<std::int64_t>(length + (length & 1));
     }

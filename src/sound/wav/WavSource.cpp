@@ -31,7 +31,7 @@ AudioStreamBasicDescription describe(const WavHeader& header) {
 
 std::unique_ptr<WavSource> WavSource::open(FileDescriptor& file) {
     const auto header = readWavHeader(file.get());
-    if (!header || header->channels < 1 || header->channels > kMaximumChannels || header->sampleRate > 768000) {
+    if (!header || header->channels < 1 || header->channels > kMaximumChannels) {
         return nullptr;
     }
     const AudioStreamBasicDescription format = describe(*header);

@@ -51,6 +51,7 @@ TEST_F(PacketsTest, WhatIsUnusualOrDamagedIsLeftToLibavformat) {
         {"an empty packet", changed("stsz", 20, number(0))},
         {"packets without duration", changed("stts", 16, number(0))},
         {"a chunk behind the end", changed("co64", 16, number(0x7fffff00))},
+        {"packets of a minute", changed("stts", 16, number(960000))},
         {"another codec", changed("esds", 0, "none")},
         {"a table that is unknown", changed("stts", 0, "ctts")},
     };

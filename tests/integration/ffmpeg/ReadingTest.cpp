@@ -145,7 +145,7 @@ TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
                     EXPECT_LT(errorOf(path, type.priming), isAac || type.formatID == kAudioFormatLinearPCM ? -25 : -20);
                 }
                 // Some of what is interrupted has not been written yet.
-                const auto written = static_cast<std::int64_t>(std::llround(kFrames * quality.rate / 48000));
+                const std::int64_t written = storedFrames(type, quality, std::llround(kFrames * quality.rate / 48000));
                 EXPECT_GE(length, isFinished ? written + type.priming : written / 3);
                 const int tail = type.packet == 1024 && type.priming == 0 ? 1 : type.packet;
                 EXPECT_LT(length, written + type.priming + tail);
@@ -302,6 +302,26 @@ TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
     EXPECT_EQ(open(secret).status, ::geteuid() == 0 ? kAudioNoError : kAudioFilePermissionsError);
     for (const QByteArray& bytes : {wav(1, 8000, 0), wav(1, 8000, 0).left(40), wav(0, 8000, 10), wav(2, 0, 10)}) {
         EXPECT_EQ(open(file(QStringLiteral("none.wav"), bytes)).length, 0);
+    }
+}
+
+TEST_F(ReadingTest, RatesThatNoRecorderHasAreRefused) {
+    // A megabyte of one sample a second would be weeks of sound, and hours of work.
+    const std::pair<QByteArray, QByteArray> changes[] = {
+        {QByteArray("\0\0\xac\x44", 4), QByteArray("\0\0\0\1", 4)},
+        {QByteArray("\x44\xac\0\0", 4), QByteArray("\1\0\0\0", 4)},
+        {QByteArray("\x40\xe5\x88\x80\0", 5), QByteArray("\x3f\xf0\0\0\0", 5)},
+    };
+    const auto pathOf = [this](const Type& type) { return record(type, kQualities[2], tone(kStereo, kFrames)); };
+    const QString wav = pathOf(kTypes[1]);
+    const QString au = converted(wav, QStringLiteral("a.au"), "-c:a pcm_s16be");
+    for (const QString& path : {wav, pathOf(kTypes[0]), pathOf(kTypes[2]), au}) {
+        QByteArray bytes = contents(path);
+        for (const auto& [rate, one] : changes) {
+            bytes.replace(rate, one);
+        }
+        const Opened slow = open(file(QStringLiteral("slow"), bytes));
+        EXPECT_EQ(slow.status, kAudioFileUnsupportedDataFormatError) << qPrintable(path);
     }
 }
 

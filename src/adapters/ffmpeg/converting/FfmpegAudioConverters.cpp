@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "sound/io/SampleRate.h"
+
 namespace tavi {
 
 namespace {
@@ -116,8 +118,8 @@ AudioStatus FfmpegAudioConverters::create(const AudioStreamBasicDescription& inp
 
 AudioStatus FfmpegAudioConverters::formatInfo(AudioStreamBasicDescription& format) const {
     av_log_set_level(AV_LOG_QUIET);
-    const bool isSane = format.sampleRate >= 1 && format.sampleRate <= 768000 && format.channelsPerFrame >= 1 &&
-                        format.channelsPerFrame <= kMaximumChannels;
+    const bool isSane =
+        isSampleRate(format.sampleRate) && format.channelsPerFrame >= 1 && format.channelsPerFrame <= kMaximumChannels;
     AudioStreamBasicDescription complete;
     complete.sampleRate = format.sampleRate;
     complete.formatID = format.formatID;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "sound/io/SampleRate.h"
+
 namespace tavi {
 
 namespace {
@@ -10,14 +12,13 @@ namespace {
 /// Small enough to stay in the processor's nearest memory on its way through the steps.
 constexpr std::size_t kChunkFrames = 2048;
 constexpr std::uint32_t kMaximumClientChannels = 8;
-constexpr double kMaximumRate = 768000;
 
 bool isPlanar(const AudioStreamBasicDescription& format) {
     return (format.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
 }
 
 bool isWholeRate(double rate) {
-    return rate >= 1 && rate <= kMaximumRate && rate == std::floor(rate);
+    return isSampleRate(rate) && rate == std::floor(rate);
 }
 
 }  // namespace

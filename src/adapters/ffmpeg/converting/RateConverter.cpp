@@ -9,19 +9,18 @@ extern "C" {
 #include <numeric>
 
 #include "adapters/ffmpeg/converting/ChannelMixer.h"
+#include "sound/io/SampleRate.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr int kMaximumRate = 768000;
 constexpr std::size_t kSkipFrames = 1024;
 
 }  // namespace
 
 std::optional<RateConverter> RateConverter::create(int from, int to, int channels) {
-    if (from < 1 || to < 1 || from > kMaximumRate || to > kMaximumRate || channels < 1 ||
-        channels > kMaximumMixChannels) {
+    if (!isSampleRate(from) || !isSampleRate(to) || channels < 1 || channels > kMaximumMixChannels) {
         return std::nullopt;
     }
     RateConverter converter;

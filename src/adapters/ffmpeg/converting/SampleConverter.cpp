@@ -9,10 +9,12 @@ extern "C" {
 #include <algorithm>
 #include <cmath>
 
+#include "sound/io/SampleRate.h"
+
 namespace tavi {
 
 Result<SampleConverter> SampleConverter::create(const AudioInputFormat& input, const RecordingFormat& output) {
-    if (input.channels < 1 || input.channels > 2 || input.sampleRate < 1000 || input.sampleRate > 768000) {
+    if (input.channels < 1 || input.channels > 2 || !isSampleRate(input.sampleRate)) {
         return failure(QStringLiteral("The microphone's sound has a shape that cannot be recorded."));
     }
     AVChannelLayout inputLayout = {};

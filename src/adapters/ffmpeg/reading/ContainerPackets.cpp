@@ -11,6 +11,7 @@ extern "C" {
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
 #include "sound/caf/CafHeader.h"
+#include "sound/io/SampleRate.h"
 
 namespace tavi {
 
@@ -45,7 +46,7 @@ AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& pa
     const std::int64_t rate = stream.codecpar->sample_rate;
     const AVRational base = stream.time_base;
     const std::int64_t channels = stream.codecpar->ch_layout.nb_channels;
-    if (rate <= 0 || base.num <= 0 || base.den <= 0 || channels > kMaximumChannels) {
+    if (!isSampleRate(static_cast<double>(rate)) || base.num <= 0 || base.den <= 0 || channels > kMaximumChannels) {
         return kAudioFileUnsupportedDataFormatError;
     }
     opened->m_hasExactTimes = opened->tellsExactTimes();

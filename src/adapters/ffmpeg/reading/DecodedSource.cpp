@@ -8,6 +8,7 @@
 #include "adapters/ffmpeg/reading/AdtsPackets.h"
 #include "adapters/ffmpeg/reading/ContainerPackets.h"
 #include "adapters/ffmpeg/reading/Mp4Packets.h"
+#include "sound/io/SampleRate.h"
 
 extern "C" {
 #include <libavutil/samplefmt.h>
@@ -18,7 +19,6 @@ namespace tavi {
 namespace {
 
 constexpr int kMaximumChannels = 64;
-constexpr int kMaximumRate = 768000;
 /// Longer than any file.
 constexpr std::int64_t kMaximumLength = std::int64_t{1} << 50;
 /// Seconds of silence that may stand for packets that cannot be decoded.
@@ -161,7 +161,7 @@ AudioStatus DecodedSource::start() {
     m_hasFrame = decode();
     m_rate = m_hasFrame ? m_frame->sample_rate : parameters.sample_rate;
     m_channels = m_hasFrame ? m_frame->ch_layout.nb_channels : parameters.ch_layout.nb_channels;
-    if (m_rate < 1 || m_rate > kMaximumRate || m_channels < 1 || m_channels > kMaximumChannels) {
+    if (!isSampleRate(m_rate) || m_channels < 1 || m_channels > kMaximumChannels) {
         return kAudioFileUnsupportedDataFormatError;
     }
     if (m_hasFrame && m_frame->pts != AV_NOPTS_VALUE) {

@@ -5,6 +5,7 @@
 #include "adapters/ffmpeg/reading/AvFile.h"
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
+#include "sound/io/SampleRate.h"
 
 namespace tavi {
 
@@ -12,7 +13,7 @@ namespace {
 
 double libraryDuration(int fd) {
     std::unique_ptr<AvFile> file;
-    if (AvFile::open(fd, file) != kAudioNoError || file->stream().codecpar->sample_rate <= 0) {
+    if (AvFile::open(fd, file) != kAudioNoError || !isSampleRate(file->stream().codecpar->sample_rate)) {
         return 0;
     }
     const AVStream* stream = &file->stream();

@@ -16,9 +16,9 @@ namespace {
 /// How much is read at once: little after a seek, more and more where one packet after the other is wanted.
 constexpr std::size_t kFirstWindowBytes = std::size_t{16} * 1024;
 constexpr std::size_t kWindowBytes = std::size_t{64} * 1024;
-/// Many times what a packet of these codecs can have, and what it can last.
+/// Many times what a packet of these codecs can have, in bytes and in frames.
 constexpr std::uint32_t kLargestPacket = 1 << 20;
-constexpr std::uint32_t kLongestPacket = 1 << 20;
+constexpr std::uint32_t kMostFrames = 1 << 20;
 /// The box with its header.
 constexpr std::size_t kLosslessConfigurationBytes = 36;
 
@@ -64,7 +64,7 @@ bool Mp4Packets::describe() {
     m_parameters->codec_type = AVMEDIA_TYPE_AUDIO;
     m_parameters->codec_id = isLossless ? AV_CODEC_ID_ALAC : AV_CODEC_ID_AAC;
     m_parameters->sample_rate = static_cast<int>(format->sampleRate);
-    m_parameters->frame_size = static_cast<int>(std::min(format->framesPerPacket, kLongestPacket));
+    m_parameters->frame_size = static_cast<int>(std::min(format->framesPerPacket, kMostFrames));
     av_channel_layout_default(&m_parameters->ch_layout, static_cast<int>(format->channelsPerFrame));
     return true;
 }
@@ -74,6 +74,9 @@ bool Mp4Packets::survey() {
     const std::int64_t size = regularFileSize(m_fd);
     const auto edited = m_sound.editedDuration();
     const std::int64_t heardEnd = edited ? m_sound.start() + *edited : std::numeric_limits<std::int64_t>::max();
+    // A short packet that says to last long would make hours of silence of a small file.
+    const std::int64_t frames = 2 * std::max(m_parameters->frame_size, 4096);
+    const std::int64_t longest = av_rescale(frames, m_sound.timeScale(), m_parameters->sample_rate);
     // A second for the decoder to hear before the start, as libavformat has it.
     m_first = tables.packetAt(std::max<std::int64_t>(0, m_sound.start() - m_sound.timeScale()));
     m_end = tables.packets();
@@ -86,7 +89,7 @@ bool Mp4Packets::survey() {
         const std::uint64_t index = place->packet - 1;
         bytes += packet.size;
         // Packets that share bytes could make a small file a long one.
-        if (packet.size == 0 || packet.size > kLargestPacket || packet.duration > kLongestPacket ||
+        if (packet.size == 0 || packet.size > kLargestPacket || packet.duration > longest ||
             packet.offset > size - packet.size || bytes > size) {
             return false;
         }
