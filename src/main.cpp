@@ -100,7 +100,8 @@ int run(int& argc, char** argv) {
     const QString busName = busNameForContainer(line->container);
     const auto lock = InstanceLock::take((*container)->cachesPath());
     if (!lock) {
-        return runBesideOther(argc, argv, request, busName, lock.error());
+        const auto& [isHeld, error] = lock.error();
+        return isHeld ? runBesideOther(argc, argv, request, busName, error) : reportFailure(error);
     }
     return runProgram(argc, argv, request, busName, **container);
 }

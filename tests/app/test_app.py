@@ -275,6 +275,12 @@ class CommandLine(AppTest):
                 self.assertNotEqual(done.stderr.strip(), "")
                 self.assertEqual(done.stdout.strip(), "")
 
+    def test_a_lock_that_cannot_be_made_is_no_other_program(self):
+        (self.container / "Caches/instance.lock").mkdir(parents=True)
+        done = self.tavi("record", check=False)
+        self.assertEqual(done.returncode, 1)
+        self.assertRegex(done.stderr, r"^tavi: Cannot make the lock file “.*/instance\.lock”: .*\n$")
+
 
 class WithoutSound(AppTest):
     with_sound = False

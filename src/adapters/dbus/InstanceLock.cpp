@@ -4,10 +4,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <array>
 #include <cerrno>
-#include <utility>
 
 namespace tavi {
 
@@ -22,42 +20,33 @@ QString ownerOf(int descriptor) {
 
 }  // namespace
 
-Result<InstanceLock> InstanceLock::take(const QString& cachesPath) {
+tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const QString& cachesPath) {
     const QString path = cachesPath + QLatin1String("/instance.lock");
-    InstanceLock lock(::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
-    if (lock.m_descriptor < 0) {
-        return failure(QStringLiteral("Cannot make the lock file “%1”: %2.").arg(path, qt_error_string(errno)));
+    const auto refusal = [](bool isHeld, const QString& text) {
+        return tl::unexpected(Refusal{.isHeld = isHeld, .error = {text}});
+    };
+    InstanceLock lock(FileDescriptor::open(path, O_RDWR | O_CREAT, 0600));
+    const int file = lock.m_file.get();
+    if (!lock.m_file.isValid()) {
+        return refusal(false, QStringLiteral("Cannot make the lock file “%1”: %2.").arg(path, qt_error_string(errno)));
     }
-    if (::flock(lock.m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+    if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK) {
-            return failure(QStringLiteral("Cannot lock the file “%1”: %2.").arg(path, qt_error_string(errno)));
+            return refusal(false, QStringLiteral("Cannot lock the file “%1”: %2.").arg(path, qt_error_string(errno)));
         }
-        const QString owner = ownerOf(lock.m_descriptor);
+        const QString owner = ownerOf(file);
         const QString process = owner.isEmpty() ? QString() : QStringLiteral(" as process %1").arg(owner);
-        return failure(
+        return refusal(
+            true,
             QStringLiteral("The recorder is already running%1 and uses the folder “%2”.").arg(process, cachesPath));
     }
     // The process id is for people only; the lock holds without it.
     const QByteArray pid = QByteArray::number(static_cast<qint64>(::getpid())) + '\n';
-    if (::ftruncate(lock.m_descriptor, 0) != 0 ||
-        ::pwrite(lock.m_descriptor, pid.constData(), size_t(pid.size()), 0) < 0) {
+    if (::ftruncate(file, 0) != 0 || ::pwrite(file, pid.constData(), size_t(pid.size()), 0) < 0) {
         qWarning("The lock file “%s” does not take the process id: %s.", qUtf8Printable(path),
                  qUtf8Printable(qt_error_string(errno)));
     }
     return lock;
-}
-
-InstanceLock::~InstanceLock() {
-    if (m_descriptor >= 0) {
-        ::close(m_descriptor);
-    }
-}
-
-InstanceLock::InstanceLock(InstanceLock&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
-
-InstanceLock& InstanceLock::operator=(InstanceLock&& other) noexcept {
-    std::swap(m_descriptor, other.m_descriptor);
-    return *this;
 }
 
 }  // namespace tavi

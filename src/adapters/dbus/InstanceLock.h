@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <utility>
 
+#include "files/PositionedIo.h"
 #include "platform/Error.h"
 
 namespace tavi {
@@ -10,19 +12,20 @@ namespace tavi {
 /// whatever way, for it is a lock of the kernel's and leaves nothing behind to clean up.
 class InstanceLock {
 public:
-    /// Takes the lock of the folder, which must exist. Fails at once when another process has it.
-    static Result<InstanceLock> take(const QString& cachesPath);
+    /// Why there is no lock.
+    struct Refusal {
+        /// Another process has it. Otherwise nobody can have it: the file cannot be made or locked.
+        bool isHeld = false;
+        Error error;
+    };
 
-    ~InstanceLock();
-    InstanceLock(InstanceLock&& other) noexcept;
-    InstanceLock& operator=(InstanceLock&& other) noexcept;
-    InstanceLock(const InstanceLock&) = delete;
-    InstanceLock& operator=(const InstanceLock&) = delete;
+    /// Takes the lock of the folder, which must exist. Fails at once when another process has it.
+    static tl::expected<InstanceLock, Refusal> take(const QString& cachesPath);
 
 private:
-    explicit InstanceLock(int descriptor) : m_descriptor(descriptor) {}
+    explicit InstanceLock(FileDescriptor file) : m_file(std::move(file)) {}
 
-    int m_descriptor = -1;
+    FileDescriptor m_file;
 };
 
 }  // namespace tavi

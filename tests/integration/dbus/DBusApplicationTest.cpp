@@ -190,16 +190,24 @@ TEST(BusName, IsOneForEachFolder) {
 
 TEST(InstanceLock, KeepsASecondOneOutUntilItIsGone) {
     const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("instance.lock")));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write("12345678901234\n") > 0 && file.flush());
     auto first = InstanceLock::take(folder.path());
     ASSERT_TRUE(first.has_value());
+    file.seek(0);
+    EXPECT_EQ(file.readAll(), QByteArray::number(QCoreApplication::applicationPid()) + '\n');
     const auto second = InstanceLock::take(folder.path());
     ASSERT_FALSE(second.has_value());
-    EXPECT_TRUE(second.error().text.contains(QString::number(QCoreApplication::applicationPid())));
+    EXPECT_TRUE(second.error().isHeld);
+    EXPECT_TRUE(second.error().error.text.contains(QString::number(QCoreApplication::applicationPid())));
     InstanceLock moved = std::move(*first);
     EXPECT_FALSE(InstanceLock::take(folder.path()).has_value());
     { const InstanceLock gone = std::move(moved); }
     EXPECT_TRUE(InstanceLock::take(folder.path()).has_value());
-    EXPECT_FALSE(InstanceLock::take(folder.path() + QLatin1String("/absent")).has_value());
+    const auto lost = InstanceLock::take(folder.path() + QLatin1String("/absent"));
+    ASSERT_FALSE(lost.has_value());
+    EXPECT_FALSE(lost.error().isHeld);
+    EXPECT_TRUE(lost.error().error.text.endsWith(QStringLiteral("/absent/instance.lock”: No such file or directory.")));
 }
 
 }  // namespace
