@@ -54,6 +54,7 @@ struct Platform {
     QDBusConnection bus = QDBusConnection::sessionBus();
     DBusApplication application;
     SettingsFiles settings{container};
+    FormatHold formatHold{container};
     MediaLibrary media;
     QtRunLoop runLoop;
     std::shared_ptr<PulseConnection> pulse = std::make_shared<PulseConnection>();
@@ -80,6 +81,7 @@ struct Screens {
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
     SessionFile sessionFile{{.settings = platform.settings.store,
+                             .formatHold = platform.formatHold,
                              .container = platform.container,
                              .runLoop = platform.runLoop,
                              .notifications = platform.notifications,
@@ -119,8 +121,10 @@ struct Screens {
                          .remoteControl = platform.remoteControl,
                          .trimmers = trimmers},
                         player};
-    SettingVC settings{
-        {.settings = platform.settings.store, .runLoop = platform.runLoop, .presenter = platform.presenter}};
+    SettingVC settings{{.settings = platform.settings.store,
+                        .formatHold = platform.formatHold,
+                        .runLoop = platform.runLoop,
+                        .presenter = platform.presenter}};
     AppDelegate delegate{{.application = platform.application,
                           .idleTimer = platform.idleTimer,
                           .settings = platform.settings.store,

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace tavi {
 
@@ -32,7 +33,9 @@ double snappedSkipSeconds(double sliderValue) {
     return std::trunc((sliderPosition(sliderValue) + kSkipStep / 2.0) / kSkipStep) * kSkipStep;
 }
 
-SettingVC::SettingVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {}
+SettingVC::SettingVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
+    connect(&m_services.formatHold, &FormatHold::heldChanged, this, &SettingVC::storeWaiting);
+}
 
 QStringList SettingVC::sectionarray() const {
     return {QStringLiteral("recording_type"), QStringLiteral("recording_quality"),
@@ -84,6 +87,9 @@ void SettingVC::buildSliderRows() {
 }
 
 void SettingVC::showExtentionActionsheet() {
+    if (isFormatHeld()) {
+        return;
+    }
     struct Choice {
         const char* title;
         QString fileType;
@@ -93,32 +99,48 @@ void SettingVC::showExtentionActionsheet() {
                              Choice{"Caf", QStringLiteral("caf")}};
     Alert sheet{qtTrId("Select Recording Audio Type"), {}, {}};
     for (const Choice& choice : choices) {
-        const auto store = [self = QPointer(this), fileType = choice.fileType] {
+        const auto choose = [self = QPointer(this), fileType = choice.fileType] {
             if (self) {
-                self->m_services.settings.setAudioFileType(fileType);
-                self->loadDataSoon();
+                self->store([self, fileType] { self->m_services.settings.setAudioFileType(fileType); });
             }
         };
-        sheet.actions.push_back({qtTrId(choice.title), AlertAction::Style::Default, store});
+        sheet.actions.push_back({qtTrId(choice.title), AlertAction::Style::Default, choose});
     }
     sheet.actions.push_back({qtTrId("Cancel"), AlertAction::Style::Cancel});
     m_services.presenter.presentActionSheet(std::move(sheet));
 }
 
 void SettingVC::showQualityActionsheet() {
+    if (isFormatHeld()) {
+        return;
+    }
     Alert sheet{qtTrId("Select Recording Audio Quality"), {}, {}};
     for (const char* key : {"Low", "Medium", "High"}) {
-        const auto store = [self = QPointer(this), key] {
+        const auto choose = [self = QPointer(this), key] {
             if (self) {
                 // The display text is stored instead of its key, on purpose: the store's format has it so.
-                self->m_services.settings.setAudioQualityType(qtTrId(key));
-                self->loadDataSoon();
+                self->store([self, key] { self->m_services.settings.setAudioQualityType(qtTrId(key)); });
             }
         };
-        sheet.actions.push_back({qtTrId(key), AlertAction::Style::Default, store});
+        sheet.actions.push_back({qtTrId(key), AlertAction::Style::Default, choose});
     }
     sheet.actions.push_back({qtTrId("Cancel"), AlertAction::Style::Cancel});
     m_services.presenter.presentActionSheet(std::move(sheet));
+}
+
+void SettingVC::store(std::function<void()> choice) {
+    m_waiting.push_back(std::move(choice));
+    storeWaiting();
+}
+
+void SettingVC::storeWaiting() {
+    if (!isFormatHeld() && !m_waiting.empty()) {
+        for (const auto& choice : std::exchange(m_waiting, {})) {
+            choice();
+        }
+        loadDataSoon();
+    }
+    Q_EMIT formatHeldChanged();
 }
 
 void SettingVC::loadDataSoon() {

@@ -2,7 +2,10 @@
 
 #include <QObject>
 #include <QStringList>
+#include <functional>
+#include <vector>
 
+#include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
@@ -20,6 +23,7 @@ class SettingVC : public QObject {
     Q_PROPERTY(QStringList headerTexts READ headerTexts NOTIFY rowsChanged)
     Q_PROPERTY(QString extentionText READ extentionText NOTIFY rowsChanged)
     Q_PROPERTY(QString fileType READ fileType NOTIFY rowsChanged)
+    Q_PROPERTY(bool isFormatHeld READ isFormatHeld NOTIFY formatHeldChanged)
     Q_PROPERTY(QString qualityText READ qualityText NOTIFY rowsChanged)
     Q_PROPERTY(QString quality READ quality NOTIFY rowsChanged)
     Q_PROPERTY(QString rewindText READ rewindText NOTIFY slidersChanged)
@@ -35,6 +39,7 @@ public:
     /// What the screen works with; all of it must outlive the screen.
     struct Services {
         SettingsStore& settings;
+        FormatHold& formatHold;
         RunLoop& runLoop;
         Presenter& presenter;
     };
@@ -48,6 +53,8 @@ public:
     QStringList headerTexts() const { return m_headerTexts; }
     QString extentionText() const { return m_extentionText; }
     QString fileType() const { return m_fileType; }
+    /// Whether type and quality cannot be chosen now, because of a recording.
+    bool isFormatHeld() const { return m_services.formatHold.isHeld(); }
     QString qualityText() const { return m_qualityText; }
     QString quality() const { return m_quality; }
     QString rewindText() const { return m_rewindText; }
@@ -65,6 +72,8 @@ public Q_SLOTS:
     void viewWillAppear();
     /// Builds all rows anew.
     void loadData();
+    /// Shows the sheet, unless type and quality are held. What is chosen in a sheet that stands when they become held
+    /// is stored when they no longer are.
     void showExtentionActionsheet();
     void showQualityActionsheet();
     /// The user moved a slider to that position.
@@ -77,13 +86,17 @@ public Q_SLOTS:
 Q_SIGNALS:
     void rowsChanged();
     void slidersChanged();
+    void formatHeldChanged();
 
 private:
+    void store(std::function<void()> choice);
+    void storeWaiting();
     void buildSliderRows();
     void loadDataSoon();
 
     Services m_services;
     bool m_rowsBuilt = false;
+    std::vector<std::function<void()>> m_waiting;
     QString m_title;
     QStringList m_headerTexts;
     QString m_extentionText;

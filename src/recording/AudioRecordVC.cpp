@@ -218,6 +218,7 @@ void AudioRecordVC::abandonStart(const QString& title, const QString& message) {
         m_audioRecorder->setDelegate(nullptr);
         m_audioRecorder.reset();
     }
+    m_services.sessionFile.abandon();
     // The tab bar stays disabled until the next successful stop, on purpose: the user is kept at the screen where the
     // recording that was asked for is still to be made.
     setState(State::Failed);
@@ -275,6 +276,7 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
     }
     if (endedByItself && recorder.framesRecorded() == 0) {
         // Nothing was captured: there is nothing to save.
+        m_services.sessionFile.abandon();
         setState(State::Idle);
         return;
     }

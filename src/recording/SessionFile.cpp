@@ -2,9 +2,12 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include "files/FileMove.h"
 #include "library/utility/Notifications.h"
@@ -21,24 +24,25 @@ constexpr double kMailDelay = 2.0;
 
 }  // namespace
 
-/// A move that is made once, by whichever thread comes first; the others wait for it.
-class SessionFile::Move {
+/// Moves that are made once, by whichever thread comes first; the others wait for it.
+class SessionFile::Moves {
 public:
-    Move(QString from, QString to) : m_from(std::move(from)), m_to(std::move(to)) {}
+    explicit Moves(std::vector<std::pair<QString, QString>> moves) : m_moves(std::move(moves)) {}
 
     void make() {
         std::call_once(m_once, [this] {
-            if (const auto moved = moveItem(m_from, m_to); !moved) {
-                // The user is not told, on purpose: the recording stays at the temporary path until the next one
-                // starts.
-                qCWarning(lcRecording, "%s", qPrintable(moved.error().text));
+            for (const auto& [from, to] : m_moves) {
+                if (const auto moved = moveItem(from, to); !moved) {
+                    // The user is not told, on purpose: the recording stays at the temporary path until the next one
+                    // starts.
+                    qCWarning(lcRecording, "%s", qPrintable(moved.error().text));
+                }
             }
         });
     }
 
 private:
-    QString m_from;
-    QString m_to;
+    std::vector<std::pair<QString, QString>> m_moves;
     std::once_flag m_once;
 };
 
@@ -52,20 +56,33 @@ void SessionFile::updateRecordFilePath() {
 }
 
 void SessionFile::begin() {
+    m_services.formatHold.setHeld(true);
     // The type may have changed since the screen appeared, and the file is to be of the type that it is saved as.
     updateRecordFilePath();
+    m_sessionPath = m_recordFilePath;
     QFile::remove(m_recordFilePath);
 }
 
+void SessionFile::abandon() {
+    m_services.formatHold.setHeld(false);
+}
+
 void SessionFile::saveFileToDoc(const QString& name) {
-    const QString destination = m_services.container.documentsPath() + QLatin1Char('/') + name + QLatin1Char('.') +
-                                m_services.settings.audioFileType();
-    m_move = std::make_shared<Move>(m_recordFilePath, destination);
+    const QString base = m_services.container.documentsPath() + QLatin1Char('/') + name + QLatin1Char('.');
+    QString destination = base + m_services.settings.audioFileType();
+    std::vector<std::pair<QString, QString>> moves{{m_recordFilePath, destination}};
+    if (m_sessionPath != m_recordFilePath) {
+        // Somebody has edited the type in the settings' file, and the screen has appeared since: the path is another
+        // one by now, and the session would stay where a later one removes it.
+        destination = base + QFileInfo(m_sessionPath).suffix();
+        moves.emplace(moves.begin(), m_sessionPath, destination);
+    }
+    m_moves = std::make_shared<Moves>(std::move(moves));
     const QPointer<SessionFile> self(this);
     RunLoop& runLoop = m_services.runLoop;
     // Another file system takes as long as copying hours of sound takes.
-    runLoop.dispatchBackground([self, &runLoop, move = m_move, destination] {
-        move->make();
+    runLoop.dispatchBackground([self, &runLoop, moves = m_moves, destination] {
+        moves->make();
         runLoop.dispatchMain([self, destination] {
             if (self) {
                 self->didMove(destination);
@@ -75,7 +92,8 @@ void SessionFile::saveFileToDoc(const QString& name) {
 }
 
 void SessionFile::didMove(const QString& path) {
-    m_move.reset();
+    m_moves.reset();
+    m_services.formatHold.setHeld(false);
     m_services.notifications.postNotification(kDataUpdatedNotification);
     const QPointer<SessionFile> self(this);
     m_services.runLoop.dispatchAfter(kMailDelay, [self, path] {
@@ -87,8 +105,8 @@ void SessionFile::didMove(const QString& path) {
 }
 
 void SessionFile::finishBeforeTermination() {
-    if (m_move != nullptr) {
-        m_move->make();
+    if (m_moves != nullptr) {
+        m_moves->make();
     }
 }
 

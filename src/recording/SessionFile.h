@@ -3,6 +3,7 @@
 #include <QObject>
 #include <memory>
 
+#include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
 #include "platform/AppContainer.h"
 #include "platform/MailComposer.h"
@@ -13,7 +14,8 @@
 namespace tavi {
 
 /// The file of a recording session: in the caches folder while sound is written to it, among the recordings once it is
-/// saved. One session at a time, from begin() to saved(). Main thread only.
+/// saved. One session at a time, from begin() to abandon() or saved(); type and quality are held as long. Main thread
+/// only.
 class SessionFile : public QObject {
     Q_OBJECT
 
@@ -21,6 +23,7 @@ public:
     /// What the file is saved with; all of it must outlive this.
     struct Services {
         SettingsStore& settings;
+        FormatHold& formatHold;
         const AppContainer& container;
         RunLoop& runLoop;
         NotificationCenter& notifications;
@@ -36,10 +39,14 @@ public:
     /// Reads the type from the settings again.
     void updateRecordFilePath();
 
-    /// Starts a session: what an earlier one left at the temporary path is removed.
+    /// Starts a session into the temporary file; what an earlier one left there is removed.
     void begin();
-    /// Moves the whole file among the recordings, under that base name, and tells who lists them; an automatic mail
-    /// follows. Returns before any of it is done; saved() tells. A file that cannot be moved stays where it is.
+    /// The session comes to nothing.
+    void abandon();
+    /// Moves the whole file among the recordings, under that base name with the type that is read now, and tells who
+    /// lists them; an automatic mail follows. A session's file that is no longer at recordFilePath() since somebody has
+    /// edited the type is moved under its own. Returns before any of it is done; saved() tells. A file that cannot be
+    /// moved stays where it is.
     void saveFileToDoc(const QString& name);
     /// Makes a move that saveFileToDoc() still owes, and waits for it. For the end of the program only.
     void finishBeforeTermination();
@@ -48,14 +55,16 @@ Q_SIGNALS:
     void saved();
 
 private:
-    class Move;
+    class Moves;
 
     void didMove(const QString& path);
     void emailAudioFile(const QString& path);
 
     Services m_services;
     QString m_recordFilePath;
-    std::shared_ptr<Move> m_move;
+    /// Where the session records, whatever has been read since.
+    QString m_sessionPath;
+    std::shared_ptr<Moves> m_moves;
 };
 
 }  // namespace tavi

@@ -17,7 +17,7 @@ MODULES = {
     "files": [],
     "sound": ["files"],
     "API/AudioTrimmerController/EZAudio": [],
-    "app/settings": [],
+    "app/settings": ["files"],
     "app/cli": [
         "library", "trimming", "trimming/waves", "trimming/waves/qml", "API/AudioTrimmerController/EZAudio", "app/settings", "files"],
     "library/utility": ["files"],

@@ -9,6 +9,7 @@ namespace tavi::test {
 struct FakeRecording {
     FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar)
         : file({.settings = fakes.settings,
+                .formatHold = fakes.formatHold,
                 .container = fakes.container,
                 .runLoop = fakes.runLoop,
                 .notifications = fakes.notifications,

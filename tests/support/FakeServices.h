@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
 #include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
@@ -23,6 +24,7 @@ struct FakeServices {
     NotificationCenter notifications;
     FakeUserDefaults defaults;
     SettingsStore settings{defaults};
+    FormatHold formatHold{container};
     FakeAudioSession session;
     FakeRemoteControl remote;
     FakeAudioPlayers players{runLoop};

@@ -96,6 +96,7 @@ const State kStates[] = {
              {QStringLiteral("The recording called “Interview” was deleted."), QStringLiteral("Undo"), {}});
      }},
     {"settings", 2, {}},
+    {"settingsHeld", 2, [](Shell& s) { s.formatHold.setHeld(true); }},
     {"sheet", 2, [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
     {"alert", 0, [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},
     {"alertOne", 0,

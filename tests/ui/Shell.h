@@ -128,7 +128,7 @@ struct ShellScreens : FakeServices {
     FakeLibrary fakeLibrary{*this, durations};
     VoiceMemoVC& library = fakeLibrary.vc;
     PlayerPanel& player = fakeLibrary.player;
-    SettingVC settingVC{{.settings = settings, .runLoop = runLoop, .presenter = presenter}};
+    SettingVC settingVC{{.settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter}};
 };
 
 /// The program's window with its screens.

@@ -12,6 +12,7 @@ T.AbstractButton {
     implicitHeight: 45
     leftPadding: Theme.margin
     rightPadding: Theme.margin
+    opacity: enabled ? 1.0 : Theme.disabledOpacity
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -42,6 +42,7 @@ FocusScope {
                 focus: true
                 text: root.screen.extentionText
                 detail: root.screen.fileType
+                enabled: !root.screen.isFormatHeld
                 onClicked: root.screen.showExtentionActionsheet()
             }
 
@@ -55,6 +56,7 @@ FocusScope {
                 width: parent.width
                 text: root.screen.qualityText
                 detail: root.screen.quality
+                enabled: !root.screen.isFormatHeld
                 onClicked: root.screen.showQualityActionsheet()
             }
 

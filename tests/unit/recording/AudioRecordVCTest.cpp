@@ -61,6 +61,9 @@ protected:
         EXPECT_EQ(screen.isRecordingRunning(), look.isRunning);
         EXPECT_EQ(recorders.last() != nullptr && recorders.last()->isRecording(), look.isRunning);
         EXPECT_EQ(screen.btnRecord().image, QLatin1String(look.image));
+        const bool isHeld = look.letter != 'I' && look.letter != 'F';
+        EXPECT_EQ(formatHold.isHeld(), isHeld);
+        EXPECT_EQ(FormatHold::leaveToChange(container).has_value(), !isHeld);
         const bool isHidden = screen.lblRecording().hidden;
         EXPECT_EQ(isHidden, !look.isRecording && look.letter != 'F');
         EXPECT_EQ(isHidden ? screen.hint() : screen.lblRecording().text, QLatin1String(look.text));
@@ -200,6 +203,37 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
     EXPECT_EQ(screen.lblDate().text, QStringLiteral("05 Mar 2024"));
     screen.viewWillAppear();
     EXPECT_EQ(screen.lblDate().text, QStringLiteral("06 Mar 2024"));
+}
+
+TEST_F(AudioRecordVCTest, AnEditedTypeStrandsNoRecording) {
+    // The type is edited while a session runs, and the screen may appear after that; something may lie at the path
+    // that the type now names.
+    const struct {
+        bool appears, hasLeftover;
+        QStringList saved;
+    } cases[] = {{true, false, {QStringLiteral("2024_Mar_05_14_04_00.m4a")}},
+                 {true, true, {QStringLiteral("2024_Mar_05_14_04_03.m4a"), QStringLiteral("2024_Mar_05_14_04_03.wav")}},
+                 {false, false, {QStringLiteral("2024_Mar_05_14_04_06.wav")}}};
+    settings.setQuickMailOn(true);
+    for (const auto& row : cases) {
+        settings.setAudioFileType(QStringLiteral("m4a"));
+        const QStringList before = documents();
+        tapRecord();
+        settings.setAudioFileType(QStringLiteral("wav"));
+        QFile leftover(container.cachesPath() + QStringLiteral("/vexmosounds.wav"));
+        EXPECT_EQ(leftover.open(row.hasLeftover ? QIODevice::WriteOnly : QIODevice::ReadOnly), row.hasLeftover);
+        if (row.appears) {
+            screen.viewWillAppear();
+        }
+        runLoop.advance(1.0);
+        tapStop();
+        QStringList saved = documents();
+        saved.removeIf([&](const QString& name) { return before.contains(name); });
+        EXPECT_EQ(saved, row.saved);
+        EXPECT_TRUE(QDir(container.cachesPath()).entryList({QStringLiteral("vex*")}).isEmpty());
+        runLoop.advance(2.0);
+        EXPECT_EQ(mail.messages.back().attachments[0].fileName, row.saved.front());
+    }
 }
 
 TEST_F(AudioRecordVCTest, WhatStandsInTheWayIsSaidInOneAlert) {
