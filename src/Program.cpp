@@ -7,6 +7,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
+#include "DisplayGuard.h"
 #include "Output.h"
 #include "Screens.h"
 #include "SettingsFiles.h"
@@ -47,7 +48,21 @@ Q_LOGGING_CATEGORY(lcApp, "tavi.app", QtInfoMsg)
 struct Platform {
     Platform(const AppContainer& folders, const QString& busName)
         : container(folders), application(bus, QDBusConnection::systemBus(), busName) {
-        application.claim();
+        claimName();
+    }
+
+    void claimName() {
+        switch (application.claim()) {
+            case DBusApplication::Claim::First:
+                break;
+            case DBusApplication::Claim::AlreadyRunning:
+                qWarning(
+                    "Another program has this one's name on the session bus: what is asked for there goes astray.");
+                break;
+            case DBusApplication::Claim::NoBus:
+                qWarning("There is no session bus: neither other starts nor the desktop's controls reach the program.");
+                break;
+        }
     }
 
     const AppContainer& container;
@@ -189,7 +204,9 @@ void connectWindow(QQuickWindow* window, Screens& screens) {
 int runProgram(int& argc, char** argv, const ProgramRequest& request, const QString& busName,
                const AppContainer& container) {
     choosePainting();
+    auto display = std::make_optional<DisplayGuard>();
     QGuiApplication application(argc, argv);
+    display.reset();
     describe(application);
     const TerminationSignals signals([](int) { QCoreApplication::quit(); });
     Platform platform(container, busName);

@@ -21,15 +21,17 @@ FILE_NAME = r"^\d{4}_[A-Z][a-z]{2}_\d\d_\d\d_\d\d_\d\d\.\w+$"
 class AppTest(unittest.TestCase):
     """One desktop for a class; each test gets a container of its own."""
 
-    with_sound = True
+    has_services = True
     numbers = itertools.count()
 
     @classmethod
     def setUpClass(cls):
-        cls.desktop = PrivateDesktop(sound=cls.with_sound)
+        cls.desktop = PrivateDesktop(sound=cls.has_services, bus=cls.has_services)
         cls.addClassCleanup(cls.desktop.close)
-        if not cls.with_sound:
-            cls.desktop.environment["PULSE_SERVER"] = f"unix:{cls.desktop.folder}/nobody"
+        if not cls.has_services:
+            nobody = f"{cls.desktop.folder}/nobody"
+            cls.desktop.environment |= {"PULSE_SERVER": f"unix:{nobody}", "DBUS_SESSION_BUS_ADDRESS": f"unix:path={nobody}",
+                                        "XDG_RUNTIME_DIR": str(cls.desktop.folder)}
         cls.tone = write_tone(cls.desktop.folder / "tone.wav", 1000, 2.0)
 
     def setUp(self):
@@ -41,7 +43,8 @@ class AppTest(unittest.TestCase):
         app = self.desktop.spawn(PROGRAM, "--container", self.container, *arguments, log=self.log)
         self.addCleanup(self.desktop.stop, app)
         self.desktop.window(app)
-        self.wait(lambda: NAME in self.bus_names(), "the name on the bus")
+        if self.has_services:
+            self.wait(lambda: NAME in self.bus_names(), "the name on the bus")
         return app
 
     def bus_names(self):
@@ -157,6 +160,8 @@ class Recording(AppTest):
         self.play_while_recording()
         self.assertEqual(self.desktop.stop(app, signal.SIGTERM), 0)
         self.assert_holds_tone(self.wait_saved())
+        # The test's bus has no desktop on it; nothing else is worth a word.
+        self.assertRegex(self.log.read_text(), r"^Nothing here keeps the screen on: .*\n$")
 
     def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
         self.start("record")
@@ -282,18 +287,29 @@ class CommandLine(AppTest):
         self.assertRegex(done.stderr, r"^tavi: Cannot make the lock file “.*/instance\.lock”: .*\n$")
 
 
-class WithoutSound(AppTest):
-    with_sound = False
+class WithoutServices(AppTest):
+    """There is no sound server and no bus."""
 
-    def test_without_a_sound_server_an_alert_says_so(self):
+    has_services = False
+
+    def test_what_is_missing_is_said_and_the_rest_works(self):
         app = self.start()
         self.wait(lambda: self.desktop.colours() > 8, "the record screen")
         before = self.desktop.picture()
-        self.tavi("record")
+        self.desktop.keys("space")
         self.wait(lambda: sum(map(int.__ne__, self.desktop.picture(), before)) > 20_000, "the alert")
         self.assertEqual(self.recordings(), [])
-        self.assertIsNone(app.poll())
+        second = self.tavi("stop", check=False)
+        self.assertEqual(second.returncode, 1)
+        self.assertRegex(second.stderr, rf"^tavi: The recorder is already running as process {app.pid} .* cannot be told\.\n$")
         self.assertEqual(self.desktop.stop(app), 0)
+        self.assertRegex(self.log.read_text(), r"^There is no session bus.*\n$")
+
+    def test_without_a_display_the_program_says_so_and_ends(self):
+        del self.desktop.environment["DISPLAY"]
+        done = self.tavi(check=False)
+        self.assertEqual(done.returncode, 1)
+        self.assertRegex(done.stderr, r"^tavi: no window can be shown: .*\n$")
 
 
 if __name__ == "__main__":

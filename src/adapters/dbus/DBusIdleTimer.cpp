@@ -116,6 +116,7 @@ void DBusIdleTimer::askScreenSaver() {
             self->m_state = State::HeldByScreenSaver;
             self->releaseIfUnwanted();
         } else if (self) {
+            qWarning("Nothing here keeps the screen on: %s", qUtf8Printable(reply.error().message()));
             self->m_state = State::Released;
         }
     };
