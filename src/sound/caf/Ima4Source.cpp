@@ -62,19 +62,36 @@ bool Ima4Source::decodeBlock() {
     return true;
 }
 
-std::size_t Ima4Source::read(float* const* planes, std::size_t frames) {
+std::size_t Ima4Source::takeDecoded(std::size_t frames) {
     const auto left = static_cast<std::size_t>(std::max<std::int64_t>(0, m_header.frames - m_position));
     if (left == 0 || (m_used == m_available && !decodeBlock())) {
         return 0;
     }
     const std::size_t count = std::min({frames, left, m_available - m_used});
+    m_used += count;
+    m_position += static_cast<std::int64_t>(count);
+    return count;
+}
+
+std::size_t Ima4Source::read(float* const* planes, std::size_t frames) {
+    const std::size_t count = takeDecoded(frames);
     for (std::size_t channel = 0; channel < m_states.size(); ++channel) {
-        const std::int16_t* from = m_samples.data() + channel * kBlockFrames + m_used;
+        const std::int16_t* from = m_samples.data() + channel * kBlockFrames + m_used - count;
         std::transform(from, from + count, planes[channel],
                        [](std::int16_t sample) { return static_cast<float>(sample) * kScale; });
     }
-    m_used += count;
-    m_position += static_cast<std::int64_t>(count);
+    return count;
+}
+
+std::size_t Ima4Source::read16(std::int16_t* samples, std::size_t frames) {
+    const std::size_t count = takeDecoded(frames);
+    const std::size_t channels = m_states.size();
+    for (std::size_t channel = 0; channel < channels; ++channel) {
+        const std::int16_t* from = m_samples.data() + channel * kBlockFrames + m_used - count;
+        for (std::size_t i = 0; i < count; ++i) {
+            samples[i * channels + channel] = from[i];
+        }
+    }
     return count;
 }
 

@@ -23,12 +23,16 @@ public:
     std::uint32_t maxPacketSize() const override { return m_header.packetBytes; }
     bool isRandomAccess() const override { return false; }
     std::size_t read(float* const* planes, std::size_t frames) override;
+    bool has16Bits() const override { return true; }
+    std::size_t read16(std::int16_t* samples, std::size_t frames) override;
     /// As cheap as reading where it has not been before.
     void seek(std::int64_t frame) override;
 
 private:
     Ima4Source() = default;
 
+    /// Counts up to that many decoded frames as read, which then stand before m_used; how many there are.
+    std::size_t takeDecoded(std::size_t frames);
     /// Decodes the next packets into m_samples; false at the end of the file.
     bool decodeBlock();
 

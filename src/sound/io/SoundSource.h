@@ -25,6 +25,10 @@ public:
 
     /// Reads up to that many frames and returns how many came: fewer may come at any time, 0 at the end only.
     virtual std::size_t read(float* const* planes, std::size_t frames) = 0;
+    /// Whether read16() is there: the sound has no more than 16 bits, and gets to them without floats in between.
+    virtual bool has16Bits() const { return false; }
+    /// The same as read(), as 16-bit samples with the channels interleaved.
+    virtual std::size_t read16(std::int16_t* /*samples*/, std::size_t /*frames*/) { return 0; }
     /// Exact to the sample. A frame from 0 to length().
     virtual void seek(std::int64_t frame) = 0;
 };

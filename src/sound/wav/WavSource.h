@@ -21,10 +21,17 @@ public:
     std::int64_t length() override { return m_header.frames; }
     std::uint32_t maxPacketSize() const override { return m_header.frameBytes; }
     std::size_t read(float* const* planes, std::size_t frames) override;
+    bool has16Bits() const override {
+        return m_encoding.kind == PcmEncoding::Kind::Unsigned8 || m_encoding.kind == PcmEncoding::Kind::Signed16;
+    }
+    std::size_t read16(std::int16_t* samples, std::size_t frames) override;
     void seek(std::int64_t frame) override { m_position = frame; }
 
 private:
     WavSource() = default;
+
+    /// Reads up to that many bytes of the next frames; how many frames came.
+    std::size_t readFrames(void* target, std::size_t room, std::size_t frames);
 
     FileDescriptor m_file;
     WavHeader m_header;

@@ -48,6 +48,9 @@ AudioStatus FfmpegExtAudioFile::setClientDataFormat(const AudioStreamBasicDescri
     if (!converter) {
         return kAudioFileUnsupportedDataFormatError;
     }
+    m_isDirect = m_source->has16Bits() && encoding->kind == PcmEncoding::Kind::Signed16 &&
+                 (format.formatFlags & kAudioFormatFlagIsNonInterleaved) == 0 && format.sampleRate == own.sampleRate &&
+                 format.channelsPerFrame == own.channelsPerFrame;
     std::int64_t frame = 0;
     tell(frame);
     m_converter = std::move(converter);
@@ -59,12 +62,23 @@ AudioStatus FfmpegExtAudioFile::read(std::uint32_t& frames, AudioBufferList& dat
     if (!m_converter || !FormatConverter::fits(data, m_converter->client())) {
         return kAudioParameterError;
     }
-    frames = static_cast<std::uint32_t>(m_converter->read(m_read, data, wanted));
+    frames = static_cast<std::uint32_t>(m_isDirect ? readDirectly(data.buffers[0], wanted)
+                                                   : m_converter->read(m_read, data, wanted));
     m_position += frames;
     if (frames > 0) {
         m_sought.reset();
     }
     return kAudioNoError;
+}
+
+std::size_t FfmpegExtAudioFile::readDirectly(AudioBuffer& buffer, std::size_t frames) {
+    auto* samples = static_cast<std::int16_t*>(buffer.data);
+    std::size_t done = 0;
+    for (std::size_t count = 1; done < frames && count > 0; done += count) {
+        count = m_source->read16(samples + done * m_source->format().channelsPerFrame, frames - done);
+    }
+    buffer.dataByteSize = static_cast<std::uint32_t>(done * m_converter->client().bytesPerFrame);
+    return done;
 }
 
 AudioStatus FfmpegExtAudioFile::seek(std::int64_t frame) {

@@ -27,10 +27,15 @@ public:
     AudioStatus tell(std::int64_t& frame) const override;
 
 private:
+    /// Fills the buffer with the source's own 16-bit samples; how many frames came.
+    std::size_t readDirectly(AudioBuffer& buffer, std::size_t frames);
+
     std::unique_ptr<SoundSource> m_source;
     FileDescriptor m_information;
     FormatConverter::Source m_read;
     std::optional<FormatConverter> m_converter;
+    /// The client wants the samples as the source has them.
+    bool m_isDirect = false;
     /// In client frames.
     std::int64_t m_position = 0;
     /// The frame that was sought, until something is read.
