@@ -107,6 +107,8 @@ class Recording(AppTest):
                 before = set(self.recordings())
                 self.tavi("record")
                 self.play_while_recording()
+                refused = self.tavi("set", "AudioFileType", "mp4", check=False)
+                self.assertEqual((refused.returncode, refused.stderr.count("recording")), (1, 1))
                 self.tavi("stop")
                 self.wait_saved(count)
                 saved, = set(self.recordings()) - before

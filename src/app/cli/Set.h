@@ -13,7 +13,8 @@ struct SetOptions {
     std::string value;
 };
 
-/// Prints nothing. The running program sees the value when it next reads the setting.
+/// Prints nothing. The running program sees the value when it next reads the setting. Fails where the running program
+/// holds the type or quality of a recording.
 Result<QByteArray> run(const SetOptions& options, const CommandServices& services);
 
 }  // namespace tavi

@@ -101,6 +101,15 @@ TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
     EXPECT_TRUE(shared.boolForKey(settingskey::kAppStart));
     EXPECT_FALSE(defaults.objectForKey(settingskey::kAppStart).isValid());
     EXPECT_EQ(shared.writes.last(), QStringLiteral("synchronize"));
+    formatHold.setHeld(true);
+    const std::string held = "! a recording is running, whose type and quality stay until it is saved";
+    expectSaid({{"set|AudioFileType|wav", held},
+                {"set|AudioQualityType|Low", held},
+                {"get|AudioFileType", "caf\n"},
+                {"get|AudioQualityType", "Größe\n"},
+                {"set|Sort|3", ""}});
+    formatHold.setHeld(false);
+    expectSaid({{"set|AudioFileType|wav", ""}, {"get|AudioFileType", "wav\n"}});
     defaults.canWrite = false;
     expectSaid({{"set|Sort|2", "! the settings cannot be written"}});
 }
