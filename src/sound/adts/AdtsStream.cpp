@@ -9,7 +9,10 @@ namespace tavi {
 
 namespace {
 
-constexpr std::size_t kReadBytes = std::size_t{256} * 1024;
+constexpr std::size_t kSurveyBytes = std::size_t{256} * 1024;
+constexpr std::size_t kReadBytes = std::size_t{64} * 1024;
+/// More than a frame can have, with the header of the next one.
+constexpr std::size_t kFrameRoom = 8192 + kAdtsHeaderBytes;
 constexpr std::int64_t kBlocksBetweenMarks = 64;
 
 }  // namespace
@@ -28,57 +31,50 @@ std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes) {
     return frame.bytes >= kAdtsHeaderBytes ? std::optional(frame) : std::nullopt;
 }
 
-std::optional<AdtsStream> AdtsStream::read(int fd) {
-    const std::int64_t size = regularFileSize(fd);
-    AdtsStream stream;
-    std::vector<std::uint8_t> data(kReadBytes);
-    std::int64_t position = 0;
-    std::int64_t marked = -kBlocksBetweenMarks;
-    bool isInStep = true;
-    for (bool isEnd = false; !isEnd;) {
-        const std::size_t there = readFully(fd, data.data(), data.size(), position);
-        std::size_t used = 0;
-        while (used + kAdtsHeaderBytes <= there) {
-            const auto frame = readAdtsFrame(data.data() + used);
-            const bool isOurs = frame && (stream.m_rate == 0 || frame->rate == stream.m_rate);
-            if (!isOurs) {
-                if (stream.m_blocks == 0) {
-                    return std::nullopt;
-                }
-                isInStep = false;
-                ++used;
-                continue;
-            }
-            if (!isInStep) {
-                // Out of step a header counts only when the next one stands where it says.
-                if (used + frame->bytes + kAdtsHeaderBytes > there && there == data.size()) {
-                    break;
-                }
-                if (used + frame->bytes + kAdtsHeaderBytes > there ||
-                    !readAdtsFrame(data.data() + used + frame->bytes)) {
-                    ++used;
-                    continue;
-                }
-                isInStep = true;
-            }
-            if (position + static_cast<std::int64_t>(used + frame->bytes) > size) {
-                isEnd = true;
-                break;
-            }
-            if (stream.m_blocks - marked >= kBlocksBetweenMarks) {
-                stream.m_marks.push_back({position + static_cast<std::int64_t>(used), stream.m_blocks});
-                marked = stream.m_blocks;
-            }
-            stream.m_rate = frame->rate;
-            stream.m_largestFrame = std::max(stream.m_largestFrame, frame->bytes);
-            stream.m_blocks += frame->blocks;
-            used += frame->bytes;
+std::optional<AdtsScanner::Found> AdtsScanner::next() {
+    for (bool isInStep = true;; isInStep = false, ++m_offset) {
+        const auto bytes = m_file.at(m_offset, kFrameRoom);
+        if (bytes.size() < kAdtsHeaderBytes) {
+            return std::nullopt;
         }
-        position += static_cast<std::int64_t>(used);
-        isEnd = isEnd || used == 0 || there < data.size();
+        const auto frame = readAdtsFrame(bytes.data());
+        if (!frame || frame->rate != m_rate) {
+            continue;
+        }
+        if (isInStep && frame->bytes > bytes.size()) {
+            return std::nullopt;
+        }
+        const bool isFollowed =
+            frame->bytes + kAdtsHeaderBytes <= bytes.size() && readAdtsFrame(bytes.data() + frame->bytes);
+        if (isInStep || isFollowed) {
+            const Found found{*frame, m_offset, bytes.first(frame->bytes)};
+            m_offset += frame->bytes;
+            return found;
+        }
+    }
+}
+
+std::optional<AdtsStream> AdtsStream::read(int fd) {
+    std::array<std::uint8_t, kAdtsHeaderBytes> start{};
+    const auto first =
+        readFully(fd, start.data(), start.size(), 0) == start.size() ? readAdtsFrame(start.data()) : std::nullopt;
+    if (!first) {
+        return std::nullopt;
+    }
+    AdtsStream stream;
+    stream.m_rate = first->rate;
+    AdtsScanner scanner(fd, first->rate, kSurveyBytes);
+    std::int64_t end = 0;
+    while (const auto found = scanner.next()) {
+        if (stream.m_marks.empty() || stream.m_blocks - stream.m_marks.back().blocks >= kBlocksBetweenMarks) {
+            stream.m_marks.push_back({found->offset, stream.m_blocks});
+        }
+        stream.m_largestFrame = std::max(stream.m_largestFrame, found->frame.bytes);
+        stream.m_blocks += found->frame.blocks;
+        end = found->offset + found->frame.bytes;
     }
     // One frame alone may be chance.
-    const bool isSound = stream.m_blocks > 1 || (stream.m_blocks == 1 && position == size);
+    const bool isSound = stream.m_blocks > 1 || (stream.m_blocks == 1 && end == regularFileSize(fd));
     return isSound ? std::optional(std::move(stream)) : std::nullopt;
 }
 
@@ -86,6 +82,41 @@ AdtsStream::Mark AdtsStream::markBefore(std::int64_t block) const {
     const auto after = std::upper_bound(m_marks.begin(), m_marks.end(), block,
                                         [](std::int64_t wanted, const Mark& mark) { return wanted < mark.blocks; });
     return after == m_marks.begin() ? Mark{} : *(after - 1);
+}
+
+AdtsPacketReader::AdtsPacketReader(int fd, AdtsStream stream)
+    : m_stream(std::move(stream)), m_scanner(fd, m_stream.rate(), kReadBytes) {}
+
+std::optional<AdtsPacketReader> AdtsPacketReader::open(int fd) {
+    auto stream = AdtsStream::read(fd);
+    return stream ? std::optional(AdtsPacketReader(fd, std::move(*stream))) : std::nullopt;
+}
+
+std::optional<AdtsPacketReader::Packet> AdtsPacketReader::next() {
+    const auto found = m_scanner.next();
+    if (!found) {
+        return std::nullopt;
+    }
+    const Packet packet{m_block, found->frame.blocks, found->bytes};
+    m_block += packet.blocks;
+    return packet;
+}
+
+void AdtsPacketReader::seek(std::int64_t block) {
+    const AdtsStream::Mark mark = m_stream.markBefore(block);
+    m_scanner.seek(mark.offset);
+    m_block = mark.blocks;
+    while (m_block < block) {
+        const auto found = m_scanner.next();
+        if (!found) {
+            break;
+        }
+        if (m_block + found->frame.blocks > block) {
+            m_scanner.seek(found->offset);
+            break;
+        }
+        m_block += found->frame.blocks;
+    }
 }
 
 }  // namespace tavi

@@ -2,7 +2,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
+
+#include "sound/io/FileWindow.h"
 
 namespace tavi {
 
@@ -19,8 +22,32 @@ struct AdtsFrame {
 std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes);
 inline constexpr std::size_t kAdtsHeaderBytes = 7;
 
-/// Every frame of an ADTS stream, found by reading through it: the stream itself says nothing about its length. What
-/// lies between frames is skipped; a frame that is cut off by the end of the file does not count.
+/// Finds one frame of a stream after the other. What lies between frames is skipped: there a header counts only when
+/// another follows where it says. A frame that is cut off by the end of the file does not count. Borrows the
+/// descriptor.
+class AdtsScanner {
+public:
+    /// Frames of another rate do not count. As many bytes are read at once.
+    AdtsScanner(int fd, int rate, std::size_t bytes) : m_file(fd, bytes), m_rate(rate) {}
+
+    struct Found {
+        AdtsFrame frame;
+        std::int64_t offset = 0;
+        /// With the header; they stay until the next frame is looked for.
+        std::span<const std::uint8_t> bytes;
+    };
+    /// The next frame; nothing at the end.
+    std::optional<Found> next();
+    /// Goes to where a frame begins.
+    void seek(std::int64_t offset) { m_offset = offset; }
+
+private:
+    FileWindow m_file;
+    int m_rate;
+    std::int64_t m_offset = 0;
+};
+
+/// How long an ADTS stream is, found by reading through it: the stream itself does not say.
 class AdtsStream {
 public:
     /// Nothing for a file that does not start with a frame, and for one whose only frame may be chance.
@@ -46,6 +73,33 @@ private:
     std::int64_t m_blocks = 0;
     std::uint32_t m_largestFrame = 0;
     std::vector<Mark> m_marks;
+};
+
+/// Hands out the frames of a stream one after the other, from any place. Borrows the descriptor. One thread at a time.
+class AdtsPacketReader {
+public:
+    /// Nothing for what is no ADTS stream.
+    static std::optional<AdtsPacketReader> open(int fd);
+
+    const AdtsStream& stream() const { return m_stream; }
+    struct Packet {
+        /// Where it begins, and how long it is, in blocks of 1024 samples of the core coder.
+        std::int64_t start = 0;
+        int blocks = 0;
+        /// Stay until the next packet is read.
+        std::span<const std::uint8_t> bytes;
+    };
+    /// The next packet; nothing at the end, and when the file cannot be read any more.
+    std::optional<Packet> next();
+    /// Goes to the packet in which a block is.
+    void seek(std::int64_t block);
+
+private:
+    AdtsPacketReader(int fd, AdtsStream stream);
+
+    AdtsStream m_stream;
+    AdtsScanner m_scanner;
+    std::int64_t m_block = 0;
 };
 
 }  // namespace tavi

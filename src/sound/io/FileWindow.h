@@ -7,21 +7,26 @@
 
 namespace tavi {
 
-/// Small pieces of a file, read through a window: what lies close together costs one read. Borrows the descriptor, and
-/// sees what is written to the file meanwhile only when the window moves. One thread at a time.
+/// Small pieces of a file, read through a window: what lies close together costs one read. Borrows the descriptor. What
+/// others write to the file meanwhile is seen when the window moves. One thread at a time.
 class FileWindow {
 public:
     FileWindow() = default;
-    explicit FileWindow(int fd, std::size_t bytes = 4096) : m_fd(fd), m_windowBytes(bytes) {}
+    /// The window has so many bytes; where one piece after the other is wanted it grows, up to most.
+    explicit FileWindow(int fd, std::size_t bytes = 4096, std::size_t most = 0)
+        : m_fd(fd), m_first(bytes), m_most(most > bytes ? most : bytes) {}
 
     /// The bytes from an offset on; fewer than asked for at the end of the file. They stay until the next call.
     std::span<const std::uint8_t> at(std::int64_t offset, std::size_t size);
 
 private:
     int m_fd = -1;
-    std::size_t m_windowBytes = 0;
+    std::size_t m_first = 0;
+    std::size_t m_most = 0;
+    std::size_t m_wanted = 0;
     std::int64_t m_offset = 0;
     std::vector<std::uint8_t> m_bytes;
+    bool m_isEnd = false;
 };
 
 }  // namespace tavi

@@ -1,17 +1,16 @@
 #include "sound/mp4/Mp4Boxes.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
 #include "files/PositionedIo.h"
 
 namespace tavi {
 
-std::optional<Mp4Box> readMp4Box(int fd, std::int64_t offset, std::int64_t limit) {
-    std::array<std::uint8_t, 16> bytes{};
-    const auto room = static_cast<std::size_t>(std::clamp<std::int64_t>(limit - offset, 0, 16));
-    Mp4Reader reader(std::span<const std::uint8_t>(bytes.data(), readFully(fd, bytes.data(), room, offset)));
+std::optional<Mp4Box> readMp4Box(FileWindow& file, std::int64_t offset, std::int64_t limit) {
+    constexpr std::int64_t kLongestHeader = 16;
+    const auto room = static_cast<std::size_t>(std::clamp<std::int64_t>(limit - offset, 0, kLongestHeader));
+    ByteReader reader(file.at(offset, room));
     std::uint64_t size = reader.u32();
     Mp4Box box;
     box.type = reader.u32();
@@ -23,7 +22,7 @@ std::optional<Mp4Box> readMp4Box(int fd, std::int64_t offset, std::int64_t limit
     } else if (size == 0) {
         size = static_cast<std::uint64_t>(limit - offset);
     }
-    const std::uint64_t largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max() - offset);
+    const auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max() - offset);
     if (!reader.ok() || size < static_cast<std::uint64_t>(box.body - offset) || size > largest) {
         return std::nullopt;
     }
@@ -31,11 +30,11 @@ std::optional<Mp4Box> readMp4Box(int fd, std::int64_t offset, std::int64_t limit
     return box;
 }
 
-std::optional<std::vector<Mp4Box>> readMp4Boxes(int fd, std::int64_t offset, std::int64_t end) {
+std::optional<std::vector<Mp4Box>> readMp4Boxes(FileWindow& file, std::int64_t offset, std::int64_t end) {
     constexpr std::size_t kMaximumBoxes = 1024;
     std::vector<Mp4Box> boxes;
     while (offset < end) {
-        const auto box = readMp4Box(fd, offset, end);
+        const auto box = readMp4Box(file, offset, end);
         if (!box || box->end > end || boxes.size() == kMaximumBoxes) {
             return std::nullopt;
         }
@@ -60,28 +59,10 @@ std::optional<std::vector<std::uint8_t>> readMp4Bytes(int fd, std::int64_t offse
                                                                              : std::nullopt;
 }
 
-std::span<const std::uint8_t> Mp4Reader::take(std::size_t count) {
-    if (!m_ok || count > m_bytes.size()) {
-        m_ok = false;
-        return {};
-    }
-    const auto taken = m_bytes.first(count);
-    m_bytes = m_bytes.subspan(count);
-    return taken;
-}
-
-std::uint64_t Mp4Reader::number(std::size_t size) {
-    std::uint64_t value = 0;
-    for (const std::uint8_t byte : take(size)) {
-        value = value << 8 | byte;
-    }
-    return value;
-}
-
 std::optional<std::vector<Mp4Child>> mp4Children(std::span<const std::uint8_t> body) {
     std::vector<Mp4Child> children;
     while (!body.empty()) {
-        Mp4Reader reader(body);
+        ByteReader reader(body);
         std::uint64_t size = reader.u32();
         const std::uint32_t type = reader.u32();
         std::size_t header = 8;
@@ -107,24 +88,23 @@ const Mp4Child* findMp4Child(const std::vector<Mp4Child>& children, std::uint32_
     return found != children.end() ? &*found : nullptr;
 }
 
-void Mp4Writer::begin(std::uint32_t type) {
-    m_open.push_back(m_bytes.size());
+void Mp4BoxWriter::begin(std::uint32_t type) {
+    m_open.push_back(size());
     u32(0);
     u32(type);
 }
 
-void Mp4Writer::end(std::uint64_t extra) {
-    const std::size_t start = m_open.back();
-    m_open.pop_back();
-    const std::uint64_t size = m_bytes.size() - start + extra;
-    for (std::size_t i = 0; i < 4; ++i) {
-        m_bytes[start + i] = static_cast<std::uint8_t>(size >> (24 - 8 * i));
-    }
+void Mp4BoxWriter::beginFull(std::uint32_t type, bool isLong, std::uint32_t flags) {
+    begin(type);
+    u32((isLong ? 1U << 24 : 0U) | flags);
 }
 
-void Mp4Writer::number(std::uint64_t value, int size) {
-    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8) {
-        m_bytes.push_back(static_cast<std::uint8_t>(value >> shift));
+void Mp4BoxWriter::end(std::uint64_t more) {
+    const std::size_t start = m_open.back();
+    m_open.pop_back();
+    const std::uint64_t length = size() - start + more;
+    for (std::size_t i = 0; i < 4; ++i) {
+        m_bytes[start + i] = static_cast<std::uint8_t>(length >> (24 - 8 * i));
     }
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <filesystem>
-
 #include "files/FileError.h"
 #include "files/PositionedIo.h"
 
@@ -16,14 +14,9 @@ namespace tavi {
 /// write the file is a whole fragmented one, after it a whole ordinary one: an interruption loses nothing, and running
 /// this again completes it. Where the disk has no room for the new header the file stays fragmented, and readable.
 ///
-/// Its memory does not grow with the file. Any thread; nobody else may write to the file.
-class Mp4Finalizer {
-public:
-    /// Does nothing to an ordinary MP4 file. Fails, without changing it, on a file that it does not understand: one
-    /// with several tracks, damaged in its midst, or none of MPEG-4. The descriptor must be open for reading and
-    /// writing.
-    static FileResult<void> finalize(int fd, const PwriteFunction& pwrite = systemPwrite());
-    static FileResult<void> finalize(const std::filesystem::path& path);
-};
+/// Does nothing to an ordinary MP4 file. Fails, without changing it, on a file that it does not understand: one with
+/// several tracks, damaged in its midst, or none of MPEG-4. The descriptor must be open for reading and writing. Its
+/// memory does not grow with the file. Any thread; nobody else may write to the file.
+FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite = systemPwrite());
 
 }  // namespace tavi

@@ -1,10 +1,8 @@
-#include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
 
 #include "integration/ffmpeg/RecordingFixture.h"
-#include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi::test {
 
@@ -127,53 +125,6 @@ TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {
         EXPECT_TRUE(finalize(path));
         EXPECT_EQ(QFile(path).size(), size);
     }
-}
-
-TEST_F(FailureTest, FinalizingCanFailAtAnyWriteAndBeDoneAgain) {
-    const QByteArray interrupted = contents(recordInterrupted(kTypes[3]));
-    for (int failing = 0;; ++failing) {
-        SCOPED_TRACE(failing);
-        const QString path = this->file(QStringLiteral("copy"), interrupted);
-        const FileDescriptor file = FileDescriptor::open(path, O_RDWR);
-        int calls = 0;
-        const FileResult<void> result = Mp4Finalizer::finalize(
-            file.get(), [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
-                if (calls++ == failing) {
-                    errno = ENOSPC;
-                    return -1;
-                }
-                return ::pwrite(fd, data, size, offset);
-            });
-        EXPECT_EQ(result.has_value(), failing >= calls);
-        EXPECT_EQ(isFragmented(path), !result);
-        expectTone(path, 4.5, 6);
-        if (result) {
-            EXPECT_GE(calls, 3);
-            break;
-        }
-        EXPECT_TRUE(finalize(path));
-        EXPECT_FALSE(isFragmented(path));
-        expectTone(path, 4.5, 6);
-    }
-}
-
-TEST_F(FailureTest, RecordingsBeyondFourGigabytesAreMadeWhole) {
-    const QString original = recordInterrupted(kTypes[0]);
-    const QByteArray bytes = contents(original);
-    // A hole of 5 GiB, as a box to be skipped, between the first fragment and the others.
-    const auto second = bytes.indexOf("moof", bytes.indexOf("moof") + 4) - 4;
-    const qint64 hole = qint64{5} << 30;
-    const QByteArray skipped("\0\0\0\1free\0\0\0\1\x40\0\0\0", 16);
-    QFile file(m_folder.filePath(QStringLiteral("long")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes.left(second) + skipped);
-    file.seek(second + hole);
-    file.write(bytes.mid(second));
-    file.close();
-    ASSERT_TRUE(finalize(file.fileName()));
-    EXPECT_FALSE(isFragmented(file.fileName()));
-    expectTone(file.fileName(), 4.5, 6);
-    EXPECT_EQ(decodeSound(file.fileName())->planes, decodeSound(original)->planes);
 }
 
 }  // namespace

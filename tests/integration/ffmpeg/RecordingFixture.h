@@ -1,5 +1,6 @@
 #pragma once
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -130,7 +131,8 @@ protected:
 
     /// Turns what a killed program left into an ordinary file.
     static bool finalize(const QString& path) {
-        return Mp4Finalizer::finalize(QFile::encodeName(path).toStdString()).has_value();
+        const FileDescriptor file = FileDescriptor::open(path, O_RDWR);
+        return finalizeMp4(file.get()).has_value();
     }
 
     static QByteArray contents(const QString& path) {

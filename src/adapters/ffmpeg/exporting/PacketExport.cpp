@@ -4,11 +4,11 @@
 #include <numeric>
 
 #include "adapters/ffmpeg/FileErrors.h"
-#include "adapters/ffmpeg/exporting/Mp4SoundWriter.h"
 #include "adapters/ffmpeg/reading/AdtsPackets.h"
 #include "sound/caf/CafHeader.h"
 #include "sound/caf/CafWriter.h"
 #include "sound/caf/Ima4Cut.h"
+#include "sound/mp4/Mp4MovieWriter.h"
 #include "sound/mp4/Mp4Sound.h"
 #include "sound/wav/WavHeader.h"
 #include "sound/wav/WavWriter.h"
@@ -100,10 +100,42 @@ Result<bool> exportCafPackets(const ExportJob& job) {
     return done(job);
 }
 
+namespace {
+
+/// The packets of an M4A file that is written.
+struct Packets {
+    void add(std::uint32_t size, std::uint32_t packetDuration) {
+        samples.push_back({size, packetDuration});
+        duration += packetDuration;
+    }
+    /// Makes the last packet end there, as the file of an encoder does.
+    void endAt(std::int64_t time) {
+        if (!samples.empty() && time < duration && duration - time < samples.back().duration) {
+            samples.back().duration -= static_cast<std::uint32_t>(duration - time);
+            duration = time;
+        }
+    }
+
+    std::vector<Mp4Sample> samples;
+    std::int64_t duration = 0;
+};
+
+/// Appends the header that names packets, the first of which lies at that offset.
+Result<bool> appendMovie(const ExportJob& job, const Packets& packets, std::size_t offset,
+                         const Mp4MovieDescription& sound) {
+    const Mp4Runs runs = mp4RunsOf(packets.samples, static_cast<std::int64_t>(offset));
+    const auto totals = Mp4Totals::of(runs);
+    const auto written =
+        writeMp4Movie(sound, *totals, runs, [&](std::span<const std::uint8_t> bytes) { job.file.append(bytes); });
+    return written ? done(job) : tl::unexpected(errorOf(written.error()));
+}
+
+}  // namespace
+
 Result<bool> exportMp4Packets(const ExportJob& job) {
     const auto sound = job.type == AssetFileType::AppleM4A ? Mp4Sound::open(job.source) : std::nullopt;
-    const bool isAac = sound && sound->coding() == mp4Type("mp4a");
-    if (!sound || !(isAac || sound->coding() == mp4Type("alac"))) {
+    const bool isAac = sound && sound->description().coding() == mp4Type("mp4a");
+    if (!sound || !(isAac || sound->description().coding() == mp4Type("alac"))) {
         return false;
     }
     const auto mediaTime = [&](std::int64_t frame) {
@@ -141,20 +173,24 @@ Result<bool> exportMp4Packets(const ExportJob& job) {
     }
     if (last <= start) {
         packets.push_back(packets.back());
+        bytes += packets.back().size;
     }
-    Mp4SoundWriter writer(job.file);
+    Packets written;
+    const auto head = mp4FileHead(static_cast<std::uint64_t>(bytes));
+    job.file.append(head);
     job.file.setControl(job.control, bytes);
     for (const Mp4Packet& packet : packets) {
-        writer.add(packet.size, packet.duration);
+        written.add(packet.size, packet.duration);
         job.file.copy(job.source, packet.offset, packet.size);
         if (!job.file.result()) {
             break;
         }
     }
     job.file.flush();
-    writer.endAt(end - origin);
-    writer.finish({sound->timeScale(), sound->description(), sound->userData(), start - origin, end - start});
-    return done(job);
+    written.endAt(end - origin);
+    const auto userData = sound->movie().readUserData(job.source);
+    return appendMovie(job, written, head.size(),
+                       {sound->timeScale(), sound->description().box(), userData, start - origin, end - start});
 }
 
 namespace {
@@ -196,7 +232,10 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
     std::optional<AdtsConfiguration> found;
     std::uint32_t size = 0;
     std::int64_t origin = -1;
-    Mp4SoundWriter writer(job.file);
+    Packets written;
+    std::uint64_t bytes = 0;
+    const std::size_t offset = mp4FileHead(0).size();
+    job.file.append(mp4FileHead(0));
     packets->seek(first);
     while (packets->next(*packet) && packet->pts < last) {
         const AdtsConfiguration own(packet->data);
@@ -216,24 +255,28 @@ Result<bool> exportAdtsPackets(const ExportJob& job) {
         }
         size = static_cast<std::uint32_t>(packet->size - own.headerBytes);
         gathered.insert(gathered.end(), packet->data + own.headerBytes, packet->data + packet->size);
-        writer.add(size, kAacPacketFrames);
+        written.add(size, kAacPacketFrames);
+        bytes += size;
     }
     if (!found) {
         return damaged();
     }
-    if (writer.duration() <= start / kAacPacketFrames * kAacPacketFrames - origin + kAacPacketFrames) {
+    if (written.duration <= start / kAacPacketFrames * kAacPacketFrames - origin + kAacPacketFrames) {
         const std::vector<std::uint8_t> again(gathered.end() - size, gathered.end());
         gathered.insert(gathered.end(), again.begin(), again.end());
-        writer.add(size, kAacPacketFrames);
+        written.add(size, kAacPacketFrames);
+        bytes += size;
     }
     job.file.append(gathered);
-    if (writer.duration() < end - origin && job.file.result() && !job.control.isCancelled()) {
+    if (written.duration < end - origin && job.file.result() && !job.control.isCancelled()) {
         return failure(QStringLiteral("The sound file became shorter while it was read."));
     }
-    writer.endAt(end - origin);
+    // The length of all packets was not known.
+    job.file.overwrite(mp4FileHead(bytes), 0);
+    written.endAt(end - origin);
     const auto description = mp4AacDescription(found->config, found->channels, static_cast<std::uint32_t>(rate));
-    writer.finish({static_cast<std::uint32_t>(rate), description, {}, start - origin, end - start});
-    return done(job);
+    return appendMovie(job, written, offset,
+                       {static_cast<std::uint32_t>(rate), description, {}, start - origin, end - start});
 }
 
 Result<void> exportPackets(const ExportJob& job) {

@@ -331,7 +331,7 @@ Result<void> FfmpegAudioFileWriter::finish() {
     // What follows has to do with whatever room there is.
     m_file->releaseReserve();
     if (m_format.isFragmented) {
-        const Result<void> finalized = resultOf(Mp4Finalizer::finalize(m_file->fd(), m_file->pwrite()));
+        const Result<void> finalized = resultOf(finalizeMp4(m_file->fd(), m_file->pwrite()));
         result = result ? finalized : result;
     }
     if (m_file->isBroken()) {

@@ -1,14 +1,11 @@
-#include "sound/mp4/Mp4PacketTables.h"
+#include "sound/mp4/Mp4TableReader.h"
 
 #include <algorithm>
-
-#include "files/PositionedIo.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr std::size_t kWindowBytes = std::size_t{16} * 1024;
 /// Two days of sound.
 constexpr std::uint64_t kMaximumPackets = std::uint64_t{8} << 20;
 constexpr std::uint64_t kMaximumRuns = std::uint64_t{1} << 20;
@@ -25,7 +22,7 @@ std::optional<Mp4Numbers> numbersOf(int fd, const Mp4Box& box, std::size_t bytes
 /// A table of few long entries.
 std::optional<std::vector<std::uint32_t>> runsOf(int fd, const Mp4Box& box, std::uint32_t numbers) {
     const auto body = readMp4Bytes(fd, box.body, box.end);
-    Mp4Reader reader(body ? std::span<const std::uint8_t>(*body) : std::span<const std::uint8_t>{});
+    ByteReader reader(body ? std::span<const std::uint8_t>(*body) : std::span<const std::uint8_t>{});
     reader.skip(4);
     const std::uint64_t count = reader.u32();
     if (!reader.ok() || count > kMaximumRuns || count * numbers * 4 > reader.rest().size()) {
@@ -42,24 +39,12 @@ std::optional<std::uint64_t> Mp4Numbers::at(std::uint64_t index) const {
     if (index >= m_count) {
         return std::nullopt;
     }
-    if (index < m_first || (index - m_first + 1) * m_bytes > m_window.size()) {
-        m_window.resize(std::min<std::uint64_t>(kWindowBytes, (m_count - index) * m_bytes));
-        m_window.resize(
-            readFully(m_fd, m_window.data(), m_window.size(), m_offset + static_cast<std::int64_t>(index * m_bytes)));
-        m_first = index;
-        if (m_window.size() < m_bytes) {
-            return std::nullopt;
-        }
-    }
-    const std::uint8_t* number = m_window.data() + (index - m_first) * m_bytes;
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < m_bytes; ++i) {
-        value = value << 8 | number[i];
-    }
-    return value;
+    ByteReader number(m_file.at(m_offset + static_cast<std::int64_t>(index * m_bytes), m_bytes));
+    const std::uint64_t value = m_bytes == 8 ? number.u64() : number.u32();
+    return number.ok() ? std::optional(value) : std::nullopt;
 }
 
-std::optional<Mp4PacketTables> Mp4PacketTables::open(int fd, const std::vector<Mp4Box>& boxes) {
+std::optional<Mp4TableReader> Mp4TableReader::open(int fd, const std::vector<Mp4Box>& boxes) {
     const Mp4Box* times = findMp4Box(boxes, mp4Type("stts"));
     const Mp4Box* runs = findMp4Box(boxes, mp4Type("stsc"));
     const Mp4Box* sizes = findMp4Box(boxes, mp4Type("stsz"));
@@ -68,7 +53,7 @@ std::optional<Mp4PacketTables> Mp4PacketTables::open(int fd, const std::vector<M
     if (times == nullptr || runs == nullptr || sizes == nullptr || offsets == nullptr) {
         return std::nullopt;
     }
-    Mp4PacketTables tables;
+    Mp4TableReader tables;
     const auto chunks = numbersOf(fd, *offsets, shortOffsets != nullptr ? 4 : 8);
     if (!chunks) {
         return std::nullopt;
@@ -83,7 +68,7 @@ std::optional<Mp4PacketTables> Mp4PacketTables::open(int fd, const std::vector<M
     return tables;
 }
 
-bool Mp4PacketTables::readTimes(int fd, const Mp4Box& box) {
+bool Mp4TableReader::readTimes(int fd, const Mp4Box& box) {
     const auto runs = runsOf(fd, box, 2);
     std::int64_t start = 0;
     for (std::size_t i = 0; runs && i < runs->size(); i += 2) {
@@ -100,7 +85,7 @@ bool Mp4PacketTables::readTimes(int fd, const Mp4Box& box) {
     return runs.has_value();
 }
 
-bool Mp4PacketTables::readChunks(int fd, const Mp4Box& box) {
+bool Mp4TableReader::readChunks(int fd, const Mp4Box& box) {
     const auto runs = runsOf(fd, box, 3);
     const std::uint64_t chunks = m_chunks.count();
     for (std::size_t i = 0; runs && i < runs->size(); i += 3) {
@@ -117,7 +102,7 @@ bool Mp4PacketTables::readChunks(int fd, const Mp4Box& box) {
     return runs.has_value();
 }
 
-bool Mp4PacketTables::readSizes(int fd, const Mp4Box& box) {
+bool Mp4TableReader::readSizes(int fd, const Mp4Box& box) {
     const Mp4Numbers head(fd, box.body, 3, 4);
     const auto size = head.at(1);
     const auto count = head.at(2);
@@ -132,11 +117,11 @@ bool Mp4PacketTables::readSizes(int fd, const Mp4Box& box) {
     return true;
 }
 
-std::optional<std::uint64_t> Mp4PacketTables::sizeOf(std::uint64_t packet) const {
+std::optional<std::uint64_t> Mp4TableReader::sizeOf(std::uint64_t packet) const {
     return m_packetSize > 0 ? m_packetSize : m_sizes.at(packet);
 }
 
-std::uint64_t Mp4PacketTables::packetAt(std::int64_t time) const {
+std::uint64_t Mp4TableReader::packetAt(std::int64_t time) const {
     const auto behind = std::upper_bound(m_timeRuns.begin(), m_timeRuns.end(), time,
                                          [](std::int64_t at, const TimeRun& run) { return at < run.start; });
     for (auto run = behind; run != m_timeRuns.begin();) {
@@ -149,7 +134,7 @@ std::uint64_t Mp4PacketTables::packetAt(std::int64_t time) const {
     return 0;
 }
 
-std::optional<Mp4PacketTables::Place> Mp4PacketTables::placeBefore(std::uint64_t packet) const {
+std::optional<Mp4TableReader::Place> Mp4TableReader::placeBefore(std::uint64_t packet) const {
     Place place;
     place.packet = std::min(packet, m_packets);
     if (place.packet == m_packets) {
@@ -179,7 +164,7 @@ std::optional<Mp4PacketTables::Place> Mp4PacketTables::placeBefore(std::uint64_t
     return place;
 }
 
-bool Mp4PacketTables::next(Place& place, std::int64_t& start, Mp4Packet& packet) const {
+bool Mp4TableReader::next(Place& place, std::int64_t& start, Mp4Packet& packet) const {
     if (place.packet >= m_packets) {
         return false;
     }

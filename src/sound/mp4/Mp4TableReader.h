@@ -5,46 +5,39 @@
 #include <vector>
 
 #include "sound/mp4/Mp4Boxes.h"
+#include "sound/mp4/Mp4Packet.h"
 
 namespace tavi {
 
-/// One packet of a track, called sample in ISO/IEC 14496-12.
-struct Mp4Packet {
-    std::int64_t offset = 0;
-    std::uint32_t size = 0;
-    /// In units of the media time scale.
-    std::uint32_t duration = 0;
-};
-
-/// Big-endian numbers in a file, read through a window.
+/// Big-endian numbers in a file, read through a window. Borrows the descriptor.
 class Mp4Numbers {
 public:
     Mp4Numbers() = default;
-    /// So many numbers of 4 or 8 bytes. Borrows the descriptor.
+    /// So many numbers of 4 or 8 bytes.
     Mp4Numbers(int fd, std::int64_t offset, std::uint64_t count, std::size_t bytes)
-        : m_fd(fd), m_offset(offset), m_count(count), m_bytes(bytes) {}
+        : m_file(fd, kWindowBytes), m_offset(offset), m_count(count), m_bytes(bytes) {}
 
     std::uint64_t count() const { return m_count; }
     /// Nothing behind the last one, and when the file cannot be read any more.
     std::optional<std::uint64_t> at(std::uint64_t index) const;
 
 private:
-    int m_fd = -1;
+    static constexpr std::size_t kWindowBytes = std::size_t{16} * 1024;
+
+    mutable FileWindow m_file;
     std::int64_t m_offset = 0;
     std::uint64_t m_count = 0;
     std::size_t m_bytes = 4;
-    mutable std::vector<std::uint8_t> m_window;
-    /// The number at which the window starts.
-    mutable std::uint64_t m_first = 0;
 };
 
-/// When the packets of a track begin and where they lie (ISO/IEC 14496-12, 8.6.1.2, 8.7.3 to 8.7.5). Sizes and offsets
-/// are read when they are asked for, so that memory does not grow with the sound. One thread at a time.
-class Mp4PacketTables {
+/// Reads the tables that say when the packets of a track begin and where they lie (ISO/IEC 14496-12, 8.6.1.2, 8.7.3 to
+/// 8.7.5). Sizes and offsets are read when they are asked for, so that memory does not grow with the sound. One thread
+/// at a time.
+class Mp4TableReader {
 public:
-    Mp4PacketTables() = default;
+    Mp4TableReader() = default;
     /// Takes the boxes in a box "stbl"; nothing when some are missing or make no sense. Borrows the descriptor.
-    static std::optional<Mp4PacketTables> open(int fd, const std::vector<Mp4Box>& tables);
+    static std::optional<Mp4TableReader> open(int fd, const std::vector<Mp4Box>& tables);
 
     /// Packets of which every table tells.
     std::uint64_t packets() const { return m_packets; }

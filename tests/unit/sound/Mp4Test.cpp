@@ -1,0 +1,452 @@
+#include <cerrno>
+#include <numeric>
+
+#include "sound/HeaderDuration.h"
+#include "sound/mp4/Mp4Finalizer.h"
+#include "sound/mp4/Mp4MovieWriter.h"
+#include "sound/mp4/Mp4PacketReader.h"
+#include "unit/sound/MemoryFile.h"
+
+namespace tavi::test {
+
+namespace {
+
+constexpr std::uint32_t kRate = 8000;
+const Bytes kUserData = {0, 0, 0, 16, 'u', 'd', 't', 'a', 'a', ' ', 'r', 'e', 'm', 'a', 'r', 'k'};
+
+/// The box "stsd" with one entry of sound, in which that box is.
+Bytes description(std::uint32_t coding, const Bytes& configuration) {
+    Mp4BoxWriter writer;
+    writer.beginFull(mp4Type("stsd"));
+    writer.u32(1);
+    writer.begin(coding);
+    writer.u64(1);
+    writer.u64(0);
+    writer.u32(0x20010);
+    writer.u32(0);
+    writer.u32(kRate << 16);
+    writer.bytes(configuration);
+    writer.end();
+    writer.end();
+    return writer.release();
+}
+
+Bytes lossless() {
+    Mp4BoxWriter cookie;
+    cookie.beginFull(mp4Type("alac"));
+    cookie.u32(4096);
+    cookie.u32(0x00102828);
+    cookie.u32(0x0e0200ff);
+    cookie.u64(0);
+    cookie.u32(kRate);
+    cookie.end();
+    return description(mp4Type("alac"), cookie.release());
+}
+
+/// Packets of many sizes; the last one is shorter.
+std::vector<Mp4Sample> samples(std::uint32_t count, std::uint32_t duration = 1024) {
+    std::vector<Mp4Sample> all;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        all.push_back({10 + i % 7, i + 1 < count ? duration : duration / 2});
+    }
+    return all;
+}
+
+/// What is in a packet.
+Bytes contentsOf(std::size_t packet, std::uint32_t size) {
+    return Bytes(size, static_cast<std::uint8_t>(packet * 31));
+}
+
+std::int64_t durationOf(std::span<const Mp4Sample> all) {
+    return std::accumulate(all.begin(), all.end(), std::int64_t{0},
+                           [](std::int64_t sum, const Mp4Sample& sample) { return sum + sample.duration; });
+}
+
+/// Packets that play from a time on to their end.
+Bytes ordinary(const std::vector<Mp4Sample>& all, std::int64_t start = 0, const Bytes& coding = lossless()) {
+    ByteWriter data;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        data.bytes(contentsOf(i, all[i].size));
+    }
+    ByteWriter file;
+    const Bytes head = mp4FileHead(data.size());
+    file.bytes(head);
+    file.bytes(data.data());
+    const Mp4Runs runs = mp4RunsOf(all, std::ssize(head));
+    const auto isWritten = writeMp4Movie({kRate, coding, kUserData, start, durationOf(all) - start},
+                                         *Mp4Totals::of(runs), runs, [&](auto bytes) { file.bytes(bytes); });
+    EXPECT_TRUE(isWritten);
+    return file.release();
+}
+
+/// The same file with other bytes at a distance behind the name of its last box of a type.
+Bytes changed(Bytes file, std::string_view box, std::ptrdiff_t at, std::uint64_t value, int size = 4) {
+    const auto found = std::find_end(file.begin(), file.end(), box.begin(), box.end());
+    EXPECT_TRUE(found != file.end()) << box;
+    for (int i = 0; i < size; ++i) {
+        *(found + at + i) = static_cast<std::uint8_t>(value >> (8 * (size - 1 - i)));
+    }
+    return file;
+}
+
+void expectPackets(const FileDescriptor& file, std::span<const Mp4Sample> all, std::int64_t start = 0) {
+    const auto sound = Mp4Sound::open(file.get());
+    ASSERT_TRUE(sound);
+    EXPECT_EQ(sound->timeScale(), kRate);
+    EXPECT_EQ(sound->start(), start);
+    for (const auto& [from, preroll] :
+         {std::pair<std::size_t, std::uint64_t>{0, 0}, {1, 5}, {all.size() / 2, 2}, {all.size() - 1, 1}}) {
+        std::size_t next = from - std::min<std::size_t>(from, preroll);
+        const std::int64_t time = durationOf(all.first(from)) + 1;
+        const bool isRead = sound->forEachPacket(time, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
+            if (next == all.size()) {
+                ADD_FAILURE() << "a packet too many";
+                return false;
+            }
+            EXPECT_EQ(begin, durationOf(all.first(next)));
+            EXPECT_EQ(packet.duration, all[next].duration);
+            Bytes bytes(packet.size);
+            EXPECT_EQ(readFully(file.get(), bytes.data(), bytes.size(), packet.offset), bytes.size());
+            EXPECT_EQ(bytes, contentsOf(next, all[next].size)) << next;
+            ++next;
+            return true;
+        });
+        EXPECT_TRUE(isRead);
+        EXPECT_EQ(next, all.size()) << "from " << from;
+    }
+}
+
+TEST(Mp4Test, anOrdinaryFileIsReadAsItWasWritten) {
+    for (const std::uint32_t count : {1U, 2U, 32U, 33U, 200U}) {
+        for (const std::int64_t start : {0, 300}) {
+            SCOPED_TRACE(testing::Message() << count << " packets from " << start);
+            const auto all = samples(count);
+            const FileDescriptor file = memoryFile(ordinary(all, start));
+            expectPackets(file, all, start);
+            EXPECT_EQ(headerDuration(file.get()), static_cast<double>(durationOf(all) - start) / kRate);
+            const auto movie = Mp4Movie::read(file.get());
+            EXPECT_EQ(movie->readUserData(file.get()), kUserData);
+        }
+    }
+}
+
+TEST(Mp4Test, packetsOfALongFileAreHandedOutFromAnyTime) {
+    // Tables beyond every block and window.
+    constexpr std::uint32_t kDuration = 1024;
+    constexpr std::int64_t kStart = 5000;
+    const auto all = samples(20000, kDuration);
+    const FileDescriptor file = memoryFile(ordinary(all, kStart));
+    EXPECT_EQ(headerDuration(file.get()), static_cast<double>(durationOf(all) - kStart) / kRate);
+    auto reader = Mp4PacketReader::open(file.get());
+    ASSERT_TRUE(reader);
+    EXPECT_EQ(reader->format().sampleRate, kRate);
+    EXPECT_EQ(reader->format().channelsPerFrame, 2U);
+    EXPECT_EQ(reader->maxPacketSize(), 16U);
+    EXPECT_EQ(reader->configuration().size(), 36U);
+    EXPECT_EQ(reader->seconds(), headerDuration(file.get()));
+    for (const std::size_t from : {std::size_t{0}, std::size_t{19999}, std::size_t{7}, std::size_t{12345}}) {
+        ASSERT_TRUE(reader->seek(static_cast<std::int64_t>(from) * kDuration - kStart + 1));
+        for (std::size_t i = from; i < all.size(); ++i) {
+            const auto packet = reader->next();
+            ASSERT_TRUE(packet);
+            ASSERT_EQ(packet->start, static_cast<std::int64_t>(i) * kDuration - kStart);
+            ASSERT_TRUE(std::ranges::equal(packet->bytes, contentsOf(i, all[i].size))) << i;
+        }
+        EXPECT_FALSE(reader->next());
+    }
+    // Somebody cuts the file meanwhile.
+    ASSERT_EQ(::ftruncate(file.get(), 1000), 0);
+    reader->rewind();
+    int count = 0;
+    while (reader->next()) {
+        ++count;
+    }
+    EXPECT_LT(count, 100);
+}
+
+TEST(Mp4Test, lengthsAreThoseOfWhatPlays) {
+    const auto all = samples(20);
+    const double media = static_cast<double>(durationOf(all)) / kRate;
+    const Bytes edited = ordinary(all, 1000);
+    const auto with = [](Bytes bytes, std::uint64_t movieScale, std::uint64_t duration) {
+        return changed(changed(std::move(bytes), "mvhd", 16, movieScale), "elst", 12, duration);
+    };
+    const std::pair<Bytes, double> files[] = {
+        {edited, media - 0.125},
+        {changed(edited, "edts", 0, mp4Type("free")), media},
+        // A coarse scale: the rest of the media as near as it can be said, and less than that.
+        {with(edited, 1000, 2371), media - 0.125},
+        {with(edited, 10, 23), media - 0.125},
+        {with(edited, 10, 20), 2.0},
+        {with(edited, 10, 0), media},
+        // Silence, though longer than any file, plays nothing of the sound.
+        {changed(with(edited, 10, 0xffffffff), "elst", 16, 0xffffffff), media},
+        {changed(edited, "hdlr", 12, mp4Type("vide")), -1},
+    };
+    // Beyond what 32 bits hold.
+    const auto days = samples(600, 1 << 23);
+    EXPECT_EQ(headerDuration(memoryFile(ordinary(days, 1000)).get()),
+              static_cast<double>(durationOf(days) - 1000) / kRate);
+    for (const auto& [bytes, seconds] : files) {
+        const FileDescriptor file = memoryFile(bytes);
+        EXPECT_DOUBLE_EQ(headerDuration(file.get()).value_or(-1), seconds);
+    }
+}
+
+TEST(Mp4Test, whatIsUnusualOrDamagedIsLeftToOthers) {
+    const Bytes file = ordinary(samples(100), 300);
+    ASSERT_TRUE(Mp4PacketReader::open(memoryFile(file).get()));
+    const std::pair<const char*, Bytes> files[] = {
+        {"no file", {}},
+        {"cut off", Bytes(file.begin(), file.end() - 10)},
+        {"another box first", changed(file, "ftyp", 0, mp4Type("free"))},
+        {"encrypted", changed(file, "stsd", 16, mp4Type("enca"))},
+        {"another codec", changed(file, "alac", 0, mp4Type("none"))},
+        {"another rate", changed(file, "alac", 28, 44100)},
+        {"many channels", changed(file, "alac", 17, 3, 1)},
+        {"two descriptions", changed(file, "stsd", 8, 2)},
+        {"two edits", changed(file, "elst", 8, 2)},
+        {"at half speed", changed(file, "elst", 20, 0x8000)},
+        {"from before its start", changed(file, "elst", 16, 0x80000000)},
+        {"in another file", changed(file, "url ", 4, 0)},
+        {"a packet more in one table", changed(file, "stsz", 12, 101)},
+        {"a packet less in one table", changed(file, "stts", 12, 98)},
+        {"more packets than bytes", changed(file, "stsz", 12, 0xffffffff)},
+        {"a packet too large", changed(file, "stsz", 20, 0x7fffffff)},
+        {"an empty packet", changed(file, "stsz", 20, 0)},
+        {"packets without duration", changed(file, "stts", 16, 0)},
+        {"packets of two seconds", changed(file, "stts", 16, 2 * kRate)},
+        {"chunks out of order", changed(file, "stsc", 24, 0)},
+        {"endless chunks", changed(file, "stsc", 16, 0xffffffff)},
+        {"a chunk behind the end", changed(file, "co64", 16, 0x7fffff00)},
+        {"a chunk behind every end", changed(file, "co64", 12, 0x7fffff00)},
+        {"a table that is unknown", changed(file, "stts", 0, mp4Type("ctts"))},
+        {"no time scale", changed(file, "mdhd", 16, 0)},
+        {"a remark on what is not heard",
+         changed(changed(file, "a re", 0, mp4Type("iTun")), "mark", 0, mp4Type("SMPB"))},
+    };
+    for (const auto& [name, bytes] : files) {
+        EXPECT_FALSE(Mp4PacketReader::open(memoryFile(bytes).get())) << name;
+    }
+}
+
+TEST(Mp4Test, onlyAacThatIsWhatItSaysHasAFormat) {
+    const auto formatOf = [](const Bytes& config, std::uint32_t timeScale) {
+        Mp4BoxWriter box;
+        box.beginFull(mp4Type("esds"));
+        for (const std::size_t byte :
+             {std::size_t{3}, 20 + config.size(), std::size_t{0}, std::size_t{1}, std::size_t{0}, std::size_t{4},
+              15 + config.size(), std::size_t{0x40}, std::size_t{0x15}}) {
+            box.u8(byte);
+        }
+        box.bytes(Bytes(11));
+        box.u8(5);
+        box.u8(config.size());
+        box.bytes(config);
+        box.end();
+        const Bytes file = ordinary(samples(2), 0, description(mp4Type("mp4a"), box.data()));
+        const auto sound = Mp4Sound::open(memoryFile(changed(file, "mdhd", 16, timeScale)).get());
+        const auto format = sound->format();
+        return format ? format->sampleRate * 10 + format->channelsPerFrame : 0;
+    };
+    EXPECT_EQ(formatOf({0x12, 0x10}, 44100), 441002);
+    EXPECT_EQ(formatOf({0x11, 0x88}, 48000), 480001);
+    // What sounds at this rate may be one half of it, unless it says otherwise.
+    EXPECT_EQ(formatOf({0x15, 0x88}, 8000), 0);
+    EXPECT_EQ(formatOf({0x15, 0x88, 0x56, 0xe5, 0x00}, 8000), 80001);
+    EXPECT_EQ(formatOf({0x15, 0x88, 0x56, 0xe5, 0x80}, 8000), 0);
+    // Another scale, coding, number of channels and length of packets; nothing.
+    for (const Bytes& config : {Bytes{0x12, 0x08}, Bytes{0x2a, 0x10}, Bytes{0x12, 0x38}, Bytes{0x12, 0x14}, Bytes{}}) {
+        EXPECT_EQ(formatOf(config, config == Bytes{0x12, 0x08} ? 48000 : 44100), 0);
+    }
+}
+
+/// A recording as it grows: a header without packets, and a fragment for every ten of them. The first one names
+/// its own place, and tells how long its packets are only once.
+Bytes fragmented(const std::vector<Mp4Sample>& all, std::uint32_t start = 0) {
+    const std::vector<Mp4Sample> none;
+    const Bytes ordinaryEmpty = ordinary(none);
+    Bytes header(ordinaryEmpty.begin(), ordinaryEmpty.end());
+    // An edit of no length in the place of the user's data, which comes behind it; then what fragments default to.
+    Mp4BoxWriter edit;
+    edit.begin(mp4Type("edts"));
+    edit.beginFull(mp4Type("elst"));
+    edit.u32(1);
+    edit.u32(0);
+    edit.u32(start);
+    edit.u32(0x10000);
+    edit.end();
+    edit.end();
+    Mp4BoxWriter extends;
+    extends.begin(mp4Type("mvex"));
+    extends.beginFull(mp4Type("trex"));
+    extends.u32(1);
+    extends.u32(1);
+    extends.u32(1024);
+    extends.u32(10);
+    extends.u32(0);
+    extends.end();
+    extends.end();
+    const auto grow = [&](std::string_view box, std::size_t bytes) {
+        const auto found = std::search(header.begin(), header.end(), box.begin(), box.end()) - 4;
+        ByteWriter size;
+        size.u32(ByteReader(std::span(&*found, 4)).u32() + bytes);
+        std::copy(size.data().begin(), size.data().end(), found);
+        return found;
+    };
+    const auto track = grow("trak", edit.size());
+    header.insert(track + 8, edit.data().begin(), edit.data().end());
+    grow("moov", edit.size() + extends.size());
+    header.insert(header.end(), extends.data().begin(), extends.data().end());
+    ByteWriter file;
+    file.bytes(header);
+    for (std::size_t first = 0; first < all.size(); first += 10) {
+        const std::size_t count = std::min<std::size_t>(10, all.size() - first);
+        Mp4BoxWriter fragment;
+        fragment.begin(mp4Type("moof"));
+        fragment.begin(mp4Type("traf"));
+        const bool isOwn = first == 0;
+        // Places count from the fragment, or from a place that it names.
+        fragment.beginFull(mp4Type("tfhd"), false, isOwn ? 0x9 : 0x20000);
+        fragment.u32(1);
+        if (isOwn) {
+            fragment.u64(file.size());
+            fragment.u32(1024);
+        }
+        fragment.end();
+        const bool hasDurations = !isOwn;
+        fragment.beginFull(mp4Type("trun"), false, hasDurations ? 0x301 : 0x201);
+        fragment.u32(count);
+        const std::size_t runHeader = fragment.size() + 4;
+        fragment.u32(runHeader + count * (hasDurations ? 8 : 4) + 8);
+        ByteWriter data;
+        for (std::size_t i = first; i < first + count; ++i) {
+            if (hasDurations) {
+                fragment.u32(all[i].duration);
+            }
+            fragment.u32(all[i].size);
+            data.bytes(contentsOf(i, all[i].size));
+        }
+        for (int open = 3; open > 0; --open) {
+            fragment.end();
+        }
+        file.bytes(fragment.data());
+        file.u32(data.size() + 8);
+        file.u32(mp4Type("mdat"));
+        file.bytes(data.data());
+    }
+    return file.release();
+}
+
+bool isFragmented(const FileDescriptor& file) {
+    const auto movie = Mp4Movie::read(file.get());
+    return movie && movie->isFragmented;
+}
+
+TEST(Mp4Test, fragmentsAreReadAndMadeOneOrdinaryFile) {
+    const auto all = samples(75);
+    const Bytes whole = fragmented(all, 300);
+    const auto rest = std::span(all).first(70);
+    // Cut off in the last fragment's data or header; zeros that were never written; half of a new header behind.
+    Bytes cut(whole.begin(), whole.end() - 1);
+    Bytes zeros = whole;
+    zeros.resize(zeros.size() + 5000);
+    Bytes half = whole;
+    const Bytes other = ordinary(all, 300);
+    const std::string_view movie = "moov";
+    half.insert(half.end(), std::search(other.begin(), other.end(), movie.begin(), movie.end()) - 4, other.end() - 9);
+    const std::string_view fragment = "moof";
+    const auto header = std::find_end(whole.begin(), whole.end(), fragment.begin(), fragment.end());
+    const std::pair<Bytes, std::span<const Mp4Sample>> files[] = {
+        {whole, all}, {cut, rest}, {Bytes(whole.begin(), header + 9), rest}, {zeros, all}, {half, all}};
+    for (const auto& [bytes, packets] : files) {
+        SCOPED_TRACE(bytes.size());
+        const FileDescriptor file = memoryFile(bytes);
+        const double seconds = static_cast<double>(durationOf(packets) - 300) / kRate;
+        expectPackets(file, packets, 300);
+        EXPECT_EQ(headerDuration(file.get()), seconds);
+        EXPECT_FALSE(Mp4PacketReader::open(file.get()));
+        ASSERT_TRUE(finalizeMp4(file.get()));
+        EXPECT_FALSE(isFragmented(file));
+        expectPackets(file, packets, 300);
+        EXPECT_EQ(headerDuration(file.get()), seconds);
+        EXPECT_TRUE(Mp4PacketReader::open(file.get()));
+        EXPECT_EQ(Mp4Movie::read(file.get())->readUserData(file.get()), kUserData);
+        // Once more changes nothing.
+        const Bytes finished = contents(file);
+        EXPECT_TRUE(finalizeMp4(file.get()));
+        EXPECT_EQ(contents(file), finished);
+    }
+}
+
+TEST(Mp4Test, makingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
+    const auto all = samples(75);
+    bool isDone = false;
+    for (int failing = 0; !isDone; ++failing) {
+        SCOPED_TRACE(failing);
+        const FileDescriptor file = memoryFile(fragmented(all));
+        int calls = 0;
+        const auto result = finalizeMp4(file.get(), [&](int fd, const void* data, std::size_t size, off_t offset) {
+            errno = ENOSPC;
+            return calls++ == failing ? ssize_t{-1} : ::pwrite(fd, data, size, offset);
+        });
+        EXPECT_EQ(result.has_value(), failing >= calls);
+        EXPECT_TRUE(result || result.error().text == "The disk is full.");
+        EXPECT_EQ(isFragmented(file), !result);
+        expectPackets(file, all);
+        EXPECT_TRUE(finalizeMp4(file.get()));
+        EXPECT_FALSE(isFragmented(file));
+        expectPackets(file, all);
+        isDone = result.has_value();
+        EXPECT_GE(calls, isDone ? 3 : 1);
+    }
+}
+
+TEST(Mp4Test, recordingsBeyondFourGigabytesAreMadeOrdinary) {
+    const auto all = samples(40);
+    const Bytes bytes = fragmented(all);
+    // A hole of 5 GiB, as a box to be skipped, between the first fragment and the others.
+    const std::string_view name = "moof";
+    const auto second = std::search(std::search(bytes.begin(), bytes.end(), name.begin(), name.end()) + 4, bytes.end(),
+                                    name.begin(), name.end()) -
+                        4;
+    const std::int64_t hole = std::int64_t{5} << 30;
+    const Bytes skipped = {0, 0, 0, 1, 'f', 'r', 'e', 'e', 0, 0, 0, 1, 0x40, 0, 0, 0};
+    Bytes start(bytes.begin(), second);
+    start.insert(start.end(), skipped.begin(), skipped.end());
+    const Bytes rest(second, bytes.end());
+    const FileDescriptor file = memoryFile(start);
+    const std::int64_t behind = second - bytes.begin() + hole;
+    ASSERT_EQ(writeFully(systemPwrite(), file.get(), rest.data(), rest.size(), behind).error, 0);
+    ASSERT_TRUE(finalizeMp4(file.get()));
+    EXPECT_FALSE(isFragmented(file));
+    expectPackets(file, all);
+}
+
+TEST(Mp4Test, fragmentsThatMakeNoSenseAreLeftAsTheyAre) {
+    const Bytes whole = fragmented(samples(30));
+    const std::pair<const char*, Bytes> files[] = {
+        {"no MP4 file", Bytes(100)},
+        {"packets beside the fragments", changed(whole, "stsz", 12, 1)},
+        {"no defaults", changed(whole, "trex", 0, mp4Type("free"))},
+        {"another track", changed(whole, "tfhd", 8, 2)},
+        {"a place outside of the data", changed(whole, "trun", 12, 1)},
+        {"a place before the file", changed(whole, "trun", 12, 0x80000000)},
+        {"more packets than data", changed(whole, "trun", 20, 0x7fffffff)},
+        {"an empty packet", changed(whole, "trun", 20, 0)},
+        {"a packet of days", changed(whole, "trun", 16, 0xffffffff)},
+        {"endless packets", changed(whole, "trun", 8, 0xffffffff)},
+        {"another box for the data", changed(whole, "mdat", 0, mp4Type("free"))},
+        {"no description", changed(whole, "stsd", 8, 0)},
+    };
+    for (const auto& [name, bytes] : files) {
+        const FileDescriptor file = memoryFile(bytes);
+        EXPECT_FALSE(finalizeMp4(file.get())) << name;
+        EXPECT_EQ(contents(file), bytes) << name;
+        EXPECT_FALSE(Mp4Sound::open(file.get()) && headerDuration(file.get())) << name;
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test
