@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "adapters/ffmpeg/converting/ChannelMatrix.h"
 #include "sound/io/SampleRate.h"
 
 namespace tavi {
@@ -41,19 +42,16 @@ std::optional<FormatConverter> FormatConverter::create(int channels, std::uint64
     }
     FormatConverter converter;
     const int clientChannels = static_cast<int>(client.channelsPerFrame);
-    const int narrow = std::min(channels, clientChannels);
-    if (!isRateKept) {
-        converter.m_rate = RateConverter::create(static_cast<int>(rate), static_cast<int>(client.sampleRate), narrow);
-        if (!converter.m_rate) {
+    if (!isRateKept || channels != clientChannels) {
+        converter.m_stream = StreamConverter::create({static_cast<int>(rate), channels, channelMask},
+                                                     {static_cast<int>(client.sampleRate), clientChannels});
+        if (!converter.m_stream) {
             return std::nullopt;
         }
     }
     converter.m_client = client;
     converter.m_encoding = *encoding;
-    converter.m_narrow.emplace(channels, channelMask, narrow);
-    converter.m_widen.emplace(narrow, channels == narrow ? channelMask : 0, clientChannels);
     converter.m_inputPlanes.resize(channels, kChunkFrames);
-    converter.m_narrowPlanes.resize(narrow, kChunkFrames);
     converter.m_clientPlanes.resize(clientChannels, kChunkFrames);
     return converter;
 }
@@ -63,16 +61,16 @@ bool FormatConverter::fits(const AudioBufferList& data, const AudioStreamBasicDe
 }
 
 std::int64_t FormatConverter::outputFrameFor(std::int64_t inputFrame) const {
-    return m_rate ? m_rate->outputFrames(inputFrame) : inputFrame;
+    return m_stream ? m_stream->outputFrames(inputFrame) : inputFrame;
 }
 
 std::int64_t FormatConverter::inputFrameFor(std::int64_t outputFrame) const {
-    return m_rate ? m_rate->inputFrameFor(outputFrame) : outputFrame;
+    return m_stream ? m_stream->inputFrameFor(outputFrame) : outputFrame;
 }
 
 std::int64_t FormatConverter::startAt(std::int64_t outputFrame) {
     m_isFinished = false;
-    return m_rate ? m_rate->startAt(outputFrame) : outputFrame;
+    return m_stream ? m_stream->startAt(outputFrame) : outputFrame;
 }
 
 std::size_t FormatConverter::read(const Source& source, AudioBufferList& data, std::size_t frames) {
@@ -84,7 +82,7 @@ std::size_t FormatConverter::read(const Source& source, AudioBufferList& data, s
         for (std::uint32_t i = 0; i < m_client.channelsPerFrame; ++i) {
             planes[i] = isDirect ? static_cast<float*>(data.buffers[i].data) + done : m_clientPlanes.data()[i];
         }
-        const std::size_t count = readClient(source, planes.data(), std::min(kChunkFrames, frames - done));
+        const std::size_t count = readPlanes(source, planes.data(), std::min(kChunkFrames, frames - done));
         if (count == 0) {
             break;
         }
@@ -101,53 +99,23 @@ std::size_t FormatConverter::read(const Source& source, AudioBufferList& data, s
     return done;
 }
 
-std::size_t FormatConverter::readClient(const Source& source, float* const* planes, std::size_t frames) {
-    // Channels that are only copied need no plane of their own.
-    const bool isInPlace = m_widen->isIdentity() || m_widen->isCopy();
-    const std::size_t count = readNarrow(source, isInPlace ? planes : m_narrowPlanes.data(), frames);
-    if (m_widen->isIdentity()) {
-        return count;
-    }
-    if (isInPlace) {
-        for (std::uint32_t i = 1; i < m_client.channelsPerFrame; ++i) {
-            std::copy_n(planes[0], count, planes[i]);
-        }
-    } else {
-        m_widen->mix(m_narrowPlanes.data(), planes, count);
-    }
-    return count;
-}
-
-std::size_t FormatConverter::readNarrow(const Source& source, float* const* planes, std::size_t frames) {
-    if (!m_rate) {
-        return readInput(source, planes, frames);
-    }
-    for (;;) {
-        const std::size_t count = m_rate->read(planes, frames);
-        if (count > 0) {
-            return count;
-        }
-        if (m_isFinished) {
-            return 0;
-        }
-        // The planes hold nothing yet and have room for as many frames of the input.
-        const std::size_t taken = readInput(source, planes, frames);
-        if (taken > 0) {
-            m_rate->write(planes, taken);
-        } else {
-            m_isFinished = true;
-            m_rate->finish();
-        }
-    }
-}
-
-std::size_t FormatConverter::readInput(const Source& source, float* const* planes, std::size_t frames) {
-    if (m_narrow->isIdentity()) {
+std::size_t FormatConverter::readPlanes(const Source& source, float* const* planes, std::size_t frames) {
+    if (!m_stream) {
         return source(planes, frames);
     }
-    const std::size_t count = source(m_inputPlanes.data(), frames);
-    m_narrow->mix(m_inputPlanes.data(), planes, count);
-    return count;
+    for (;;) {
+        const std::size_t count = m_stream->read(planes, frames);
+        if (count > 0 || m_isFinished) {
+            return count;
+        }
+        const std::size_t taken = source(m_inputPlanes.data(), kChunkFrames);
+        if (taken > 0) {
+            m_stream->write(m_inputPlanes.data(), taken);
+        } else {
+            m_isFinished = true;
+            m_stream->finish();
+        }
+    }
 }
 
 }  // namespace tavi

@@ -4,21 +4,20 @@
 #include <optional>
 #include <vector>
 
-#include "adapters/ffmpeg/converting/ChannelMixer.h"
-#include "adapters/ffmpeg/converting/RateConverter.h"
+#include "adapters/ffmpeg/converting/StreamConverter.h"
 #include "sound/io/PcmSamples.h"
 
 namespace tavi {
 
-/// Brings planes of floats into a client's format: channels first where they become fewer, then the rate, then channels
-/// where they become more, and last the type of the samples. What agrees is left alone. One thread at a time.
+/// Brings planes of floats into a client's format: channels and rate, then the type of the samples. What agrees is left
+/// alone. One thread at a time.
 class FormatConverter {
 public:
     /// Gives up to that many frames of the input, one plane a channel; 0 at the end only.
     using Source = std::function<std::size_t(float* const* planes, std::size_t frames)>;
 
-    /// channelMask is that of ChannelMixer. Nothing where the client's format is no linear PCM of 1 to 8 channels, or a
-    /// rate is not a whole number that FFmpeg takes.
+    /// channelMask is that of channelMatrix(). Nothing where the client's format is no linear PCM of 1 to 8 channels,
+    /// or a rate is not a whole number that FFmpeg takes.
     static std::optional<FormatConverter> create(int channels, std::uint64_t channelMask, double rate,
                                                  const AudioStreamBasicDescription& client);
 
@@ -51,21 +50,15 @@ private:
 
     FormatConverter() = default;
 
-    std::size_t readClient(const Source& source, float* const* planes, std::size_t frames);
-    /// At the rate of the client, in as many channels as are resampled.
-    std::size_t readNarrow(const Source& source, float* const* planes, std::size_t frames);
-    /// The same at the rate of the input.
-    std::size_t readInput(const Source& source, float* const* planes, std::size_t frames);
+    /// In the client's channels and at its rate.
+    std::size_t readPlanes(const Source& source, float* const* planes, std::size_t frames);
 
     AudioStreamBasicDescription m_client;
     PcmEncoding m_encoding;
-    /// From the input's channels to the fewer of both, and from these to the client's.
-    std::optional<ChannelMixer> m_narrow;
-    std::optional<ChannelMixer> m_widen;
-    std::optional<RateConverter> m_rate;
+    /// Nothing where rate and channels are the client's already.
+    std::optional<StreamConverter> m_stream;
     bool m_isFinished = false;
     Planes m_inputPlanes;
-    Planes m_narrowPlanes;
     Planes m_clientPlanes;
 };
 

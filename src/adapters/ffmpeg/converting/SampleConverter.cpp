@@ -9,6 +9,7 @@ extern "C" {
 #include <algorithm>
 #include <cmath>
 
+#include "adapters/ffmpeg/converting/ChannelMatrix.h"
 #include "sound/io/SampleRate.h"
 
 namespace tavi {
@@ -30,10 +31,7 @@ Result<SampleConverter> SampleConverter::create(const AudioInputFormat& input, c
         av_opt_set_int(context, "phase_shift", output.resampler.phaseShift, 0);
         av_opt_set_double(context, "cutoff", output.resampler.cutoff, 0);
         if (input.channels != output.channels) {
-            // Rows are output channels. FFmpeg's own matrix would take 3 dB off when it doubles a channel.
-            const double gain = input.channels == 1 ? 1.0 : 0.5;
-            const double matrix[2] = {gain, gain};
-            code = swr_set_matrix(context, matrix, input.channels);
+            code = swr_set_matrix(context, channelMatrix(input.channels, 0, output.channels).data(), input.channels);
         }
     }
     if (code >= 0) {

@@ -9,12 +9,20 @@
 
 namespace tavi {
 
-/// Changes the rate of a stream of float planes. Frame k of the output stands at the time of frame k * from / to of the
-/// input. One thread at a time.
-class RateConverter {
+/// The shape of a stream of float planes.
+struct StreamShape {
+    int rate = 0;
+    int channels = 0;
+    /// Which loudspeakers the channels are for, as FFmpeg numbers them; 0 for the usual ones.
+    std::uint64_t channelMask = 0;
+};
+
+/// Changes rate and channels of a stream of float planes. Frame k of the output stands at the time of frame k * from /
+/// to of the input. One thread at a time.
+class StreamConverter {
 public:
-    /// Nothing for rates that FFmpeg does not take.
-    static std::optional<RateConverter> create(int from, int to, int channels);
+    /// Nothing for rates and channels that FFmpeg does not take.
+    static std::optional<StreamConverter> create(const StreamShape& from, const StreamShape& to);
 
     /// Starts anew before an output frame, and returns the input frame to go on from. What is read first is that output
     /// frame, and it is what it would be had everything before been put in.
@@ -32,15 +40,18 @@ public:
     std::int64_t inputFrameFor(std::int64_t outputFrame) const;
 
 private:
-    RateConverter() = default;
+    StreamConverter() = default;
     bool restart();
     /// More input frames than the filter looks back or ahead: some tens of frames of the lower rate.
-    std::int64_t reach() const { return 64 + std::int64_t{64} * m_from / m_to; }
+    std::int64_t reach() const { return m_from == m_to ? 0 : 64 + std::int64_t{64} * m_from / m_to; }
 
     AvResampler m_resampler;
     int m_from = 0;
     int m_to = 0;
-    int m_channels = 0;
+    int m_inputs = 0;
+    int m_outputs = 0;
+    /// See channelMatrix(); empty where the channels stay as they are.
+    std::vector<double> m_matrix;
     /// Output frames still to be thrown away.
     std::int64_t m_skip = 0;
     /// Frames of the whole stream up to here.

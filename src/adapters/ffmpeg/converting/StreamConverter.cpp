@@ -1,4 +1,4 @@
-#include "adapters/ffmpeg/converting/RateConverter.h"
+#include "adapters/ffmpeg/converting/StreamConverter.h"
 
 extern "C" {
 #include <libavutil/mathematics.h>
@@ -7,8 +7,9 @@ extern "C" {
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <utility>
 
-#include "adapters/ffmpeg/converting/ChannelMixer.h"
+#include "adapters/ffmpeg/converting/ChannelMatrix.h"
 #include "sound/io/SampleRate.h"
 
 namespace tavi {
@@ -19,30 +20,39 @@ constexpr std::size_t kSkipFrames = 1024;
 
 }  // namespace
 
-std::optional<RateConverter> RateConverter::create(int from, int to, int channels) {
-    if (!isSampleRate(from) || !isSampleRate(to) || channels < 1 || channels > kMaximumMixChannels) {
+std::optional<StreamConverter> StreamConverter::create(const StreamShape& from, const StreamShape& to) {
+    const auto isUsable = [](const StreamShape& shape) {
+        return isSampleRate(shape.rate) && shape.channels >= 1 && shape.channels <= kMaximumMixChannels;
+    };
+    if (!isUsable(from) || !isUsable(to)) {
         return std::nullopt;
     }
-    RateConverter converter;
-    converter.m_from = from;
-    converter.m_to = to;
-    converter.m_channels = channels;
+    StreamConverter converter;
+    converter.m_from = from.rate;
+    converter.m_to = to.rate;
+    converter.m_inputs = from.channels;
+    converter.m_outputs = to.channels;
+    if (from.channels != to.channels) {
+        converter.m_matrix = channelMatrix(from.channels, from.channelMask, to.channels);
+    }
     return converter.restart() ? std::optional(std::move(converter)) : std::nullopt;
 }
 
-bool RateConverter::restart() {
-    // Without names of loudspeakers no channel is mixed.
-    AVChannelLayout layout = {};
-    layout.order = AV_CHANNEL_ORDER_UNSPEC;
-    layout.nb_channels = m_channels;
+bool StreamConverter::restart() {
+    // Without names of loudspeakers nothing is mixed but by the matrix.
+    AVChannelLayout inputs = {AV_CHANNEL_ORDER_UNSPEC, m_inputs, {0}, nullptr};
+    AVChannelLayout outputs = {AV_CHANNEL_ORDER_UNSPEC, m_outputs, {0}, nullptr};
     SwrContext* context = nullptr;
-    const int code = swr_alloc_set_opts2(&context, &layout, AV_SAMPLE_FMT_FLTP, m_to, &layout, AV_SAMPLE_FMT_FLTP,
-                                         m_from, 0, nullptr);
+    int code = swr_alloc_set_opts2(&context, &outputs, AV_SAMPLE_FMT_FLTP, m_to, &inputs, AV_SAMPLE_FMT_FLTP, m_from, 0,
+                                   nullptr);
     m_resampler.reset(context);
+    if (code >= 0 && !m_matrix.empty()) {
+        code = swr_set_matrix(context, m_matrix.data(), m_inputs);
+    }
     return code >= 0 && swr_init(context) >= 0;
 }
 
-std::int64_t RateConverter::startAt(std::int64_t outputFrame) {
+std::int64_t StreamConverter::startAt(std::int64_t outputFrame) {
     // Filter phases repeat every stepIn input frames; a restart at a multiple of them finds the same phases. The filter
     // reaches into what comes before.
     const std::int64_t stepIn = m_from / std::gcd(m_from, m_to);
@@ -56,18 +66,17 @@ std::int64_t RateConverter::startAt(std::int64_t outputFrame) {
     return m_framesIn;
 }
 
-void RateConverter::write(const float* const* planes, std::size_t frames) {
+void StreamConverter::write(const float* const* planes, std::size_t frames) {
     std::array<const std::uint8_t*, kMaximumMixChannels> bytes{};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(m_channels); ++i) {
+    for (std::size_t i = 0; i < static_cast<std::size_t>(m_inputs); ++i) {
         bytes[i] = reinterpret_cast<const std::uint8_t*>(planes[i]);
     }
     swr_convert(m_resampler.get(), nullptr, 0, bytes.data(), static_cast<int>(frames));
     m_framesIn += static_cast<std::int64_t>(frames);
 }
 
-void RateConverter::finish() {
-    if (!m_isFinished) {
-        m_isFinished = true;
+void StreamConverter::finish() {
+    if (!std::exchange(m_isFinished, true) && reach() > 0) {
         // The filter needs something behind the end to give all that stands before it. FFmpeg's own way of ending gives
         // a frame less at some rates.
         const std::int64_t frames = m_framesIn;
@@ -79,10 +88,10 @@ void RateConverter::finish() {
     }
 }
 
-std::size_t RateConverter::read(float* const* planes, std::size_t frames) {
+std::size_t StreamConverter::read(float* const* planes, std::size_t frames) {
     std::array<std::uint8_t*, kMaximumMixChannels> bytes{};
     const auto take = [&](std::size_t count) {
-        for (std::size_t i = 0; i < static_cast<std::size_t>(m_channels); ++i) {
+        for (std::size_t i = 0; i < static_cast<std::size_t>(m_outputs); ++i) {
             bytes[i] = reinterpret_cast<std::uint8_t*>(planes[i]);
         }
         // An empty input that is there: null would be an end of FFmpeg's own.
@@ -107,11 +116,11 @@ std::size_t RateConverter::read(float* const* planes, std::size_t frames) {
     return frames > 0 ? take(frames) : 0;
 }
 
-std::int64_t RateConverter::outputFrames(std::int64_t inputFrames) const {
+std::int64_t StreamConverter::outputFrames(std::int64_t inputFrames) const {
     return av_rescale_rnd(inputFrames, m_to, m_from, AV_ROUND_UP);
 }
 
-std::int64_t RateConverter::inputFrameFor(std::int64_t outputFrame) const {
+std::int64_t StreamConverter::inputFrameFor(std::int64_t outputFrame) const {
     return av_rescale_rnd(outputFrame, m_from, m_to, AV_ROUND_DOWN);
 }
 
