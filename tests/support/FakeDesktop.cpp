@@ -44,13 +44,19 @@ bool FakeDesktop::handleMessage(const QDBusMessage& message, const QDBusConnecti
     }
     connection.send(message.createReply(results));
     if (message.member() == QLatin1String("ComposeEmail")) {
-        const QString path = results.at(0).value<QDBusObjectPath>().path();
-        QDBusMessage response = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Request"),
-                                                           QStringLiteral("Response"));
-        response << mailResponse << QVariantMap();
-        connection.send(response);
+        m_mailRequest = results.at(0).value<QDBusObjectPath>().path();
+        if (!namesRequestsItself) {
+            respondToMail();
+        }
     }
     return true;
+}
+
+void FakeDesktop::respondToMail() {
+    const QString interface = QStringLiteral("org.freedesktop.portal.Request");
+    QDBusMessage response = QDBusMessage::createSignal(m_mailRequest, interface, QStringLiteral("Response"));
+    response << mailResponse << QVariantMap();
+    m_bus.send(response);
 }
 
 QVariantList FakeDesktop::answer(const QDBusMessage& message, bool& known) {
@@ -98,7 +104,10 @@ QVariantList FakeDesktop::answer(const QDBusMessage& message, bool& known) {
     return {};
 }
 
-QString FakeDesktop::requestPath(const QDBusMessage& message, const QVariantMap& options) const {
+QString FakeDesktop::requestPath(const QDBusMessage& message, const QVariantMap& options) {
+    if (namesRequestsItself) {
+        return QStringLiteral("/org/freedesktop/portal/desktop/own/%1").arg(++m_lastRequest);
+    }
     const QString token =
         options.value(QStringLiteral("handle_token"), QStringLiteral("t%1").arg(inhibitions.size())).toString();
     QString sender = message.service().mid(1);

@@ -42,19 +42,24 @@ public:
     /// The portal's answer to a mail.
     quint32 mailResponse = 0;
     quint32 mailVersion = 4;
+    /// As portals of old did. Their response is then the test's to send, by respondToMail().
+    bool namesRequestsItself = false;
+    void respondToMail();
     /// The last mail: its options, and the contents of its attachments.
     QVariantMap mail;
     QList<QByteArray> mailAttachments;
 
 private:
     QVariantList answer(const QDBusMessage& message, bool& known);
-    QString requestPath(const QDBusMessage& message, const QVariantMap& options) const;
+    QString requestPath(const QDBusMessage& message, const QVariantMap& options);
     void takeMail(const QDBusMessage& message);
 
     QDBusConnection m_bus;
+    QString m_mailRequest;
     bool m_screenSaverActive = false;
     bool m_lockedHint = false;
     quint32 m_lastCookie = 0;
+    int m_lastRequest = 0;
 };
 
 }  // namespace tavi::test

@@ -67,7 +67,14 @@ TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
               m_folder.filePath(QStringLiteral("data/com.quillfen.voicerecorder/Groups/g")));
     const auto own = created(QStringLiteral("mine"));
     EXPECT_EQ(own->documentsPath(), m_folder.filePath(QStringLiteral("mine/Documents")));
-    EXPECT_EQ(QFile::permissions(own->cachesPath()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    const auto readers = [](const QString& path) {
+        return QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther);
+    };
+    EXPECT_EQ(readers(own->documentsPath()), readers(m_folder.filePath(QStringLiteral("mine"))));
+    for (const QString& path : {own->cachesPath(), own->temporaryPath(), own->preferencesPath(),
+                                own->groupContainerPath(QStringLiteral("g"))}) {
+        EXPECT_EQ(readers(path), QFile::Permissions()) << qPrintable(path);
+    }
 }
 
 TEST_P(QtAppContainerTest, SaysWhichFolderCannotBeMade) {

@@ -92,19 +92,26 @@ INSTANTIATE_TEST_SUITE_P(All, IdleTimerContract,
                          ::testing::Values(Kind::Fake, Kind::Portal, Kind::ScreenSaver, Kind::Nothing));
 
 using IdleTimerOnBus = IdleTimerContract;
-INSTANTIATE_TEST_SUITE_P(Portal, IdleTimerOnBus, ::testing::Values(Kind::Portal));
+INSTANTIATE_TEST_SUITE_P(Services, IdleTimerOnBus, ::testing::Values(Kind::Portal, Kind::ScreenSaver));
 
 TEST_P(IdleTimerOnBus, AsksAgainWhenTheDesktopComesBack) {
+    const bool isPortal = GetParam() == Kind::Portal;
+    const QString service = isPortal ? FakeDesktop::portal() : FakeDesktop::screenSaver();
     auto timer = make();
     timer->setIdleTimerDisabled(true);
-    ASSERT_TRUE(isKeptOn(true));
-    EXPECT_EQ(m_desktop.inhibitFlags, 8U);
-    EXPECT_EQ(m_desktop.inhibitReason, QStringLiteral("Recording"));
-    m_desktop.disown(FakeDesktop::portal());
-    ASSERT_TRUE(settle());
-    m_desktop.inhibitions.clear();
-    m_desktop.own(FakeDesktop::portal());
-    EXPECT_TRUE(isKeptOn(true));
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(isKeptOn(true));
+        EXPECT_EQ(m_desktop.inhibitFlags, isPortal ? 8U : 0U);
+        EXPECT_EQ(m_desktop.inhibitReason, QStringLiteral("Recording"));
+        m_desktop.disown(service);
+        ASSERT_TRUE(settle());
+        m_desktop.inhibitions.clear();
+        // Who comes back while nobody wants it is not asked.
+        timer->setIdleTimerDisabled(round == 0);
+        m_desktop.own(service);
+        ASSERT_TRUE(settle());
+    }
+    EXPECT_TRUE(m_desktop.inhibitions.isEmpty());
 }
 
 class MailComposerContract : public Desktop {
@@ -203,9 +210,35 @@ TEST_P(MailOnBus, TellsRefusalFromCancelling) {
     EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("The desktop's mail program did not take the mail."));
     m_desktop.disown(FakeDesktop::portal());
     EXPECT_TRUE(spinUntil([&composer] { return !composer->canSendMail(); }));
+    m_desktop.mailVersion = 2;
+    m_desktop.mailResponse = 0;
+    m_desktop.own(FakeDesktop::portal());
+    EXPECT_TRUE(spinUntil([&composer] { return composer->canSendMail(); }));
+    EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("ok"));
+    EXPECT_EQ(m_desktop.mail.value(QStringLiteral("address")), message().recipient);
+    EXPECT_FALSE(m_desktop.mail.contains(QStringLiteral("addresses")));
+    m_desktop.disown(FakeDesktop::portal());
     m_desktop.mailVersion = 0;
     m_desktop.own(FakeDesktop::portal());
     EXPECT_FALSE(make()->canSendMail());
+}
+
+TEST_P(MailOnBus, FollowsAPortalThatNamesItsRequestsItself) {
+    const auto composer = make();
+    m_desktop.namesRequestsItself = true;
+    QStringList outcomes;
+    for (int mail = 0; mail < 2; ++mail) {
+        composer->compose(message(), [&outcomes](const Result<void>& result) {
+            outcomes << (result ? QStringLiteral("ok") : result.error().text);
+        });
+        ASSERT_TRUE(settle());
+    }
+    EXPECT_EQ(outcomes, QStringList());
+    m_desktop.respondToMail();
+    EXPECT_TRUE(spinUntil([&outcomes] { return outcomes == QStringList{QStringLiteral("ok")}; }));
+    m_desktop.disown(FakeDesktop::portal());
+    EXPECT_TRUE(spinUntil([&outcomes] { return outcomes.size() == 2; }));
+    EXPECT_EQ(outcomes.last(), QStringLiteral("The desktop's mail program did not take the mail."));
 }
 
 using MailThroughProgram = MailComposerContract;
@@ -213,14 +246,20 @@ INSTANTIATE_TEST_SUITE_P(XdgEmail, MailThroughProgram, ::testing::Values(Kind::S
 
 TEST_P(MailThroughProgram, TellsWhyItFailed) {
     const auto composer = make();
-    write(m_exit, "3");
-    EXPECT_EQ(outcomeOf(*composer, message()),
-              QStringLiteral("The mail could not be handed over: no mail program was found."));
+    const std::pair<const char*, const char*> exits[] = {
+        {"2", "a file is missing"}, {"3", "no mail program was found"}, {"4", "xdg-email ended with 4"}};
+    for (const auto& [exit, reason] : exits) {
+        write(m_exit, exit);
+        EXPECT_EQ(outcomeOf(*composer, message()),
+                  QStringLiteral("The mail could not be handed over: %1.").arg(QLatin1String(reason)));
+    }
     QFile::remove(m_programs.filePath(QStringLiteral("xdg-email")));
     EXPECT_TRUE(outcomeOf(*composer, message()).startsWith(QLatin1String("xdg-email could not be started")));
-    MailMessage hostile = message();
-    hostile.recipient = QStringLiteral("--attach=/etc/passwd@");
-    EXPECT_FALSE(XdgEmail::arguments(hostile).contains(hostile.recipient));
+    MailMessage hostile{{}, {}, {}, {}};
+    for (const char* recipient : {"--attach=/etc/passwd@", "MAILTO:a@b?attach=/etc/passwd", "nobody", ""}) {
+        hostile.recipient = QString::fromLatin1(recipient);
+        EXPECT_EQ(XdgEmail::arguments(hostile), QStringList{QStringLiteral("--utf8")}) << recipient;
+    }
 }
 
 }  // namespace

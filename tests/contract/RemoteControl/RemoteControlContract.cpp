@@ -92,6 +92,7 @@ protected:
 
 TEST_P(RemoteControlContract, HandsOnWhatIsPressedWhileItReceives) {
     const QVariant rate = QVariant::fromValue(QDBusVariant(2.0));
+    const QVariant slow = QVariant::fromValue(QDBusVariant(0.5));
     const QVariant halt = QVariant::fromValue(QDBusVariant(0.0));
     m_control->setNowPlayingInfo(m_info);
     press({Subtype::Play, 0.0, "Play", {}});
@@ -109,7 +110,9 @@ TEST_P(RemoteControlContract, HandsOnWhatIsPressedWhileItReceives) {
         {Subtype::SkipBackward, 0.0, "Previous", {}},
         {Subtype::Seek, -1.5, "Seek", {qlonglong{-1500000}}},
         {Subtype::SetPosition, 62.5, "SetPosition", {trackId(), qlonglong{62500000}}},
+        {Subtype::SetPosition, 0.0, "SetPosition", {trackId(), qlonglong{0}}},
         {Subtype::SetRate, 2.0, "Set", {kPlayer, QStringLiteral("Rate"), rate}, kProperties},
+        {Subtype::SetRate, 0.5, "Set", {kPlayer, QStringLiteral("Rate"), slow}, kProperties},
         {Subtype::Pause, 0.0, "Set", {kPlayer, QStringLiteral("Rate"), halt}, kProperties},
         {Subtype::Raise, 0.0, "Raise", {}, kRoot},
         {Subtype::Quit, 0.0, "Quit", {}, kRoot},
@@ -148,9 +151,14 @@ TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
     m_desktop.connect(kName, kPath, kPlayer, QStringLiteral("Seeked"), &ear, SLOT(onSeeked(qlonglong)));
     m_control->setNowPlayingInfo(m_info);
     ASSERT_TRUE(spinUntil([&ear] { return !ear.changes.isEmpty(); }));
-    EXPECT_EQ(ear.changes[0].value(QStringLiteral("PlaybackStatus")), QStringLiteral("Playing"));
-    EXPECT_EQ(ear.changes[0].value(QStringLiteral("CanSeek")), true);
-    EXPECT_FALSE(ear.changes[0].contains(QStringLiteral("Rate")));
+    QVariantMap told = ear.changes[0];
+    EXPECT_TRUE(told.remove(QStringLiteral("Metadata")));
+    EXPECT_EQ(told, (QVariantMap{{QStringLiteral("PlaybackStatus"), QStringLiteral("Playing")},
+                                 {QStringLiteral("CanGoNext"), true},
+                                 {QStringLiteral("CanGoPrevious"), true},
+                                 {QStringLiteral("CanPause"), true},
+                                 {QStringLiteral("CanPlay"), true},
+                                 {QStringLiteral("CanSeek"), true}}));
     const auto metadata = qdbus_cast<QVariantMap>(property("Metadata"));
     EXPECT_EQ(metadata.value(QStringLiteral("xesam:title")), QStringLiteral("Ünsound"));
     EXPECT_EQ(metadata.value(QStringLiteral("mpris:length")), qlonglong{62500000});
@@ -171,10 +179,17 @@ TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
     const QVariant other = QVariant::fromValue(QDBusObjectPath(QStringLiteral("/other")));
     press({Subtype::SetPosition, 0.0, "SetPosition", {other, qlonglong{1}}});
     press({Subtype::SetPosition, 0.0, "SetPosition", {trackId(), qlonglong{62500001}}});
+    press({Subtype::SetPosition, 0.0, "SetPosition", {trackId(), qlonglong{-1}}});
     press({Subtype::SetRate, 0.0, "Set", {kPlayer, QStringLiteral("Rate"), fast}, kProperties});
     EXPECT_TRUE(m_events.empty());
     m_control->endReceivingRemoteControlEvents();
     EXPECT_TRUE(spinUntil([this] { return !isOnBus(); }));
+    // What changed while nobody looked is there the next time.
+    m_control->setNowPlayingInfo({});
+    m_control->beginReceivingRemoteControlEvents();
+    EXPECT_TRUE(spinUntil([this] { return isOnBus(); }));
+    EXPECT_EQ(property("PlaybackStatus"), QStringLiteral("Stopped"));
+    EXPECT_EQ(trackId().value<QDBusObjectPath>().path(), QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack"));
 }
 
 TEST_P(RemoteControlOnBus, TakesANameOfItsOwnBesideAnotherInstance) {

@@ -108,6 +108,21 @@ TYPED_TEST(RunLoopContract, DropsWhatIsPendingWhenItGoes) {
     timer->invalidate();
 }
 
+TEST(QtRunLoop, CallsThatDispatchCallsLetTimersIn) {
+    QtRunLoop loop;
+    int calls = 0;
+    bool isTimerCalled = false;
+    std::function<void()> call = [&] {
+        if (++calls < 1'000'000 && !isTimerCalled) {
+            loop.dispatchMain(call);
+        }
+    };
+    loop.scheduledTimer(0.001, false, [&isTimerCalled] { isTimerCalled = true; });
+    loop.dispatchMain(call);
+    EXPECT_TRUE(spinUntil([&isTimerCalled] { return isTimerCalled; }));
+    EXPECT_LT(calls, 1'000'000);
+}
+
 TEST(QtRunLoop, KeepsToTheGridWhateverCallsTake) {
     using std::chrono::milliseconds;
     // Interval, call and next call of a timer that was due at 0; all in milliseconds.

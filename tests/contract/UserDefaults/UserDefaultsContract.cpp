@@ -77,6 +77,8 @@ TYPED_TEST(UserDefaultsContract, KeepsKeysAndTextsOfAnyCharactersApart) {
     for (const auto& [key, text] : rows) {
         EXPECT_EQ(read.stringForKey(QString::fromUtf8(key)), QString::fromUtf8(text)) << key;
         EXPECT_TRUE(read.objectForKey(QString::fromUtf8(key)).isValid()) << key;
+        defaults.removeObjectForKey(QString::fromUtf8(key));
+        EXPECT_FALSE(defaults.objectForKey(QString::fromUtf8(key)).isValid()) << key;
     }
 }
 

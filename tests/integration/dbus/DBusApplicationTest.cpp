@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QGuiApplication>
 #include <QRasterWindow>
 #include <QTemporaryDir>
@@ -41,6 +44,18 @@ public:
     }
 
     QStringList calls;
+};
+
+/// Takes any call and keeps the last.
+class Callee : public QDBusVirtualObject {
+public:
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        last = message;
+        return connection.send(message.createReply());
+    }
+
+    QDBusMessage last;
 };
 
 class DBusApplicationTest : public ::testing::Test {
@@ -113,7 +128,7 @@ TEST_F(DBusApplicationTest, SecondStartHandsOverToTheFirst) {
     EXPECT_TRUE(m_delegate.calls.isEmpty());
 }
 
-TEST_F(DBusApplicationTest, ActivateShowsAHiddenWindow) {
+TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {
     // The second start comes before the first has got the name.
     QTimer::singleShot(100, &m_application,
                        [this] { EXPECT_EQ(m_application.claim(), DBusApplication::Claim::First); });
@@ -121,9 +136,41 @@ TEST_F(DBusApplicationTest, ActivateShowsAHiddenWindow) {
     m_application.setWindow(&window);
     m_application.launchFinished();
     EXPECT_TRUE(m_delegate.calls.isEmpty());
-    EXPECT_EQ(handedOver({}), QStringLiteral("ok"));
-    EXPECT_TRUE(window.isVisible());
-    expectCalls("active");
+    const std::pair<ActivationRequest, const char*> cases[] = {
+        {{}, "active"},
+        {{Kind::Open, {QStringLiteral("x:y")}, {}}, "open x:y, foreground, active"},
+        {{Kind::Action, {}, QStringLiteral("Record")}, "shortcut Record, foreground, active"},
+        {{}, "foreground, active"}};
+    for (const auto& [request, calls] : cases) {
+        EXPECT_EQ(handedOver(request), QStringLiteral("ok"));
+        EXPECT_TRUE(window.isVisible());
+        expectCalls(calls);
+        window.hide();
+        spinUntil([this] { return m_delegate.calls.contains(QStringLiteral("background")); });
+        m_delegate.calls.clear();
+    }
+}
+
+TEST_F(DBusApplicationTest, TheDesktopsTokensGoWithTheRequest) {
+    const std::map<QString, QVariant> tokens{{QStringLiteral("activation-token"), QStringLiteral("wayland")},
+                                             {QStringLiteral("desktop-startup-id"), QStringLiteral("x11")}};
+    qputenv("XDG_ACTIVATION_TOKEN", "wayland");
+    qputenv("DESKTOP_STARTUP_ID", "x11");
+    QDBusConnection running = m_bus.connect();
+    Callee callee;
+    running.registerVirtualObject(kApplicationObjectPath, &callee);
+    ASSERT_TRUE(running.registerService(m_name));
+    const std::pair<ActivationRequest, const char*> cases[] = {
+        {{}, "Activate a{sv}"},
+        {{Kind::Open, {QStringLiteral("x:y")}, {}}, "Open asa{sv}"},
+        {{Kind::Action, {}, QStringLiteral("a")}, "ActivateAction sava{sv}"}};
+    for (const auto& [request, call] : cases) {
+        EXPECT_EQ(handedOver(request), QStringLiteral("ok"));
+        EXPECT_EQ(callee.last.member() + QLatin1Char(' ') + callee.last.signature(), QLatin1String(call));
+        EXPECT_EQ(qdbus_cast<QVariantMap>(callee.last.arguments().last()).toStdMap(), tokens);
+    }
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    qunsetenv("DESKTOP_STARTUP_ID");
 }
 
 TEST_F(DBusApplicationTest, AnInstanceThatIsGoneIsAnError) {
@@ -164,6 +211,16 @@ TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
     Q_EMIT QCoreApplication::instance()->aboutToQuit({});
     window.hide();
     expectCalls("terminate");
+}
+
+TEST_F(DBusApplicationTest, ALockedSessionIsKnownFromTheStart) {
+    for (const bool isHint : {true, false}) {
+        m_desktop.setLockedHint(isHint);
+        m_desktop.setScreenSaverActive(!isHint);
+        const SessionLock lock(m_bus.connect(), m_bus.connect());
+        EXPECT_FALSE(lock.isLocked());
+        EXPECT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
+    }
 }
 
 TEST_F(DBusApplicationTest, ARequestToLockEndsWhenTheUserIsBack) {

@@ -16,10 +16,13 @@ namespace {
 class SettingsFile : public ::testing::Test {
 protected:
     /// Replaces the file as another process does: a new file takes the old one's name.
-    void writeAsOther(const QByteArray& text) const {
+    void writeAsOther(const QByteArray& text) {
         QFile file(m_path + QLatin1String(".new"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
+        // All in one second.
+        m_written = m_written.addMSecs(10);
+        ASSERT_TRUE(file.flush() && file.setFileTime(m_written, QFileDevice::FileModificationTime));
         file.close();
         QFile::remove(m_path);
         ASSERT_TRUE(file.rename(m_path));
@@ -31,6 +34,7 @@ protected:
     }
 
     QTemporaryDir m_folder;
+    QDateTime m_written{QDate(2024, 3, 5), QTime(14, 3)};
     QString m_path = m_folder.filePath(QStringLiteral("settings.ini"));
 };
 
@@ -41,6 +45,11 @@ TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
     writeAsOther("[General]\nmine=1\ntheirs=true\nlist=a, b\n");
     EXPECT_TRUE(defaults.boolForKey(QStringLiteral("theirs")));
     EXPECT_EQ(defaults.stringForKey(QStringLiteral("list")), QStringLiteral("a, b"));
+    // As long as the last.
+    for (const char* list : {"b, c", "d, e"}) {
+        writeAsOther(QByteArray("[General]\nmine=1\ntheirs=true\nlist=") + list + '\n');
+        EXPECT_EQ(defaults.stringForKey(QStringLiteral("list")), QLatin1String(list));
+    }
     writeAsOther("[General]\nmine=1\ntheirs=false\nmore=9\n");
     defaults.setObject(2, QStringLiteral("mine"));
     ASSERT_TRUE(defaults.synchronize());

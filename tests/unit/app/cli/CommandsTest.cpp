@@ -62,8 +62,9 @@ protected:
 
 TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
     const std::string noSeconds = " is a number of seconds from 0 to 60, not “";
-    expectSaid({{"get|AudioFileType", "m4a\n"},
-                {"set|AudioFileType|caf", ""},
+    // The first start comes after a first setting and leaves it alone.
+    expectSaid({{"set|AudioFileType|caf", ""},
+                {"get|AudioQualityType", "Medium\n"},
                 {"set|AudioFileType|CAF", "! AudioFileType is m4a, wav, aac, mp4 or caf, not “CAF”"},
                 {"get|AudioFileType", "caf\n"},
                 {"get|QuickMail", "true\n"},
