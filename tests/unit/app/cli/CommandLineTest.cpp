@@ -60,7 +60,7 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"--container", "! --container: 1 required DIR missing"},
         {"--container=|record", "! --container= needs a value"},
         {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
-        {"record|now", "! The following argument was not expected: now"},
+        {"record|stop", "! The following argument was not expected: stop"},
         {"set|key", "! VALUE is required"},
         {"waveform|a|--from|1", "! The following arguments were not expected: 1 --from"},
         {"waveform|a|--points|0", "! --points: Value 0 not in range 1 to 8192"},
