@@ -3,12 +3,16 @@
 # install_packages GROUP...: installs what is missing of these groups, and nothing where all is there.
 # Never removes a package: where one of these would take the place of another, that is the user's to decide.
 install_packages() {
-    local list groups wanted missing log as_root=()
+    local list groups release wanted missing log as_root=()
     list=$(dirname "${BASH_SOURCE[0]}")/../../packaging/packages.txt
     groups=" $* "
-    wanted=$(awk -v groups="$groups" '!/^#/ && NF == 2 && index(groups, " " $1 " ") { print $2 }' "$list" | sort -u)
+    release=$(. /etc/os-release && echo "${VERSION_ID:-}")
+    # What is neither of the two releases is most likely newer than both.
+    [ "$release" = 12 ] || release=13
+    wanted=$(awk -v groups="$groups" -v release="$release" \
+        '!/^#/ && index(groups, " " $1 " ") && (NF == 2 || $3 == release) { print $2 }' "$list" | sort -u)
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        echo "error: this is no Debian system. It needs what these Debian 12 packages hold:" $wanted >&2
+        echo "error: this is no Debian system. It needs what these Debian $release packages hold:" $wanted >&2
         return 1
     fi
     missing=$(comm -23 <(echo "$wanted") <(

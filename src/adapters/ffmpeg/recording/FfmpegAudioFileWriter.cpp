@@ -23,8 +23,9 @@ constexpr int kIoBufferBytes = 64 * 1024;
 /// Frames in one encoder frame where the codec takes any number.
 constexpr int kFreeFrameSize = 4096;
 
-// Errors stay in the file and never reach FFmpeg, which would drop every later write.
-int writeToFile(void* opaque, std::uint8_t* data, int size) {
+// Errors stay in the file and never reach FFmpeg, which would drop every later write. From FFmpeg 7 on the bytes are const.
+template <typename Byte>
+int writeToFile(void* opaque, Byte* data, int size) {
     static_cast<RecordingFile*>(opaque)->write(data, static_cast<std::size_t>(size));
     return size;
 }
