@@ -75,8 +75,9 @@ private:
 class FakeAudioSession : public AudioSession {
 public:
     void requestRecordPermission(std::function<void(bool)> answer) override { questions.push_back(std::move(answer)); }
-    Result<void> setCategory(Category category, CategoryOption) override {
+    Result<void> setCategory(Category category, CategoryOption option) override {
         lastCategory = category;
+        lastOption = option;
         return categoryResult;
     }
     Result<void> setActive(bool active) override {
@@ -99,6 +100,7 @@ public:
 
     std::vector<std::function<void(bool)>> questions;
     Category lastCategory = Category::Playback;
+    CategoryOption lastOption = CategoryOption::None;
     Result<void> categoryResult;
     bool isActive = false;
     bool inputAvailable = true;
