@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "adapters/ffmpeg/exporting/FfmpegAssets.h"
+#include "files/PathText.h"
 
 namespace {
 
@@ -101,9 +102,9 @@ void exportOnce(const QString& from, const QString& to, tavi::AssetFileType type
                 int seconds) {
     QFile::remove(to);
     tavi::FfmpegAssets assets;
-    auto session = assets.exportSession(assets.assetWithURL(QFile::encodeName(from)), preset);
+    auto session = assets.exportSession(assets.assetWithURL(tavi::nativePath(from)), preset);
     if (session) {
-        (*session)->setOutputURL(QFile::encodeName(to));
+        (*session)->setOutputURL(tavi::nativePath(to));
         (*session)->setOutputFileType(type);
         (*session)->setTimeRange({{kStart, 1}, {seconds, 1}});
         (*session)->exportAsynchronously([] {});
@@ -118,7 +119,7 @@ void exportOnce(const QString& from, const QString& to, tavi::AssetFileType type
 
 std::int64_t readOnce(const QString& path) {
     tavi::FfmpegAssets assets;
-    auto reader = assets.assetReader(assets.assetWithURL(QFile::encodeName(path)));
+    auto reader = assets.assetReader(assets.assetWithURL(tavi::nativePath(path)));
     std::int64_t sum = 0;
     if (reader && (*reader)->startReading()) {
         while (const auto buffer = (*reader)->copyNextSampleBuffer()) {

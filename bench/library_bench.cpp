@@ -23,6 +23,7 @@ extern "C" {
 #include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "files/PathText.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
 
@@ -47,7 +48,7 @@ bool record(const QString& path, std::uint32_t formatID, double seconds) {
     settings.formatID = formatID;
     settings.sampleRate = kRate;
     settings.numberOfChannels = 2;
-    auto writer = tavi::FfmpegAudioFileWriters().create(path, settings);
+    auto writer = tavi::FfmpegAudioFileWriters().create(tavi::nativePath(path), settings);
     if (!writer || !(*writer)->setInputFormat({kRate, 2})) {
         return false;
     }
@@ -123,7 +124,7 @@ int main(int argc, char** argv) {
     }
     const tavi::FfmpegAudioDuration durations;
     tavi::QtRunLoop runLoop;
-    const QByteArray documents = QFile::encodeName(folder);
+    const std::filesystem::path documents = tavi::nativePath(folder);
     const QString extra = folder + QStringLiteral("/new.m4a");
     std::map<std::string, std::vector<double>> figures;
     int listed = 0;

@@ -21,6 +21,7 @@
 #include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "files/PathText.h"
 #include "support/EventLoop.h"
 #include "support/PrivatePulse.h"
 
@@ -43,7 +44,7 @@ double timeAt(float level) {
 void write(const QString& path, int rate, const std::function<float(double)>& sound) {
     tavi::AudioRecordSettings settings;
     settings.sampleRate = rate;
-    auto writer = tavi::FfmpegAudioFileWriters().create(path, settings);
+    auto writer = tavi::FfmpegAudioFileWriters().create(tavi::nativePath(path), settings);
     if (!writer || !(*writer)->setInputFormat({rate, 2})) {
         qFatal("cannot write %s", qPrintable(path));
     }
@@ -214,7 +215,7 @@ private:
             QMap<QByteArray, QByteArray>{{"SDL_AUDIODRIVER", "pulseaudio"}, {"PULSE_SINK", "mic_sink"}});
     }
     std::unique_ptr<tavi::AudioPlayer> open(const QString& path) {
-        auto player = m_players.playerWithContentsOfURL(QFile::encodeName(path));
+        auto player = m_players.playerWithContentsOfURL(tavi::nativePath(path));
         if (!player) {
             qFatal("%s", qPrintable(player.error().text));
         }

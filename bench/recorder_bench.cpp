@@ -14,6 +14,7 @@
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/recorder/CaptureRecorder.h"
+#include "files/PathText.h"
 
 namespace {
 
@@ -92,8 +93,8 @@ void measure(const char* extension, std::uint32_t format, tavi::RunLoop& runLoop
     tavi::AudioRecordSettings settings;
     settings.formatID = format;
     tavi::FfmpegAudioFileWriters writers;
-    auto writer =
-        writers.create(folder.filePath(QStringLiteral("recording.") + QString::fromLatin1(extension)), settings);
+    auto writer = writers.create(
+        tavi::nativePath(folder.filePath(QStringLiteral("recording.") + QString::fromLatin1(extension))), settings);
     if (!writer) {
         std::fprintf(stderr, "%s: %s\n", extension, qPrintable(writer.error().text));
         std::exit(EXIT_FAILURE);

@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
     tavi::installTexts(application);
     const tavi::test::Shell shell([](tavi::test::Shell& made) {
         for (int i = 0; i < kRecordings; ++i) {
-            made.container.addDocument(QStringLiteral("2024_Mar_05_%1.m4a").arg(i, 5, 10, QLatin1Char('0')),
+            made.container.addDocument("2024_Mar_05_" + std::to_string(10000 + i) + ".m4a",
                                        QByteArray(1 + i % 997, 'x'));
         }
         made.tabBar.select(1);

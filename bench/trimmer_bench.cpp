@@ -59,14 +59,14 @@ void measure(const QSize& size) {
     FakeExtAudioFiles sounds;
     FakeAudioConverters converters;
     FakeDisplayRefreshes refreshes;
-    const QByteArray path = QFile::encodeName(container.addDocument(QStringLiteral("talk.wav"), "sound"));
+    const auto path = container.addDocument("talk.wav", "sound");
     assets.files["talk.wav"] = {{3600LL * 44100, 44100}, 1, {}};
     const auto sound = std::make_shared<FakeSound>();
     sound->planes.resize(1);
     for (int i = 0; i < 441000; ++i) {
         sound->planes[0].push_back(static_cast<float>(std::sin(i * 0.05) * std::sin(i * 0.0003)));
     }
-    sounds.sounds[path.toStdString()] = sound;
+    sounds.sounds[path] = sound;
     WaveformLoader waveforms({.files = sounds, .converters = converters, .queues = runLoop});
     AudioTrimmerStage stage({.exports = assets,
                              .players = players,
@@ -90,7 +90,7 @@ void measure(const QSize& size) {
     window->grabWindow();
 
     const auto asked = std::chrono::steady_clock::now();
-    AudioTrimmerViewController::presentAudioTrimmerController(stage, nullptr, path, {}, "talk.wav", {});
+    AudioTrimmerViewController::presentAudioTrimmerController(stage, nullptr, path.native(), {}, "talk.wav", {});
     window->grabWindow();
     std::printf("figure: first-picture-%dx%d %.2f ms\n", size.width(), size.height(), millisecondsSince(asked));
     while (stage.screen()->isLoading()) {

@@ -21,6 +21,7 @@
 #include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "files/PathText.h"
 
 namespace {
 
@@ -69,7 +70,7 @@ QString recorded(const QDir& folder, const Recording& recording) {
     settings.sampleRate = recording.rate;
     settings.numberOfChannels = recording.channels;
     settings.encoderAudioQuality = 64;
-    auto writer = tavi::FfmpegAudioFileWriters().create(unfinished, settings);
+    auto writer = tavi::FfmpegAudioFileWriters().create(tavi::nativePath(unfinished), settings);
     if (!writer || !(*writer)->setInputFormat({recording.rate, recording.channels})) {
         std::fprintf(stderr, "cannot record %s\n", qPrintable(path));
         std::exit(EXIT_FAILURE);
@@ -101,7 +102,7 @@ double ours(const QString& path, std::vector<float>& points) {
     tavi::QtRunLoop runLoop;
     const auto start = Clock::now();
     const auto file = tavi::EZAudioFile::audioFileWithURL(
-        QFile::encodeName(path).toStdString(), {.files = files, .converters = converters, .queues = runLoop});
+        tavi::nativePath(path), {.files = files, .converters = converters, .queues = runLoop});
     const auto data = file->getWaveformDataWithNumberOfPoints(kPoints);
     const double seconds = secondsSince(start);
     points.assign(data->bufferForChannel(1), data->bufferForChannel(1) + kPoints);

@@ -9,8 +9,8 @@ namespace tavi {
 /// The settings as files of a container.
 struct SettingsFiles {
     explicit SettingsFiles(const AppContainer& container)
-        : standard(container.preferencesPath() + QStringLiteral("/settings.ini")),
-          shared(container.groupContainerPath(kApplicationGroup) + QStringLiteral("/settings.ini")) {}
+        : standard(container.preferencesPath() / "settings.ini"),
+          shared(container.groupContainerPath(kApplicationGroup) / "settings.ini") {}
 
     QtUserDefaults standard;
     QtUserDefaults shared;

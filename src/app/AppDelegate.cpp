@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 namespace tavi {
 
@@ -47,7 +46,8 @@ void AppDelegate::setAppStart(bool started) {
 
 void AppDelegate::createICloudFolder() const {
     // Without the folder there is nothing to mirror into; the recordings themselves do not need it.
-    QDir().mkdir(m_services.container.documentsPath() + QStringLiteral("/ICloud"));
+    std::error_code ignored;
+    std::filesystem::create_directory(m_services.container.documentsPath() / "ICloud", ignored);
 }
 
 void AppDelegate::createDynamicShortcut() {

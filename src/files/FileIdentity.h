@@ -2,8 +2,10 @@
 
 #include <sys/stat.h>
 
-#include <QByteArray>
-#include <QHashFunctions>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <optional>
 
 namespace tavi {
@@ -19,22 +21,32 @@ struct FileIdentity {
           seconds(attributes.st_mtim.tv_sec),
           nanoseconds(attributes.st_mtim.tv_nsec) {}
 
-    /// Of what is at a path, given in the file system's bytes; nothing where there is nothing.
-    static std::optional<FileIdentity> at(const QByteArray& path) {
+    /// Of what is at a path; nothing where there is nothing.
+    static std::optional<FileIdentity> at(const std::filesystem::path& path) {
         struct stat attributes = {};
-        return ::stat(path.constData(), &attributes) == 0 ? std::optional(FileIdentity(attributes)) : std::nullopt;
+        return ::stat(path.c_str(), &attributes) == 0 ? std::optional(FileIdentity(attributes)) : std::nullopt;
     }
 
     bool operator==(const FileIdentity&) const = default;
-    friend std::size_t qHash(const FileIdentity& identity, std::size_t seed) {
-        return qHashMulti(seed, identity.node, identity.size, identity.seconds, identity.nanoseconds);
-    }
 
-    quint64 device = 0;
-    quint64 node = 0;
-    qint64 size = 0;
-    qint64 seconds = 0;
-    qint64 nanoseconds = 0;
+    std::uint64_t device = 0;
+    std::uint64_t node = 0;
+    std::int64_t size = 0;
+    std::int64_t seconds = 0;
+    std::int64_t nanoseconds = 0;
+};
+
+/// For tables of what is known about files.
+struct FileIdentityHash {
+    std::size_t operator()(const FileIdentity& identity) const {
+        std::size_t hash = 0;
+        for (const std::uint64_t part :
+             {identity.node, static_cast<std::uint64_t>(identity.size), static_cast<std::uint64_t>(identity.seconds),
+              static_cast<std::uint64_t>(identity.nanoseconds)}) {
+            hash = (hash ^ std::hash<std::uint64_t>()(part)) * 0x9E3779B97F4A7C15U;
+        }
+        return hash;
+    }
 };
 
 }  // namespace tavi

@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <array>
 #include <cerrno>
 #include <cstddef>
@@ -13,6 +12,8 @@
 #include <system_error>
 #include <utility>
 #include <vector>
+
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -39,55 +40,51 @@ private:
 /// Removes a file when it goes out of scope.
 class TemporaryName {
 public:
-    explicit TemporaryName(QByteArray path) : m_path(std::move(path)) {}
-    ~TemporaryName() { ::unlink(m_path.constData()); }
+    explicit TemporaryName(std::filesystem::path path) : m_path(std::move(path)) {}
+    ~TemporaryName() { ::unlink(m_path.c_str()); }
     TemporaryName(const TemporaryName&) = delete;
     TemporaryName& operator=(const TemporaryName&) = delete;
 
 private:
-    QByteArray m_path;
+    std::filesystem::path m_path;
 };
 
-QByteArray folderOf(const QByteArray& path) {
-    const auto slash = path.lastIndexOf('/');
-    if (slash < 0) {
-        return ".";
-    }
-    return slash == 0 ? QByteArray("/") : path.left(slash);
+std::filesystem::path folderOf(const std::filesystem::path& path) {
+    return path.has_parent_path() ? path.parent_path() : ".";
 }
 
 bool isUnsupported(int error) {
     return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM || error == EMLINK;
 }
 
-int renameByLink(const QByteArray& from, const QByteArray& to) {
-    if (::link(from.constData(), to.constData()) != 0) {
+int renameByLink(const std::filesystem::path& from, const std::filesystem::path& to) {
+    if (::link(from.c_str(), to.c_str()) != 0) {
         return errno;
     }
-    if (::unlink(from.constData()) != 0) {
+    if (::unlink(from.c_str()) != 0) {
         const int error = errno;
-        ::unlink(to.constData());
+        ::unlink(to.c_str());
         return error;
     }
     return 0;
 }
 
-int renameByReserving(const QByteArray& from, const QByteArray& to) {
-    const FileDescriptor reserved(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+int renameByReserving(const std::filesystem::path& from, const std::filesystem::path& to) {
+    const FileDescriptor reserved(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!reserved.isOpen()) {
         return errno;
     }
-    if (::rename(from.constData(), to.constData()) != 0) {
+    if (::rename(from.c_str(), to.c_str()) != 0) {
         const int error = errno;
-        ::unlink(to.constData());
+        ::unlink(to.c_str());
         return error;
     }
     return 0;
 }
 
 /// Brings a folder's names to the disk; not every file system can or needs to.
-int synchronizeFolder(const QByteArray& folder) {
-    const FileDescriptor descriptor(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+int synchronizeFolder(const std::filesystem::path& folder) {
+    const FileDescriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!descriptor.isOpen()) {
         // A folder that may be written but not read.
         return errno == EACCES ? 0 : errno;
@@ -148,9 +145,9 @@ int copyFile(int source, const struct stat& attributes, FileDescriptor& target) 
     return target.close() == 0 ? 0 : errno;
 }
 
-int moveAcrossFileSystems(const QByteArray& from, const QByteArray& to) {
+int moveAcrossFileSystems(const std::filesystem::path& from, const std::filesystem::path& to) {
     // Without O_NONBLOCK a pipe would be waited for.
-    const FileDescriptor source(::open(from.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const FileDescriptor source(::open(from.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat attributes = {};
     if (!source.isOpen() || ::fstat(source.get(), &attributes) != 0) {
         return errno;
@@ -159,14 +156,14 @@ int moveAcrossFileSystems(const QByteArray& from, const QByteArray& to) {
         return S_ISDIR(attributes.st_mode) ? EISDIR : EINVAL;
     }
     struct stat taken = {};
-    if (::lstat(to.constData(), &taken) == 0) {
+    if (::lstat(to.c_str(), &taken) == 0) {
         return EEXIST;
     }
-    const QByteArray inbox = folderOf(to) + "/PrivateInbox";
-    if (::mkdir(inbox.constData(), 0700) != 0 && errno != EEXIST) {
+    const std::filesystem::path inbox = folderOf(to) / "PrivateInbox";
+    if (::mkdir(inbox.c_str(), 0700) != 0 && errno != EEXIST) {
         return errno;
     }
-    QByteArray temporary = inbox + "/move-XXXXXX";
+    std::string temporary = inbox / "move-XXXXXX";
     FileDescriptor target(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!target.isOpen()) {
         return errno;
@@ -180,20 +177,20 @@ int moveAcrossFileSystems(const QByteArray& from, const QByteArray& to) {
     }
     // The source goes last: until then a failure takes back the copy.
     int error = synchronizeFolder(folderOf(to));
-    if (error == 0 && ::unlink(from.constData()) != 0) {
+    if (error == 0 && ::unlink(from.c_str()) != 0) {
         error = errno;
     }
     if (error != 0) {
-        ::unlink(to.constData());
+        ::unlink(to.c_str());
     }
     return error;
 }
 
 }  // namespace
 
-int renameWithoutReplacing(const QByteArray& from, const QByteArray& to, RenameMethod method) {
+int renameWithoutReplacing(const std::filesystem::path& from, const std::filesystem::path& to, RenameMethod method) {
     if (method == RenameMethod::Exclusive) {
-        if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
+        if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
             return 0;
         }
         if (!isUnsupported(errno)) {
@@ -209,7 +206,7 @@ int renameWithoutReplacing(const QByteArray& from, const QByteArray& to, RenameM
     return renameByReserving(from, to);
 }
 
-Result<void> moveItem(const QByteArray& from, const QByteArray& to) {
+Result<void> moveItem(const std::filesystem::path& from, const std::filesystem::path& to) {
     int error = renameWithoutReplacing(from, to);
     if (error == 0) {
         // The move is done for every process, and a power cut leaves the file under one of its two names: not being
@@ -219,15 +216,11 @@ Result<void> moveItem(const QByteArray& from, const QByteArray& to) {
         error = moveAcrossFileSystems(from, to);
     }
     if (error != 0) {
-        return failure(QStringLiteral("Cannot move \"%1\" to \"%2\": %3")
-                           .arg(QFile::decodeName(from), QFile::decodeName(to),
-                                QString::fromStdString(std::generic_category().message(error))));
+        return failure(
+            QStringLiteral("Cannot move \"%1\" to \"%2\": %3")
+                .arg(pathText(from), pathText(to), QString::fromStdString(std::generic_category().message(error))));
     }
     return {};
-}
-
-Result<void> moveItem(const QString& from, const QString& to) {
-    return moveItem(QFile::encodeName(from), QFile::encodeName(to));
 }
 
 }  // namespace tavi

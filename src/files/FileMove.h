@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include <filesystem>
 
 #include "platform/Error.h"
 
@@ -19,14 +18,14 @@ enum class RenameMethod {
 
 /// Renames a file, starting with that method and going on to the next where the file system lacks it. Returns 0 or an
 /// errno value: EEXIST when the new name is taken; with a failure the file keeps its old name.
-int renameWithoutReplacing(const QByteArray& from, const QByteArray& to, RenameMethod method = RenameMethod::Exclusive);
+int renameWithoutReplacing(const std::filesystem::path& from, const std::filesystem::path& to,
+                           RenameMethod method = RenameMethod::Exclusive);
 
-/// Moves the file to another name, replacing nothing; paths in the file system's bytes.
+/// Moves the file to another name, replacing nothing.
 ///
 /// Across file systems the file is copied under a temporary name in the folder "PrivateInbox" beside its target, which
 /// no list shows, and gets its name when all of it is on the disk. When this fails the source is as it was and the
 /// target folder shows no part of it. Any thread; takes as long as the disk needs.
-Result<void> moveItem(const QByteArray& from, const QByteArray& to);
-Result<void> moveItem(const QString& from, const QString& to);
+Result<void> moveItem(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace tavi

@@ -2,18 +2,18 @@
 
 #include <unistd.h>
 
-#include <QByteArray>
+#include <filesystem>
 
 namespace tavi {
 
-/// Whether there is something at a path, given in the file system's bytes, which need not be text.
-inline bool existsAt(const QByteArray& path) {
-    return ::access(path.constData(), F_OK) == 0;
+/// Whether there is something at a path.
+inline bool existsAt(const std::filesystem::path& path) {
+    return ::access(path.c_str(), F_OK) == 0;
 }
 
-/// Removes the file at such a path, if there is one.
-inline void removeAt(const QByteArray& path) {
-    ::unlink(path.constData());
+/// Removes the file at a path, if there is one.
+inline void removeAt(const std::filesystem::path& path) {
+    ::unlink(path.c_str());
 }
 
 }  // namespace tavi

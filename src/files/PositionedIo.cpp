@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <cerrno>
 
 namespace tavi {
@@ -17,11 +16,7 @@ FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
     return *this;
 }
 
-FileDescriptor FileDescriptor::open(const QString& path, int flags, mode_t mode) {
-    return open(QFile::encodeName(path).toStdString(), flags, mode);
-}
-
-FileDescriptor FileDescriptor::open(const std::string& path, int flags, mode_t mode) {
+FileDescriptor FileDescriptor::open(const std::filesystem::path& path, int flags, mode_t mode) {
     int fd = -1;
     do {
         fd = ::open(path.c_str(), flags | O_CLOEXEC, mode);

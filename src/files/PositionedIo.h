@@ -2,11 +2,10 @@
 
 #include <sys/types.h>
 
-#include <QString>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
-#include <string>
 #include <utility>
 
 namespace tavi {
@@ -24,8 +23,7 @@ public:
 
     /// Opens a path; invalid, with errno set, when that fails. Always close-on-exec; mode counts for a file that is
     /// made.
-    static FileDescriptor open(const QString& path, int flags, mode_t mode = 0);
-    static FileDescriptor open(const std::string& path, int flags, mode_t mode = 0);
+    static FileDescriptor open(const std::filesystem::path& path, int flags, mode_t mode = 0);
 
     int get() const { return m_fd; }
     bool isValid() const { return m_fd >= 0; }

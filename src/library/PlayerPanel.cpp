@@ -1,13 +1,13 @@
 #include "library/PlayerPanel.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QPointer>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 
+#include "files/PathText.h"
 #include "library/PlayerRules.h"
 
 namespace tavi {
@@ -59,7 +59,7 @@ void PlayerPanel::prepareForRow() {
     changed();
 }
 
-void PlayerPanel::initAudioWithUrl(const QByteArray& path) {
+void PlayerPanel::initAudioWithUrl(const std::filesystem::path& path) {
     if (isPlayerPlaying()) {
         m_avPlayer->stop();
     }
@@ -315,8 +315,9 @@ void PlayerPanel::changed() {
     runTick();
     if (m_avPlayer) {
         NowPlayingInfo info;
-        info.identifier = QString::fromLatin1(QCryptographicHash::hash(m_urlPath, QCryptographicHash::Sha1).toHex());
-        info.title = QFile::decodeName(m_urlPath.mid(m_urlPath.lastIndexOf('/') + 1));
+        info.identifier =
+            QString::fromLatin1(QCryptographicHash::hash(m_urlPath.native(), QCryptographicHash::Sha1).toHex());
+        info.title = pathText(m_urlPath.filename());
         info.playbackDuration = m_avPlayer->duration();
         info.playbackState = isPlaying ? NowPlayingInfo::PlaybackState::Playing : NowPlayingInfo::PlaybackState::Paused;
         info.playbackRate = static_cast<double>(m_avPlayer->rate());

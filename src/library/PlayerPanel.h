@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <memory>
 
 #include "app/settings/SettingsStore.h"
@@ -67,7 +68,7 @@ public:
     bool hasPlayer() const { return m_avPlayer != nullptr; }
     bool isPlayerPlaying() const { return m_avPlayer != nullptr && m_avPlayer->isPlaying(); }
     /// The file that was loaded last; not text.
-    const QByteArray& urlPath() const { return m_urlPath; }
+    const std::filesystem::path& urlPath() const { return m_urlPath; }
     /// How many progress timers there are: one more with each load, on purpose. They share one tick, which runs only
     /// while something plays, as a tick does nothing otherwise.
     int updateTimers() const { return m_updateTimers; }
@@ -79,7 +80,7 @@ public:
     /// A row has opened for a recording: its step labels, and no speed chosen.
     void prepareForRow();
     /// Loads a file in the place of what was loaded. One that cannot be played leaves no player, and is not reported.
-    void initAudioWithUrl(const QByteArray& path);
+    void initAudioWithUrl(const std::filesystem::path& path);
     /// The play button's work: pauses what plays, else plays. wasSelected is the state of the button pressed.
     void playOrPause(bool wasSelected);
     void setBtnPlaySelected(bool selected);
@@ -133,7 +134,7 @@ private:
     Services m_services;
     std::unique_ptr<AudioPlayer> m_avPlayer;
     std::unique_ptr<EZAudioPlot> m_audioPlot;
-    QByteArray m_urlPath;
+    std::filesystem::path m_urlPath;
     int m_updateTimers = 0;
     std::shared_ptr<Timer> m_tick;
     bool m_ishandset = false;

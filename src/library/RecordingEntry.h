@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QAnyStringView>
-#include <QByteArray>
 #include <QString>
 #include <array>
+#include <filesystem>
 
 namespace tavi {
 
@@ -39,10 +39,10 @@ public:
         }
     }
 
-    /// The name as the file system has it, in bytes: what a path is made of. "filename" is only the name to show, as
+    /// The name as the file system has it: what a path is made of. "filename" is only the name to show, as
     /// not every name is text.
-    const QByteArray& nativeName() const { return m_nativeName; }
-    void setNativeName(const QByteArray& name) { m_nativeName = name; }
+    const std::filesystem::path& nativeName() const { return m_nativeName; }
+    void setNativeName(const std::filesystem::path& name) { m_nativeName = name; }
 
     bool operator==(const RecordingEntry&) const = default;
 
@@ -58,7 +58,7 @@ private:
     }
 
     std::array<QString, kKeys.size()> m_values;
-    QByteArray m_nativeName;
+    std::filesystem::path m_nativeName;
 };
 
 }  // namespace tavi

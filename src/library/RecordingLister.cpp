@@ -1,16 +1,14 @@
 #include "library/RecordingLister.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QDateTime>
-#include <QFile>
 #include <QTimeZone>
 #include <algorithm>
 #include <future>
 
+#include "files/PathText.h"
 #include "library/PlayerRules.h"
 #include "library/utility/Utility.h"
 
@@ -23,26 +21,26 @@ constexpr std::size_t kAtOnce = 32;
 constexpr std::size_t kLargestChunk = 2048;
 
 /// Names in a folder in the order in which the file system gives them; none where it cannot be read.
-std::vector<QByteArray> namesInFolder(const QByteArray& folder) {
+std::vector<std::filesystem::path> namesInFolder(const std::filesystem::path& folder) {
     struct Closer {
         void operator()(DIR* directory) const { ::closedir(directory); }
     };
-    std::vector<QByteArray> names;
-    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.constData()));
+    std::vector<std::filesystem::path> names;
+    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.c_str()));
     if (!directory) {
         return names;
     }
     // No other thread reads this stream, which is all that readdir(3) asks for.
     while (const dirent* item = ::readdir(directory.get())) {  // NOLINT(concurrency-mt-unsafe)
-        const QByteArray name(item->d_name);
+        const std::string_view name(item->d_name);
         if (name != "." && name != "..") {
-            names.push_back(name);
+            names.emplace_back(name);
         }
     }
     return names;
 }
 
-bool isListed(const QByteArray& name) {
+bool isListed(const std::filesystem::path& name) {
     return name != "PrivateInbox" && name != "Inbox" && name != "ICloud" && name != ".DS_Store";
 }
 
@@ -51,25 +49,9 @@ QString extensionOf(const QString& name) {
     return dot > 0 ? name.mid(dot + 1) : QString();
 }
 
-/// Asks for the length of a file whose path may be no text.
-double durationAt(const AudioDuration& durations, const QByteArray& path) {
-    const QString text = QFile::decodeName(path);
-    if (QFile::encodeName(text) == path) {
-        return durations.durationOfFile(text);
-    }
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0) {
-        return 0.0;
-    }
-    // The kernel's own name of an open file is text whatever the file is called.
-    const double duration = durations.durationOfFile(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
-    ::close(descriptor);
-    return duration;
-}
-
 }  // namespace
 
-std::vector<RecordingEntry> RecordingLister::list(const QByteArray& folder, Lengths lengths) {
+std::vector<RecordingEntry> RecordingLister::list(const std::filesystem::path& folder, Lengths lengths) {
     m_pass.reset();
     m_open.clear();
     m_openByName.clear();
@@ -79,10 +61,10 @@ std::vector<RecordingEntry> RecordingLister::list(const QByteArray& folder, Leng
         m_datesZone = QTimeZone::systemTimeZoneId();
     }
     std::vector<RecordingEntry> entries;
-    for (const QByteArray& name : namesInFolder(folder)) {
-        const QByteArray path = folder + '/' + name;
+    for (const std::filesystem::path& name : namesInFolder(folder)) {
+        const std::filesystem::path path = folder / name;
         struct stat attributes = {};
-        if (isListed(name) && ::stat(path.constData(), &attributes) == 0) {
+        if (isListed(name) && ::stat(path.c_str(), &attributes) == 0) {
             entries.push_back(entryOf(name, path, attributes));
         }
     }
@@ -103,9 +85,10 @@ std::vector<RecordingEntry> RecordingLister::list(const QByteArray& folder, Leng
     return entries;
 }
 
-RecordingEntry RecordingLister::entryOf(const QByteArray& name, const QByteArray& path, const struct stat& attributes) {
+RecordingEntry RecordingLister::entryOf(const std::filesystem::path& name, const std::filesystem::path& path,
+                                        const struct stat& attributes) {
     const double megabytes = Utility::megabytes(attributes.st_size);
-    const QString filename = QFile::decodeName(name);
+    const QString filename = pathText(name);
     RecordingEntry entry;
     entry.setNativeName(name);
     entry.setValue(entrykey::kSize, Utility::fixed(megabytes, 6));
@@ -118,12 +101,12 @@ RecordingEntry RecordingLister::entryOf(const QByteArray& name, const QByteArray
     // Folders are listed like files, on purpose: a stray one is seen, and has no length. A pipe would block its reader.
     if (S_ISREG(attributes.st_mode)) {
         const FileIdentity identity(attributes);
-        const auto known = m_known.constFind(identity);
-        if (known == m_known.constEnd()) {
+        const auto known = m_known.find(identity);
+        if (known == m_known.end()) {
             m_open.push_back({name, path, identity});
-            m_openByName.insert(name, identity);
+            m_openByName.emplace(name, identity);
         } else {
-            duration = *known;
+            duration = known->second;
         }
     }
     entry.setValue(entrykey::kDuration, playerrules::timeText(duration));
@@ -139,16 +122,17 @@ QString RecordingLister::dateText(const struct stat& attributes) {
     return text;
 }
 
-QString RecordingLister::durationText(const QByteArray& nativeName) const {
-    const auto known = m_known.constFind(m_openByName.value(nativeName));
-    return known == m_known.constEnd() ? QStringLiteral("--:--") : playerrules::timeText(*known);
+QString RecordingLister::durationText(const std::filesystem::path& nativeName) const {
+    const auto open = m_openByName.find(nativeName);
+    const auto known = open == m_openByName.end() ? m_known.end() : m_known.find(open->second);
+    return known == m_known.end() ? QStringLiteral("--:--") : playerrules::timeText(known->second);
 }
 
 void RecordingLister::measureNow() {
     std::vector<double> seconds(m_open.size());
     const auto measureRange = [this, &seconds](std::size_t from, std::size_t to) {
         for (std::size_t i = from; i < to; ++i) {
-            seconds[i] = durationAt(m_durations, m_open[i].path);
+            seconds[i] = m_durations.durationOfFile(m_open[i].path);
         }
     };
     // Whoever asks for the whole list waits for it: two threads are through many files sooner.
@@ -162,7 +146,7 @@ void RecordingLister::measureNow() {
         other.get();
     }
     for (std::size_t i = 0; i < m_open.size(); ++i) {
-        m_known.insert(m_open[i].identity, seconds[i]);
+        m_known.insert_or_assign(m_open[i].identity, seconds[i]);
     }
 }
 
@@ -190,7 +174,7 @@ void RecordingLister::measureNext() {
             if (pass.expired()) {
                 return;
             }
-            seconds.push_back(durationAt(durations, file.path));
+            seconds.push_back(durations.durationOfFile(file.path));
         }
         // The lister lives as long as its pass, which only the main thread ends.
         runLoop.dispatchMain([this, chunk = std::move(chunk), pass, seconds = std::move(seconds)] {
@@ -198,7 +182,7 @@ void RecordingLister::measureNext() {
                 return;
             }
             for (std::size_t i = 0; i < chunk.size(); ++i) {
-                m_known.insert(chunk[i].identity, seconds[i]);
+                m_known.insert_or_assign(chunk[i].identity, seconds[i]);
             }
             m_pass->done += chunk.size();
             if (m_pass->done < m_open.size()) {

@@ -3,8 +3,10 @@
 #include <QByteArray>
 #include <QHash>
 #include <QLocale>
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "files/FileIdentity.h"
@@ -33,7 +35,7 @@ public:
 
     /// The entries of the folder in the order in which the file system gives the names, without the names that are
     /// never listed. What cannot be read is an empty list, 0 KB or 00:00. Ends a measure() that is still going on.
-    std::vector<RecordingEntry> list(const QByteArray& folder, Lengths lengths);
+    std::vector<RecordingEntry> list(const std::filesystem::path& folder, Lengths lengths);
 
     /// Whether the last list() left lengths open.
     bool isComplete() const { return m_open.empty(); }
@@ -41,14 +43,14 @@ public:
     /// known, the last time with everything.
     void measure(std::function<void()> update);
     /// Whether the last list() left a file's length open, by its native name.
-    bool wasOpen(const QByteArray& nativeName) const { return m_openByName.contains(nativeName); }
+    bool wasOpen(const std::filesystem::path& nativeName) const { return m_openByName.contains(nativeName); }
     /// The length of a file that list() left open, by its native name: "mm:ss" if it is known by now, else "--:--".
-    QString durationText(const QByteArray& nativeName) const;
+    QString durationText(const std::filesystem::path& nativeName) const;
 
 private:
     struct OpenFile {
-        QByteArray name;
-        QByteArray path;
+        std::filesystem::path name;
+        std::filesystem::path path;
         FileIdentity identity;
     };
     /// One run of measure(); it is over when nobody holds it any more.
@@ -57,7 +59,8 @@ private:
         std::size_t done = 0;
     };
 
-    RecordingEntry entryOf(const QByteArray& name, const QByteArray& path, const struct stat& attributes);
+    RecordingEntry entryOf(const std::filesystem::path& name, const std::filesystem::path& path,
+                           const struct stat& attributes);
     QString dateText(const struct stat& attributes);
     void measureNext();
     void measureNow();
@@ -65,14 +68,14 @@ private:
     const AudioDuration& m_durations;
     RunLoop& m_runLoop;
     /// Seconds.
-    QHash<FileIdentity, double> m_known;
+    std::unordered_map<FileIdentity, double, FileIdentityHash> m_known;
     /// Dates as shown by the minute, for as long as language and time zone are the same.
     QHash<qint64, QString> m_dates;
     QLocale m_datesLocale;
     QByteArray m_datesZone;
     /// What the last list() left open.
     std::vector<OpenFile> m_open;
-    QHash<QByteArray, FileIdentity> m_openByName;
+    std::unordered_map<std::filesystem::path, FileIdentity> m_openByName;
     std::shared_ptr<Pass> m_pass;
 };
 

@@ -1,11 +1,11 @@
 #include "library/VoiceMemoVC.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QPointer>
 #include <algorithm>
 
 #include "files/NativePath.h"
+#include "files/PathText.h"
 #include "library/RecordingOrder.h"
 
 namespace tavi {
@@ -53,8 +53,8 @@ void VoiceMemoVC::getAlltheFiles() {
 }
 
 void VoiceMemoVC::rebuild(RecordingLister::Lengths lengths) {
-    const QByteArray expanded = expandedName();
-    m_arrRecordings = m_services.lister.list(QFile::encodeName(m_services.container.documentsPath()), lengths);
+    const std::filesystem::path expanded = expandedName();
+    m_arrRecordings = m_services.lister.list(m_services.container.documentsPath(), lengths);
     setDefaultSortingButton();
     reloadTable();
     follow(expanded);
@@ -128,19 +128,19 @@ void VoiceMemoVC::sortBy(ButtonOutlet& button, int evenCode, const QString& key,
 }
 
 void VoiceMemoVC::excludeSortingFolders(const QString& key, bool ascending) {
-    const QByteArray expanded = expandedName();
+    const std::filesystem::path expanded = expandedName();
     sortRecordings(m_arrRecordings, key, ascending);
     reloadTable();
     follow(expanded);
 }
 
-QByteArray VoiceMemoVC::expandedName() const {
+std::filesystem::path VoiceMemoVC::expandedName() const {
     const bool isOne = m_selectedIndex >= 0 && static_cast<std::size_t>(m_selectedIndex) < m_arrRecordings.size();
-    return isOne ? m_arrRecordings[static_cast<std::size_t>(m_selectedIndex)].nativeName() : QByteArray();
+    return isOne ? m_arrRecordings[static_cast<std::size_t>(m_selectedIndex)].nativeName() : std::filesystem::path();
 }
 
-void VoiceMemoVC::follow(const QByteArray& name) {
-    if (name.isEmpty() || expandedName() == name) {
+void VoiceMemoVC::follow(const std::filesystem::path& name) {
+    if (name.empty() || expandedName() == name) {
         return;
     }
     const auto found = std::find_if(m_arrRecordings.begin(), m_arrRecordings.end(),
@@ -175,27 +175,26 @@ void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
 
 void VoiceMemoVC::expandRow(int section, int row) {
     m_player.prepareForRow();
-    const QByteArray path = pathOf(section != 0, row);
-    if (!path.isEmpty()) {
+    const std::filesystem::path path = pathOf(section != 0, row);
+    if (!path.empty()) {
         m_player.initAudioWithUrl(path);
         playAudio(row, m_player.btnPlay().selected);
         m_player.setBtnPlaySelected(true);
     }
 }
 
-QByteArray VoiceMemoVC::pathOf(bool inCloud, int row) const {
+std::filesystem::path VoiceMemoVC::pathOf(bool inCloud, int row) const {
     const auto& list = inCloud ? m_arrIcloudFiles : m_arrRecordings;
     if (row < 0 || static_cast<std::size_t>(row) >= list.size()) {
         return {};
     }
-    QByteArray path = QFile::encodeName(m_services.container.documentsPath()) + (inCloud ? "/ICloud/" : "/") +
-                      list[static_cast<std::size_t>(row)].nativeName();
-    return existsAt(path) ? path : QByteArray();
+    std::filesystem::path path = m_services.container.documentsPath() / (inCloud ? "ICloud" : "") /
+                                 list[static_cast<std::size_t>(row)].nativeName();
+    return existsAt(path) ? path : std::filesystem::path();
 }
 
 QString VoiceMemoVC::playingName() const {
-    const QByteArray& path = m_player.urlPath();
-    return QFile::decodeName(path.mid(path.lastIndexOf('/') + 1));
+    return pathText(m_player.urlPath().filename());
 }
 
 /// Closes what is open in the player.
@@ -209,8 +208,8 @@ void VoiceMemoVC::playAudio(int tag, bool selected) {
     if (!m_isPlaying) {
         // The setting chooses the list, whatever section the row is of, on purpose: a row of the list that it does not
         // choose keeps what has been loaded for it.
-        const QByteArray path = pathOf(!m_services.settings.isCloudSyncOn(), tag);
-        if (!path.isEmpty()) {
+        const std::filesystem::path path = pathOf(!m_services.settings.isCloudSyncOn(), tag);
+        if (!path.empty()) {
             m_player.initAudioWithUrl(path);
         }
         m_isPlaying = true;
@@ -229,8 +228,8 @@ void VoiceMemoVC::spacePressed(int row) {
 }
 
 void VoiceMemoVC::trimRow(int row) {
-    const QByteArray path = pathOf(false, row);
-    if (path.isEmpty()) {
+    const std::filesystem::path path = pathOf(false, row);
+    if (path.empty()) {
         return;
     }
     if (m_isPlaying) {
@@ -238,8 +237,8 @@ void VoiceMemoVC::trimRow(int row) {
     }
     const RecordingEntry& entry = m_arrRecordings[static_cast<std::size_t>(row)];
     const QVariantMap data{{entrykey::kDuration, entry.value(entrykey::kDuration)}};
-    AudioTrimmerViewController::presentAudioTrimmerController(m_services.trimmers, this, path, data, entry.nativeName(),
-                                                              {});
+    AudioTrimmerViewController::presentAudioTrimmerController(m_services.trimmers, this, path.native(), data,
+                                                              entry.nativeName(), {});
 }
 
 void VoiceMemoVC::stopAudio() {

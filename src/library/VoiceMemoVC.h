@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <vector>
 
 #include "app/settings/SettingsStore.h"
@@ -141,12 +142,12 @@ private:
     void sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender);
     void rebuild(RecordingLister::Lengths lengths);
     void durationsArrived();
-    QByteArray pathOf(bool inCloud, int row) const;
+    std::filesystem::path pathOf(bool inCloud, int row) const;
     void expandRow(int section, int row);
     void teardown();
     /// The expanded recording's native name; after a change of the list the expanded row is again the one of that name.
-    QByteArray expandedName() const;
-    void follow(const QByteArray& name);
+    std::filesystem::path expandedName() const;
+    void follow(const std::filesystem::path& name);
     void reloadTable();
 
     Services m_services;

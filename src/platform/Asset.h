@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QByteArray>
 #include <cmath>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <vector>
 
@@ -41,8 +41,7 @@ struct AssetTrack {
 
 /// What a sound file says about itself. A value: the file is not kept open.
 struct Asset {
-    /// The name's own bytes, which need not be text.
-    QByteArray path;
+    std::filesystem::path path;
     /// What is meant to be heard, without an encoder's declared priming and padding. The time scale is the sample rate,
     /// so that the value counts frames. 0 without a track.
     AssetTime duration;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -48,8 +49,8 @@ class AssetExportSession {
 public:
     virtual ~AssetExportSession() = default;
 
-    /// The file to make, in the name's own bytes. It must not exist when the export begins, or it fails.
-    virtual void setOutputURL(const QByteArray& path) = 0;
+    /// The file to make. It must not exist when the export begins, or it fails.
+    virtual void setOutputURL(const std::filesystem::path& path) = 0;
     /// One of supportedFileTypes(), or the export fails.
     virtual void setOutputFileType(AssetFileType type) = 0;
     /// The stretch to keep; what of it lies outside the sound is left out. Without it, all of the sound. The export of
@@ -82,7 +83,7 @@ public:
     virtual ~AssetExportSessions() = default;
 
     /// Reads the file's headers, and through it only where they do not tell its length.
-    virtual Asset assetWithURL(const QByteArray& path) = 0;
+    virtual Asset assetWithURL(const std::filesystem::path& path) = 0;
     /// Empty for an asset without an audio track.
     virtual std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) = 0;
     /// Fails when the preset is not compatible with the asset.

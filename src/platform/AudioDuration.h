@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
 
 namespace tavi {
 
@@ -11,7 +11,7 @@ public:
 
     /// Seconds, without an encoder's declared priming and padding; 0 when the file is no sound file that can be opened.
     /// Any thread.
-    virtual double durationOfFile(const QString& path) const = 0;
+    virtual double durationOfFile(const std::filesystem::path& path) const = 0;
 };
 
 }  // namespace tavi

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 
 #include "platform/AudioInput.h"
@@ -29,7 +29,7 @@ public:
     virtual ~AudioFileWriters() = default;
 
     /// Creates the file and its encoder. Fails when the file exists or the settings cannot be met.
-    virtual Result<std::unique_ptr<AudioFileWriter>> create(const QString& path,
+    virtual Result<std::unique_ptr<AudioFileWriter>> create(const std::filesystem::path& path,
                                                             const AudioRecordSettings& settings) = 0;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <filesystem>
 #include <memory>
 
 #include "platform/Error.h"
@@ -62,9 +62,9 @@ class AudioPlayers {
 public:
     virtual ~AudioPlayers() = default;
 
-    /// A player at the beginning of the file. The path is the name's own bytes, which need not be text. Reads the
-    /// file's headers, and through it only where they do not tell its length. Fails when it is no sound file.
-    virtual Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const QByteArray& path) = 0;
+    /// A player at the beginning of the file. Reads the file's headers, and through it only where they do not tell its
+    /// length. Fails when it is no sound file.
+    virtual Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const std::filesystem::path& path) = 0;
 };
 
 }  // namespace tavi

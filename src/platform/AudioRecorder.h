@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -72,7 +72,7 @@ public:
 
     /// A recorder that writes to path, replacing nothing: fails when the file exists, cannot be made, or the settings
     /// name no format that can be written. The container follows from the format and the path's extension.
-    virtual Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const QString& path,
+    virtual Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const std::filesystem::path& path,
                                                                     const AudioRecordSettings& settings) = 0;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -51,9 +52,9 @@ class ExtAudioFiles {
 public:
     virtual ~ExtAudioFiles() = default;
 
-    /// Opens the file at a path, which is bytes and need not be text. On failure file is left empty. One of the
+    /// Opens the file at a path. On failure file is left empty. One of the
     /// kAudioFile codes tells why; a folder, a pipe and a device are no files of a known type.
-    virtual AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) = 0;
+    virtual AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) = 0;
 };
 
 }  // namespace tavi

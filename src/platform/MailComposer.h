@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -9,7 +10,7 @@
 namespace tavi {
 
 struct MailAttachment {
-    QString path;
+    std::filesystem::path path;
     /// Such as "audio/m4a".
     QString mimeType;
     QString fileName;

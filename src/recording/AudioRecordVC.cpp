@@ -1,11 +1,11 @@
 #include "recording/AudioRecordVC.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QPointer>
 
+#include "files/PathText.h"
 #include "library/utility/DateTexts.h"
 #include "library/utility/Utility.h"
 #include "recording/AudioSettings.h"
@@ -89,7 +89,9 @@ void AudioRecordVC::viewWillAppear() {
 }
 
 void AudioRecordVC::createDirAtSharedContainerPath() const {
-    QDir().mkpath(m_services.container.groupContainerPath(kApplicationGroup) + QLatin1Char('/') + qtTrId("user_abc"));
+    std::error_code ignored;
+    std::filesystem::create_directories(
+        m_services.container.groupContainerPath(kApplicationGroup) / nativePath(qtTrId("user_abc")), ignored);
 }
 
 void AudioRecordVC::showFileType() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 
 #include "platform/MailComposer.h"
 
@@ -10,9 +11,9 @@ namespace tavi {
 inline constexpr double kLargestMailMegabytes = 25.0;
 
 /// Whether the file is too large to be mailed; a file that cannot be read counts as empty.
-bool isTooLargeToMail(const QString& path);
+bool isTooLargeToMail(const std::filesystem::path& path);
 
 /// The mail that carries a recording.
-MailMessage mailWithAudioFile(const QString& path);
+MailMessage mailWithAudioFile(const std::filesystem::path& path);
 
 }  // namespace tavi

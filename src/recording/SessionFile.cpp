@@ -1,8 +1,6 @@
 #include "recording/SessionFile.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <mutex>
@@ -10,6 +8,8 @@
 #include <vector>
 
 #include "files/FileMove.h"
+#include "files/NativePath.h"
+#include "files/PathText.h"
 #include "library/utility/Notifications.h"
 #include "library/utility/Utility.h"
 #include "recording/RecordingMail.h"
@@ -27,7 +27,8 @@ constexpr double kMailDelay = 2.0;
 /// Moves that are made once, by whichever thread comes first; the others wait for it.
 class SessionFile::Moves {
 public:
-    explicit Moves(std::vector<std::pair<QString, QString>> moves) : m_moves(std::move(moves)) {}
+    explicit Moves(std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves)
+        : m_moves(std::move(moves)) {}
 
     void make() {
         std::call_once(m_once, [this] {
@@ -42,7 +43,7 @@ public:
     }
 
 private:
-    std::vector<std::pair<QString, QString>> m_moves;
+    std::vector<std::pair<std::filesystem::path, std::filesystem::path>> m_moves;
     std::once_flag m_once;
 };
 
@@ -51,8 +52,8 @@ SessionFile::SessionFile(const Services& services, QObject* parent) : QObject(pa
 SessionFile::~SessionFile() = default;
 
 void SessionFile::updateRecordFilePath() {
-    m_recordFilePath =
-        m_services.container.cachesPath() + QStringLiteral("/vexmosounds.") + m_services.settings.audioFileType();
+    m_recordFilePath = m_services.container.cachesPath() /
+                       nativePath(QStringLiteral("vexmosounds.") + m_services.settings.audioFileType());
 }
 
 void SessionFile::begin() {
@@ -60,7 +61,7 @@ void SessionFile::begin() {
     // The type may have changed since the screen appeared, and the file is to be of the type that it is saved as.
     updateRecordFilePath();
     m_sessionPath = m_recordFilePath;
-    QFile::remove(m_recordFilePath);
+    removeAt(m_recordFilePath);
 }
 
 void SessionFile::abandon() {
@@ -68,13 +69,16 @@ void SessionFile::abandon() {
 }
 
 void SessionFile::saveFileToDoc(const QString& name) {
-    const QString base = m_services.container.documentsPath() + QLatin1Char('/') + name + QLatin1Char('.');
-    QString destination = base + m_services.settings.audioFileType();
-    std::vector<std::pair<QString, QString>> moves{{m_recordFilePath, destination}};
+    const std::filesystem::path base = m_services.container.documentsPath() / nativePath(name);
+    const auto named = [&base](const std::string& extension) {
+        return std::filesystem::path(base.native() + extension);
+    };
+    std::filesystem::path destination = named('.' + m_services.settings.audioFileType().toStdString());
+    std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves{{m_recordFilePath, destination}};
     if (m_sessionPath != m_recordFilePath) {
         // Somebody has edited the type in the settings' file, and the screen has appeared since: the path is another
         // one by now, and the session would stay where a later one removes it.
-        destination = base + QFileInfo(m_sessionPath).suffix();
+        destination = named(m_sessionPath.extension());
         moves.emplace(moves.begin(), m_sessionPath, destination);
     }
     m_moves = std::make_shared<Moves>(std::move(moves));
@@ -91,7 +95,7 @@ void SessionFile::saveFileToDoc(const QString& name) {
     });
 }
 
-void SessionFile::didMove(const QString& path) {
+void SessionFile::didMove(const std::filesystem::path& path) {
     m_moves.reset();
     m_services.formatHold.setHeld(false);
     m_services.notifications.postNotification(kDataUpdatedNotification);
@@ -110,7 +114,7 @@ void SessionFile::finishBeforeTermination() {
     }
 }
 
-void SessionFile::emailAudioFile(const QString& path) {
+void SessionFile::emailAudioFile(const std::filesystem::path& path) {
     if (isTooLargeToMail(path)) {
         m_services.presenter.presentAlert(
             {qtTrId("alert_error"), qtTrId("file_size_msg"), {{qtTrId("alert_title_ok")}}});

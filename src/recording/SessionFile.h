@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <memory>
 
 #include "app/settings/FormatHold.h"
@@ -35,7 +36,7 @@ public:
     ~SessionFile() override;
 
     /// The temporary file, "vexmosounds" with the type that was read last as extension.
-    QString recordFilePath() const { return m_recordFilePath; }
+    const std::filesystem::path& recordFilePath() const { return m_recordFilePath; }
     /// Reads the type from the settings again.
     void updateRecordFilePath();
 
@@ -57,13 +58,13 @@ Q_SIGNALS:
 private:
     class Moves;
 
-    void didMove(const QString& path);
-    void emailAudioFile(const QString& path);
+    void didMove(const std::filesystem::path& path);
+    void emailAudioFile(const std::filesystem::path& path);
 
     Services m_services;
-    QString m_recordFilePath;
+    std::filesystem::path m_recordFilePath;
     /// Where the session records, whatever has been read since.
-    QString m_sessionPath;
+    std::filesystem::path m_sessionPath;
     std::shared_ptr<Moves> m_moves;
 };
 

@@ -1,13 +1,17 @@
 #include "trimming/AudioTrim.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QPointer>
+#include <cerrno>
+#include <system_error>
 
 #include "files/FileMove.h"
 #include "files/NativePath.h"
+#include "files/PathText.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {
@@ -22,7 +26,7 @@ constexpr float kMargin = 2.0F;
 
 }  // namespace
 
-AudioTrim::AudioTrim(const Services& services, QByteArray fileName, QString section, QObject* parent)
+AudioTrim::AudioTrim(const Services& services, std::filesystem::path fileName, QString section, QObject* parent)
     : QObject(parent),
       m_services(services),
       m_fileName(std::move(fileName)),
@@ -35,7 +39,7 @@ AudioTrim::AudioTrim(const Services& services, QByteArray fileName, QString sect
 }
 
 QString AudioTrim::lblFileName() const {
-    return QFileInfo(QFile::decodeName(m_fileName)).completeBaseName();
+    return QFileInfo(pathText(m_fileName)).completeBaseName();
 }
 
 QString AudioTrim::accentColor() const {
@@ -140,12 +144,12 @@ void AudioTrim::saveImagesInIPhone() const {
     m_services.runLoop.dispatchAfter(kCloudDelay, [save = m_saveToCloud, path = m_outputPath] {
         qCInfo(lcTrimming, "Do some work");
         if (save) {
-            save(path, QFileInfo(QFile::decodeName(path)).fileName());
+            save(path, pathText(path.filename()));
         }
     });
 }
 
-bool AudioTrim::exportAsset(const Asset& asset, const QByteArray& path) {
+bool AudioTrim::exportAsset(const Asset& asset, const std::filesystem::path& path) {
     if (asset.audioTracks.empty()) {
         return false;
     }
@@ -196,10 +200,8 @@ void AudioTrim::backButtonpressed() {
                                         {qtTrId("Yes")}}});
 }
 
-void AudioTrim::addTrimFileWithFilePath(const QString& folder) {
-    const QString path = QFile::decodeName(m_outputPath);
-    const QString target = folder + QLatin1Char('/') + QFileInfo(path).fileName();
-    if (const auto moved = moveItem(path, target); !moved) {
+void AudioTrim::addTrimFileWithFilePath(const std::filesystem::path& folder) {
+    if (const auto moved = moveItem(m_outputPath, folder / m_outputPath.filename()); !moved) {
         qCWarning(lcTrimming, "%s", qUtf8Printable(moved.error().text));
     }
     m_indicatorText.clear();
@@ -210,12 +212,11 @@ void AudioTrim::addTrimFileWithFilePath(const QString& folder) {
     }
 }
 
-void AudioTrim::removeFile(const QString& fileName) {
-    QFile file(m_services.container.documentsPath() + QLatin1Char('/') + fileName);
-    if (file.remove()) {
+void AudioTrim::removeFile(const std::filesystem::path& fileName) {
+    if (::unlink((m_services.container.documentsPath() / fileName).c_str()) == 0) {
         qCInfo(lcTrimming, "delete file");
     } else {
-        qCInfo(lcTrimming, "Could not delete file -:%s ", qUtf8Printable(file.errorString()));
+        qCInfo(lcTrimming, "Could not delete file -:%s ", std::generic_category().message(errno).c_str());
     }
     close();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -47,8 +48,8 @@ public:
         RunLoop& runLoop;
     };
 
-    /// fileName is the recording's full path, in the name's own bytes; section the list's section that it comes from.
-    AudioTrim(const Services& services, QByteArray fileName, QString section, QObject* parent = nullptr);
+    /// fileName is the recording's full path; section the list's section that it comes from.
+    AudioTrim(const Services& services, std::filesystem::path fileName, QString section, QObject* parent = nullptr);
 
     QString title() const { return qtTrId("trimming_audio"); }
     QString lblFileName() const;
@@ -68,22 +69,22 @@ public:
     /// The stretch to keep, as the slider said last.
     double leftValue() const { return m_leftValue; }
     double rightValue() const { return m_rightValue; }
-    QByteArray outputPath() const { return m_outputPath; }
+    std::filesystem::path outputPath() const { return m_outputPath; }
 
     /// Called when the list of recordings is to be read again; may outlive the screen.
     void setTrimDelegate(std::function<void()> reloadTableViewDataSource) {
         m_reloadTableViewDataSource = std::move(reloadTableViewDataSource);
     }
     /// Saves the file at a path as a cloud document of that name. Without one nothing is saved there.
-    void setSaveToCloud(std::function<void(const QByteArray& path, const QString& name)> save) {
+    void setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save) {
         m_saveToCloud = std::move(save);
     }
     /// Exports whole seconds into the file at that path. False, with nothing exported, for a file without sound.
-    bool exportAsset(const Asset& asset, const QByteArray& path);
+    bool exportAsset(const Asset& asset, const std::filesystem::path& path);
     /// Moves the new file into a folder, and closes.
-    void addTrimFileWithFilePath(const QString& folder);
+    void addTrimFileWithFilePath(const std::filesystem::path& folder);
     /// Deletes a file of the documents folder, and closes.
-    void removeFile(const QString& fileName);
+    void removeFile(const std::filesystem::path& fileName);
 
 public Q_SLOTS:
     void viewDidLoad();
@@ -112,14 +113,14 @@ private:
     void close();
 
     Services m_services;
-    QByteArray m_fileName;
+    std::filesystem::path m_fileName;
     QString m_section;
     RangeSlider m_rangeSlider;
     SCWaveformView m_waveformView;
     AudioTrimPlayer m_player;
     std::function<void()> m_reloadTableViewDataSource;
-    std::function<void(const QByteArray&, const QString&)> m_saveToCloud;
-    QByteArray m_outputPath;
+    std::function<void(const std::filesystem::path&, const QString&)> m_saveToCloud;
+    std::filesystem::path m_outputPath;
     QString m_indicatorText;
     double m_leftValue = 0.0;
     double m_rightValue = 0.0;

@@ -23,7 +23,7 @@ AudioTrimPlayer::~AudioTrimPlayer() {
     }
 }
 
-std::unique_ptr<AudioPlayer> AudioTrimPlayer::make(const QByteArray& path) {
+std::unique_ptr<AudioPlayer> AudioTrimPlayer::make(const std::filesystem::path& path) {
     auto player = m_players.playerWithContentsOfURL(path);
     if (!player) {
         qCWarning(lcTrimming, "Error in audioPlayer: %s", qUtf8Printable(player.error().text));
@@ -33,7 +33,7 @@ std::unique_ptr<AudioPlayer> AudioTrimPlayer::make(const QByteArray& path) {
     return std::move(*player);
 }
 
-void AudioTrimPlayer::load(const QByteArray& recording) {
+void AudioTrimPlayer::load(const std::filesystem::path& recording) {
     m_recording = make(recording);
     Q_EMIT timeChanged();
 }
@@ -48,7 +48,7 @@ void AudioTrimPlayer::playOrPause() {
     }
 }
 
-void AudioTrimPlayer::playCut(const QByteArray& cut) {
+void AudioTrimPlayer::playCut(const std::filesystem::path& cut) {
     stop();
     m_cut = make(cut);
     if (m_cut != nullptr) {

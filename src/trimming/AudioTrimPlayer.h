@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
+#include <filesystem>
 #include <memory>
 
 #include "platform/AudioPlayer.h"
@@ -19,12 +19,12 @@ public:
     ~AudioTrimPlayer() override;
 
     /// Makes the recording's player. Without one, with the reason in the log, nothing plays.
-    void load(const QByteArray& recording);
+    void load(const std::filesystem::path& recording);
     bool canPlay() const { return m_recording != nullptr; }
     /// Plays the recording on, in the place of the cut; pauses it while it plays.
     void playOrPause();
     /// Plays a cut from its beginning. A file that cannot be played is told in the log.
-    void playCut(const QByteArray& cut);
+    void playCut(const std::filesystem::path& cut);
     void stop();
 
     /// Whether anything plays, and whether that is the recording.
@@ -40,7 +40,7 @@ Q_SIGNALS:
     void timeChanged();
 
 private:
-    std::unique_ptr<AudioPlayer> make(const QByteArray& path);
+    std::unique_ptr<AudioPlayer> make(const std::filesystem::path& path);
     AudioPlayer* current() const { return m_cut != nullptr ? m_cut.get() : m_recording.get(); }
     void play();
     void leavePlaying();

@@ -1,34 +1,28 @@
 #include "trimming/AudioTrimmerViewController.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <utility>
 
 #include "files/NativePath.h"
+#include "files/PathText.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerStage.h"
 
 namespace tavi {
 
-namespace {
-
-QByteArray nameOf(const QByteArray& path) {
-    return path.mid(path.lastIndexOf('/') + 1);
-}
-
-}  // namespace
-
 void AudioTrimmerViewController::presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter,
-                                                               const QByteArray& strUrl, const QVariantMap& dicGetData,
-                                                               const QByteArray& getFfName, Completion completion) {
+                                                               const std::string& strUrl, const QVariantMap& dicGetData,
+                                                               const std::filesystem::path& getFfName,
+                                                               Completion completion) {
     stage.show(std::make_unique<AudioTrimmerViewController>(
         stage.services(), Input{strUrl, dicGetData, getFfName, std::move(completion), presenter, false}));
 }
 
-void AudioTrimmerViewController::pushAudioTrimmerController(AudioTrimmerStage& stage, const QByteArray& strUrl,
+void AudioTrimmerViewController::pushAudioTrimmerController(AudioTrimmerStage& stage, const std::string& strUrl,
                                                             Completion completion) {
     stage.show(std::make_unique<AudioTrimmerViewController>(
-        stage.services(), Input{strUrl, {}, nameOf(strUrl), std::move(completion), nullptr, true}));
+        stage.services(),
+        Input{strUrl, {}, std::filesystem::path(strUrl).filename(), std::move(completion), nullptr, true}));
 }
 
 AudioTrimmerViewController::AudioTrimmerViewController(const Services& services, Input input, QObject* parent)
@@ -57,13 +51,12 @@ AudioTrimmerViewController::~AudioTrimmerViewController() {
     }
 }
 
-QByteArray AudioTrimmerViewController::filePath() const {
-    QByteArray path = m_input.getUrl;
-    return path.replace("file://", "");
+std::filesystem::path AudioTrimmerViewController::filePath() const {
+    return QByteArray::fromStdString(m_input.getUrl).replace("file://", "").toStdString();
 }
 
 QString AudioTrimmerViewController::fileText() const {
-    return QFile::decodeName(m_input.getFileName);
+    return pathText(m_input.getFileName);
 }
 
 ButtonOutlet AudioTrimmerViewController::btnEditTrimmedVideo() const {
@@ -143,7 +136,7 @@ void AudioTrimmerViewController::resetAudioPlayer() {
 }
 
 void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> completion) {
-    if (m_strTrimmedAudioURL.isEmpty()) {
+    if (m_strTrimmedAudioURL.empty()) {
         m_strTrimmedAudioURL = trimrules::outputPath(m_services.container.documentsPath(),
                                                      m_services.runLoop.clock().now(), m_input.getFileName);
     }
@@ -156,7 +149,7 @@ void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> c
 }
 
 void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std::function<void()>& completion) {
-    if (!m_abandonedPath.isEmpty()) {
+    if (!m_abandonedPath.empty()) {
         // It may have been over before it could be given up.
         removeAt(m_abandonedPath);
         postDataUpdated();
@@ -235,14 +228,14 @@ void AudioTrimmerViewController::btnCancelTapped() {
     dismissAudioTrimmer({});
 }
 
-void AudioTrimmerViewController::dismissAudioTrimmer(const QByteArray& path) {
+void AudioTrimmerViewController::dismissAudioTrimmer(const std::filesystem::path& path) {
     m_isDismissed = true;
     // The next trimmer loads its waveform with the same loader, while this one may still wait for its export.
     if (std::exchange(m_isLoading, false)) {
         m_services.waveforms.cancel();
     }
     if (m_input.completionBlock) {
-        m_input.completionBlock(!path.isEmpty(), path);
+        m_input.completionBlock(!path.empty(), path);
     }
     if (!m_input.isPushAudioTrimmer) {
         postDataUpdated();
@@ -274,7 +267,7 @@ void AudioTrimmerViewController::didFinishRecording() {
     const QPointer<AudioTrimmerViewController> self(this);
     m_services.runLoop.dispatchBackground(
         [self, services = m_services, original = m_recorder.strOriginalAudioURL(), copy = m_recorder.strAudioURL()] {
-            const double duration = services.exports.assetWithURL(QFile::encodeName(original)).duration.seconds();
+            const double duration = services.exports.assetWithURL(original).duration.seconds();
             ScratchRecorder::replaceCopy(original, copy);
             services.runLoop.dispatchMain([self, duration] {
                 if (self) {

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QVariantMap>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -21,8 +22,6 @@ namespace tavi {
 class AudioTrimmerStage;
 
 /// The screen that cuts a recording down to a stretch, in a new file. The recording is never changed. Main thread only.
-///
-/// Paths and URLs are bytes that need not be text; a URL is "file://" and the path, or the path alone.
 class AudioTrimmerViewController : public QObject {
     Q_OBJECT
     Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
@@ -55,24 +54,25 @@ public:
         RunLoop& runLoop;
     };
     /// Told when the screen closes: with the new file, or without one. A completed export tells it several times.
-    using Completion = std::function<void(bool success, const QByteArray& path)>;
+    using Completion = std::function<void(bool success, const std::filesystem::path& path)>;
 
     struct Input {
-        QByteArray getUrl;
+        /// "file://" and the path, or the path alone, in the path's bytes.
+        std::string getUrl;
         /// Its "duration" is the text of the list.
         QVariantMap getDictData;
-        QByteArray getFileName;
+        std::filesystem::path getFileName;
         Completion completionBlock;
         QPointer<QObject> refreshDelegate;
         bool isPushAudioTrimmer = false;
     };
 
     /// Shows the trimmer over the presenting screen, on the stage.
-    static void presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter, const QByteArray& strUrl,
-                                              const QVariantMap& dicGetData, const QByteArray& getFfName,
+    static void presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter, const std::string& strUrl,
+                                              const QVariantMap& dicGetData, const std::filesystem::path& getFfName,
                                               Completion completion);
     /// Shows it as the next screen instead.
-    static void pushAudioTrimmerController(AudioTrimmerStage& stage, const QByteArray& strUrl, Completion completion);
+    static void pushAudioTrimmerController(AudioTrimmerStage& stage, const std::string& strUrl, Completion completion);
 
     AudioTrimmerViewController(const Services& services, Input input, QObject* parent = nullptr);
     /// Waits for the running export of a file that its caller has been told of; gives any other up.
@@ -98,7 +98,7 @@ public:
     const Input& input() const { return m_input; }
     bool isAudioTrimmed() const { return m_isAudioTrimmed; }
     /// Where exports go; empty before the first one.
-    QByteArray strTrimmedAudioURL() const { return m_strTrimmedAudioURL; }
+    std::filesystem::path strTrimmedAudioURL() const { return m_strTrimmedAudioURL; }
 
 public Q_SLOTS:
     void viewDidLoad();
@@ -120,7 +120,7 @@ Q_SIGNALS:
     void dismissed();
 
 private:
-    QByteArray filePath() const;
+    std::filesystem::path filePath() const;
     void loadFile();
     void didLoadAsset(const Asset& asset);
     void didLoadWaveform(const std::vector<float>& points);
@@ -130,7 +130,7 @@ private:
     void exportEnded(AssetExportStatus status, const std::function<void()>& completion);
     void didTrim();
     void done();
-    void dismissAudioTrimmer(const QByteArray& path);
+    void dismissAudioTrimmer(const std::filesystem::path& path);
     void postDataUpdated();
     void startRecording();
     void stopRecording();
@@ -146,9 +146,9 @@ private:
     ScratchRecorder m_recorder;
     std::optional<Asset> m_asset;
     std::vector<float> m_waveform;
-    QByteArray m_strTrimmedAudioURL;
+    std::filesystem::path m_strTrimmedAudioURL;
     /// Where an export writes that was cancelled with the screen.
-    QByteArray m_abandonedPath;
+    std::filesystem::path m_abandonedPath;
     QString m_lblTotalDuration;
     bool m_isLoading = false;
     bool m_isAudioTrimmed = false;

@@ -1,7 +1,8 @@
 #include "trimming/ScratchRecorder.h"
 
-#include <QFile>
 #include <QLoggingCategory>
+
+#include "files/NativePath.h"
 
 namespace tavi {
 
@@ -38,7 +39,7 @@ bool ScratchRecorder::fail(const Error& error) {
 
 bool ScratchRecorder::prepareToRecordAudio() {
     m_recorder.reset();
-    QFile::remove(strOriginalAudioURL());
+    removeAt(strOriginalAudioURL());
     AudioSession& session = m_services.audioSession;
     if (const auto set = session.setCategory(AudioSession::Category::PlayAndRecord, AudioSession::CategoryOption::None);
         !set) {
@@ -72,9 +73,10 @@ void ScratchRecorder::activatePlayback() {
     m_services.audioSession.setActive(true);
 }
 
-void ScratchRecorder::replaceCopy(const QString& original, const QString& copy) {
-    QFile::remove(copy);
-    QFile::copy(original, copy);
+void ScratchRecorder::replaceCopy(const std::filesystem::path& original, const std::filesystem::path& copy) {
+    removeAt(copy);
+    std::error_code ignored;
+    std::filesystem::copy_file(original, copy, ignored);
 }
 
 void ScratchRecorder::audioRecorderDidFinishRecording(AudioRecorder&, const std::optional<Error>& error) {

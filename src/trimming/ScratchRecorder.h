@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -25,8 +26,8 @@ public:
     ScratchRecorder& operator=(const ScratchRecorder&) = delete;
 
     /// What is recorded into, and the copy of it that stays until the next recording or reset.
-    QString strOriginalAudioURL() const { return m_folder + QStringLiteral("/originalRecording.wav"); }
-    QString strAudioURL() const { return m_folder + QStringLiteral("/recording.wav"); }
+    std::filesystem::path strOriginalAudioURL() const { return m_folder / "originalRecording.wav"; }
+    std::filesystem::path strAudioURL() const { return m_folder / "recording.wav"; }
 
     /// Makes a recorder over a new file. False, with the reason in the log, when that cannot be.
     bool prepareToRecordAudio();
@@ -35,14 +36,14 @@ public:
     /// Sets the session up for playing.
     void activatePlayback();
     /// Makes the copy anew. Any thread; takes as long as the disk needs.
-    static void replaceCopy(const QString& original, const QString& copy);
+    static void replaceCopy(const std::filesystem::path& original, const std::filesystem::path& copy);
 
 private:
     void audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) override;
     bool fail(const Error& error);
 
     Services m_services;
-    QString m_folder;
+    std::filesystem::path m_folder;
     std::function<void()> m_finished;
     std::unique_ptr<AudioRecorder> m_recorder;
 };

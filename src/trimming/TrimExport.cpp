@@ -39,8 +39,8 @@ double TrimExport::progress() const {
     return m_exportSession != nullptr ? static_cast<double>(m_exportSession->progress()) : 0.0;
 }
 
-void TrimExport::start(const Asset& asset, const QByteArray& path, AssetFileType type, const TrimTimes& times,
-                       Ended ended) {
+void TrimExport::start(const Asset& asset, const std::filesystem::path& path, AssetFileType type,
+                       const TrimTimes& times, Ended ended) {
     removeAt(path);
     // The best quality only tells by being offered that there is something to export. Without it nothing happens, on
     // purpose: there is nothing that could be told about a file without sound.

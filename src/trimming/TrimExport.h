@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -28,7 +29,8 @@ public:
 
     /// Replaces the file at the path with the stretch; ended is called unless this has been destroyed by then. An asset
     /// that no export is offered for is not exported, and ended is not called.
-    void start(const Asset& asset, const QByteArray& path, AssetFileType type, const TrimTimes& times, Ended ended);
+    void start(const Asset& asset, const std::filesystem::path& path, AssetFileType type, const TrimTimes& times,
+               Ended ended);
     void cancel();
     void waitUntilFinished();
 

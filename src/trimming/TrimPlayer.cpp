@@ -14,7 +14,8 @@ constexpr double kDisplayInterval = 0.1;
 
 }  // namespace
 
-TrimPlayer::TrimPlayer(const Services& services, QByteArray path, const TrimSelection& selection, QObject* parent)
+TrimPlayer::TrimPlayer(const Services& services, std::filesystem::path path, const TrimSelection& selection,
+                       QObject* parent)
     : QObject(parent), m_services(services), m_path(std::move(path)), m_selection(selection) {}
 
 TrimPlayer::~TrimPlayer() {

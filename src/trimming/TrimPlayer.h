@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QObject>
+#include <filesystem>
 #include <memory>
 
 #include "platform/AudioPlayer.h"
@@ -24,8 +25,9 @@ public:
         RunLoop& runLoop;
     };
 
-    /// Plays the file at the path, which is the name's own bytes.
-    TrimPlayer(const Services& services, QByteArray path, const TrimSelection& selection, QObject* parent = nullptr);
+    /// Plays the file at the path.
+    TrimPlayer(const Services& services, std::filesystem::path path, const TrimSelection& selection,
+               QObject* parent = nullptr);
     ~TrimPlayer() override;
 
     bool isPlaying() const { return m_isPlaying; }
@@ -57,7 +59,7 @@ private:
     void leavePlaying();
 
     Services m_services;
-    QByteArray m_path;
+    std::filesystem::path m_path;
     const TrimSelection& m_selection;
     std::unique_ptr<AudioPlayer> m_audioPlayer;
     std::shared_ptr<Timer> m_timerAudioPlayer;

@@ -1,9 +1,9 @@
 #include "trimming/TrimRules.h"
 
-#include <QFile>
 #include <QLocale>
 #include <algorithm>
 
+#include "files/PathText.h"
 #include "library/utility/DateTexts.h"
 
 namespace tavi::trimrules {
@@ -66,18 +66,19 @@ QString timeFormatted(double seconds, bool isWithMinutes) {
     return isWithMinutes ? twoDigits(milliseconds / kMillisecondsPerMinute) + QLatin1Char(':') + text : text;
 }
 
-QByteArray pathExtension(const QByteArray& name) {
-    const auto dot = name.lastIndexOf('.');
-    return dot > name.lastIndexOf('/') + 1 ? name.mid(dot + 1) : QByteArray();
+std::string pathExtension(const std::filesystem::path& name) {
+    const std::string extension = name.extension();
+    return extension.empty() ? extension : extension.substr(1);
 }
 
-QByteArray outputPath(const QString& folder, const QDateTime& date, const QByteArray& name) {
-    return QFile::encodeName(folder + QStringLiteral("/Trim_") + fileBaseName(date, QLocale()) + QLatin1Char('.')) +
-           pathExtension(name);
+std::filesystem::path outputPath(const std::filesystem::path& folder, const QDateTime& date,
+                                 const std::filesystem::path& name) {
+    return folder / (nativePath(QStringLiteral("Trim_") + fileBaseName(date, QLocale()) + QLatin1Char('.')).native() +
+                     pathExtension(name));
 }
 
-AssetFileType outputFileType(const QByteArray& name) {
-    const QByteArray extension = pathExtension(name).toLower();
+AssetFileType outputFileType(const std::filesystem::path& name) {
+    const QByteArray extension = QByteArray::fromStdString(pathExtension(name)).toLower();
     if (extension == "wav") {
         return AssetFileType::Wave;
     }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <filesystem>
+#include <string>
 
 #include "platform/AssetExportSession.h"
 
@@ -52,14 +53,15 @@ double firstStep(TrimThumb thumb, const TrimTimes& times, double translation, do
 /// and 50 ms read 05 and 50.
 QString timeFormatted(double seconds, bool isWithMinutes);
 
-/// What follows the last point of a file's name; empty where there is none, or nothing before it. In the name's bytes.
-QByteArray pathExtension(const QByteArray& name);
+/// What follows the last point of a file's name; empty where there is none, or nothing before it.
+std::string pathExtension(const std::filesystem::path& name);
 
-/// Where a part of a file of that name goes: "Trim_" and the date, in a folder, with the name's extension; in bytes.
-QByteArray outputPath(const QString& folder, const QDateTime& date, const QByteArray& name);
+/// Where a part of a file of that name goes: "Trim_" and the date, in a folder, with the name's extension.
+std::filesystem::path outputPath(const std::filesystem::path& folder, const QDateTime& date,
+                                 const std::filesystem::path& name);
 
 /// What an export writes for a file of that name, its extension in any case: any name gets a type.
-AssetFileType outputFileType(const QByteArray& name);
+AssetFileType outputFileType(const std::filesystem::path& name);
 
 }  // namespace trimrules
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
+#include "files/PathText.h"
 
 int main(int argc, char** argv) {
     constexpr std::pair<const char*, std::uint32_t> kTypes[] = {{"m4a", tavi::kAudioFormatAppleLossless},
@@ -23,7 +24,7 @@ int main(int argc, char** argv) {
                 settings.formatID = format;
                 settings.sampleRate = 8000;
                 settings.numberOfChannels = channels;
-                auto writer = tavi::FfmpegAudioFileWriters().create(path, settings);
+                auto writer = tavi::FfmpegAudioFileWriters().create(tavi::nativePath(path), settings);
                 std::vector<float> samples;
                 for (int i = 0; i < 6000 * channels; ++i) {
                     samples.push_back(std::sin(static_cast<float>(i) * 0.1F) * 0.3F);

@@ -62,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     read(path, tavi::EZAudioFile::defaultClientFormat());
     auto mono = tavi::EZAudioUtilities::monoFloatFormatWithSampleRate(8000);
     read(path, mono);
-    tavi::FfmpegAudioDuration().durationOfFile(QString::fromStdString(path));
+    tavi::FfmpegAudioDuration().durationOfFile(path);
     close(fd);
     return 0;
 }

@@ -1,6 +1,5 @@
 #include "integration/SoundProbe.h"
 
-#include <QFile>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -52,9 +51,9 @@ void decodePackets(AVFormatContext& input, int stream, AVCodecContext& decoder, 
 
 }  // namespace
 
-std::optional<Sound> decodeSound(const QString& path) {
+std::optional<Sound> decodeSound(const std::filesystem::path& path) {
     AVFormatContext* context = nullptr;
-    if (avformat_open_input(&context, QFile::encodeName(path).constData(), nullptr, nullptr) < 0) {
+    if (avformat_open_input(&context, path.c_str(), nullptr, nullptr) < 0) {
         return std::nullopt;
     }
     const AvInput input(context);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <optional>
 #include <span>
 #include <string>
@@ -22,7 +23,7 @@ struct Sound {
 };
 
 /// Decodes a whole file. Nothing when it cannot be opened; an error later ends the sound there.
-std::optional<Sound> decodeSound(const QString& path);
+std::optional<Sound> decodeSound(const std::filesystem::path& path);
 
 /// RMS in dB of full scale; a full sine has -3.01, silence -200.
 double levelOf(std::span<const float> samples);

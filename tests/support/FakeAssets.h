@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QFile>
-#include <QMap>
 #include <algorithm>
+#include <filesystem>
+#include <map>
 #include <utility>
 
 #include "platform/AssetExportSession.h"
@@ -18,7 +19,7 @@ public:
     struct State {
         Asset asset;
         AssetExportPreset preset = AssetExportPreset::Passthrough;
-        QByteArray outputURL;
+        std::filesystem::path outputURL;
         std::optional<AssetFileType> outputFileType;
         std::optional<AssetTimeRange> timeRange;
         AssetAudioMix audioMix;
@@ -33,7 +34,7 @@ public:
             if (!isRunning()) {
                 return;
             }
-            QFile file(QFile::decodeName(outputURL));
+            QFile file(outputURL);
             const bool isTypeUsable = preset == AssetExportPreset::Passthrough
                                           ? outputFileType.has_value()
                                           : outputFileType == AssetFileType::AppleM4A;
@@ -67,7 +68,7 @@ public:
     FakeAssetExportSession(RunLoop& runLoop, std::shared_ptr<State> state, bool isHeldBack)
         : m_runLoop(runLoop), m_state(std::move(state)), m_isHeldBack(isHeldBack) {}
 
-    void setOutputURL(const QByteArray& path) override { m_state->outputURL = path; }
+    void setOutputURL(const std::filesystem::path& path) override { m_state->outputURL = path; }
     void setOutputFileType(AssetFileType type) override { m_state->outputFileType = type; }
     void setTimeRange(const AssetTimeRange& range) override { m_state->timeRange = range; }
     void setAudioMix(const AssetAudioMix& mix) override { m_state->audioMix = mix; }
@@ -149,14 +150,14 @@ public:
 
     explicit FakeAssets(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
-    Asset assetWithURL(const QByteArray& path) override {
-        const auto file = files.constFind(nameOf(path));
+    Asset assetWithURL(const std::filesystem::path& path) override {
+        const auto file = files.find(path.filename());
         Asset asset{path, {}, {}};
-        if (file != files.constEnd()) {
+        if (file != files.end()) {
             AudioStreamBasicDescription format;
-            format.sampleRate = file->duration.timescale;
-            format.channelsPerFrame = file->channels;
-            asset.duration = file->duration;
+            format.sampleRate = file->second.duration.timescale;
+            format.channelsPerFrame = file->second.channels;
+            asset.duration = file->second.duration;
             asset.audioTracks = {{{{format}}}};
         }
         return asset;
@@ -179,20 +180,18 @@ public:
         if (asset.audioTracks.empty()) {
             return failure(QStringLiteral("There is no sound."));
         }
-        const File file = files.value(nameOf(asset.path));
+        const File& file = files[asset.path.filename()];
         return std::make_unique<FakeAssetReader>(file.samples, file.channels, file.duration.timescale);
     }
 
     /// Any other name is no sound file.
-    QMap<QByteArray, File> files;
+    std::map<std::filesystem::path, File> files;
     /// Exports end only by finish() or end() of their state.
     bool areExportsHeldBack = false;
     /// In the order in which they were made.
     std::vector<std::shared_ptr<FakeAssetExportSession::State>> sessions;
 
 private:
-    static QByteArray nameOf(const QByteArray& path) { return path.mid(path.lastIndexOf('/') + 1); }
-
     RunLoop& m_runLoop;
 };
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QMap>
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <map>
 #include <memory>
 
 #include "platform/AudioPlayer.h"
@@ -125,20 +126,20 @@ class FakeAudioPlayers : public AudioPlayers {
 public:
     explicit FakeAudioPlayers(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
-    Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const QByteArray& path) override {
-        const auto found = seconds.constFind(path.mid(path.lastIndexOf('/') + 1));
-        if (found == seconds.constEnd()) {
+    Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const std::filesystem::path& path) override {
+        const auto found = seconds.find(path.filename());
+        if (found == seconds.end()) {
             return failure(QStringLiteral("no sound file"));
         }
         m_last = std::make_shared<FakeAudioPlayer*>(nullptr);
-        return std::make_unique<FakeAudioPlayer>(*found, m_runLoop, m_last);
+        return std::make_unique<FakeAudioPlayer>(found->second, m_runLoop, m_last);
     }
 
     /// The player made last; null when it is gone.
     FakeAudioPlayer* last() const { return m_last == nullptr ? nullptr : *m_last; }
 
     /// Durations by file name; any other is no sound file.
-    QMap<QByteArray, double> seconds;
+    std::map<std::filesystem::path, double> seconds;
 
 private:
     RunLoop& m_runLoop;

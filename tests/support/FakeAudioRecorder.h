@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFile>
+#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -12,12 +13,12 @@ namespace tavi::test {
 /// A recorder that makes a small file at once and captures what a test says.
 class FakeAudioRecorder : public AudioRecorder {
 public:
-    FakeAudioRecorder(const QString& path, RunLoop& runLoop, std::shared_ptr<FakeAudioRecorder*> self)
+    FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop, std::shared_ptr<FakeAudioRecorder*> self)
         : m_runLoop(runLoop), m_self(std::move(self)) {
         *m_self = this;
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("sound") != 5) {
-            qFatal("cannot write %s", qPrintable(path));
+            qFatal("cannot write %s", path.c_str());
         }
     }
     ~FakeAudioRecorder() override { *m_self = nullptr; }
@@ -96,14 +97,14 @@ class FakeAudioRecorders : public AudioRecorders {
 public:
     explicit FakeAudioRecorders(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
-    Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const QString& path,
+    Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const std::filesystem::path& path,
                                                             const AudioRecordSettings& settings) override {
         lastPath = path;
         lastSettings = settings;
         if (!creation) {
             return tl::unexpected(creation.error());
         }
-        if (QFile::exists(path)) {
+        if (std::filesystem::exists(path)) {
             return failure(QStringLiteral("The file exists."));
         }
         m_last = std::make_shared<FakeAudioRecorder*>(nullptr);
@@ -115,7 +116,7 @@ public:
 
     /// What making a recorder answers; an error here makes it fail.
     Result<void> creation;
-    QString lastPath;
+    std::filesystem::path lastPath;
     AudioRecordSettings lastSettings;
 
 private:

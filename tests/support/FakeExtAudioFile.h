@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cmath>
 #include <cstring>
+#include <filesystem>
 #include <functional>
 #include <limits>
 #include <map>
@@ -136,7 +137,7 @@ private:
 /// Files by their paths. Whoever opens them outlives none of them.
 class FakeExtAudioFiles : public ExtAudioFiles {
 public:
-    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override {
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override {
         file.reset();
         ++opened;
         if (failingOpens > 0 && opened >= failingOpens) {
@@ -154,7 +155,7 @@ public:
         return kAudioNoError;
     }
 
-    std::map<std::string, std::shared_ptr<FakeSound>> sounds;
+    std::map<std::filesystem::path, std::shared_ptr<FakeSound>> sounds;
     /// What each file that was opened has been asked for.
     std::vector<std::unique_ptr<std::vector<std::uint32_t>>> reads;
     int opened = 0;

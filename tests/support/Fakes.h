@@ -3,6 +3,8 @@
 #include <QList>
 #include <QMap>
 #include <QStringList>
+#include <filesystem>
+#include <map>
 
 #include "platform/Application.h"
 #include "platform/AudioDuration.h"
@@ -167,11 +169,12 @@ public:
 /// Durations by file name; 0 for any other.
 class FakeAudioDuration : public AudioDuration {
 public:
-    double durationOfFile(const QString& path) const override {
-        return seconds.value(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+    double durationOfFile(const std::filesystem::path& path) const override {
+        const auto found = seconds.find(path.filename());
+        return found == seconds.end() ? 0.0 : found->second;
     }
 
-    QMap<QString, double> seconds;
+    std::map<std::filesystem::path, double> seconds;
 };
 
 }  // namespace tavi::test

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <filesystem>
 
 #include "platform/AppContainer.h"
 
@@ -11,29 +11,29 @@ namespace tavi::test {
 /// The program's folders below a temporary folder that goes away with this: the real file system, no fake.
 class TemporaryContainer : public AppContainer {
 public:
-    QString documentsPath() const override { return made("Documents"); }
-    QString cachesPath() const override { return made("Caches"); }
-    QString temporaryPath() const override { return made("tmp"); }
-    QString preferencesPath() const override { return made("Preferences"); }
-    QString groupContainerPath(const QString& groupIdentifier) const override {
-        return made("Groups/" + groupIdentifier.toUtf8());
+    std::filesystem::path documentsPath() const override { return made("Documents"); }
+    std::filesystem::path cachesPath() const override { return made("Caches"); }
+    std::filesystem::path temporaryPath() const override { return made("tmp"); }
+    std::filesystem::path preferencesPath() const override { return made("Preferences"); }
+    std::filesystem::path groupContainerPath(const QString& groupIdentifier) const override {
+        return made("Groups/" + groupIdentifier.toStdString());
     }
-    QString root() const { return m_root.path(); }
+    std::filesystem::path root() const { return m_root.path().toStdString(); }
 
     /// Writes a file below the documents folder and returns its path.
-    QString addDocument(const QString& name, const QByteArray& bytes) const {
-        QString path = documentsPath() + QLatin1Char('/') + name;
+    std::filesystem::path addDocument(const std::filesystem::path& name, const QByteArray& bytes) const {
+        const std::filesystem::path path = documentsPath() / name;
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write %s", qPrintable(path));
+            qFatal("cannot write %s", path.c_str());
         }
         return path;
     }
 
 private:
-    QString made(const QByteArray& name) const {
-        QString path = m_root.filePath(QString::fromUtf8(name));
-        QDir().mkpath(path);
+    std::filesystem::path made(const std::filesystem::path& name) const {
+        const std::filesystem::path path = root() / name;
+        std::filesystem::create_directories(path);
         return path;
     }
 

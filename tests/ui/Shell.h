@@ -6,6 +6,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <filesystem>
 #include <functional>
 
 #include "app/SettingVC.h"
@@ -102,9 +103,9 @@ public:
 };
 
 /// A recording of 75 seconds; one second of noise stands for all of it.
-inline QByteArray addTalk(FakeServices& fakes) {
-    const QByteArray name = "Interview with a very long name that nobody reads to its very end.wav";
-    const QByteArray path = QFile::encodeName(fakes.container.addDocument(QString::fromUtf8(name), "sound"));
+inline std::filesystem::path addTalk(FakeServices& fakes) {
+    const std::string name = "Interview with a very long name that nobody reads to its very end.wav";
+    const std::filesystem::path path = fakes.container.addDocument(name, "sound");
     const auto sound = std::make_shared<FakeSound>();
     sound->planes.resize(1);
     fakes.assets.files[name] = {{75 * 588, 588}, 1, {}};
@@ -114,7 +115,7 @@ inline QByteArray addTalk(FakeServices& fakes) {
         sound->planes[0].push_back(static_cast<float>(sample));
         fakes.assets.files[name].samples.push_back(static_cast<std::int16_t>(sample * 32767.0));
     }
-    fakes.files.sounds[path.toStdString()] = sound;
+    fakes.files.sounds[path] = sound;
     return path;
 }
 
@@ -162,9 +163,9 @@ public:
         runLoop.advance(0.1);
     }
 
-    AudioTrimmerViewController& trim(const QByteArray& path) {
-        AudioTrimmerViewController::presentAudioTrimmerController(trimmers, nullptr, path, {},
-                                                                  path.mid(path.lastIndexOf('/') + 1), {});
+    AudioTrimmerViewController& trim(const std::filesystem::path& path) {
+        AudioTrimmerViewController::presentAudioTrimmerController(trimmers, nullptr, path.native(), {}, path.filename(),
+                                                                  {});
         runLoop.drain();
         settle();
         return *trimmers.screen();

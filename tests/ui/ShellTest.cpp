@@ -72,7 +72,7 @@ TEST(Tabs, TellTheirScreenThatItAppears) {
     for (const bool hidesWindow : {false, true}) {
         const int before = shell.library.tableView()->rowCount();
         hidesWindow ? shell.window->hide() : shell.tabBar.setSelectedIndex(0);
-        shell.container.addDocument(hidesWindow ? QStringLiteral("b.wav") : QStringLiteral("a.wav"), "RIFF");
+        shell.container.addDocument(hidesWindow ? "b.wav" : "a.wav", "RIFF");
         hidesWindow ? shell.window->show() : shell.tabBar.setSelectedIndex(1);
         shell.settle();
         EXPECT_EQ(shell.library.tableView()->rowCount(), before + 1);

@@ -32,7 +32,7 @@ TEST(Trimmer, ThumbsFollowTheMouseTheKeysAndAssistiveTechnology) {
 TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
     Shell shell;
     shell.assets.areExportsHeldBack = true;
-    const QByteArray talk = addTalk(shell);
+    const std::filesystem::path talk = addTalk(shell);
     const TrimPlayer& player = *shell.trim(talk).player();
     const auto isPlaying = [&] {
         shell.runLoop.drain();

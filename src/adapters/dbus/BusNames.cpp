@@ -4,14 +4,16 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "files/PathText.h"
+
 namespace tavi {
 
-QString busNameForContainer(const QString& containerPath) {
+QString busNameForContainer(const std::filesystem::path& containerPath) {
     QString base = QStringLiteral("com.quillfen.voicerecorder");
-    if (containerPath.isEmpty()) {
+    if (containerPath.empty()) {
         return base;
     }
-    const QFileInfo info(containerPath);
+    const QFileInfo info(pathText(containerPath));
     const QString path = info.exists() ? info.canonicalFilePath() : QDir::cleanPath(info.absoluteFilePath());
     const QByteArray digest = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256).toHex().left(16);
     // An element of a bus name may not start with a digit.

@@ -2,6 +2,7 @@
 
 #include <QLatin1String>
 #include <QString>
+#include <filesystem>
 
 namespace tavi {
 
@@ -12,6 +13,6 @@ inline constexpr QLatin1String kApplicationInterface("org.freedesktop.Applicatio
 
 /// The name that an instance owns on the session bus. An instance with a container of its own gets a name of its own,
 /// the same for every way to write the folder's path, so that it runs beside the others. The folder should exist.
-QString busNameForContainer(const QString& containerPath);
+QString busNameForContainer(const std::filesystem::path& containerPath);
 
 }  // namespace tavi

@@ -7,6 +7,8 @@
 #include <array>
 #include <cerrno>
 
+#include "files/PathText.h"
+
 namespace tavi {
 
 namespace {
@@ -20,30 +22,31 @@ QString ownerOf(int descriptor) {
 
 }  // namespace
 
-tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const QString& cachesPath) {
-    const QString path = cachesPath + QLatin1String("/instance.lock");
+tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const std::filesystem::path& cachesPath) {
+    const std::filesystem::path path = cachesPath / "instance.lock";
     const auto refusal = [](bool isHeld, const QString& text) {
         return tl::unexpected(Refusal{.isHeld = isHeld, .error = {text}});
     };
     InstanceLock lock(FileDescriptor::open(path, O_RDWR | O_CREAT, 0600));
     const int file = lock.m_file.get();
     if (!lock.m_file.isValid()) {
-        return refusal(false, QStringLiteral("Cannot make the lock file “%1”: %2.").arg(path, qt_error_string(errno)));
+        return refusal(
+            false, QStringLiteral("Cannot make the lock file “%1”: %2.").arg(pathText(path), qt_error_string(errno)));
     }
     if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK) {
-            return refusal(false, QStringLiteral("Cannot lock the file “%1”: %2.").arg(path, qt_error_string(errno)));
+            return refusal(
+                false, QStringLiteral("Cannot lock the file “%1”: %2.").arg(pathText(path), qt_error_string(errno)));
         }
         const QString owner = ownerOf(file);
         const QString process = owner.isEmpty() ? QString() : QStringLiteral(" as process %1").arg(owner);
-        return refusal(
-            true,
-            QStringLiteral("The recorder is already running%1 and uses the folder “%2”.").arg(process, cachesPath));
+        return refusal(true, QStringLiteral("The recorder is already running%1 and uses the folder “%2”.")
+                                 .arg(process, pathText(cachesPath)));
     }
     // The process id is for people only; the lock holds without it.
     const QByteArray pid = QByteArray::number(static_cast<qint64>(::getpid())) + '\n';
     if (::ftruncate(file, 0) != 0 || ::pwrite(file, pid.constData(), size_t(pid.size()), 0) < 0) {
-        qWarning("The lock file “%s” does not take the process id: %s.", qUtf8Printable(path),
+        qWarning("The lock file “%s” does not take the process id: %s.", path.c_str(),
                  qUtf8Printable(qt_error_string(errno)));
     }
     return lock;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <utility>
 
 #include "files/PositionedIo.h"
@@ -20,7 +21,7 @@ public:
     };
 
     /// Takes the lock of the folder, which must exist. Fails at once when another process has it.
-    static tl::expected<InstanceLock, Refusal> take(const QString& cachesPath);
+    static tl::expected<InstanceLock, Refusal> take(const std::filesystem::path& cachesPath);
 
 private:
     explicit InstanceLock(FileDescriptor file) : m_file(std::move(file)) {}

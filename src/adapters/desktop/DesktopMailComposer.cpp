@@ -1,13 +1,15 @@
 #include "adapters/desktop/DesktopMailComposer.h"
 
-#include <QFileInfo>
+#include "files/PathText.h"
 
 namespace tavi {
 
 void DesktopMailComposer::compose(const MailMessage& message, std::function<void(Result<void>)> completion) {
+    std::error_code ignored;
     for (const MailAttachment& attachment : message.attachments) {
-        if (!QFileInfo(attachment.path).isFile()) {
-            completeLater(completion, Error{QStringLiteral("There is no file “%1” to attach.").arg(attachment.path)});
+        if (!std::filesystem::is_regular_file(attachment.path, ignored)) {
+            completeLater(completion,
+                          Error{QStringLiteral("There is no file “%1” to attach.").arg(pathText(attachment.path))});
             return;
         }
     }

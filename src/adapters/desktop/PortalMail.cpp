@@ -10,8 +10,9 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
-#include <QFile>
 #include <cerrno>
+
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -28,10 +29,11 @@ QDBusMessage method(const QString& interface, const QString& name) {
     return QDBusMessage::createMethodCall(kService, kPath, interface, name);
 }
 
-Result<QDBusUnixFileDescriptor> openedFile(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+Result<QDBusUnixFileDescriptor> openedFile(const std::filesystem::path& path) {
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) {
-        return failure(QStringLiteral("Cannot read the attachment “%1”: %2.").arg(path, qt_error_string(errno)));
+        return failure(
+            QStringLiteral("Cannot read the attachment “%1”: %2.").arg(pathText(path), qt_error_string(errno)));
     }
     QDBusUnixFileDescriptor file;
     file.giveFileDescriptor(descriptor);

@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "files/PathText.h"
+
 namespace tavi {
 
 namespace {
@@ -61,7 +63,7 @@ QStringList XdgEmail::arguments(const MailMessage& message) {
     }
     for (const MailAttachment& attachment : message.attachments) {
         // An absolute path, which cannot look like an option.
-        arguments << QStringLiteral("--attach") << QFileInfo(attachment.path).absoluteFilePath();
+        arguments << QStringLiteral("--attach") << QFileInfo(pathText(attachment.path)).absoluteFilePath();
     }
     if (isMailAddress(message.recipient)) {
         arguments << message.recipient;

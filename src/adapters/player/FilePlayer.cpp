@@ -229,12 +229,12 @@ void FilePlayer::ended(bool successfully, std::uint64_t jump) {
     }
 }
 
-Result<std::unique_ptr<AudioPlayer>> FilePlayers::playerWithContentsOfURL(const QByteArray& path) {
+Result<std::unique_ptr<AudioPlayer>> FilePlayers::playerWithContentsOfURL(const std::filesystem::path& path) {
     const auto fails = [](AudioStatus status) {
         return failure(QStringLiteral("The file cannot be played (%1).").arg(status));
     };
     std::unique_ptr<ExtAudioFile> file;
-    if (const AudioStatus status = m_files.open(path.toStdString(), file); status != kAudioNoError) {
+    if (const AudioStatus status = m_files.open(path, file); status != kAudioNoError) {
         return fails(status);
     }
     AudioStreamBasicDescription description;

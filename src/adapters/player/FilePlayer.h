@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <thread>
 
@@ -76,7 +77,7 @@ public:
     FilePlayers(ExtAudioFiles& files, AudioTempos& tempos, AudioOutputs& outputs, RunLoop& runLoop)
         : m_files(files), m_tempos(tempos), m_outputs(outputs), m_runLoop(runLoop) {}
 
-    Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const QByteArray& path) override;
+    Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const std::filesystem::path& path) override;
 
 private:
     ExtAudioFiles& m_files;

@@ -19,7 +19,7 @@ const MediaLibrary::Adapters* MediaLibrary::adapters() const {
     return m_adapters;
 }
 
-Result<std::unique_ptr<AudioFileWriter>> MediaLibrary::create(const QString& path,
+Result<std::unique_ptr<AudioFileWriter>> MediaLibrary::create(const std::filesystem::path& path,
                                                               const AudioRecordSettings& settings) {
     const Adapters* loaded = adapters();
     if (loaded == nullptr) {
@@ -28,7 +28,7 @@ Result<std::unique_ptr<AudioFileWriter>> MediaLibrary::create(const QString& pat
     return loaded->writers.create(path, settings);
 }
 
-double MediaLibrary::durationOfFile(const QString& path) const {
+double MediaLibrary::durationOfFile(const std::filesystem::path& path) const {
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
 }
@@ -41,7 +41,7 @@ Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int cha
     return loaded->tempos.create(sampleRate, channels);
 }
 
-AudioStatus MediaLibrary::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
+AudioStatus MediaLibrary::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) {
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
 }
@@ -57,7 +57,7 @@ AudioStatus MediaLibrary::formatInfo(AudioStreamBasicDescription& format) const 
     return loaded != nullptr ? loaded->converters.formatInfo(format) : kAudioFileUnspecifiedError;
 }
 
-Asset MediaLibrary::assetWithURL(const QByteArray& path) {
+Asset MediaLibrary::assetWithURL(const std::filesystem::path& path) {
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->exportSessions.assetWithURL(path) : Asset{path, {}, {}};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <mutex>
 
 #include "platform/AssetExportSession.h"
@@ -45,18 +46,19 @@ public:
     void load() const { adapters(); }
 
     /// Fails when the library cannot be loaded.
-    Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
+    Result<std::unique_ptr<AudioFileWriter>> create(const std::filesystem::path& path,
+                                                    const AudioRecordSettings& settings) override;
     /// 0 when the library cannot be loaded.
-    double durationOfFile(const QString& path) const override;
+    double durationOfFile(const std::filesystem::path& path) const override;
     /// Fails when the library cannot be loaded.
     Result<std::unique_ptr<AudioTempo>> create(int sampleRate, int channels) override;
     /// They answer kAudioFileUnspecifiedError when the library cannot be loaded.
-    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override;
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override;
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override;
     AudioStatus formatInfo(AudioStreamBasicDescription& format) const override;
     /// Without a track when the library cannot be loaded.
-    Asset assetWithURL(const QByteArray& path) override;
+    Asset assetWithURL(const std::filesystem::path& path) override;
     std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override;
     /// These two fail when the library cannot be loaded.
     Result<std::unique_ptr<AssetExportSession>> exportSession(const Asset& asset, AssetExportPreset preset) override;

@@ -1,62 +1,74 @@
 #include "adapters/qt/QtAppContainer.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include <unistd.h>
+
 #include <QStandardPaths>
+
+#include "files/PathText.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr QLatin1String kFolder("/com.quillfen.voicerecorder");
+namespace fs = std::filesystem;
 
-bool makeFolder(const QString& path, bool isPrivate) {
-    if (QFileInfo(path).isDir()) {
+constexpr auto kFolder = "com.quillfen.voicerecorder";
+
+bool makeFolder(const fs::path& path, bool isPrivate) {
+    std::error_code error;
+    if (fs::is_directory(path, error)) {
         return true;
     }
-    if (!QDir().mkpath(path)) {
-        return false;
+    fs::create_directories(path, error);
+    if (!error && isPrivate) {
+        fs::permissions(path, fs::perms::owner_all, error);
     }
-    return !isPrivate || QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return !error;
 }
 
-QString xdg(QStandardPaths::StandardLocation location) {
-    return QStandardPaths::writableLocation(location);
+fs::path xdg(QStandardPaths::StandardLocation location) {
+    return nativePath(QStandardPaths::writableLocation(location));
+}
+
+/// The path from the root, without "." and ".." and a slash at its end.
+fs::path fromRoot(const fs::path& path) {
+    std::error_code ignored;
+    const fs::path clean = fs::absolute(path, ignored).lexically_normal();
+    return clean.has_filename() ? clean : clean.parent_path();
 }
 
 }  // namespace
 
-Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const QString& container) {
+Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const fs::path& container) {
     std::unique_ptr<QtAppContainer> made(new QtAppContainer);
-    if (container.isEmpty()) {
-        made->m_documents = xdg(QStandardPaths::MusicLocation) + QLatin1String("/Voice Recordings");
-        made->m_caches = xdg(QStandardPaths::GenericCacheLocation) + kFolder;
-        made->m_temporary = made->m_caches + QLatin1String("/tmp");
-        made->m_preferences = xdg(QStandardPaths::GenericConfigLocation) + kFolder;
-        made->m_groups = xdg(QStandardPaths::GenericDataLocation) + kFolder + QLatin1String("/Groups");
+    if (container.empty()) {
+        made->m_documents = xdg(QStandardPaths::MusicLocation) / "Voice Recordings";
+        made->m_caches = xdg(QStandardPaths::GenericCacheLocation) / kFolder;
+        made->m_temporary = made->m_caches / "tmp";
+        made->m_preferences = xdg(QStandardPaths::GenericConfigLocation) / kFolder;
+        made->m_groups = xdg(QStandardPaths::GenericDataLocation) / kFolder / "Groups";
     } else {
-        const QDir root(QDir::cleanPath(QDir::current().absoluteFilePath(container)));
-        made->m_documents = root.filePath(QStringLiteral("Documents"));
-        made->m_caches = root.filePath(QStringLiteral("Caches"));
-        made->m_temporary = root.filePath(QStringLiteral("tmp"));
-        made->m_preferences = root.filePath(QStringLiteral("Preferences"));
-        made->m_groups = root.filePath(QStringLiteral("Groups"));
+        const fs::path root = fromRoot(container);
+        made->m_documents = root / "Documents";
+        made->m_caches = root / "Caches";
+        made->m_temporary = root / "tmp";
+        made->m_preferences = root / "Preferences";
+        made->m_groups = root / "Groups";
     }
-    for (const QString& path :
+    for (const fs::path& path :
          {made->m_documents, made->m_caches, made->m_temporary, made->m_preferences, made->m_groups}) {
         if (!makeFolder(path, path != made->m_documents)) {
-            return failure(QStringLiteral("Cannot make the folder “%1”.").arg(path));
+            return failure(QStringLiteral("Cannot make the folder “%1”.").arg(pathText(path)));
         }
-        if (!QFileInfo(path).isWritable()) {
-            return failure(QStringLiteral("Cannot write to the folder “%1”.").arg(path));
+        if (::access(path.c_str(), W_OK) != 0) {
+            return failure(QStringLiteral("Cannot write to the folder “%1”.").arg(pathText(path)));
         }
     }
     return made;
 }
 
-QString QtAppContainer::groupContainerPath(const QString& groupIdentifier) const {
-    QString path = m_groups + QLatin1Char('/') + groupIdentifier;
+fs::path QtAppContainer::groupContainerPath(const QString& groupIdentifier) const {
+    fs::path path = m_groups / nativePath(groupIdentifier);
     makeFolder(path, true);
     return path;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <memory>
 
 #include "platform/AppContainer.h"
@@ -23,22 +24,22 @@ class QtAppContainer final : public AppContainer {
 public:
     /// Makes the folders. With a container DIR, relative to the working directory or absolute, everything is below it;
     /// with an empty one, the XDG folders are used. Fails when a folder cannot be made or written.
-    static Result<std::unique_ptr<QtAppContainer>> create(const QString& container = QString());
+    static Result<std::unique_ptr<QtAppContainer>> create(const std::filesystem::path& container = {});
 
-    QString documentsPath() const override { return m_documents; }
-    QString cachesPath() const override { return m_caches; }
-    QString temporaryPath() const override { return m_temporary; }
-    QString preferencesPath() const override { return m_preferences; }
-    QString groupContainerPath(const QString& groupIdentifier) const override;
+    std::filesystem::path documentsPath() const override { return m_documents; }
+    std::filesystem::path cachesPath() const override { return m_caches; }
+    std::filesystem::path temporaryPath() const override { return m_temporary; }
+    std::filesystem::path preferencesPath() const override { return m_preferences; }
+    std::filesystem::path groupContainerPath(const QString& groupIdentifier) const override;
 
 private:
     QtAppContainer() = default;
 
-    QString m_documents;
-    QString m_caches;
-    QString m_temporary;
-    QString m_preferences;
-    QString m_groups;
+    std::filesystem::path m_documents;
+    std::filesystem::path m_caches;
+    std::filesystem::path m_temporary;
+    std::filesystem::path m_preferences;
+    std::filesystem::path m_groups;
 };
 
 }  // namespace tavi

@@ -2,8 +2,9 @@
 
 #include <sys/stat.h>
 
-#include <QFile>
 #include <QUrl>
+
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -33,8 +34,8 @@ QVariant storedValue(const QVariant& value) {
 
 }  // namespace
 
-QtUserDefaults::QtUserDefaults(const QString& path)
-    : m_path(path), m_settings(std::make_unique<QSettings>(path, QSettings::IniFormat)) {}
+QtUserDefaults::QtUserDefaults(const std::filesystem::path& path)
+    : m_path(path), m_settings(std::make_unique<QSettings>(pathText(path), QSettings::IniFormat)) {}
 
 QVariant QtUserDefaults::objectForKey(const QString& key) const {
     readIfChanged();
@@ -62,7 +63,7 @@ void QtUserDefaults::removeObjectForKey(const QString& key) {
 bool QtUserDefaults::synchronize() {
     if (m_settings->status() != QSettings::NoError) {
         // The status sticks to the object. A new one on the same file starts without it and shares what is unwritten.
-        auto fresh = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
+        auto fresh = std::make_unique<QSettings>(pathText(m_path), QSettings::IniFormat);
         m_settings = std::move(fresh);
     }
     // Taken before the file is read: a change that comes in between is then seen once too often instead of never.
@@ -73,7 +74,7 @@ bool QtUserDefaults::synchronize() {
 
 QtUserDefaults::Stamp QtUserDefaults::stampOfFile() const {
     struct stat status = {};
-    if (::stat(QFile::encodeName(m_path).constData(), &status) != 0) {
+    if (::stat(m_path.c_str(), &status) != 0) {
         return {};
     }
     return {status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};

@@ -2,6 +2,7 @@
 
 #include <QSettings>
 #include <ctime>
+#include <filesystem>
 #include <memory>
 
 #include "platform/UserDefaults.h"
@@ -16,7 +17,7 @@ namespace tavi {
 class QtUserDefaults final : public UserDefaults {
 public:
     /// The file and its folder need not exist yet.
-    explicit QtUserDefaults(const QString& path);
+    explicit QtUserDefaults(const std::filesystem::path& path);
 
     QVariant objectForKey(const QString& key) const override;
     void setObject(const QVariant& value, const QString& key) override;
@@ -37,7 +38,7 @@ private:
     Stamp stampOfFile() const;
     void readIfChanged() const;
 
-    QString m_path;
+    std::filesystem::path m_path;
     std::unique_ptr<QSettings> m_settings;
     mutable Stamp m_stamp;
 };

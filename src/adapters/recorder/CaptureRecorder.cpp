@@ -216,7 +216,7 @@ void CaptureRecorder::finished() {
     }
 }
 
-Result<std::unique_ptr<AudioRecorder>> CaptureRecorders::recorderWithPath(const QString& path,
+Result<std::unique_ptr<AudioRecorder>> CaptureRecorders::recorderWithPath(const std::filesystem::path& path,
                                                                           const AudioRecordSettings& settings) {
     auto writer = m_writers.create(path, settings);
     if (!writer) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <deque>
+#include <filesystem>
 #include <memory>
 #include <thread>
 
@@ -73,7 +74,7 @@ public:
     CaptureRecorders(AudioInputs& inputs, AudioFileWriters& writers, RunLoop& runLoop)
         : m_inputs(inputs), m_writers(writers), m_runLoop(runLoop) {}
 
-    Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const QString& path,
+    Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const std::filesystem::path& path,
                                                             const AudioRecordSettings& settings) override;
 
 private:

@@ -200,7 +200,7 @@ Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {
 }
 
 Result<CommandLine> Grammar::finish() {
-    m_line.container = QString::fromLocal8Bit(m_container);
+    m_line.container = m_container;
     if (m_urls.empty()) {
         return m_line;
     }

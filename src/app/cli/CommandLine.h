@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 #include <QUrl>
+#include <filesystem>
 #include <functional>
 #include <variant>
 
@@ -27,7 +28,7 @@ using PrintingCommand = std::function<Result<QByteArray>(const CommandServices&)
 /// What the user asks for on the command line.
 struct CommandLine {
     /// Folder below which everything is stored, as it was given; empty for the user's own folders.
-    QString container;
+    std::filesystem::path container;
     /// The text is that of "--help" or "--version".
     std::variant<ProgramRequest, PrintingCommand, QByteArray> command;
 };

@@ -1,6 +1,5 @@
 #include "app/cli/List.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -44,8 +43,7 @@ QByteArray recordingsText(const std::vector<RecordingEntry>& recordings) {
 
 Result<QByteArray> run(const ListOptions& options, const CommandServices& services) {
     RecordingLister lister(services.durations, services.runLoop);
-    auto recordings =
-        lister.list(QFile::encodeName(services.container.documentsPath()), RecordingLister::Lengths::Measured);
+    auto recordings = lister.list(services.container.documentsPath(), RecordingLister::Lengths::Measured);
     sortRecordings(recordings, services.suites.launched().sort());
     return options.json ? recordingsJson(recordings) : recordingsText(recordings);
 }

@@ -1,6 +1,6 @@
 #include "app/cli/SoundFile.h"
 
-#include <QFile>
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -24,11 +24,11 @@ QString openErrorText(AudioStatus status) {
 
 }  // namespace
 
-tl::unexpected<Error> failureOf(const std::string& path, const QString& why) {
-    return failure(QFile::decodeName(QByteArray::fromStdString(path)) + QStringLiteral(": ") + why);
+tl::unexpected<Error> failureOf(const std::filesystem::path& path, const QString& why) {
+    return failure(pathText(path) + QStringLiteral(": ") + why);
 }
 
-Result<void> checkSoundFile(const std::string& path, ExtAudioFiles& files) {
+Result<void> checkSoundFile(const std::filesystem::path& path, ExtAudioFiles& files) {
     std::unique_ptr<ExtAudioFile> file;
     if (const AudioStatus status = files.open(path, file); status != kAudioNoError) {
         return failureOf(path, openErrorText(status));

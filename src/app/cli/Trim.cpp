@@ -22,15 +22,15 @@ Result<AssetTimeRange> rangeOf(const TrimOptions& options, const Asset& asset) {
 }
 
 /// A name among the recordings that nothing has yet.
-QByteArray freeNameFor(const QByteArray& file, const CommandServices& services) {
-    const QByteArray first =
+std::filesystem::path freeNameFor(const std::filesystem::path& file, const CommandServices& services) {
+    const std::string first =
         trimrules::outputPath(services.container.documentsPath(), services.runLoop.clock().now(), file);
-    const qsizetype point = first.size() - trimrules::pathExtension(file).size() - 1;
-    QByteArray name = first;
-    for (int number = 2; existsAt(name); ++number) {
-        name = first.left(point) + '_' + QByteArray::number(number) + first.mid(point);
+    const std::size_t point = first.size() - trimrules::pathExtension(file).size() - 1;
+    std::filesystem::path path = first;
+    for (int number = 2; existsAt(path); ++number) {
+        path = first.substr(0, point) + '_' + std::to_string(number) + first.substr(point);
     }
-    return name;
+    return path;
 }
 
 }  // namespace
@@ -39,8 +39,7 @@ Result<QByteArray> run(const TrimOptions& options, const CommandServices& servic
     if (const auto readable = checkSoundFile(options.file, services.files); !readable) {
         return tl::unexpected(readable.error());
     }
-    const QByteArray file = QByteArray::fromStdString(options.file);
-    const Asset asset = services.exports.assetWithURL(file);
+    const Asset asset = services.exports.assetWithURL(options.file);
     const auto range = rangeOf(options, asset);
     if (!range) {
         return tl::unexpected(range.error());
@@ -49,17 +48,17 @@ Result<QByteArray> run(const TrimOptions& options, const CommandServices& servic
     if (!session) {
         return failureOf(options.file, session.error().text);
     }
-    const QByteArray output =
-        options.out.empty() ? freeNameFor(file, services) : QByteArray::fromStdString(options.out);
+    const std::filesystem::path output =
+        options.out.empty() ? freeNameFor(options.file, services) : std::filesystem::path(options.out);
     (*session)->setOutputURL(output);
-    (*session)->setOutputFileType(trimrules::outputFileType(file));
+    (*session)->setOutputFileType(trimrules::outputFileType(options.file));
     (*session)->setTimeRange(*range);
     (*session)->exportAsynchronously([] {});
     (*session)->waitUntilFinished();
     if ((*session)->status() != AssetExportStatus::Completed) {
-        return failureOf(output.toStdString(), (*session)->error().text);
+        return failureOf(output, (*session)->error().text);
     }
-    return output + '\n';
+    return QByteArray::fromStdString(output.native()) + '\n';
 }
 
 }  // namespace tavi

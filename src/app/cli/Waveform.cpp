@@ -1,10 +1,10 @@
 #include "app/cli/Waveform.h"
 
-#include <QFile>
 #include <QSaveFile>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 #include "app/cli/SoundFile.h"
+#include "files/PathText.h"
 #include "trimming/waves/WaveformPicturePainter.h"
 #include "trimming/waves/WaveformText.h"
 
@@ -12,9 +12,9 @@ namespace tavi {
 
 namespace {
 
-Result<void> writePicture(const std::string& path, const QByteArray& png) {
-    const QString name = QFile::decodeName(QByteArray::fromStdString(path));
-    if (QFile::encodeName(name).toStdString() != path) {
+Result<void> writePicture(const std::filesystem::path& path, const QByteArray& png) {
+    const QString name = pathText(path);
+    if (nativePath(name) != path) {
         return failureOf(path, QStringLiteral("a picture's name must be text"));
     }
     QSaveFile output(name);

@@ -11,8 +11,7 @@ namespace {
 
 /// The lock's file, open and locked; invalid, with errno set, when it cannot be both at once.
 FileDescriptor locked(const AppContainer& container, int operation) {
-    FileDescriptor file =
-        FileDescriptor::open(container.cachesPath() + QStringLiteral("/recording.lock"), O_RDONLY | O_CREAT, 0600);
+    FileDescriptor file = FileDescriptor::open(container.cachesPath() / "recording.lock", O_RDONLY | O_CREAT, 0600);
     if (file.isValid() && ::flock(file.get(), operation | LOCK_NB) != 0) {
         const int error = errno;
         file.reset();

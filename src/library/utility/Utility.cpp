@@ -2,7 +2,6 @@
 
 #include <sys/stat.h>
 
-#include <QFile>
 #include <QLocale>
 #include <array>
 #include <charconv>
@@ -17,9 +16,9 @@ namespace {
 constexpr double kMegabytesPerByte = 0.00000095367431640625;
 constexpr double kKilobytesPerMegabyte = 1024.0;
 
-std::optional<struct stat> attributesOf(const QByteArray& path) {
+std::optional<struct stat> attributesOf(const std::filesystem::path& path) {
     struct stat attributes = {};
-    if (::stat(path.constData(), &attributes) != 0) {
+    if (::stat(path.c_str(), &attributes) != 0) {
         return std::nullopt;
     }
     return attributes;
@@ -36,26 +35,18 @@ double Utility::megabytes(qint64 bytes) {
     return static_cast<double>(bytes) * kMegabytesPerByte;
 }
 
-double Utility::getFileSize(const QByteArray& path) {
+double Utility::getFileSize(const std::filesystem::path& path) {
     const auto attributes = attributesOf(path);
     return attributes ? megabytes(attributes->st_size) : 0.0;
 }
 
-double Utility::getFileSize(const QString& path) {
-    return getFileSize(QFile::encodeName(path));
-}
-
-QDateTime Utility::getFileModificationDate(const QByteArray& path) {
+QDateTime Utility::getFileModificationDate(const std::filesystem::path& path) {
     const auto attributes = attributesOf(path);
     if (!attributes) {
         return {};
     }
     const timespec& modified = attributes->st_mtim;
     return QDateTime::fromMSecsSinceEpoch(modified.tv_sec * 1000LL + modified.tv_nsec / 1000000);
-}
-
-QDateTime Utility::getFileModificationDate(const QString& path) {
-    return getFileModificationDate(QFile::encodeName(path));
 }
 
 QString Utility::getTheFormatDate(const QDateTime& date) {

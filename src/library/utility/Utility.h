@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <filesystem>
 
 #include "platform/Presenter.h"
 
@@ -17,7 +18,7 @@ struct Color {
     bool operator==(const Color&) const = default;
 };
 
-/// Operations that several screens share; no state. Paths given as bytes are in the file system's own encoding.
+/// Operations that several screens share; no state.
 class Utility {
 public:
     Utility() = delete;
@@ -27,11 +28,9 @@ public:
     /// Megabytes of 2^20 bytes.
     static double megabytes(qint64 bytes);
     /// Size of the item at the path in megabytes of 2^20 bytes; 0 when it cannot be read.
-    static double getFileSize(const QByteArray& path);
-    static double getFileSize(const QString& path);
+    static double getFileSize(const std::filesystem::path& path);
     /// When the item at the path was last modified, in the system's time zone; invalid when that cannot be read.
-    static QDateTime getFileModificationDate(const QByteArray& path);
-    static QDateTime getFileModificationDate(const QString& path);
+    static QDateTime getFileModificationDate(const std::filesystem::path& path);
     /// The date as the library shows it, in the user's locale.
     static QString getTheFormatDate(const QDateTime& date);
     /// Megabytes as the library shows them: "1.0 MB", or "1023 KB" below one megabyte.

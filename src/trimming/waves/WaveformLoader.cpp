@@ -46,7 +46,7 @@ class AbandonableFiles : public ExtAudioFiles {
 public:
     explicit AbandonableFiles(ExtAudioFiles& files) : m_files(files) {}
 
-    AudioStatus open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) override {
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override {
         const AudioStatus status = m_files.open(path, file);
         if (file) {
             file = std::make_unique<AbandonedFile>(std::move(file), isAbandoned);
@@ -75,7 +75,7 @@ void WaveformLoader::cancel() {
     }
 }
 
-void WaveformLoader::load(const QByteArray& path, Completion completion) {
+void WaveformLoader::load(const std::filesystem::path& path, Completion completion) {
     cancel();
     const auto job = std::make_shared<Job>(m_services.files);
     m_job = job;
@@ -99,8 +99,8 @@ void WaveformLoader::load(const QByteArray& path, Completion completion) {
     m_services.queues.dispatchBackground(
         [this, path, identity, finish, job, &queues = m_services.queues, &converters = m_services.converters] {
             std::vector<float> points;
-            const auto file = EZAudioFile::audioFileWithURL(
-                path.toStdString(), {.files = job->files, .converters = converters, .queues = queues});
+            const auto file =
+                EZAudioFile::audioFileWithURL(path, {.files = job->files, .converters = converters, .queues = queues});
             if (const auto data = file && file->totalFrames() > 0 ? file->getWaveformData() : nullptr) {
                 const float* first = data->bufferForChannel(0);
                 points.assign(first, first + data->bufferSize());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <filesystem>
 #include <functional>
 #include <list>
 #include <memory>
@@ -26,9 +26,9 @@ public:
     WaveformLoader(const WaveformLoader&) = delete;
     WaveformLoader& operator=(const WaveformLoader&) = delete;
 
-    /// Loads the waveform of a file, whose path is bytes, in the place of the one that is being loaded. The completion
+    /// Loads the waveform of a file in the place of the one that is being loaded. The completion
     /// comes on the main thread, never before this returns.
-    void load(const QByteArray& path, Completion completion);
+    void load(const std::filesystem::path& path, Completion completion);
     /// No completion comes any more.
     void cancel();
 

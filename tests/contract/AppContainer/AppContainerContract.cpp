@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 
-#include <QSet>
+#include <QDir>
+#include <fstream>
+#include <set>
 
 #include "adapters/qt/QtAppContainer.h"
 #include "support/TemporaryContainer.h"
@@ -9,7 +11,7 @@ namespace tavi::test {
 
 namespace {
 
-std::unique_ptr<AppContainer> created(const QString& folder) {
+std::unique_ptr<AppContainer> created(const std::filesystem::path& folder) {
     return std::move(QtAppContainer::create(folder).value());
 }
 
@@ -30,26 +32,29 @@ protected:
         if (GetParam() == Kind::Temporary) {
             return std::make_unique<TemporaryContainer>();
         }
-        return created(GetParam() == Kind::Xdg ? QString() : QStringLiteral("./other/../new/relative/"));
+        return created(GetParam() == Kind::Xdg ? "" : "./other/../new/relative/");
     }
+
+    std::filesystem::path below(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
 
     QTemporaryDir m_folder;
 };
 
 TEST_P(AppContainerContract, FoldersExistAndAreApart) {
     const auto container = make();
-    const QStringList paths = {container->documentsPath(),
-                               container->cachesPath(),
-                               container->temporaryPath(),
-                               container->preferencesPath(),
-                               container->groupContainerPath(QStringLiteral("group.One")),
-                               container->groupContainerPath(QStringLiteral("group.Two"))};
-    EXPECT_EQ(QSet<QString>(paths.begin(), paths.end()).size(), paths.size());
-    for (const QString& path : paths) {
-        SCOPED_TRACE(qPrintable(path));
-        EXPECT_TRUE(QDir::isAbsolutePath(path));
-        EXPECT_EQ(path, QDir::cleanPath(path));
-        EXPECT_TRUE(QFile(path + QLatin1String("/probe")).open(QIODevice::WriteOnly));
+    const std::vector<std::filesystem::path> paths = {container->documentsPath(),
+                                                      container->cachesPath(),
+                                                      container->temporaryPath(),
+                                                      container->preferencesPath(),
+                                                      container->groupContainerPath(QStringLiteral("group.One")),
+                                                      container->groupContainerPath(QStringLiteral("group.Two"))};
+    EXPECT_EQ(std::set(paths.begin(), paths.end()).size(), paths.size());
+    for (const auto& path : paths) {
+        SCOPED_TRACE(path);
+        EXPECT_TRUE(path.is_absolute());
+        EXPECT_EQ(path.native(), path.lexically_normal().native());
+        EXPECT_TRUE(path.has_filename()) << "no slash at the end";
+        EXPECT_TRUE(std::ofstream(path / "probe"));
     }
 }
 
@@ -59,28 +64,27 @@ using QtAppContainerTest = AppContainerContract;
 INSTANTIATE_TEST_SUITE_P(Xdg, QtAppContainerTest, ::testing::Values(Kind::Xdg));
 
 TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
-    const auto xdg = created(QString());
-    EXPECT_EQ(xdg->documentsPath(), m_folder.filePath(QStringLiteral("Music/Voice Recordings")));
-    EXPECT_EQ(xdg->cachesPath(), m_folder.filePath(QStringLiteral("cache/com.quillfen.voicerecorder")));
-    EXPECT_EQ(xdg->preferencesPath(), m_folder.filePath(QStringLiteral("config/com.quillfen.voicerecorder")));
-    EXPECT_EQ(xdg->groupContainerPath(QStringLiteral("g")),
-              m_folder.filePath(QStringLiteral("data/com.quillfen.voicerecorder/Groups/g")));
-    const auto own = created(QStringLiteral("mine"));
-    EXPECT_EQ(own->documentsPath(), m_folder.filePath(QStringLiteral("mine/Documents")));
-    const auto readers = [](const QString& path) {
-        return QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther);
+    const auto xdg = created({});
+    EXPECT_EQ(xdg->documentsPath(), below("Music/Voice Recordings"));
+    EXPECT_EQ(xdg->cachesPath(), below("cache/com.quillfen.voicerecorder"));
+    EXPECT_EQ(xdg->preferencesPath(), below("config/com.quillfen.voicerecorder"));
+    EXPECT_EQ(xdg->groupContainerPath(QStringLiteral("g")), below("data/com.quillfen.voicerecorder/Groups/g"));
+    const auto own = created("mine");
+    EXPECT_EQ(own->documentsPath(), below("mine/Documents"));
+    const auto permissions = [](const std::filesystem::path& path) {
+        return std::filesystem::status(path).permissions();
     };
-    EXPECT_EQ(readers(own->documentsPath()), readers(m_folder.filePath(QStringLiteral("mine"))));
-    for (const QString& path : {own->cachesPath(), own->temporaryPath(), own->preferencesPath(),
-                                own->groupContainerPath(QStringLiteral("g"))}) {
-        EXPECT_EQ(readers(path), QFile::Permissions()) << qPrintable(path);
+    EXPECT_EQ(permissions(own->documentsPath()), permissions(below("mine")));
+    for (const auto& path : {own->cachesPath(), own->temporaryPath(), own->preferencesPath(),
+                             own->groupContainerPath(QStringLiteral("g"))}) {
+        EXPECT_EQ(permissions(path), std::filesystem::perms::owner_all) << path;
     }
 }
 
 TEST_P(QtAppContainerTest, SaysWhichFolderCannotBeMade) {
     QFile file(m_folder.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    const auto container = QtAppContainer::create(QStringLiteral("file/below"));
+    const auto container = QtAppContainer::create("file/below");
     ASSERT_FALSE(container.has_value());
     EXPECT_TRUE(container.error().text.contains(file.fileName() + QLatin1String("/below")));
 }

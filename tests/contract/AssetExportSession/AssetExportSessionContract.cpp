@@ -14,7 +14,7 @@ namespace {
 
 /// Two seconds of stereo sound at 44.1 kHz in "sound.wav".
 struct FakeWorld {
-    explicit FakeWorld(const QString&) { assets.files.insert("sound.wav", {{88200, 44100}, 2, {1, 2, 3, 4, 5, 6}}); }
+    explicit FakeWorld(const QString&) { assets.files["sound.wav"] = {{88200, 44100}, 2, {1, 2, 3, 4, 5, 6}}; }
 
     ManualRunLoop runLoop;
     FakeAssets assets{runLoop};
@@ -36,7 +36,7 @@ struct FfmpegWorld {
 template <class World>
 class AssetExportSessionContract : public ::testing::Test {
 protected:
-    QByteArray path(const char* name) const { return QFile::encodeName(m_folder.filePath(QString::fromLatin1(name))); }
+    std::filesystem::path path(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
     Asset sound() { return m_world.assets.assetWithURL(path("sound.wav")); }
     std::unique_ptr<AssetExportSession> session(const char* name, AssetExportPreset preset, AssetFileType type) {
         auto session = m_world.assets.exportSession(sound(), preset);
@@ -112,7 +112,7 @@ TYPED_TEST(AssetExportSessionContract, FailsAndLeavesNothingBehind) {
     fails(*this->session("none/out.wav", AssetExportPreset::Passthrough, AssetFileType::Wave));
     fails(*this->session("out.wav", AssetExportPreset::AppleM4A, AssetFileType::Wave));
 
-    QFile there(QFile::decodeName(this->path("there.wav")));
+    QFile there(this->path("there.wav"));
     ASSERT_TRUE(there.open(QIODevice::WriteOnly) && there.write("mine") == 4);
     there.close();
     const auto session = this->session("there.wav", AssetExportPreset::Passthrough, AssetFileType::Wave);

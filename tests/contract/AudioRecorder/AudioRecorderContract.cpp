@@ -76,7 +76,7 @@ protected:
 
     World m_world;
     TemporaryContainer m_container;
-    QString m_path = m_container.cachesPath() + QStringLiteral("/vexmosounds.m4a");
+    std::filesystem::path m_path = m_container.cachesPath() / "vexmosounds.m4a";
     std::vector<QString> m_ends;
 };
 
@@ -134,7 +134,7 @@ TYPED_TEST(AudioRecorderContract, WaitingEndsTheRecordingAndDroppingTellsNobody)
     recorder->waitUntilFinished();
     EXPECT_EQ(this->m_ends.size(), 1U);
     recorder.reset();
-    QFile::remove(this->m_path);
+    std::filesystem::remove(this->m_path);
     recorder = this->made();
     ASSERT_TRUE(recorder->record());
     recorder.reset();

@@ -151,7 +151,7 @@ protected:
         return {QStringLiteral("a@example.org"),
                 QStringLiteral("Tone; $(rm -rf /)"),
                 QStringLiteral("Body"),
-                {{m_attachment, QStringLiteral("audio/m4a"), QFileInfo(m_attachment).fileName()}}};
+                {{m_attachment.toStdString(), QStringLiteral("audio/m4a"), QFileInfo(m_attachment).fileName()}}};
     }
 
     /// Composes and waits for the result; the text of the error, or "ok".
@@ -202,7 +202,7 @@ INSTANTIATE_TEST_SUITE_P(Portal, MailOnBus, ::testing::Values(Kind::Portal));
 TEST_P(MailOnBus, TellsRefusalFromCancelling) {
     const auto composer = make();
     MailMessage missing = message();
-    missing.attachments.front().path = QStringLiteral("/nowhere/a.m4a");
+    missing.attachments.front().path = "/nowhere/a.m4a";
     EXPECT_EQ(outcomeOf(*composer, missing), QStringLiteral("There is no file “/nowhere/a.m4a” to attach."));
     m_desktop.mailResponse = 1;
     EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("ok"));

@@ -16,7 +16,7 @@ struct FakeStore {
 
 struct IniStore {
     QTemporaryDir folder;
-    QtUserDefaults defaults{folder.filePath(QStringLiteral("sub/settings.ini"))};
+    QtUserDefaults defaults{folder.filePath(QStringLiteral("sub/settings.ini")).toStdString()};
     std::unique_ptr<QtUserDefaults> copy;
 
     /// What another process reads. A copy of the file, since objects for one file share its contents within a process.
@@ -24,7 +24,7 @@ struct IniStore {
         const QString path = folder.filePath(QStringLiteral("copy.ini"));
         QFile::remove(path);
         QFile::copy(folder.filePath(QStringLiteral("sub/settings.ini")), path);
-        copy = std::make_unique<QtUserDefaults>(path);
+        copy = std::make_unique<QtUserDefaults>(path.toStdString());
         return *copy;
     }
 };

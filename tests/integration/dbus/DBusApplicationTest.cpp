@@ -95,7 +95,7 @@ protected:
     PrivateBus m_bus;
     QDBusConnection m_desktopSide = m_bus.connect();
     FakeDesktop m_desktop{m_desktopSide, {FakeDesktop::screenSaver(), FakeDesktop::login()}};
-    QString m_name = busNameForContainer(QString());
+    QString m_name = busNameForContainer({});
     RecordingDelegate m_delegate;
     DBusApplication m_application{m_bus.connect(), m_bus.connect(), m_name};
 };
@@ -238,30 +238,32 @@ TEST_F(DBusApplicationTest, ARequestToLockEndsWhenTheUserIsBack) {
 
 TEST(BusName, IsOneForEachFolder) {
     const QTemporaryDir folder;
-    const QString name = busNameForContainer(folder.path());
+    const std::filesystem::path path = folder.path().toStdString();
+    const QString name = busNameForContainer(path);
     ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(QStringLiteral("link"))));
-    EXPECT_EQ(busNameForContainer(folder.filePath(QStringLiteral("link/"))), name);
-    EXPECT_NE(busNameForContainer(folder.path() + QLatin1String("x")), name);
+    EXPECT_EQ(busNameForContainer(path / "link/"), name);
+    EXPECT_NE(busNameForContainer(path.native() + "x"), name);
     EXPECT_TRUE(name.startsWith(busNameForContainer({}) + QLatin1String(".c")));
 }
 
 TEST(InstanceLock, KeepsASecondOneOutUntilItIsGone) {
     const QTemporaryDir folder;
+    const std::filesystem::path path = folder.path().toStdString();
     QFile file(folder.filePath(QStringLiteral("instance.lock")));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write("12345678901234\n") > 0 && file.flush());
-    auto first = InstanceLock::take(folder.path());
+    auto first = InstanceLock::take(path);
     ASSERT_TRUE(first.has_value());
     file.seek(0);
     EXPECT_EQ(file.readAll(), QByteArray::number(QCoreApplication::applicationPid()) + '\n');
-    const auto second = InstanceLock::take(folder.path());
+    const auto second = InstanceLock::take(path);
     ASSERT_FALSE(second.has_value());
     EXPECT_TRUE(second.error().isHeld);
     EXPECT_TRUE(second.error().error.text.contains(QString::number(QCoreApplication::applicationPid())));
     InstanceLock moved = std::move(*first);
-    EXPECT_FALSE(InstanceLock::take(folder.path()).has_value());
+    EXPECT_FALSE(InstanceLock::take(path).has_value());
     { const InstanceLock gone = std::move(moved); }
-    EXPECT_TRUE(InstanceLock::take(folder.path()).has_value());
-    const auto lost = InstanceLock::take(folder.path() + QLatin1String("/absent"));
+    EXPECT_TRUE(InstanceLock::take(path).has_value());
+    const auto lost = InstanceLock::take(path / "absent");
     ASSERT_FALSE(lost.has_value());
     EXPECT_FALSE(lost.error().isHeld);
     EXPECT_TRUE(lost.error().error.text.endsWith(QStringLiteral("/absent/instance.lock”: No such file or directory.")));

@@ -37,10 +37,8 @@ constexpr std::array<Edges, kTypes.size()> kEdges{{
 
 class ExportTest : public RecordingFixture {
 protected:
-    static QByteArray bytes(const QString& path) { return QFile::encodeName(path); }
-
     /// Six seconds of a tone that grows, under a little noise, so that every place sounds different.
-    QString recording(const Type& type, const Quality& quality, bool isFinished = true) {
+    std::filesystem::path recording(const Type& type, const Quality& quality, bool isFinished = true) {
         const int rate = static_cast<int>(quality.rate);
         const std::size_t frames = static_cast<std::size_t>(rate) * 6;
         const AudioInputFormat format{rate, quality.channels};
@@ -65,28 +63,29 @@ protected:
     }
 
     /// All samples, as the program itself hears them.
-    std::vector<std::int16_t> heard(const QString& path) {
-        const auto reader = m_assets.assetReader(m_assets.assetWithURL(bytes(path)));
-        EXPECT_TRUE(reader && (*reader)->startReading()) << qPrintable(path);
+    std::vector<std::int16_t> heard(const std::filesystem::path& path) {
+        const auto reader = m_assets.assetReader(m_assets.assetWithURL(path));
+        EXPECT_TRUE(reader && (*reader)->startReading()) << path;
         const auto samples = reader ? drain(**reader) : std::vector<std::int16_t>();
         EXPECT_TRUE(reader && (*reader)->status() == AssetReaderStatus::Completed);
         return samples;
     }
 
-    std::unique_ptr<AssetExportSession> session(const QString& from, const QString& to, AssetFileType type,
+    std::unique_ptr<AssetExportSession> session(const std::filesystem::path& from, const std::filesystem::path& to,
+                                                AssetFileType type,
                                                 AssetExportPreset preset = AssetExportPreset::Passthrough) {
-        auto session = m_assets.exportSession(m_assets.assetWithURL(bytes(from)), preset);
+        auto session = m_assets.exportSession(m_assets.assetWithURL(from), preset);
         if (!session) {
             return nullptr;
         }
-        (*session)->setOutputURL(bytes(to));
+        (*session)->setOutputURL(to);
         (*session)->setOutputFileType(type);
         return std::move(*session);
     }
 
     /// Exports a stretch, over what an export before left.
     void expectCompleted(AssetExportSession& session, std::int32_t timescale, std::int64_t start, std::int64_t length) {
-        QFile::remove(target());
+        std::filesystem::remove(target());
         session.setTimeRange({{start, timescale}, {length, timescale}});
         EXPECT_EQ(run(session), AssetExportStatus::Completed) << qPrintable(session.error().text);
     }
@@ -104,7 +103,7 @@ protected:
         return session.status();
     }
 
-    QString target() const { return m_folder.filePath(QStringLiteral("Trim.out")); }
+    std::filesystem::path target() const { return folder() / "Trim.out"; }
     /// Every name in the folder, beside the sources.
     QStringList leftovers() const {
         QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
@@ -130,8 +129,8 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
     for (std::size_t index = 0; index < kTypes.size(); ++index) {
         const Edges& edges = kEdges[index];
         for (const Quality& quality : kQualities) {
-            const QString source = recording(kTypes[index], quality);
-            const Asset asset = m_assets.assetWithURL(bytes(source));
+            const auto source = recording(kTypes[index], quality);
+            const Asset asset = m_assets.assetWithURL(source);
             const std::int64_t frames = asset.duration.value;
             const auto whole = heard(source);
             const auto decoded = decodeSound(source);
@@ -155,7 +154,7 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
                 const auto from = static_cast<std::size_t>(start);
 
                 auto own = heard(target());
-                EXPECT_EQ(m_assets.assetWithURL(bytes(target())).duration, (AssetTime{kept, asset.duration.timescale}));
+                EXPECT_EQ(m_assets.assetWithURL(target()).duration, (AssetTime{kept, asset.duration.timescale}));
                 ASSERT_EQ(own.size(), static_cast<std::size_t>(kept) * channels);
                 // The frame that makes the bytes even is the last one again.
                 EXPECT_TRUE(kept == cut || own.end()[-1] == own.end()[-2]);
@@ -184,32 +183,32 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
 }
 
 TEST_F(ExportTest, FragmentsAreCutExactlyToo) {
-    const QString finished = recording(kTypes[0], kQualities[2]);
+    const auto finished = recording(kTypes[0], kQualities[2]);
     // In these the header tells of the first second, the fragments of the rest.
-    const QString late = converted(finished, QStringLiteral("recording.late"),
-                                   "-c:a alac -movflags frag_keyframe -frag_duration 1000000 -f mp4");
-    for (const auto& [index, source] : {std::pair(0, QString()), {3, QString()}, {0, late}}) {
+    const auto late =
+        converted(finished, "recording.late", "-c:a alac -movflags frag_keyframe -frag_duration 1000000 -f mp4");
+    for (const auto& [index, source] : {std::pair(0, std::filesystem::path()), {3, {}}, {0, late}}) {
         const Type& type = kTypes[static_cast<std::size_t>(index)];
         const double tolerance = kEdges[static_cast<std::size_t>(index)].tolerance;
-        const QString path = source.isEmpty() ? recording(type, kQualities[2], false) : source;
+        const auto path = source.empty() ? recording(type, kQualities[2], false) : source;
         const auto whole = heard(path);
         const auto frames = static_cast<std::int64_t>(whole.size() / 2);
         for (const auto& [start, length] :
              {std::pair<std::int64_t, std::int64_t>{0, 1}, {1023, 3000}, {100003, 50000}, {frames - 100, 100}}) {
-            SCOPED_TRACE(testing::Message() << qPrintable(path) << " from " << start << " for " << length);
+            SCOPED_TRACE(testing::Message() << path << " from " << start << " for " << length);
             expectCompleted(*session(path, target(), AssetFileType::AppleM4A), 44100, start, length);
             const auto own = heard(target());
             EXPECT_EQ(own.size(), static_cast<std::size_t>(length) * 2);
             EXPECT_LE(difference(whole, static_cast<std::size_t>(start) * 2, own, 0, 32768), tolerance);
         }
-        EXPECT_EQ(finalize(path), source.isEmpty());
+        EXPECT_EQ(finalize(path), source.empty());
         EXPECT_TRUE(heard(path) == whole);
     }
 }
 
 TEST_F(ExportTest, EncodingKeepsTheStretchExactly) {
     for (const Type& type : {kTypes[1], kTypes[2], kTypes[4]}) {
-        const QString source = recording(type, kQualities[2]);
+        const auto source = recording(type, kQualities[2]);
         const auto whole = heard(source);
         // The last one is longer than what is there.
         for (const auto& [start, length] : {std::pair(2, 3), {5, 100}}) {
@@ -239,15 +238,15 @@ TEST_F(ExportTest, EncodingKeepsTheStretchExactly) {
 }
 
 TEST_F(ExportTest, WhatDoesNotFitOrIsBrokenFailsAndLeavesNothing) {
-    const QString wav = recording(kTypes[1], kQualities[2]);
-    const QString caf = recording(kTypes[2], kQualities[2]);
-    const QString m4a = recording(kTypes[0], kQualities[2]);
-    const QString aac = recording(kTypes[4], kQualities[2]);
+    const auto wav = recording(kTypes[1], kQualities[2]);
+    const auto caf = recording(kTypes[2], kQualities[2]);
+    const auto m4a = recording(kTypes[0], kQualities[2]);
+    const auto aac = recording(kTypes[4], kQualities[2]);
     for (const auto& [source, type] : {std::pair(caf, AssetFileType::AppleM4A),
                                        {wav, AssetFileType::AppleM4A},
                                        {wav, AssetFileType::CoreAudioFormat},
                                        {aac, AssetFileType::CoreAudioFormat}}) {
-        SCOPED_TRACE(qPrintable(source));
+        SCOPED_TRACE(source);
         const auto unfit = session(source, target(), type);
         run(*unfit);
         expectFailed(*unfit, "cannot be put into such a file");
@@ -256,7 +255,7 @@ TEST_F(ExportTest, WhatDoesNotFitOrIsBrokenFailsAndLeavesNothing) {
                                        {caf, AssetFileType::CoreAudioFormat},
                                        {m4a, AssetFileType::AppleM4A},
                                        {aac, AssetFileType::AppleM4A}}) {
-        SCOPED_TRACE(qPrintable(source));
+        SCOPED_TRACE(source);
         // No room: for the first bytes, and for the last.
         std::signal(SIGXFSZ, SIG_IGN);
         for (const rlim_t bytes : {rlim_t{10}, rlim_t{30000}}) {
@@ -272,23 +271,23 @@ TEST_F(ExportTest, WhatDoesNotFitOrIsBrokenFailsAndLeavesNothing) {
         const auto shorter = session(source, target(), type);
         const auto gone = session(source, target(), type);
         const qint64 size = QFile(source).size();
-        ASSERT_TRUE(QFile::resize(source, source == m4a ? size - 100 : size / 2));
+        std::filesystem::resize_file(source, source == m4a ? size - 100 : size / 2);
         run(*shorter);
         expectFailed(*shorter, "");
-        QFile::remove(source);
+        std::filesystem::remove(source);
         run(*gone);
         expectFailed(*gone, "could not be opened");
     }
 }
 
 TEST_F(ExportTest, ExportsSideBySideAndCancelledOnesDoNotDisturbEachOther) {
-    const QString source = recording(kTypes[1], kQualities[2]);
-    const auto target = [](int number) { return QStringLiteral("Trim.out%1").arg(number); };
+    const auto source = recording(kTypes[1], kQualities[2]);
+    const auto target = [](int number) { return "Trim.out" + std::to_string(number); };
     std::vector<std::unique_ptr<AssetExportSession>> sessions;
     for (const int number : {0, 1, 2}) {
         const auto type = number == 0 ? AssetFileType::Wave : AssetFileType::AppleM4A;
         const auto preset = number == 0 ? AssetExportPreset::Passthrough : AssetExportPreset::AppleM4A;
-        sessions.push_back(session(source, m_folder.filePath(target(number)), type, preset));
+        sessions.push_back(session(source, folder() / target(number), type, preset));
     }
     for (const int number : {1, 2, 0}) {
         sessions[number]->exportAsynchronously([] {});
@@ -300,23 +299,23 @@ TEST_F(ExportTest, ExportsSideBySideAndCancelledOnesDoNotDisturbEachOther) {
         // The one that is cancelled may have been over before.
         if (number < 2 || sessions[2]->status() != AssetExportStatus::Cancelled) {
             EXPECT_EQ(sessions[number]->status(), AssetExportStatus::Completed);
-            files.append(target(number));
+            files.append(QString::fromStdString(target(number)));
         }
     }
     EXPECT_EQ(leftovers(), files);
-    EXPECT_EQ(heard(m_folder.filePath(files[0])), heard(source));
+    EXPECT_EQ(heard(folder() / target(0)), heard(source));
 
     {
         // One that nobody holds any more ends with the factory, whole or without a trace.
         FfmpegAssets assets;
-        auto lost = assets.exportSession(m_assets.assetWithURL(bytes(source)), AssetExportPreset::AppleM4A);
-        (*lost)->setOutputURL(bytes(m_folder.filePath(target(3))));
+        auto lost = assets.exportSession(m_assets.assetWithURL(source), AssetExportPreset::AppleM4A);
+        (*lost)->setOutputURL(folder() / target(3));
         (*lost)->setOutputFileType(AssetFileType::AppleM4A);
         (*lost)->exportAsynchronously([] {});
         lost->reset();
     }
     QStringList left = leftovers();
-    left.removeOne(target(3));
+    left.removeOne(QString::fromStdString(target(3)));
     EXPECT_EQ(left, files);
 }
 
@@ -335,7 +334,7 @@ TEST_F(ExportTest, DamagedRecordingsAreNeitherBelievedNorACrash) {
                     static_cast<char>(random() % 3 == 0 ? 0xff : random());
             }
             damaged.truncate(random() % 5 == 0 ? static_cast<qsizetype>(random()) % whole.size() : whole.size());
-            const QString path = file(QStringLiteral("recording.damaged"), damaged);
+            const auto path = file("recording.damaged", damaged);
             const double seconds = m_durations.durationOfFile(path);
             EXPECT_TRUE(seconds >= 0 && std::isfinite(seconds));
             if (const auto session = this->session(path, target(), kEdges[index / 2].type)) {
@@ -345,9 +344,9 @@ TEST_F(ExportTest, DamagedRecordingsAreNeitherBelievedNorACrash) {
                 EXPECT_EQ(session->error().text.isEmpty(), isDone);
                 // Nothing makes a stretch much longer than all.
                 EXPECT_LT(QFile(target()).size(), whole.size() + 4096);
-                QFile::remove(target());
+                std::filesystem::remove(target());
             }
-            const auto reader = m_assets.assetReader(m_assets.assetWithURL(bytes(path)));
+            const auto reader = m_assets.assetReader(m_assets.assetWithURL(path));
             if (reader && (*reader)->startReading()) {
                 drain(**reader);
             }

@@ -14,7 +14,7 @@ bool isMp4(const Type& type) {
 
 /// Whether a recording in an MP4 file still has its first movie header, that of the fragments, behind the file type
 /// box.
-bool isFragmented(const QString& path) {
+bool isFragmented(const std::filesystem::path& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.read(36).endsWith("moov");
 }
@@ -25,7 +25,7 @@ constexpr double kFragmentSeconds = 1;
 class FailureTest : public RecordingFixture {
 protected:
     /// Six seconds of tone in a file as a killed program would leave it.
-    QString recordInterrupted(const Type& type) {
+    std::filesystem::path recordInterrupted(const Type& type) {
         return record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 6), kStereo, false);
     }
 
@@ -51,7 +51,7 @@ protected:
         EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || QFile(pathFor(type)).size() % 2 == 0) << "half a frame";
     }
 
-    void expectTone(const QString& path, double atLeast, double atMost) {
+    void expectTone(const std::filesystem::path& path, double atLeast, double atMost) {
         const auto sound = decodeSound(path);
         ASSERT_TRUE(sound);
         const double seconds = static_cast<double>(sound->frames()) / sound->rate;
@@ -90,7 +90,7 @@ TEST_F(FailureTest, ARealFullDiskLeavesAWholeFile) {
     }
     for (const Type& type : kTypes) {
         recordUntilItFails(type, "The disk is full.");
-        EXPECT_TRUE(QFile::remove(pathFor(type)));
+        EXPECT_TRUE(std::filesystem::remove(pathFor(type)));
     }
     ::umount2(disk.constData(), MNT_DETACH);
 }
@@ -110,14 +110,14 @@ TEST_F(FailureTest, AFileThatMayNotGrowKeepsWhatFitted) {
 TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {
     for (const Type& type : kTypes) {
         SCOPED_TRACE(type.extension);
-        const QString path = recordInterrupted(type);
+        const auto path = recordInterrupted(type);
         expectTone(path, 4.5, 6);
         if (!isMp4(type)) {
             continue;
         }
         EXPECT_TRUE(isFragmented(path));
         // The last fragment is cut off in the middle.
-        ASSERT_TRUE(QFile::resize(path, QFile(path).size() - 99));
+        std::filesystem::resize_file(path, QFile(path).size() - 99);
         ASSERT_TRUE(finalize(path));
         EXPECT_FALSE(isFragmented(path));
         expectTone(path, 3.5, 5.1);

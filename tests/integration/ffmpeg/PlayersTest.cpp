@@ -1,6 +1,7 @@
 #include <cstdlib>
 
 #include "adapters/ffmpeg/exporting/FfmpegAssets.h"
+#include "files/PathText.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 
 namespace tavi::test {
@@ -34,13 +35,12 @@ protected:
     /// An odd number of bytes at 8 bits and one channel, behind which GStreamer's reader of WAV files gives up.
     static constexpr int kFrames = 12001;
 
-    QString cut(const QString& source, AssetFileType type) {
-        const QString path = m_folder.filePath(QStringLiteral("cut"));
-        QFile::remove(path);
-        auto session =
-            m_assets.exportSession(m_assets.assetWithURL(QFile::encodeName(source)), AssetExportPreset::Passthrough);
+    std::filesystem::path cut(const std::filesystem::path& source, AssetFileType type) {
+        const std::filesystem::path path = folder() / "cut";
+        std::filesystem::remove(path);
+        auto session = m_assets.exportSession(m_assets.assetWithURL(source), AssetExportPreset::Passthrough);
         EXPECT_TRUE(session);
-        (*session)->setOutputURL(QFile::encodeName(path));
+        (*session)->setOutputURL(path);
         (*session)->setOutputFileType(type);
         (*session)->setTimeRange({{100, 8000}, {kFrames - 2000, 8000}});
         (*session)->exportAsynchronously([] {});
@@ -50,14 +50,15 @@ protected:
     }
 
     /// What a shell command writes to "%1", having "%2" as its source.
-    QByteArray outputOf(const char* command, const QString& source) const {
-        const QString output = file(QStringLiteral("output"), {});
-        EXPECT_EQ(std::system(QFile::encodeName(QString::fromLatin1(command).arg(output, source)).constData()), 0);
+    QByteArray outputOf(const char* command, const std::filesystem::path& source) const {
+        const auto output = file("output", {});
+        const QString whole = QString::fromLatin1(command).arg(pathText(output), pathText(source));
+        EXPECT_EQ(std::system(qPrintable(whole)), 0);
         return contents(output);
     }
 
     /// The first channel of what a player makes of a file.
-    std::vector<float> played(const char* command, const QString& source, int channels) const {
+    std::vector<float> played(const char* command, const std::filesystem::path& source, int channels) const {
         const QByteArray bytes = outputOf(command, source);
         std::vector<float> samples;
         for (qsizetype at = 0; at < bytes.size(); at += static_cast<qsizetype>(sizeof(float)) * channels) {
@@ -67,7 +68,7 @@ protected:
         return samples;
     }
 
-    void expectPlayed(const QString& path, const Type& type, const Quality& quality, const char* name,
+    void expectPlayed(const std::filesystem::path& path, const Type& type, const Quality& quality, const char* name,
                       const Played& players) {
         const QByteArray told = outputOf(
             "mediainfo '--Inform=General;%Format% ' '%2' >'%1'; "
@@ -106,7 +107,7 @@ TEST_F(PlayersTest, OthersPlayAllThatIsRecordedCutAndLeftByAKilledProgram) {
         for (const Quality& quality : kQualities) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
             const AudioInputFormat format{static_cast<int>(quality.rate), quality.channels};
-            const QString whole = record(type, quality, tone(format, kFrames), format);
+            const auto whole = record(type, quality, tone(format, kFrames), format);
             expectPlayed(whole, type, quality, players.name, players);
             if (quality.value == 0) {
                 SCOPED_TRACE("cut");
@@ -115,7 +116,7 @@ TEST_F(PlayersTest, OthersPlayAllThatIsRecordedCutAndLeftByAKilledProgram) {
         }
         SCOPED_TRACE(testing::Message() << type.extension << " interrupted");
         const Quality& low = kQualities[0];
-        const QString path = record(type, low, tone({8000, 1}, 3 * kFrames), {8000, 1}, false);
+        const auto path = record(type, low, tone({8000, 1}, 3 * kFrames), {8000, 1}, false);
         finalize(path);
         expectPlayed(path, type, low, players.name, players);
     }

@@ -59,7 +59,7 @@ protected:
         AudioStreamBasicDescription format;
         std::int64_t length = 0;
     };
-    Opened open(const std::string& path) {
+    Opened open(const std::filesystem::path& path) {
         Opened opened;
         opened.status = m_files.open(path, opened.file);
         EXPECT_EQ(opened.file != nullptr, opened.status == kAudioNoError);
@@ -69,7 +69,6 @@ protected:
         }
         return opened;
     }
-    Opened open(const QString& path) { return open(QFile::encodeName(path).toStdString()); }
 
     /// All samples, as many channels as the program shows.
     static std::vector<std::vector<float>> readAll(const Opened& opened) {
@@ -84,7 +83,7 @@ protected:
     }
 
     /// Reads a file from start to end and from many places, in its own rate and another.
-    void expectExactSeeks(const QString& path, float tolerance, int slack = 0) {
+    void expectExactSeeks(const std::filesystem::path& path, float tolerance, int slack = 0) {
         const auto [status, file, format, length] = open(path);
         ASSERT_TRUE(file);
         for (const double rate : {format.sampleRate, format.sampleRate == 44100 ? 16000.0 : 44100.0}) {
@@ -115,7 +114,7 @@ protected:
     }
 
     /// How far, in dB below it, a file is from the tone of 1000 Hz that starts at a frame.
-    double errorOf(const QString& path, std::int64_t start) {
+    double errorOf(const std::filesystem::path& path, std::int64_t start) {
         const auto [status, file, format, length] = open(path);
         const auto client = clientFormat(format.sampleRate, 1);
         file->setClientDataFormat(client);
@@ -134,7 +133,7 @@ TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
         for (const Quality& quality : kQualities) {
             for (const bool isFinished : {true, false}) {
                 SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << isFinished);
-                const QString path = record(type, quality, tone(kStereo, kFrames), kStereo, isFinished);
+                const auto path = record(type, quality, tone(kStereo, kFrames), kStereo, isFinished);
                 const auto [status, file, format, length] = open(path);
                 ASSERT_TRUE(file);
                 EXPECT_EQ(format.formatID, type.formatID);
@@ -165,7 +164,7 @@ TEST_F(ReadingTest, EveryRecordableTypeShowsTheLevelOfItsSound) {
     for (const Type& type : kTypes) {
         for (const Quality& quality : kQualities) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
-            const auto path = QFile::encodeName(record(type, quality, samples)).toStdString();
+            const auto path = record(type, quality, samples);
             const auto reader =
                 EZAudioFile::audioFileWithURL(path, {.files = m_files, .converters = converters, .queues = runLoop});
             ASSERT_TRUE(reader);
@@ -191,10 +190,10 @@ TEST_F(ReadingTest, EveryRecordableTypeShowsTheLevelOfItsSound) {
 }
 
 TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
-    const QString wav = record(kTypes[0], kQualities[2], tone(kStereo, kFrames));
+    const auto wav = record(kTypes[0], kQualities[2], tone(kStereo, kFrames));
     for (const Foreign& foreign : kForeign) {
         SCOPED_TRACE(foreign.name);
-        const QString path = converted(wav, QString::fromLatin1(foreign.name), foreign.arguments);
+        const auto path = converted(wav, foreign.name, foreign.arguments);
         expectExactSeeks(path, foreign.tolerance, foreign.slack);
         const auto [status, file, format, length] = open(path);
         const double frames = static_cast<double>(length) * 44100 / format.sampleRate;
@@ -217,7 +216,7 @@ TEST_F(ReadingTest, MoviesBeginAndEndWhereTheirEditsSay) {
                 qToBigEndian(start, edited.data() + edit + 4);
                 qToBigEndian(isShort ? 700U : qFromBigEndian<std::uint32_t>(edited.data() + edit),
                              edited.data() + edit);
-                const QString path = file(QStringLiteral("edited"), edited);
+                const auto path = file("edited", edited);
                 expectExactSeeks(path, type.packet == 1 ? 0 : 0.01F);
                 const auto own = readAll(open(path));
                 const auto other = decodeSound(path)->planes;
@@ -245,7 +244,7 @@ TEST_F(ReadingTest, AppleLosslessAndIma4AreDecodedBitByBit) {
     }
     for (const Type& type : {kTypes[0], kTypes[2]}) {
         for (const Quality& quality : {kQualities[0], kQualities[1], kQualities[2], {48000, 2, 127}}) {
-            const QString path = record(type, quality, samples);
+            const auto path = record(type, quality, samples);
             const auto file = open(path).file;
             const auto client = clientFormat(quality.rate, static_cast<std::uint32_t>(quality.channels));
             file->setClientDataFormat(client);
@@ -260,10 +259,10 @@ TEST_F(ReadingTest, AppleLosslessAndIma4AreDecodedBitByBit) {
 }
 
 TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
-    const QString pipe = m_folder.filePath(QStringLiteral("pipe.wav"));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const auto pipe = folder() / "pipe.wav";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     struct Case {
-        QString path;
+        std::filesystem::path path;
         AudioStatus status;
     };
     // IMA4 of a million channels.
@@ -274,34 +273,32 @@ TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
             68) +
         QByteArray(1400, '\1');
     std::vector<Case> cases = {
-        {file(QStringLiteral("channels.caf"), channels), kAudioFileUnsupportedDataFormatError},
-        {m_folder.filePath(QStringLiteral("missing.m4a")), kAudioFileFileNotFoundError},
-        {QStringLiteral("http://localhost/a.m4a"), kAudioFileFileNotFoundError},
-        {QString(), kAudioFileFileNotFoundError},
-        {m_folder.path(), kAudioFileUnsupportedFileTypeError},
+        {file("channels.caf", channels), kAudioFileUnsupportedDataFormatError},
+        {folder() / "missing.m4a", kAudioFileFileNotFoundError},
+        {"http://localhost/a.m4a", kAudioFileFileNotFoundError},
+        {{}, kAudioFileFileNotFoundError},
+        {folder(), kAudioFileUnsupportedFileTypeError},
         {pipe, kAudioFileUnsupportedFileTypeError},
-        {QStringLiteral("/dev/zero"), kAudioFileUnsupportedFileTypeError},
-        {file(QStringLiteral("list.m3u8"), "#EXTM3U\n#EXTINF:1,\nfile:///etc/passwd\n"),
-         kAudioFileUnsupportedFileTypeError},
+        {"/dev/zero", kAudioFileUnsupportedFileTypeError},
+        {file("list.m3u8", "#EXTM3U\n#EXTINF:1,\nfile:///etc/passwd\n"), kAudioFileUnsupportedFileTypeError},
     };
     for (const char* extension : {"m4a", "wav", "caf", "aac", "mp3", "m3u8"}) {
         for (const QByteArray& bytes : {QByteArray(), QByteArray("a line of text\n").repeated(3000),
                                         QByteArray(5000, '\0'), QByteArray(5000, '\xff')}) {
-            const QString name = QStringLiteral("%1.%2").arg(cases.size()).arg(QLatin1String(extension));
+            const std::string name = std::to_string(cases.size()) + '.' + extension;
             cases.push_back({file(name, bytes), kAudioFileUnsupportedFileTypeError});
         }
     }
     for (const auto& [path, status] : cases) {
-        EXPECT_EQ(open(path).status, status) << qPrintable(path);
+        EXPECT_EQ(open(path).status, status) << path;
         // A file may tell its length and yet not be fit to be read.
-        EXPECT_LE(m_durations.durationOfFile(path), status == kAudioFileUnsupportedDataFormatError ? 1 : 0)
-            << qPrintable(path);
+        EXPECT_LE(m_durations.durationOfFile(path), status == kAudioFileUnsupportedDataFormatError ? 1 : 0) << path;
     }
-    const QString secret = file(QStringLiteral("secret.wav"), wav(1, 8000, 10));
-    ASSERT_TRUE(QFile::setPermissions(secret, {}));
+    const auto secret = file("secret.wav", wav(1, 8000, 10));
+    std::filesystem::permissions(secret, std::filesystem::perms::none);
     EXPECT_EQ(open(secret).status, ::geteuid() == 0 ? kAudioNoError : kAudioFilePermissionsError);
     for (const QByteArray& bytes : {wav(1, 8000, 0), wav(1, 8000, 0).left(40), wav(0, 8000, 10), wav(2, 0, 10)}) {
-        EXPECT_EQ(open(file(QStringLiteral("none.wav"), bytes)).length, 0);
+        EXPECT_EQ(open(file("none.wav", bytes)).length, 0);
     }
 }
 
@@ -313,21 +310,21 @@ TEST_F(ReadingTest, RatesThatNoRecorderHasAreRefused) {
         {QByteArray("\x40\xe5\x88\x80\0", 5), QByteArray("\x3f\xf0\0\0\0", 5)},
     };
     const auto pathOf = [this](const Type& type) { return record(type, kQualities[2], tone(kStereo, kFrames)); };
-    const QString wav = pathOf(kTypes[1]);
-    const QString au = converted(wav, QStringLiteral("a.au"), "-c:a pcm_s16be");
-    for (const QString& path : {wav, pathOf(kTypes[0]), pathOf(kTypes[2]), au}) {
+    const auto wav = pathOf(kTypes[1]);
+    const auto au = converted(wav, "a.au", "-c:a pcm_s16be");
+    for (const auto& path : {wav, pathOf(kTypes[0]), pathOf(kTypes[2]), au}) {
         QByteArray bytes = contents(path);
         for (const auto& [rate, one] : changes) {
             bytes.replace(rate, one);
         }
-        const Opened slow = open(file(QStringLiteral("slow"), bytes));
-        EXPECT_EQ(slow.status, kAudioFileUnsupportedDataFormatError) << qPrintable(path);
+        const Opened slow = open(file("slow", bytes));
+        EXPECT_EQ(slow.status, kAudioFileUnsupportedDataFormatError) << path;
     }
 }
 
 TEST_F(ReadingTest, OddFilesAndNamesAreRead) {
     for (const auto& [channels, rate, frames] : {std::tuple(8, 8000, 4000), {1, 192000, 96000}, {1, 44100, 1}}) {
-        const Opened odd = open(file(QStringLiteral("odd.m4a"), wav(channels, rate, frames)));
+        const Opened odd = open(file("odd.m4a", wav(channels, rate, frames)));
         ASSERT_TRUE(odd.file);
         EXPECT_EQ(odd.length, frames);
         EXPECT_EQ(odd.format.channelsPerFrame, static_cast<std::uint32_t>(channels));
@@ -335,12 +332,11 @@ TEST_F(ReadingTest, OddFilesAndNamesAreRead) {
         EXPECT_TRUE(samples.size() == static_cast<std::size_t>(frames) && samples[0] > 0.05F && samples[0] < 0.2501F);
     }
     const QByteArray bytes = wav(2, 8000, 4000) + QByteArray("LIST\x14\0\0\0INFOINAM\x08\0\0\0Meeting\0", 28);
-    const QString original = file(QStringLiteral("original.wav"), bytes);
+    const auto original = file("original.wav", bytes);
     for (const char* name : {"two words.wav", "'quoted' \"twice\".wav", "new\nline.wav", "latin \xe9\xff.wav",
                              "%20%s.wav", "file:a.wav", "-a.wav"}) {
-        // Qt would not find all of them by their names.
-        const std::string path = m_folder.path().toStdString() + "/" + name;
-        std::filesystem::copy_file(original.toStdString(), path);
+        const std::filesystem::path path = folder() / name;
+        std::filesystem::copy_file(original, path);
         const Opened odd = open(path);
         std::filesystem::remove(path);
         ASSERT_TRUE(odd.file) << name;
@@ -354,10 +350,10 @@ TEST_F(ReadingTest, OddFilesAndNamesAreRead) {
 TEST_F(ReadingTest, FilesThatEndTooSoonAreReadAsFarAsTheyGo) {
     for (const Type& type : kTypes) {
         SCOPED_TRACE(type.extension);
-        const QString path = record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 40));
+        const auto path = record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 40));
         // While a reader has it open.
         const Opened whole = open(path);
-        ASSERT_TRUE(QFile::resize(path, QFile(path).size() * 6 / 10));
+        std::filesystem::resize_file(path, QFile(path).size() * 6 / 10);
         EXPECT_LT(readAll(whole)[0].size(), whole.length * 62 / 100);
         // And before one opens it. A movie's tables may stand at its end, and be gone.
         const Opened cut = open(path);
@@ -367,7 +363,7 @@ TEST_F(ReadingTest, FilesThatEndTooSoonAreReadAsFarAsTheyGo) {
             EXPECT_GT(levelOf(std::span(readAll(cut)[0]).last(20000)), -12);
         }
         for (const int bytes : {1, 12, 44, 100, 700}) {
-            ASSERT_TRUE(QFile::resize(path, bytes));
+            std::filesystem::resize_file(path, bytes);
             EXPECT_LT(open(path).length, 3000) << bytes;
             EXPECT_LT(m_durations.durationOfFile(path), 0.1) << bytes;
         }

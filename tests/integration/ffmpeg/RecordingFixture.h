@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <numbers>
 #include <vector>
 
@@ -67,8 +68,9 @@ inline AudioRecordSettings settingsFor(const Type& type, const Quality& quality)
 /// Makes recordings in a folder of its own.
 class RecordingFixture : public ::testing::Test {
 protected:
-    QString pathFor(const Type& type, const char* name = "recording") const {
-        return m_folder.filePath(QString::fromLatin1(name) + QLatin1Char('.') + QString::fromLatin1(type.extension));
+    std::filesystem::path folder() const { return m_folder.path().toStdString(); }
+    std::filesystem::path pathFor(const Type& type, const std::string& name = "recording") const {
+        return folder() / (name + '.' + type.extension);
     }
 
     /// Interleaved frames of a tone that peaks at one half; only on the left where leftOnly.
@@ -102,40 +104,40 @@ protected:
         return {};
     }
 
-    std::unique_ptr<AudioFileWriter> begin(const QString& path, const AudioRecordSettings& settings,
+    std::unique_ptr<AudioFileWriter> begin(const std::filesystem::path& path, const AudioRecordSettings& settings,
                                            PwriteFunction pwrite = systemPwrite()) {
         auto writer = FfmpegAudioFileWriters(std::move(pwrite)).create(path, settings);
         if (!writer || !(*writer)->setInputFormat(kStereo)) {
-            ADD_FAILURE() << "cannot record to " << qPrintable(path);
+            ADD_FAILURE() << "cannot record to " << path;
             return nullptr;
         }
         return std::move(*writer);
     }
 
     /// Records samples over what is there; as a killed program would leave it where it is not finished.
-    QString record(const Type& type, const Quality& quality, const std::vector<float>& samples,
-                   const AudioInputFormat& input = kStereo, bool isFinished = true) {
-        const QString path = pathFor(type);
-        QFile::remove(path);
+    std::filesystem::path record(const Type& type, const Quality& quality, const std::vector<float>& samples,
+                                 const AudioInputFormat& input = kStereo, bool isFinished = true) {
+        const auto path = pathFor(type);
+        std::filesystem::remove(path);
         auto writer = FfmpegAudioFileWriters().create(path, settingsFor(type, quality));
         EXPECT_TRUE(writer && (*writer)->setInputFormat(input) && writeBlocks(**writer, samples, input.channels) &&
                     (!isFinished || (*writer)->finish()));
         return path;
     }
 
-    QString file(const QString& name, const QByteArray& bytes) const {
-        QFile file(m_folder.filePath(name));
+    std::filesystem::path file(const std::string& name, const QByteArray& bytes) const {
+        QFile file(folder() / name);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
+        return file.filesystemFileName();
     }
 
     /// Turns what a killed program left into an ordinary file.
-    static bool finalize(const QString& path) {
+    static bool finalize(const std::filesystem::path& path) {
         const FileDescriptor file = FileDescriptor::open(path, O_RDWR);
         return finalizeMp4(file.get()).has_value();
     }
 
-    static QByteArray contents(const QString& path) {
+    static QByteArray contents(const std::filesystem::path& path) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
@@ -143,11 +145,11 @@ protected:
 
     /// What FFmpeg's program makes of a file: what others bring in. Not by QProcess, whose way of forking hides the
     /// main thread's locks from ThreadSanitizer.
-    QString converted(const QString& from, const QString& name, const char* arguments) const {
-        const QString target = m_folder.filePath(name);
-        const QString command = QStringLiteral("ffmpeg -v error -nostdin -y -i '%1' %2 '%3'")
-                                    .arg(from, QString::fromLatin1(arguments), target);
-        EXPECT_EQ(std::system(QFile::encodeName(command).constData()), 0) << arguments;
+    std::filesystem::path converted(const std::filesystem::path& from, const char* name, const char* arguments) const {
+        std::filesystem::path target = folder() / name;
+        const std::string command =
+            "ffmpeg -v error -nostdin -y -i '" + from.native() + "' " + arguments + " '" + target.native() + "'";
+        EXPECT_EQ(std::system(command.c_str()), 0) << arguments;
         return target;
     }
 

@@ -29,7 +29,7 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
         for (const Input& input : kInputs) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << input.name);
             const auto frames = static_cast<std::size_t>(input.format.sampleRate * 33 / 10 + 17);
-            const QString path = record(type, quality, tone(input.format, frames, input.leftOnly), input.format);
+            const auto path = record(type, quality, tone(input.format, frames, input.leftOnly), input.format);
             const auto sound = decodeSound(path);
             ASSERT_TRUE(sound);
             EXPECT_EQ(sound->codec, type.codec);
@@ -59,7 +59,7 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
 
 TEST_F(RecordingTest, TonesAboveTheNewBandDoNotFoldIntoIt) {
     for (const Quality& quality : {kQualities[0], kQualities[1]}) {
-        const QString path = record(kTypes[0], quality, tone(kStereo, 96000, false, 0.65 * quality.rate));
+        const auto path = record(kTypes[0], quality, tone(kStereo, 96000, false, 0.65 * quality.rate));
         EXPECT_LT(levelOf(middleOf(decodeSound(path)->planes[0])), -60) << quality.rate;
     }
 }
@@ -82,13 +82,13 @@ TEST_F(RecordingTest, ARecordingWithoutSoundIsStillAFileOfItsKind) {
 }
 
 TEST_F(RecordingTest, NothingIsReplacedAndNothingIsLeftWhereRecordingCannotStart) {
-    const QString mine = file(QStringLiteral("recording.m4a"), "mine");
+    const auto mine = file("recording.m4a", "mine");
     const Type pcm24{"wav", kAudioFormatLinearPCM, "", "", 1, 0, 0, 24};
     EXPECT_FALSE(FfmpegAudioFileWriters().create(mine, settingsFor(kTypes[0], kQualities[0])));
     EXPECT_FALSE(FfmpegAudioFileWriters().create(pathFor(pcm24), settingsFor(pcm24, kQualities[0])));
     EXPECT_FALSE(FfmpegAudioFileWriters().create(pathFor(kTypes[3]), settingsFor(kTypes[3], {9999, 1, 0})));
     EXPECT_EQ(contents(mine), "mine");
-    EXPECT_FALSE(QFile::exists(pathFor(pcm24)) || QFile::exists(pathFor(kTypes[3])));
+    EXPECT_FALSE(std::filesystem::exists(pathFor(pcm24)) || std::filesystem::exists(pathFor(kTypes[3])));
 }
 
 TEST_F(RecordingTest, ContainerFollowsTheFormatWhateverTheExtensionAndBadSamplesAreSilence) {

@@ -39,7 +39,7 @@ protected:
 };
 
 TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
-    QtUserDefaults defaults(m_path);
+    QtUserDefaults defaults(m_path.toStdString());
     defaults.setObject(1, QStringLiteral("mine"));
     ASSERT_TRUE(defaults.synchronize());
     writeAsOther("[General]\nmine=1\ntheirs=true\nlist=a, b\n");
@@ -59,7 +59,7 @@ TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
 
 TEST_F(SettingsFile, SurvivesDamage) {
     writeAsOther(QByteArray("[General]\nSort=3\nno equals sign\n[broken\n\xff\xfe") + QByteArray(64, '\0'));
-    QtUserDefaults defaults(m_path);
+    QtUserDefaults defaults(m_path.toStdString());
     EXPECT_EQ(defaults.integerForKey(QStringLiteral("Sort")), 3);
     defaults.setObject(4, QStringLiteral("Sort"));
     EXPECT_TRUE(defaults.synchronize());
@@ -68,7 +68,7 @@ TEST_F(SettingsFile, SurvivesDamage) {
 
 TEST_F(SettingsFile, SaysThatItCannotBeWrittenAndRecovers) {
     ASSERT_TRUE(QDir().mkpath(m_path + QLatin1String("/in the way")));
-    QtUserDefaults defaults(m_path);
+    QtUserDefaults defaults(m_path.toStdString());
     EXPECT_FALSE(defaults.objectForKey(QStringLiteral("Sort")).isValid());
     defaults.setObject(4, QStringLiteral("Sort"));
     EXPECT_FALSE(defaults.synchronize());

@@ -33,7 +33,7 @@ protected:
     }
 
     /// Records until that many frames of the tone are in; returns how many frames the recorder says it captured.
-    std::int64_t record(const QString& path, const AudioRecordSettings& settings, std::int64_t frames) {
+    std::int64_t record(const std::filesystem::path& path, const AudioRecordSettings& settings, std::int64_t frames) {
         auto recorder = m_recorders.recorderWithPath(path, settings);
         if (!recorder) {
             ADD_FAILURE() << recorder.error().text.toStdString();
@@ -65,18 +65,17 @@ TEST_F(RecorderTest, EveryTypeAndQualityHoldsTheToneThatWasPlayed) {
         const ProcessHandle player = playTone(leftOnly);
         // The player has to be under way before what is recorded can be judged.
         for (m_power = -160.0; std::abs(m_power - kLevel) > 0.5;) {
-            const QString first = m_folder.filePath(QStringLiteral("first.wav"));
+            const auto first = folder() / "first.wav";
             record(first, {}, kDeviceRate / 5);
-            QFile::remove(first);
+            std::filesystem::remove(first);
         }
         for (const Quality& quality : kQualities) {
             if (leftOnly && quality.channels == 1) {
                 continue;
             }
             for (const Type& type : kTypes) {
-                const QString path = pathFor(type, leftOnly ? "left" : "both") + QString::number(quality.value) +
-                                     QLatin1Char('.') + QString::fromLatin1(type.extension);
-                SCOPED_TRACE(path.toStdString());
+                const auto path = pathFor(type, (leftOnly ? "left" : "both") + std::to_string(quality.value));
+                SCOPED_TRACE(path);
                 const std::int64_t captured = record(path, settingsFor(type, quality), kDeviceRate / 2);
                 const std::optional<Sound> sound = decodeSound(path);
                 ASSERT_TRUE(sound);
@@ -104,7 +103,7 @@ TEST_F(RecorderTest, EveryTypeAndQualityHoldsTheToneThatWasPlayed) {
 TEST_F(RecorderTest, ALoneMicrophoneFeedsBothChannels) {
     m_server.setMicrophone(44100, 1);
     const ProcessHandle player = playTone(false);
-    const QString path = m_folder.filePath(QStringLiteral("mono.wav"));
+    const auto path = folder() / "mono.wav";
     record(path, settingsFor(kTypes[1], kQualities[2]), 44100);
     const std::optional<Sound> sound = decodeSound(path);
     ASSERT_TRUE(sound && sound->channels == 2);

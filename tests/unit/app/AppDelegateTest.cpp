@@ -45,7 +45,7 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_EQ(settings.sort(), 1);
     EXPECT_TRUE(sharedDefaults.boolForKey(settingskey::kAppStart));
     EXPECT_TRUE(idleTimer.isIdleTimerDisabled());
-    EXPECT_TRUE(QDir(container.documentsPath() + QStringLiteral("/ICloud")).exists());
+    EXPECT_TRUE(std::filesystem::is_directory(container.documentsPath() / "ICloud"));
     session.answer(false);
     EXPECT_TRUE(presenter.alerts.empty()) << "a refusal at start-up shows nothing";
 

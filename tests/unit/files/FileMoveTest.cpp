@@ -18,22 +18,20 @@
 namespace tavi::test {
 namespace {
 
-// Files are addressed by bytes, as their names need not be text.
-
-void write(const QByteArray& path, const QByteArray& contents) {
-    ASSERT_TRUE(std::ofstream(path.toStdString(), std::ios::binary) << contents.toStdString());
+void write(const std::filesystem::path& path, const QByteArray& contents) {
+    ASSERT_TRUE(std::ofstream(path, std::ios::binary) << contents.toStdString());
 }
 
-std::string read(const QByteArray& path) {
-    std::ifstream file(path.toStdString(), std::ios::binary);
+std::string read(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-bool exists(const QByteArray& path) {
-    return access(path.constData(), F_OK) == 0;
+bool isThere(const std::filesystem::path& path) {
+    return access(path.c_str(), F_OK) == 0;
 }
 
-int entriesOf(const QString& folder) {
+int entriesOf(const std::filesystem::path& folder) {
     return static_cast<int>(
         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot).size());
 }
@@ -42,25 +40,27 @@ class FileMoveTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(m_near.isValid() && m_far.isValid());
-        from = QFile::encodeName(m_near.path()) + "/voice\xff.m4a";
-        nearTo = QFile::encodeName(m_near.path()) + "/2024\xfe.m4a";
-        farTo = QFile::encodeName(m_far.path()) + "/2024\xfe.m4a";
+        from = near() / "voice\xff.m4a";
+        nearTo = near() / "2024\xfe.m4a";
+        farTo = far() / "2024\xfe.m4a";
         write(from, "sound");
         // The two must be on two file systems.
-        ASSERT_NE(rename(from.constData(), farTo.constData()), 0);
+        ASSERT_NE(rename(from.c_str(), farTo.c_str()), 0);
     }
 
     /// QTemporaryDir itself leaves names behind that are no text.
     void TearDown() override {
-        std::filesystem::remove_all(m_near.path().toStdString());
-        std::filesystem::remove_all(m_far.path().toStdString());
+        std::filesystem::remove_all(near());
+        std::filesystem::remove_all(far());
     }
 
     QTemporaryDir m_near{QStringLiteral("/var/tmp/tavi-XXXXXX")};
     QTemporaryDir m_far{QStringLiteral("/dev/shm/tavi-XXXXXX")};
-    QByteArray from;
-    QByteArray nearTo;
-    QByteArray farTo;
+    std::filesystem::path near() const { return m_near.path().toStdString(); }
+    std::filesystem::path far() const { return m_far.path().toStdString(); }
+    std::filesystem::path from;
+    std::filesystem::path nearTo;
+    std::filesystem::path farTo;
 };
 
 TEST_F(FileMoveTest, everyWayOfRenamingReplacesNothing) {
@@ -71,41 +71,41 @@ TEST_F(FileMoveTest, everyWayOfRenamingReplacesNothing) {
         EXPECT_EQ(read(from), "sound");
         EXPECT_EQ(read(nearTo), "older");
 
-        ASSERT_EQ(remove(nearTo.constData()), 0);
+        ASSERT_EQ(remove(nearTo.c_str()), 0);
         EXPECT_EQ(renameWithoutReplacing(from, nearTo, method), 0);
-        EXPECT_FALSE(exists(from));
+        EXPECT_FALSE(isThere(from));
         EXPECT_EQ(read(nearTo), "sound");
 
-        EXPECT_EQ(renameWithoutReplacing(from + "none", from, method), ENOENT);
-        EXPECT_FALSE(exists(from));
-        ASSERT_EQ(rename(nearTo.constData(), from.constData()), 0);
+        EXPECT_EQ(renameWithoutReplacing(from.native() + "none", from, method), ENOENT);
+        EXPECT_FALSE(isThere(from));
+        ASSERT_EQ(rename(nearTo.c_str(), from.c_str()), 0);
     }
 }
 
 TEST_F(FileMoveTest, movesWholeFilesWithTheirDates) {
-    for (const QByteArray& to : {nearTo, farTo}) {
+    for (const std::filesystem::path& to : {nearTo, farTo}) {
         const timespec times[2] = {{1700000000, 0}, {1700000001, 0}};
-        ASSERT_EQ(utimensat(AT_FDCWD, from.constData(), times, 0), 0);
+        ASSERT_EQ(utimensat(AT_FDCWD, from.c_str(), times, 0), 0);
         const auto moved = moveItem(from, to);
         ASSERT_TRUE(moved.has_value()) << qPrintable(moved.error().text);
-        EXPECT_FALSE(exists(from));
+        EXPECT_FALSE(isThere(from));
         EXPECT_EQ(read(to), "sound");
         struct stat attributes = {};
-        ASSERT_EQ(stat(to.constData(), &attributes), 0);
+        ASSERT_EQ(stat(to.c_str(), &attributes), 0);
         EXPECT_EQ(attributes.st_mtim.tv_sec, 1700000001);
         write(from, "sound");
     }
-    EXPECT_EQ(entriesOf(m_far.filePath(QStringLiteral("PrivateInbox"))), 0);
+    EXPECT_EQ(entriesOf(far() / "PrivateInbox"), 0);
 }
 
 TEST_F(FileMoveTest, aFailureLeavesTheSourceAndNothingElse) {
     write(farTo, "older");
     EXPECT_FALSE(moveItem(from, farTo).has_value());
     EXPECT_EQ(read(farTo), "older");
-    ASSERT_EQ(remove(farTo.constData()), 0);
-    const QByteArray nowhere = QFile::encodeName(m_far.path()) + "/none/2024.m4a";
+    ASSERT_EQ(remove(farTo.c_str()), 0);
+    const std::filesystem::path nowhere = far() / "none/2024.m4a";
     EXPECT_FALSE(moveItem(from, nowhere).has_value());
-    EXPECT_FALSE(moveItem(m_near.path(), m_far.filePath(QStringLiteral("folder"))).has_value());
+    EXPECT_FALSE(moveItem(near(), far() / "folder").has_value());
     EXPECT_EQ(read(from), "sound");
 
     // A disk that is full half-way through the copy.
@@ -121,8 +121,8 @@ TEST_F(FileMoveTest, aFailureLeavesTheSourceAndNothingElse) {
     std::signal(SIGXFSZ, handler);
     EXPECT_FALSE(moved.has_value());
     EXPECT_EQ(read(from), large.toStdString());
-    EXPECT_FALSE(exists(farTo));
-    EXPECT_EQ(entriesOf(m_far.filePath(QStringLiteral("PrivateInbox"))), 0);
+    EXPECT_FALSE(isThere(farTo));
+    EXPECT_EQ(entriesOf(far() / "PrivateInbox"), 0);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class VoiceMemoVCTest : public ::testing::Test, protected FakeServices {
 protected:
     /// A recording with that size and date.
     void add(const char* name, qint64 bytes, const QDateTime& modified = QDateTime(QDate(2024, 3, 5), QTime(14, 3))) {
-        QFile file(container.addDocument(QString::fromUtf8(name), {}));
+        QFile file(container.addDocument(name, {}));
         ASSERT_TRUE(file.resize(bytes));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         ASSERT_TRUE(file.setFileTime(modified, QFileDevice::FileModificationTime));
@@ -45,19 +45,16 @@ protected:
 
 TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
     for (const char* folder : {"Inbox", "PrivateInbox", "ICloud", "stray"}) {
-        ASSERT_TRUE(QDir(container.documentsPath()).mkdir(QLatin1String(folder)));
+        ASSERT_TRUE(std::filesystem::create_directory(container.documentsPath() / folder));
     }
     for (const char* name : {".DS_Store", ".hidden", "long.M4A", "noise.wav", "\xC3\xA9.txt"}) {
         add(name, 2048);
     }
-    const QString folder = container.documentsPath();
-    ASSERT_TRUE(QFile::link(QStringLiteral("gone"), folder + QStringLiteral("/dangling")));
-    ASSERT_EQ(mkfifo(QFile::encodeName(folder + QStringLiteral("/pipe")).constData(), 0600), 0);
+    const std::filesystem::path folder = container.documentsPath();
+    std::filesystem::create_symlink("gone", folder / "dangling");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     // Whoever asked for the length of the last two would get one, and wait for the pipe's for ever.
-    durations.seconds = {{QStringLiteral("long.M4A"), 3725.9},
-                         {QStringLiteral("noise.wav"), 59.999},
-                         {QStringLiteral("stray"), 9.0},
-                         {QStringLiteral("pipe"), 9.0}};
+    durations.seconds = {{"long.M4A", 3725.9}, {"noise.wav", 59.999}, {"stray", 9.0}, {"pipe", 9.0}};
 
     vc.getAlltheFiles();
 
@@ -74,9 +71,11 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
 
 TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
     class SizeInsteadOfDuration : public AudioDuration {
-        double durationOfFile(const QString& path) const override { return static_cast<double>(QFile(path).size()); }
+        double durationOfFile(const std::filesystem::path& path) const override {
+            return static_cast<double>(std::filesystem::file_size(path));
+        }
     };
-    const std::string path = container.documentsPath().toStdString() + "/x\xff.m4a";
+    const std::filesystem::path path = container.documentsPath() / "x\xff.m4a";
     std::ofstream(path) << "12345";
     const SizeInsteadOfDuration sizes;
     FakeLibrary other(*this, sizes);
@@ -93,7 +92,7 @@ TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
 TEST_F(VoiceMemoVCTest, aChangedRecordingIsMeasuredAgain) {
     for (const int megabytes : {1, 2}) {
         add("memo.m4a", megabytes << 20);
-        durations.seconds[QStringLiteral("memo.m4a")] = 60.0 + megabytes;
+        durations.seconds["memo.m4a"] = 60.0 + megabytes;
         vc.reloadData();
         EXPECT_EQ(text(0, RecordingListModel::DetailTextRole),
                   QStringLiteral("%1.0 MB | 01:0%1 | 05 Mar,2024 | 02:03 PM").arg(megabytes).toStdString());
@@ -158,7 +157,7 @@ TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndLeavesAnUnchangedTableAlone) {
 TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
     for (int i = 0; i < 100; ++i) {
         add(std::to_string(i).c_str(), 1000 + i);
-        durations.seconds[QString::number(i)] = 60.0 + i;
+        durations.seconds[std::to_string(i)] = 60.0 + i;
     }
     vc.viewDidLoad();
     vc.viewWillAppear();
@@ -312,7 +311,7 @@ TEST_F(PlayingTest, aRowPlaysWithoutTheCloudAndItsTrimmerStopsIt) {
     vc.trimRow(1);
     EXPECT_FALSE(vc.isPlaying());
     ASSERT_NE(trimmers.screen(), nullptr);
-    EXPECT_TRUE(trimmers.screen()->input().getUrl.endsWith("/b.m4a"));
+    EXPECT_TRUE(trimmers.screen()->input().getUrl.ends_with("/b.m4a"));
 }
 
 TEST_F(PlayingTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {

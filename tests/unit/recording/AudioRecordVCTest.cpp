@@ -163,7 +163,7 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
     int readings = 0;
     screen.waveViewMirror()->setFrameSize({1000.0, 90.0});
     QObject::connect(screen.waveViewMirror(), &WaveView::needsDisplay, &notifications, [&] { ++readings; });
-    EXPECT_TRUE(QDir(container.groupContainerPath(kApplicationGroup) + QStringLiteral("/user_abc")).exists());
+    EXPECT_TRUE(std::filesystem::is_directory(container.groupContainerPath(kApplicationGroup) / "user_abc"));
     for (const auto& row : cases) {
         SCOPED_TRACE(row.type);
         // Set while the screen is seen, as by the command line.
@@ -172,8 +172,7 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
         tapRecord();
         EXPECT_EQ(screen.lblFileType(), (LabelOutlet{QLatin1String(row.label), QStringLiteral("#c8252c"), false}));
         EXPECT_EQ(recorders.lastSettings.formatID, row.format);
-        EXPECT_EQ(recorders.lastPath,
-                  container.cachesPath() + QStringLiteral("/vexmosounds.") + QLatin1String(row.type));
+        EXPECT_EQ(recorders.lastPath, container.cachesPath() / (std::string("vexmosounds.") + row.type));
         EXPECT_EQ(session.lastCategory, AudioSession::Category::PlayAndRecord);
         EXPECT_EQ(session.lastOption, AudioSession::CategoryOption::DefaultToSpeaker);
         EXPECT_TRUE(session.isActive);
@@ -203,7 +202,7 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
         EXPECT_FALSE(documents().contains(QLatin1String(row.name))) << "moved before it was whole";
         runLoop.drain();
         EXPECT_TRUE(documents().contains(QLatin1String(row.name))) << qPrintable(documents().join(QLatin1Char(' ')));
-        EXPECT_FALSE(QFile::exists(recorders.lastPath));
+        EXPECT_FALSE(std::filesystem::exists(recorders.lastPath));
         EXPECT_EQ(screen.waveViewMirror()->newPoint().x(), 0.0);
     }
     runLoop.advance(86400.0);
@@ -230,7 +229,7 @@ TEST_F(AudioRecordVCTest, AnEditedTypeStrandsNoRecording) {
         const QStringList before = documents();
         tapRecord();
         settings.setAudioFileType(QStringLiteral("wav"));
-        QFile leftover(container.cachesPath() + QStringLiteral("/vexmosounds.wav"));
+        QFile leftover(container.cachesPath() / "vexmosounds.wav");
         EXPECT_TRUE(row.hasLeftover ? leftover.open(QIODevice::WriteOnly) : !leftover.exists() || leftover.remove());
         if (row.appears) {
             screen.viewWillAppear();
@@ -243,7 +242,7 @@ TEST_F(AudioRecordVCTest, AnEditedTypeStrandsNoRecording) {
         EXPECT_EQ(saved, row.saved);
         runLoop.advance(2.0);
         EXPECT_EQ(mail.messages.back().attachments[0].fileName, row.saved.front());
-        EXPECT_GT(QFile(container.documentsPath() + QLatin1Char('/') + row.saved.front()).size(), 0);
+        EXPECT_GT(std::filesystem::file_size(container.documentsPath() / row.saved.front().toStdString()), 0U);
     }
 }
 
@@ -344,7 +343,7 @@ TEST_F(AudioRecordVCTest, ASecondRecordingOfTheSameSecondReplacesNothing) {
     tapRecord();
     tapStop();
     EXPECT_EQ(documents().size(), 1);
-    EXPECT_TRUE(QFile::exists(recorders.lastPath));
+    EXPECT_TRUE(std::filesystem::exists(recorders.lastPath));
     runLoop.advance(1.0);
     tapRecord();
     tapStop();
@@ -366,7 +365,7 @@ TEST_F(AudioRecordVCTest, MailsWhatIsNotTooLarge) {
         mail.canSend = row.canSend;
         const std::size_t before = mail.messages.size();
         tapRecord();
-        QFile::resize(recorders.lastPath, row.bytes);
+        std::filesystem::resize_file(recorders.lastPath, row.bytes);
         tapStop();
         runLoop.advance(1.99);
         EXPECT_EQ(mail.messages.size(), before);

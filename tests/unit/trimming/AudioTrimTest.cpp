@@ -26,11 +26,10 @@ protected:
                                                                       .container = container,
                                                                       .presenter = presenter,
                                                                       .runLoop = runLoop},
-                                                  QFile::encodeName(container.documentsPath()) + '/' + name,
-                                                  QLatin1String(section));
+                                                  container.documentsPath() / name, QLatin1String(section));
         screen->setTrimDelegate([this] { ++reloads; });
-        screen->setSaveToCloud([this](const QByteArray& path, const QString& file) {
-            EXPECT_TRUE(path.endsWith('/' + file.toUtf8())) << path.constData();
+        screen->setSaveToCloud([this](const std::filesystem::path& path, const QString& file) {
+            EXPECT_EQ(path.filename(), file.toStdString());
             saved.append(file);
         });
         QObject::connect(screen.get(), &AudioTrim::closed, screen.get(), [this] { ++closings; });
@@ -122,7 +121,7 @@ TEST_F(AudioTrimTest, PlaysTheRecordingAndWhatWasCutFromIt) {
     screen->playTrimmedAudio();
     shows(false, false, "00:05", "00:20");  // No such file.
 
-    players.seconds[screen->outputPath().split('/').back()] = 7.0;
+    players.seconds[screen->outputPath().filename()] = 7.0;
     screen->playOriginalAudio();
     screen->playTrimmedAudio();
     runLoop.advance(2.0);
@@ -156,15 +155,15 @@ TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
     screen->trimAudio();
     runLoop.drain();
     reloads = 0;
-    const QString folder = container.documentsPath();
+    const std::filesystem::path folder = container.documentsPath();
     screen->addTrimFileWithFilePath(container.cachesPath());
-    EXPECT_TRUE(QFile::exists(container.cachesPath() + QLatin1Char('/') + kOutput));
-    EXPECT_FALSE(QFile::exists(folder + QLatin1Char('/') + kOutput));
+    EXPECT_TRUE(std::filesystem::exists(container.cachesPath() / kOutput.toStdString()));
+    EXPECT_FALSE(std::filesystem::exists(folder / kOutput.toStdString()));
     EXPECT_EQ(reloads, 1);
-    container.addDocument(QStringLiteral("old.wav"), "old");
+    container.addDocument("old.wav", "old");
     for (int i = 0; i < 2; ++i) {
-        screen->removeFile(QStringLiteral("old.wav"));
-        EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/old.wav")));
+        screen->removeFile("old.wav");
+        EXPECT_FALSE(std::filesystem::exists(folder / "old.wav"));
     }
     EXPECT_EQ(closings, 3);
 }

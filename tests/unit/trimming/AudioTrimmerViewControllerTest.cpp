@@ -18,22 +18,22 @@ const char* const kOutput = "Trim_2024_Mar_05_14_03_59.wav";
 class AudioTrimmerTest : public ::testing::Test, protected FakeServices {
 protected:
     AudioTrimmerTest() {
-        path = QFile::encodeName(container.addDocument(QStringLiteral("talk.wav"), "original"));
+        path = container.addDocument("talk.wav", "original");
         assets.files["talk.wav"] = {{60 * 44100, 44100}, 1, {}};
         assets.files["originalRecording.wav"] = {{5 * 11025, 11025}, 1, {}};
         players.seconds["talk.wav"] = 60.0;
         const auto sound = std::make_shared<FakeSound>();
         sound->planes = {std::vector<float>(10'240, 0.5F)};
-        files.sounds[path.toStdString()] = sound;
+        files.sounds[path] = sound;
         QObject::connect(&notifications, &NotificationCenter::posted, [this] { ++dataUpdated; });
     }
 
     /// 300 points are 60 seconds.
     AudioTrimmerViewController& open(const char* name = "talk.wav") {
-        const QByteArray folder = QFile::encodeName(container.documentsPath()) + '/';
         AudioTrimmerViewController::presentAudioTrimmerController(
-            trimmers, nullptr, "file://" + folder + name, {}, name, [this](bool success, const QByteArray& result) {
-                closings.push_back((success ? "1 " : "0 ") + result.mid(result.lastIndexOf('/') + 1).toStdString());
+            trimmers, nullptr, "file://" + (container.documentsPath() / name).native(), {}, name,
+            [this](bool success, const std::filesystem::path& result) {
+                closings.push_back((success ? "1 " : "0 ") + result.filename().native());
             });
         runLoop.drain();
         trimmers.screen()->selection()->setContainerWidth(300.0);
@@ -50,15 +50,13 @@ protected:
                                                : assets.sessions.back()->end(status, {QStringLiteral("no")});
         runLoop.drain();
     }
-    bool exists(const char* name) const {
-        return QFile::exists(container.documentsPath() + QLatin1Char('/') + QLatin1String(name));
-    }
+    bool exists(const char* name) const { return std::filesystem::exists(container.documentsPath() / name); }
     bool isGone() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return trimmers.findChildren<AudioTrimmerViewController*>().isEmpty();
     }
 
-    QByteArray path;
+    std::filesystem::path path;
     std::vector<std::string> closings;
     int dataUpdated = 0;
 };
@@ -149,7 +147,7 @@ TEST_F(AudioTrimmerTest, DoneExportsTwiceAndClosesEachTime) {
     EXPECT_EQ(closings, std::vector<std::string>(3, std::string("1 ") + kOutput));
     EXPECT_EQ(dataUpdated, 3);
     EXPECT_TRUE(exists(kOutput));
-    QFile original(QFile::decodeName(path));
+    QFile original(path);
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     EXPECT_EQ(original.readAll(), "original");
     EXPECT_TRUE(isGone());
@@ -199,7 +197,7 @@ TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWas) {
 }
 
 TEST_F(AudioTrimmerTest, WhatCannotBeReadIsNotTrimmed) {
-    container.addDocument(QStringLiteral("text.txt"), "text");
+    container.addDocument("text.txt", "text");
     AudioTrimmerViewController& screen = open("text.txt");
     EXPECT_FALSE(screen.problem().isEmpty());
     screen.btnPlayPauseTapped();
@@ -211,7 +209,7 @@ TEST_F(AudioTrimmerTest, WhatCannotBeReadIsNotTrimmed) {
 }
 
 TEST_F(AudioTrimmerTest, RecordsIntoItsScratchFiles) {
-    container.addDocument(QStringLiteral("originalRecording.wav"), "old");
+    container.addDocument("originalRecording.wav", "old");
     AudioTrimmerViewController& screen = open();
     session.categoryResult = failure(QStringLiteral("no server"));
     screen.btnStartRecordingTapped();
@@ -224,7 +222,7 @@ TEST_F(AudioTrimmerTest, RecordsIntoItsScratchFiles) {
     runLoop.drain();
     EXPECT_EQ(screen.selection()->times(), (TrimTimes{0.0, 5.0}));
 
-    ASSERT_TRUE(QFile::remove(container.documentsPath() + QStringLiteral("/recording.wav")));
+    ASSERT_TRUE(std::filesystem::remove(container.documentsPath() / "recording.wav"));
     drag(screen, true, 30.0);
     screen.btnResetTapped();
     runLoop.drain();

@@ -47,12 +47,12 @@ private:
 EZAudioFile::EZAudioFile(const Services& services)
     : m_services(services), m_waveformQueue("com.ezaudio.waveformQueue", services.queues) {}
 
-std::shared_ptr<EZAudioFile> EZAudioFile::audioFileWithURL(const std::string& url, const Services& services,
+std::shared_ptr<EZAudioFile> EZAudioFile::audioFileWithURL(const std::filesystem::path& url, const Services& services,
                                                            std::weak_ptr<EZAudioFileDelegate> delegate) {
     return audioFileWithURL(url, services, std::move(delegate), defaultClientFormat());
 }
 
-std::shared_ptr<EZAudioFile> EZAudioFile::audioFileWithURL(const std::string& url, const Services& services,
+std::shared_ptr<EZAudioFile> EZAudioFile::audioFileWithURL(const std::filesystem::path& url, const Services& services,
                                                            std::weak_ptr<EZAudioFileDelegate> delegate,
                                                            const AudioStreamBasicDescription& clientFormat) {
     std::shared_ptr<EZAudioFile> file(new EZAudioFile(services));
@@ -69,7 +69,7 @@ AudioStatus EZAudioFile::onFile(const Call& call) const {
     return m_info->extAudioFile ? call(*m_info->extAudioFile) : kAudioParameterError;
 }
 
-bool EZAudioFile::open(const std::string& url) {
+bool EZAudioFile::open(const std::filesystem::path& url) {
     m_info->sourceURL = url;
     const AudioStatus status = m_services.files.open(url, m_info->extAudioFile);
     if (status == kAudioFileFileNotFoundError) {
@@ -125,9 +125,10 @@ std::string EZAudioFile::description() const {
     char numbers[128];
     std::snprintf(numbers, sizeof numbers, "    duration: %f,\n    totalFrames: %lld,\n", duration(),
                   static_cast<long long>(totalFrames()));
-    return "EZAudioFile {\n    url: " + url() + ",\n" + numbers + "    metadata: " + entries + ",\n    fileFormat: { " +
-           EZAudioUtilities::stringForAudioStreamBasicDescription(fileFormat()) + " },\n    clientFormat: { " +
-           EZAudioUtilities::stringForAudioStreamBasicDescription(clientFormat()) + " } \n}";
+    return "EZAudioFile {\n    url: " + url().native() + ",\n" + numbers + "    metadata: " + entries +
+           ",\n    fileFormat: { " + EZAudioUtilities::stringForAudioStreamBasicDescription(fileFormat()) +
+           " },\n    clientFormat: { " + EZAudioUtilities::stringForAudioStreamBasicDescription(clientFormat()) +
+           " } \n}";
 }
 
 void EZAudioFile::readFrames(std::uint32_t frames, AudioBufferList* audioBufferList, std::uint32_t* bufferSize,

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -32,9 +33,9 @@ public:
     using WaveformCompletion = std::function<void(float** waveformData, int length)>;
 
     /// Null when there is no file at that path.
-    static std::shared_ptr<EZAudioFile> audioFileWithURL(const std::string& url, const Services& services,
+    static std::shared_ptr<EZAudioFile> audioFileWithURL(const std::filesystem::path& url, const Services& services,
                                                          std::weak_ptr<EZAudioFileDelegate> delegate = {});
-    static std::shared_ptr<EZAudioFile> audioFileWithURL(const std::string& url, const Services& services,
+    static std::shared_ptr<EZAudioFile> audioFileWithURL(const std::filesystem::path& url, const Services& services,
                                                          std::weak_ptr<EZAudioFileDelegate> delegate,
                                                          const AudioStreamBasicDescription& clientFormat);
     EZAudioFile(const EZAudioFile&) = delete;
@@ -51,7 +52,7 @@ public:
     const AudioStreamBasicDescription& clientFormat() const { return m_info->clientFormat; }
     void setClientFormat(const AudioStreamBasicDescription& clientFormat);
     const AudioStreamBasicDescription& fileFormat() const { return m_info->fileFormat; }
-    const std::string& url() const { return m_info->sourceURL; }
+    const std::filesystem::path& url() const { return m_info->sourceURL; }
     AudioFileInfo metadata() const;
     std::string description() const;
 
@@ -90,13 +91,13 @@ private:
         std::unique_ptr<ExtAudioFile> extAudioFile;
         AudioStreamBasicDescription fileFormat;
         std::int64_t totalFrames = 0;
-        std::string sourceURL;
+        std::filesystem::path sourceURL;
     };
     class TriedLock;
 
     explicit EZAudioFile(const Services& services);
 
-    bool open(const std::string& url);
+    bool open(const std::filesystem::path& url);
     /// What a call on the open file answers; kAudioParameterError where none is open.
     template <class Call>
     AudioStatus onFile(const Call& call) const;

@@ -65,8 +65,8 @@ Result<void> Output::open(const ExportJob& job, const AVStream& source) {
     m_container.reset(container);
     AVIOContext* io = nullptr;
     // With its protocol, so that no name is taken for an address.
-    const QByteArray url = "file:" + job.file.temporaryPath();
-    int code = container != nullptr ? avio_open(&io, url.constData(), AVIO_FLAG_WRITE) : AVERROR(ENOMEM);
+    const std::string url = "file:" + job.file.temporaryPath().native();
+    int code = container != nullptr ? avio_open(&io, url.c_str(), AVIO_FLAG_WRITE) : AVERROR(ENOMEM);
     m_io.reset(io);
     AVStream* stream = code >= 0 ? avformat_new_stream(container, nullptr) : nullptr;
     if (stream == nullptr) {

@@ -47,68 +47,69 @@ int renameExclusively(const char* from, const char* to) {
     if (errno == EEXIST) {
         return errno;
     }
-    const FileDescriptor reserved = FileDescriptor::open(std::string(to), O_WRONLY | O_CREAT | O_EXCL, 0600);
+    const FileDescriptor reserved = FileDescriptor::open(to, O_WRONLY | O_CREAT | O_EXCL, 0600);
     return reserved.isValid() && ::rename(from, to) == 0 ? 0 : errno;
 }
 
 /// Where files are made that shall have that path: beside it, or in the folder there that no list shows.
-QByteArray workFolderOf(const QByteArray& path) {
-    const QByteArray folder = path.left(path.lastIndexOf('/') + 1);
-    const QByteArray hidden = folder + "PrivateInbox/";
+std::filesystem::path workFolderOf(const std::filesystem::path& path) {
+    const std::filesystem::path folder = path.parent_path();
+    const std::filesystem::path hidden = folder / "PrivateInbox";
     struct stat status = {};
-    return ::stat(hidden.constData(), &status) == 0 && S_ISDIR(status.st_mode) ? hidden : folder;
+    return ::stat(hidden.c_str(), &status) == 0 && S_ISDIR(status.st_mode) ? hidden : folder;
 }
 
 /// Removes what exports have left that were killed: nobody has written to it for a while.
-void removeLeftovers(const QByteArray& folder) {
+void removeLeftovers(const std::filesystem::path& folder) {
     constexpr std::time_t kWhile = 3600;
     struct Closer {
         void operator()(DIR* directory) const { ::closedir(directory); }
     };
-    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.isEmpty() ? "." : folder.constData()));
+    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.empty() ? "." : folder.c_str()));
     // No other thread reads this stream, which is all that readdir(3) asks for.
     while (const dirent* item = directory ? ::readdir(directory.get()) : nullptr) {  // NOLINT(concurrency-mt-unsafe)
         struct stat status = {};
-        const QByteArray path = folder + item->d_name;
-        if (QByteArray(item->d_name).startsWith(kPrefix) && ::lstat(path.constData(), &status) == 0 &&
+        const std::filesystem::path path = folder / item->d_name;
+        if (std::string_view(item->d_name).starts_with(kPrefix) && ::lstat(path.c_str(), &status) == 0 &&
             S_ISREG(status.st_mode) && std::time(nullptr) - status.st_mtim.tv_sec > kWhile) {
-            ::unlink(path.constData());
+            ::unlink(path.c_str());
         }
     }
 }
 
 }  // namespace
 
-Result<std::unique_ptr<ExportFile>> ExportFile::create(const QByteArray& path) {
+Result<std::unique_ptr<ExportFile>> ExportFile::create(const std::filesystem::path& path) {
     struct stat status = {};
-    if (path.isEmpty() || path.contains('\0')) {
+    if (path.empty() || path.native().find('\0') != std::string::npos) {
         return failure(QStringLiteral("There is no name for the new file."));
     }
-    if (::lstat(path.constData(), &status) == 0) {
+    if (::lstat(path.c_str(), &status) == 0) {
         return failure(QStringLiteral("There is a file of that name already."));
     }
-    const QByteArray folder = workFolderOf(path);
+    const std::filesystem::path folder = workFolderOf(path);
     removeLeftovers(folder);
-    const QByteArray temporary = folder + kPrefix + QUuid::createUuid().toByteArray(QUuid::Id128) + ".m4a";
-    FileDescriptor file = FileDescriptor::open(temporary.toStdString(), O_RDWR | O_CREAT | O_EXCL, 0666);
+    const std::filesystem::path temporary =
+        folder / (kPrefix + QUuid::createUuid().toByteArray(QUuid::Id128) + ".m4a").toStdString();
+    FileDescriptor file = FileDescriptor::open(temporary, O_RDWR | O_CREAT | O_EXCL, 0666);
     if (!file.isValid()) {
         return failure(reason(errno));
     }
     return std::unique_ptr<ExportFile>(new ExportFile(std::move(file), temporary, path));
 }
 
-ExportFile::ExportFile(FileDescriptor file, QByteArray temporary, QByteArray path)
+ExportFile::ExportFile(FileDescriptor file, std::filesystem::path temporary, std::filesystem::path path)
     : m_file(std::move(file)), m_temporary(std::move(temporary)), m_path(std::move(path)) {}
 
 ExportFile::~ExportFile() {
-    if (!m_temporary.isEmpty()) {
-        ::unlink(m_temporary.constData());
+    if (!m_temporary.empty()) {
+        ::unlink(m_temporary.c_str());
     }
 }
 
 void ExportFile::discard() {
     m_file.reset();
-    ::unlink(m_temporary.constData());
+    ::unlink(m_temporary.c_str());
 }
 
 void ExportFile::fail(const QString& text) {
@@ -233,7 +234,7 @@ Result<void> ExportFile::result() const {
 Result<void> ExportFile::publish(const ExportControl& control) {
     flush();
     if (!m_file.isValid()) {
-        m_file = FileDescriptor::open(m_temporary.toStdString(), O_RDWR);
+        m_file = FileDescriptor::open(m_temporary, O_RDWR);
     }
     if (m_failure.isEmpty() && (!m_file.isValid() || ::fsync(m_file.get()) != 0)) {
         fail(reason(errno));
@@ -244,14 +245,13 @@ Result<void> ExportFile::publish(const ExportControl& control) {
     if (!m_failure.isEmpty()) {
         return failure(m_failure);
     }
-    if (const int error = renameExclusively(m_temporary.constData(), m_path.constData()); error != 0) {
+    if (const int error = renameExclusively(m_temporary.c_str(), m_path.c_str()); error != 0) {
         return failure(error == EEXIST ? QStringLiteral("There is a file of that name already.") : reason(error));
     }
     m_temporary.clear();
     // The name, too. Where that cannot be done the file is whole all the same.
-    const std::string folder = m_path.left(m_path.lastIndexOf('/') + 1).toStdString();
     const FileDescriptor entry =
-        FileDescriptor::open(folder.empty() ? std::string(".") : folder, O_RDONLY | O_DIRECTORY);
+        FileDescriptor::open(m_path.has_parent_path() ? m_path.parent_path() : ".", O_RDONLY | O_DIRECTORY);
     if (entry.isValid()) {
         ::fsync(entry.get());
     }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QByteArray>
 #include <atomic>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <span>
 #include <vector>
@@ -31,13 +31,13 @@ private:
 class ExportFile {
 public:
     /// Fails when there is a file of the final name already.
-    static Result<std::unique_ptr<ExportFile>> create(const QByteArray& path);
+    static Result<std::unique_ptr<ExportFile>> create(const std::filesystem::path& path);
     ~ExportFile();
     ExportFile(const ExportFile&) = delete;
     ExportFile& operator=(const ExportFile&) = delete;
 
     /// The name for now, which ends in ".m4a". Someone else may make the file of that name anew after discard().
-    const QByteArray& temporaryPath() const { return m_temporary; }
+    const std::filesystem::path& temporaryPath() const { return m_temporary; }
     /// Removes the empty file, so that another writer can make it; publish() takes what is there then.
     void discard();
     int fd() const { return m_file.get(); }
@@ -66,7 +66,7 @@ private:
         std::int64_t size = 0;
     };
 
-    ExportFile(FileDescriptor file, QByteArray temporary, QByteArray path);
+    ExportFile(FileDescriptor file, std::filesystem::path temporary, std::filesystem::path path);
 
     void fail(const QString& text);
     /// What is gathered through one read and one gathering write.
@@ -75,8 +75,8 @@ private:
     void advance(std::int64_t bytes);
 
     FileDescriptor m_file;
-    QByteArray m_temporary;
-    QByteArray m_path;
+    std::filesystem::path m_temporary;
+    std::filesystem::path m_path;
     std::int64_t m_size = 0;
     int m_source = -1;
     std::vector<Piece> m_pieces;

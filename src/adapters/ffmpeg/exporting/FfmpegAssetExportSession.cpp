@@ -90,7 +90,7 @@ Result<void> FfmpegAssetExportSession::run(const Order& order, ExportControl& co
         return failure(QStringLiteral("There is no sound in the selection."));
     }
     // Not blocking, as a pipe of that name would.
-    const FileDescriptor source = FileDescriptor::open(asset.path.toStdString(), O_RDONLY | O_NONBLOCK);
+    const FileDescriptor source = FileDescriptor::open(asset.path, O_RDONLY | O_NONBLOCK);
     if (!source.isValid() || regularFileSize(source.get()) < 0) {
         return failure(QStringLiteral("The sound file could not be opened: ") +
                        QString::fromStdString(std::generic_category().message(source.isValid() ? EINVAL : errno)));

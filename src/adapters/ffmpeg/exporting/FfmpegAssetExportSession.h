@@ -1,6 +1,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <filesystem>
 #include <list>
 #include <mutex>
 #include <optional>
@@ -28,7 +29,7 @@ class FfmpegAssetExportSession : public AssetExportSession {
 public:
     FfmpegAssetExportSession(const Asset& asset, AssetExportPreset preset, std::shared_ptr<ExportThreads> threads);
 
-    void setOutputURL(const QByteArray& path) override { m_order.outputURL = path; }
+    void setOutputURL(const std::filesystem::path& path) override { m_order.outputURL = path; }
     void setOutputFileType(AssetFileType type) override { m_order.type = type; }
     void setTimeRange(const AssetTimeRange& range) override { m_order.range = range; }
     void setAudioMix(const AssetAudioMix& mix) override { m_order.mix = mix; }
@@ -44,7 +45,7 @@ private:
     struct Order {
         Asset asset;
         AssetExportPreset preset = AssetExportPreset::Passthrough;
-        QByteArray outputURL;
+        std::filesystem::path outputURL;
         std::optional<AssetFileType> type;
         std::optional<AssetTimeRange> range;
         AssetAudioMix mix;

@@ -18,8 +18,8 @@ namespace {
 
 /// From the header alone, where it tells all and the last packet is there: opening a decoder for hours of sound takes
 /// longer than copying them.
-std::optional<Asset> assetOfHeader(const QByteArray& path) {
-    const FileDescriptor file = FileDescriptor::open(path.toStdString(), O_RDONLY | O_NONBLOCK);
+std::optional<Asset> assetOfHeader(const std::filesystem::path& path) {
+    const FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK);
     const std::int64_t size = file.isValid() ? regularFileSize(file.get()) : -1;
     const auto sound = size > 0 ? Mp4Sound::open(file.get()) : std::nullopt;
     const auto format = sound ? sound->format() : std::nullopt;
@@ -46,7 +46,7 @@ FfmpegAssets::~FfmpegAssets() {
     m_threads->cancelAndWait();
 }
 
-Asset FfmpegAssets::assetWithURL(const QByteArray& path) {
+Asset FfmpegAssets::assetWithURL(const std::filesystem::path& path) {
     if (auto asset = assetOfHeader(path)) {
         return *asset;
     }
@@ -54,8 +54,8 @@ Asset FfmpegAssets::assetWithURL(const QByteArray& path) {
     std::unique_ptr<ExtAudioFile> file;
     AudioStreamBasicDescription format;
     std::int64_t frames = 0;
-    if (FfmpegExtAudioFiles().open(path.toStdString(), file) == kAudioNoError &&
-        file->fileDataFormat(format) == kAudioNoError && file->fileLengthFrames(frames) == kAudioNoError) {
+    if (FfmpegExtAudioFiles().open(path, file) == kAudioNoError && file->fileDataFormat(format) == kAudioNoError &&
+        file->fileLengthFrames(frames) == kAudioNoError) {
         asset.duration = {frames, std::max(1, static_cast<std::int32_t>(std::lround(format.sampleRate)))};
         asset.audioTracks = {{{{format}}}};
     }

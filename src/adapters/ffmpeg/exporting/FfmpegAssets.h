@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 
 #include "platform/AssetExportSession.h"
@@ -18,7 +19,7 @@ public:
     FfmpegAssets(const FfmpegAssets&) = delete;
     FfmpegAssets& operator=(const FfmpegAssets&) = delete;
 
-    Asset assetWithURL(const QByteArray& path) override;
+    Asset assetWithURL(const std::filesystem::path& path) override;
     std::vector<AssetExportPreset> exportPresetsCompatibleWithAsset(const Asset& asset) override;
     Result<std::unique_ptr<AssetExportSession>> exportSession(const Asset& asset, AssetExportPreset preset) override;
     Result<std::unique_ptr<AssetReader>> assetReader(const Asset& asset) override;

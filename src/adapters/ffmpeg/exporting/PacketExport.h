@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "adapters/ffmpeg/exporting/ExportFile.h"
 #include "platform/AssetExportSession.h"
 
@@ -9,7 +11,7 @@ namespace tavi {
 struct ExportJob {
     /// The source, open for reading.
     int source = -1;
-    QByteArray sourcePath;
+    std::filesystem::path sourcePath;
     AssetFileType type = AssetFileType::AppleM4A;
     std::int64_t start = 0;
     std::int64_t end = 0;

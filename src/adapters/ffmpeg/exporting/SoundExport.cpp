@@ -1,6 +1,5 @@
 #include "adapters/ffmpeg/exporting/SoundExport.h"
 
-#include <QFile>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -27,7 +26,7 @@ double aacRate(double rate) {
 Result<void> exportSound(const ExportJob& job) {
     std::unique_ptr<ExtAudioFile> input;
     AudioStreamBasicDescription format;
-    if (FfmpegExtAudioFiles().open(job.sourcePath.toStdString(), input) != kAudioNoError ||
+    if (FfmpegExtAudioFiles().open(job.sourcePath, input) != kAudioNoError ||
         input->fileDataFormat(format) != kAudioNoError) {
         return failure(QStringLiteral("The sound file could not be read."));
     }
@@ -48,7 +47,7 @@ Result<void> exportSound(const ExportJob& job) {
     settings.numberOfChannels = static_cast<int>(client.channelsPerFrame);
     settings.encoderAudioQuality = 127;
     job.file.discard();
-    auto writer = FfmpegAudioFileWriters().create(QFile::decodeName(job.file.temporaryPath()), settings);
+    auto writer = FfmpegAudioFileWriters().create(job.file.temporaryPath(), settings);
     if (!writer) {
         return tl::unexpected(writer.error());
     }

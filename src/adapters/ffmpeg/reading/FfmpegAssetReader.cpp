@@ -38,7 +38,7 @@ void read(ExtAudioFile& file, std::uint32_t channels, std::size_t frames, std::v
 
 bool FfmpegAssetReader::open(Decoder& decoder) {
     AudioStreamBasicDescription format;
-    if (FfmpegExtAudioFiles().open(m_asset.path.toStdString(), decoder.file) != kAudioNoError ||
+    if (FfmpegExtAudioFiles().open(m_asset.path, decoder.file) != kAudioNoError ||
         decoder.file->fileDataFormat(format) != kAudioNoError || format.channelsPerFrame > kMaximumChannels ||
         decoder.file->setClientDataFormat(clientFormat(format)) != kAudioNoError) {
         return false;

@@ -29,7 +29,7 @@ double libraryDuration(int fd) {
 
 }  // namespace
 
-double FfmpegAudioDuration::durationOfFile(const QString& path) const {
+double FfmpegAudioDuration::durationOfFile(const std::filesystem::path& path) const {
     // Not blocking, as a pipe of that name would.
     const FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK);
     if (!file.isValid() || regularFileSize(file.get()) <= 0) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "platform/AudioDuration.h"
 
 namespace tavi {
@@ -7,7 +9,7 @@ namespace tavi {
 /// Reads the headers of the kinds that are recorded, and asks libavformat about other sound files. Prints nothing.
 class FfmpegAudioDuration : public AudioDuration {
 public:
-    double durationOfFile(const QString& path) const override;
+    double durationOfFile(const std::filesystem::path& path) const override;
 };
 
 }  // namespace tavi

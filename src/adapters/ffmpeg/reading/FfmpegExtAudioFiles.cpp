@@ -29,9 +29,9 @@ AudioStatus statusOf(int error) {
 
 }  // namespace
 
-AudioStatus FfmpegExtAudioFiles::open(const std::string& path, std::unique_ptr<ExtAudioFile>& file) {
+AudioStatus FfmpegExtAudioFiles::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) {
     file.reset();
-    if (path.find('\0') != std::string::npos) {
+    if (path.native().find('\0') != std::string::npos) {
         return kAudioFileFileNotFoundError;
     }
     // Not blocking, as a pipe of that name would.

@@ -6,7 +6,6 @@ extern "C" {
 #include <libavutil/samplefmt.h>
 }
 
-#include <QFile>
 #include <algorithm>
 #include <numeric>
 #include <string_view>
@@ -23,7 +22,8 @@ constexpr int kIoBufferBytes = 64 * 1024;
 /// Frames in one encoder frame where the codec takes any number.
 constexpr int kFreeFrameSize = 4096;
 
-// Errors stay in the file and never reach FFmpeg, which would drop every later write. From FFmpeg 7 on the bytes are const.
+// Errors stay in the file and never reach FFmpeg, which would drop every later write. From FFmpeg 7 on the bytes are
+// const.
 template <typename Byte>
 int writeToFile(void* opaque, Byte* data, int size) {
     static_cast<RecordingFile*>(opaque)->write(data, static_cast<std::size_t>(size));
@@ -57,7 +57,7 @@ tl::unexpected<Error> avFailure(const QString& what, int code) {
 
 }  // namespace
 
-Result<std::unique_ptr<AudioFileWriter>> FfmpegAudioFileWriters::create(const QString& path,
+Result<std::unique_ptr<AudioFileWriter>> FfmpegAudioFileWriters::create(const std::filesystem::path& path,
                                                                         const AudioRecordSettings& settings) {
     av_log_set_level(AV_LOG_QUIET);
     const Result<RecordingFormat> format = recordingFormat(path, settings);
@@ -70,7 +70,7 @@ Result<std::unique_ptr<AudioFileWriter>> FfmpegAudioFileWriters::create(const QS
     }
     Result<std::unique_ptr<AudioFileWriter>> writer = FfmpegAudioFileWriter::create(std::move(*file), *format);
     if (!writer) {
-        QFile::remove(path);
+        ::unlink(path.c_str());
     }
     return writer;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "files/PositionedIo.h"
 #include "platform/AudioFileWriter.h"
 
@@ -17,7 +19,8 @@ public:
     explicit FfmpegAudioFileWriters(PwriteFunction pwrite = systemPwrite()) : m_pwrite(std::move(pwrite)) {}
 
     /// Creates the file, the encoder and what stands before the first sound.
-    Result<std::unique_ptr<AudioFileWriter>> create(const QString& path, const AudioRecordSettings& settings) override;
+    Result<std::unique_ptr<AudioFileWriter>> create(const std::filesystem::path& path,
+                                                    const AudioRecordSettings& settings) override;
 
 private:
     PwriteFunction m_pwrite;

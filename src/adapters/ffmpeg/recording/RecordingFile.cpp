@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
@@ -23,7 +22,7 @@ bool isDiskFull(int error) {
 
 }  // namespace
 
-Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const QString& path, PwriteFunction pwrite) {
+Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const std::filesystem::path& path, PwriteFunction pwrite) {
     FileDescriptor file = FileDescriptor::open(path, O_RDWR | O_CREAT | O_EXCL, 0666);
     if (!file.isValid()) {
         return failure(isDiskFull(errno) ? QString::fromStdString(writeErrorText(errno))
@@ -31,10 +30,10 @@ Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const QString& path
                                                QString::fromStdString(std::generic_category().message(errno)));
     }
     return std::unique_ptr<RecordingFile>(
-        new RecordingFile(std::move(file), QFileInfo(path).absolutePath(), std::move(pwrite)));
+        new RecordingFile(std::move(file), path.has_parent_path() ? path.parent_path() : ".", std::move(pwrite)));
 }
 
-RecordingFile::RecordingFile(FileDescriptor file, QString folder, PwriteFunction pwrite)
+RecordingFile::RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite)
     : m_file(std::move(file)), m_folder(std::move(folder)), m_pwrite(std::move(pwrite)) {
     makeReserve();
 }

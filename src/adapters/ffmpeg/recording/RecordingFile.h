@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 
 #include "files/PositionedIo.h"
@@ -21,7 +21,8 @@ namespace tavi {
 class RecordingFile {
 public:
     /// Makes a file that must not exist yet.
-    static Result<std::unique_ptr<RecordingFile>> create(const QString& path, PwriteFunction pwrite = systemPwrite());
+    static Result<std::unique_ptr<RecordingFile>> create(const std::filesystem::path& path,
+                                                         PwriteFunction pwrite = systemPwrite());
 
     /// Writes at the position and moves it on by size in any case.
     void write(const void* data, std::size_t size);
@@ -45,13 +46,13 @@ public:
     int sync();
 
 private:
-    RecordingFile(FileDescriptor file, QString folder, PwriteFunction pwrite);
+    RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite);
 
     void makeReserve();
 
     FileDescriptor m_file;
     FileDescriptor m_reserve;
-    QString m_folder;
+    std::filesystem::path m_folder;
     PwriteFunction m_pwrite;
     std::int64_t m_position = 0;
     std::int64_t m_size = 0;

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "files/PathText.h"
+
 namespace tavi {
 
 namespace {
@@ -32,7 +34,7 @@ const Quality& qualityFor(int value) {
 
 }  // namespace
 
-Result<RecordingFormat> recordingFormat(const QString& path, const AudioRecordSettings& settings) {
+Result<RecordingFormat> recordingFormat(const std::filesystem::path& path, const AudioRecordSettings& settings) {
     RecordingFormat format;
     const bool isRateUsable = settings.sampleRate >= 8000 && settings.sampleRate <= 96000 &&
                               settings.sampleRate == std::floor(settings.sampleRate);
@@ -76,7 +78,7 @@ Result<RecordingFormat> recordingFormat(const QString& path, const AudioRecordSe
             const Quality& quality = qualityFor(settings.encoderAudioQuality);
             format.codec = AV_CODEC_ID_AAC;
             format.sampleFormat = AV_SAMPLE_FMT_FLTP;
-            format.isFragmented = !path.endsWith(QLatin1String(".aac"), Qt::CaseInsensitive);
+            format.isFragmented = !pathText(path).endsWith(QLatin1String(".aac"), Qt::CaseInsensitive);
             format.muxer = format.isFragmented ? "mp4" : "adts";
             format.bitRate = std::min(quality.bitRatePerChannel, std::int64_t{6} * format.sampleRate) * format.channels;
             format.aacCoder = quality.aacCoder;

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <filesystem>
 
 #include "adapters/ffmpeg/AvHandles.h"
 #include "platform/AudioRecorder.h"
@@ -48,6 +49,6 @@ struct RecordingFormat {
 };
 
 /// Fails when the settings name nothing that can be written.
-Result<RecordingFormat> recordingFormat(const QString& path, const AudioRecordSettings& settings);
+Result<RecordingFormat> recordingFormat(const std::filesystem::path& path, const AudioRecordSettings& settings);
 
 }  // namespace tavi

@@ -22,7 +22,7 @@ std::string meaning(const char* line) {
     if (!parsed) {
         return "! " + parsed.error().text.toStdString();
     }
-    const std::string where = parsed->container.isEmpty() ? "" : "[" + parsed->container.toStdString() + "] ";
+    const std::string where = parsed->container.empty() ? "" : "[" + parsed->container.native() + "] ";
     if (const auto* request = std::get_if<ProgramRequest>(&parsed->command)) {
         const QStringList asked = QStringList{request->shortcutType} + QUrl::toStringList(request->urls);
         return where + asked.join(QLatin1Char(' ')).trimmed().toStdString();

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -44,15 +43,15 @@ protected:
     }
 
     /// A sound file, for whoever opens it: the samples at 10 Hz.
-    std::string addSound(const QString& name, const std::vector<std::vector<float>>& planes) {
-        const QByteArray path = QFile::encodeName(container.addDocument(name, "sound"));
+    QByteArray addSound(const char* name, const std::vector<std::vector<float>>& planes) {
+        const std::filesystem::path path = container.addDocument(name, "sound");
         const auto sound = std::make_shared<FakeSound>();
         sound->rate = 10.0;
         sound->planes = planes;
-        files.sounds[path.toStdString()] = sound;
+        files.sounds[path] = sound;
         const auto frames = static_cast<std::int64_t>(planes.empty() ? 0 : planes[0].size());
-        assets.files[QFile::encodeName(name)] = {{frames, 10}, 2, {}};
-        return path.toStdString();
+        assets.files[name] = {{frames, 10}, 2, {}};
+        return QByteArray::fromStdString(path.native());
     }
 
     FakeUserDefaults shared;
@@ -116,14 +115,14 @@ TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
 }
 
 TEST_F(CommandsTest, ListsTheRecordingsInTheOrderThatIsSet) {
-    container.addDocument(QStringLiteral("b.wav"), QByteArray(2048, 'x'));
-    container.addDocument(QStringLiteral("a\nc\t\x1b.m4a"), QByteArray(3 << 20, 'x'));
-    for (const QString& name : QDir(container.documentsPath()).entryList(QDir::Files)) {
-        QFile file(container.documentsPath() + QLatin1Char('/') + name);
+    container.addDocument("b.wav", QByteArray(2048, 'x'));
+    container.addDocument("a\nc\t\x1b.m4a", QByteArray(3 << 20, 'x'));
+    for (const auto& entry : std::filesystem::directory_iterator(container.documentsPath())) {
+        QFile file(entry.path());
         ASSERT_TRUE(file.open(QIODevice::ReadWrite) &&
                     file.setFileTime(runLoop.clock().now(), QFileDevice::FileModificationTime));
     }
-    durations.seconds[QStringLiteral("b.wav")] = 3725.0;
+    durations.seconds["b.wav"] = 3725.0;
     const std::string a = "a?c??.m4a\t3.0 MB\t00:00\t05 Mar,2024 | 02:03 PM\n";
     const std::string b = "b.wav\t2 KB\t62:05\t05 Mar,2024 | 02:03 PM\n";
     expectSaid({{"list", b + a}, {"set|Sort|2", ""}, {"list", a + b}});
@@ -136,14 +135,14 @@ TEST_F(CommandsTest, ListsTheRecordingsInTheOrderThatIsSet) {
 }
 
 TEST_F(CommandsTest, PrintsOrDrawsAWaveform) {
-    const std::string file = addSound(QStringLiteral("a b.wav"), {{0.5F, 0.5F, 0.25F, 0.25F}, {0, 0, 1, 1}});
-    const QByteArray wave = "waveform|" + QByteArray::fromStdString(file) + "|--points|2";
+    const QByteArray file = addSound("a b.wav", {{0.5F, 0.5F, 0.25F, 0.25F}, {0, 0, 1, 1}});
+    const QByteArray wave = "waveform|" + file + "|--points|2";
     expectSaid({{wave, "0.5\t0\n0.25\t1\n"},
                 {wave + "|--json", "{\"channels\":2,\"points\":2,\"data\":[[0.5,0.25],[0,1]]}\n"}});
-    const QByteArray picture = QFile::encodeName(container.root()) + "/wave.png";
+    const QByteArray picture = QByteArray::fromStdString(container.root() / "wave.png");
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(tavi(wave + "|--png|" + picture), "");
-        QFile drawn(QFile::decodeName(picture));
+        QFile drawn(container.root() / "wave.png");
         ASSERT_TRUE(drawn.open(QIODevice::ReadOnly));
         EXPECT_TRUE(drawn.readAll().startsWith("\x89PNG"));
     }
@@ -152,8 +151,8 @@ TEST_F(CommandsTest, PrintsOrDrawsAWaveform) {
 }
 
 TEST_F(CommandsTest, SaysWhyASoundFileCannotBeUsed) {
-    const QByteArray noSound = QByteArray::fromStdString(addSound(QStringLiteral("text"), {}));
-    const QByteArray empty = QByteArray::fromStdString(addSound(QStringLiteral("empty"), {{}}));
+    const QByteArray noSound = addSound("text", {});
+    const QByteArray empty = addSound("empty", {{}});
     for (const QByteArray& command : {QByteArray("waveform|"), QByteArray("trim|--from|0|--to|1|")}) {
         EXPECT_EQ(tavi(command + "/absent"), "! /absent: there is no such file");
         EXPECT_EQ(tavi(command + noSound), "! " + noSound.toStdString() + ": it is no sound file that can be read");
@@ -164,9 +163,8 @@ TEST_F(CommandsTest, SaysWhyASoundFileCannotBeUsed) {
 }
 
 TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
-    const QByteArray file = QByteArray::fromStdString(addSound(QStringLiteral("talk.WAV"), {std::vector(50, 0.5F)}));
-    const QByteArray folder = QFile::encodeName(container.documentsPath());
-    const std::string first = (folder + "/Trim_2024_Mar_05_14_03_59").toStdString();
+    const QByteArray file = addSound("talk.WAV", {std::vector(50, 0.5F)});
+    const std::string first = container.documentsPath() / "Trim_2024_Mar_05_14_03_59";
     const std::string why = "! " + file.toStdString() + ": ";
     expectSaid({{"trim|" + file + "|--from|0.5|--to|2", first + ".WAV\n"},
                 {"trim|--from=4.5|--to=1e9|" + file, first + "_2.WAV\n"},

@@ -16,14 +16,14 @@ TEST(UtilityTest, sizesTurnIntoMegabytesAtExactlyOne) {
         const char* size;
     } rows[] = {{512, "0 KB", "0.000488"}, {1048575, "1024 KB", "0.999999"}, {1048576, "1.0 MB", "1.000000"}};
     for (const auto& row : rows) {
-        const QString path = container.addDocument(QStringLiteral("a"), {});
-        ASSERT_TRUE(QFile::resize(path, row.bytes));
+        const auto path = container.addDocument("a", {});
+        std::filesystem::resize_file(path, row.bytes);
         const double megabytes = Utility::getFileSize(path);
         EXPECT_EQ(Utility::displaySize(megabytes), QLatin1String(row.text)) << row.bytes;
         EXPECT_EQ(Utility::fixed(megabytes, 6), QLatin1String(row.size)) << row.bytes;
     }
-    EXPECT_EQ(Utility::getFileSize(container.root() + QStringLiteral("/none")), 0.0);
-    EXPECT_FALSE(Utility::getFileModificationDate(container.root() + QStringLiteral("/none")).isValid());
+    EXPECT_EQ(Utility::getFileSize(container.root() / "none"), 0.0);
+    EXPECT_FALSE(Utility::getFileModificationDate(container.root() / "none").isValid());
 }
 
 TEST(UtilityTest, datesReadAsTheLocaleSpellsThem) {

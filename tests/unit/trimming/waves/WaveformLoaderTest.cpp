@@ -18,14 +18,14 @@ using ::testing::SizeIs;
 class WaveformLoaderTest : public ::testing::Test {
 protected:
     /// A file of a level in its first channel, and of another in its second.
-    QByteArray add(const QByteArray& name, float level, std::size_t frames = 10'240) {
-        const QByteArray path = container.addDocument(QString::fromUtf8(name), name).toUtf8();
+    std::filesystem::path add(const char* name, float level, std::size_t frames = 10'240) {
+        const std::filesystem::path path = container.addDocument(name, name);
         const auto sound = std::make_shared<FakeSound>();
         sound->planes = {std::vector<float>(frames, level), std::vector<float>(frames, 0.9F)};
-        files.sounds[path.toStdString()] = sound;
+        files.sounds[path] = sound;
         return path;
     }
-    void load(const QByteArray& path) {
+    void load(const std::filesystem::path& path) {
         loader.load(path, [this](const std::vector<float>& points) { loaded.push_back(points); });
     }
 
@@ -43,7 +43,7 @@ TEST_F(WaveformLoaderTest, GivesThePointsOfTheFirstChannel) {
     runLoop.drain();
     load(add("short", 0.25F, 700));
     runLoop.drain();
-    load(container.addDocument(QStringLiteral("text"), "text").toUtf8());
+    load(container.addDocument("text", "text"));
     runLoop.drain();
     ASSERT_THAT(loaded, ElementsAre(SizeIs(1024), SizeIs(1024), SizeIs(0)));
     EXPECT_THAT(loaded[0], Each(FloatEq(0.25F)));
@@ -51,8 +51,8 @@ TEST_F(WaveformLoaderTest, GivesThePointsOfTheFirstChannel) {
 }
 
 TEST_F(WaveformLoaderTest, RemembersTheLastFilesUntilTheyChange) {
-    const QByteArray a = add("a", 0.1F);
-    const auto opens = [&](const QByteArray& path) {
+    const auto a = add("a", 0.1F);
+    const auto opens = [&](const std::filesystem::path& path) {
         const int before = files.opened;
         load(path);
         runLoop.drain();
@@ -60,26 +60,26 @@ TEST_F(WaveformLoaderTest, RemembersTheLastFilesUntilTheyChange) {
     };
     EXPECT_TRUE(opens(a));
     for (int i = 0; i < 7; ++i) {
-        EXPECT_TRUE(opens(add(QByteArray::number(i), 0.2F)));
+        EXPECT_TRUE(opens(add(std::to_string(i).c_str(), 0.2F)));
     }
     EXPECT_FALSE(opens(a));
     EXPECT_THAT(loaded.back(), Each(FloatEq(0.1F)));
     EXPECT_TRUE(opens(add("9", 0.2F)));
     EXPECT_FALSE(opens(a)) << "asked for again meanwhile";
     EXPECT_TRUE(opens(add("0", 0.2F))) << "forgotten";
-    container.addDocument(QStringLiteral("a"), "changed");
+    container.addDocument("a", "changed");
     EXPECT_TRUE(opens(a));
 }
 
 TEST_F(WaveformLoaderTest, WhatNobodyWaitsForEndsSoonAndTellsNobody) {
-    const QByteArray known = add("known", 0.1F);
+    const auto known = add("known", 0.1F);
     load(known);
     runLoop.drain();
     loaded.clear();
     load(known);
     loader.cancel();
-    const QByteArray slow = add("slow", 0.2F);
-    files.sounds[slow.toStdString()]->onRead = [this] { loader.cancel(); };
+    const auto slow = add("slow", 0.2F);
+    files.sounds[slow]->onRead = [this] { loader.cancel(); };
     load(slow);
     runLoop.drain();
     EXPECT_TRUE(loaded.empty());
