@@ -2,10 +2,15 @@
 
 #include <QDBusConnection>
 #include <QFont>
+#include <QFontDatabase>
 #include <QGuiApplication>
+#include <QLibrary>
 #include <QLoggingCategory>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQuickWindow>
+#include <optional>
+#include <thread>
 
 #include "DisplayGuard.h"
 #include "Output.h"
@@ -43,6 +48,8 @@ namespace tavi {
 namespace {
 
 Q_LOGGING_CATEGORY(lcApp, "tavi.app", QtInfoMsg)
+
+const QString kWindow = QStringLiteral("qrc:/Tavi/Main.qml");
 
 /// What the screens work with: an adapter for each port, and the shell.
 struct Platform {
@@ -171,7 +178,6 @@ void describe(QGuiApplication& application) {
 
 /// Builds the window; null where it cannot be built. The engine owns it.
 QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
-    engine.addImportPath(QStringLiteral(":/"));
     engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&screens.recording)},
                                  {QStringLiteral("library"), QVariant::fromValue(&screens.library)},
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
@@ -179,7 +185,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
                                  {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)}});
-    engine.load(QStringLiteral("qrc:/Tavi/Main.qml"));
+    engine.load(QUrl(kWindow));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
 }
 
@@ -205,25 +211,38 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
                const AppContainer& container) {
     choosePainting();
     auto display = std::make_optional<DisplayGuard>();
+    // What takes time to load and is needed soon is loaded beside what the desktop is asked meanwhile.
+    const std::jthread controls([] { QLibrary(QStringLiteral("Qt6QuickTemplates2"), 6).load(); });
     QGuiApplication application(argc, argv);
+    const std::jthread services([] {
+        QDBusConnection::sessionBus();
+        QDBusConnection::systemBus();
+        QFontDatabase::families();
+    });
     display.reset();
     describe(application);
     const TerminationSignals signals([](int) { QCoreApplication::quit(); });
-    Platform platform(container, busName);
-    Screens screens(platform);
-    screens.delegate.applicationDidFinishLaunching({request.shortcutType});
+    // QML is read on a thread of its own while this one puts the rest together.
+    std::optional<Platform> platform;
+    std::optional<Screens> screens;
     QQmlApplicationEngine engine;
-    QQuickWindow* window = loadWindow(engine, screens);
+    engine.addImportPath(QStringLiteral(":/"));
+    const QQmlComponent reading(&engine, QUrl(kWindow), QQmlComponent::Asynchronous);
+
+    platform.emplace(container, busName);
+    screens.emplace(*platform);
+    screens->delegate.applicationDidFinishLaunching({request.shortcutType});
+    QQuickWindow* window = loadWindow(engine, *screens);
     if (window == nullptr) {
         return reportFailure({QStringLiteral("the window cannot be built")});
     }
-    connectWindow(window, screens);
-    platform.application.setDelegate(&screens.delegate);
-    platform.application.setWindow(window);
+    connectWindow(window, *screens);
+    platform->application.setDelegate(&screens->delegate);
+    platform->application.setWindow(window);
     for (const QUrl& url : request.urls) {
-        screens.delegate.applicationOpenURL(url);
+        screens->delegate.applicationOpenURL(url);
     }
-    platform.application.launchFinished();
+    platform->application.launchFinished();
     return QGuiApplication::exec();
 }
 
