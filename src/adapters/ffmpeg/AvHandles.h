@@ -3,11 +3,14 @@
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
+#include <libavutil/channel_layout.h>
+#include <libavutil/dict.h>
 #include <libavutil/frame.h>
 #include <libswresample/swresample.h>
 }
 
 #include <QString>
+#include <cstdint>
 #include <memory>
 
 namespace tavi {
@@ -42,6 +45,44 @@ struct AvOutputDeleter {
     void operator()(AVFormatContext* context) const { avformat_free_context(context); }
 };
 using AvOutput = std::unique_ptr<AVFormatContext, AvOutputDeleter>;
+
+/// A file's bytes for libavformat, through functions of the caller's; null where there is no memory. From FFmpeg 7 on
+/// the bytes that are written are const.
+template <class Read, class Write>
+AvIo makeAvIo(bool isWriting, void* opaque, Read read, Write write, std::int64_t (*seek)(void*, std::int64_t, int)) {
+    constexpr int kBufferBytes = 64 * 1024;
+    auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
+    AvIo io(buffer != nullptr ? avio_alloc_context(buffer, kBufferBytes, isWriting ? 1 : 0, opaque, read, write, seek)
+                              : nullptr);
+    if (!io) {
+        av_free(buffer);
+    }
+    return io;
+}
+
+/// Options for one of FFmpeg's functions, which takes out those that it knows.
+class AvOptions {
+public:
+    AvOptions() = default;
+    AvOptions(const AvOptions&) = delete;
+    AvOptions& operator=(const AvOptions&) = delete;
+    ~AvOptions() { av_dict_free(&m_options); }
+
+    void set(const char* name, const char* value) { av_dict_set(&m_options, name, value, 0); }
+    void set(const char* name, std::int64_t value) { av_dict_set_int(&m_options, name, value, 0); }
+    AVDictionary** get() { return &m_options; }
+
+private:
+    AVDictionary* m_options = nullptr;
+};
+
+/// Places of loudspeakers, which can hold memory.
+struct AvLayout : AVChannelLayout {
+    AvLayout() : AVChannelLayout{} {}
+    AvLayout(const AvLayout&) = delete;
+    AvLayout& operator=(const AvLayout&) = delete;
+    ~AvLayout() { av_channel_layout_uninit(this); }
+};
 
 /// FFmpeg's words for one of its error codes.
 inline QString avErrorText(int code) {

@@ -1,11 +1,8 @@
 #include "adapters/ffmpeg/converting/ChannelMatrix.h"
 
-extern "C" {
-#include <libavutil/channel_layout.h>
-#include <libswresample/swresample.h>
-}
-
 #include <bit>
+
+#include "adapters/ffmpeg/AvHandles.h"
 
 namespace tavi {
 
@@ -16,8 +13,8 @@ constexpr int kAllChannels = 64;
 
 /// libswresample's matrix, kAllChannels wide; empty where it knows none for these channels.
 std::vector<double> builtMatrix(int inputs, std::uint64_t mask, int outputs) {
-    AVChannelLayout from = {};
-    AVChannelLayout to = {};
+    AvLayout from;
+    AvLayout to;
     if (std::popcount(mask) != inputs || av_channel_layout_from_mask(&from, mask) < 0) {
         av_channel_layout_default(&from, inputs);
     }
@@ -27,8 +24,6 @@ std::vector<double> builtMatrix(int inputs, std::uint64_t mask, int outputs) {
     std::vector<double> matrix(std::size_t{kAllChannels} * kAllChannels);
     const bool isBuilt = isKnown && swr_build_matrix2(&from, &to, kHalfPower, kHalfPower, 0, 1.0, 1.0, matrix.data(),
                                                       kAllChannels, AV_MATRIX_ENCODING_NONE, nullptr) >= 0;
-    av_channel_layout_uninit(&from);
-    av_channel_layout_uninit(&to);
     return isBuilt ? matrix : std::vector<double>();
 }
 

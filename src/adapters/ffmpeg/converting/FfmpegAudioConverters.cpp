@@ -36,14 +36,16 @@ bool describeIlbc(AudioStreamBasicDescription& format) {
         return false;
     }
     format.bytesPerPacket = format.framesPerPacket == kShortFrames ? kShortBytes : kLongBytes;
-    AVCodecParameters* parameters = avcodec_parameters_alloc();
+    const AvParameters parameters(avcodec_parameters_alloc());
+    if (!parameters) {
+        return false;
+    }
     parameters->codec_type = AVMEDIA_TYPE_AUDIO;
     parameters->codec_id = AV_CODEC_ID_ILBC;
     parameters->sample_rate = 8000;
     parameters->block_align = static_cast<int>(format.bytesPerPacket);
-    format.framesPerPacket =
-        static_cast<std::uint32_t>(av_get_audio_frame_duration2(parameters, static_cast<int>(format.bytesPerPacket)));
-    avcodec_parameters_free(&parameters);
+    format.framesPerPacket = static_cast<std::uint32_t>(
+        av_get_audio_frame_duration2(parameters.get(), static_cast<int>(format.bytesPerPacket)));
     return format.framesPerPacket > 0;
 }
 

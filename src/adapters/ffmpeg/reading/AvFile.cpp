@@ -16,7 +16,6 @@ namespace {
 /// Files of sound only. Without this FFmpeg takes text for a picture, and opens what play lists name.
 constexpr auto kContainers =
     "aac,ac3,aiff,amr,ape,asf,au,avi,caf,eac3,flac,matroska,webm,mov,mp4,mp3,mpegts,oga,ogg,opus,tta,w64,wav,wv";
-constexpr int kBufferBytes = 64 * 1024;
 
 AudioStatus statusOf(int code) {
     // No demuxer wants it, or one did until it saw more.
@@ -34,10 +33,7 @@ void addEntries(const AVDictionary* dictionary, AudioFileInfo& info) {
 
 }  // namespace
 
-AvFile::AvFile(int fd) : m_fd(fd) {
-    auto* buffer = static_cast<std::uint8_t*>(av_malloc(kBufferBytes));
-    m_io.reset(avio_alloc_context(buffer, kBufferBytes, 0, this, &AvFile::readPacket, nullptr, &AvFile::seekTo));
-}
+AvFile::AvFile(int fd) : m_fd(fd), m_io(makeAvIo(false, this, &AvFile::readPacket, nullptr, &AvFile::seekTo)) {}
 
 AvFile::~AvFile() = default;
 
@@ -80,11 +76,10 @@ AudioStatus AvFile::open(int fd, std::unique_ptr<AvFile>& file) {
         return kAudioFileUnspecifiedError;
     }
     context->pb = opened->m_io.get();
-    AVDictionary* options = nullptr;
-    av_dict_set(&options, "format_whitelist", kContainers, 0);
-    av_dict_set(&options, "protocol_whitelist", "none", 0);
-    int code = avformat_open_input(&context, nullptr, nullptr, &options);
-    av_dict_free(&options);
+    AvOptions options;
+    options.set("format_whitelist", kContainers);
+    options.set("protocol_whitelist", "none");
+    int code = avformat_open_input(&context, nullptr, nullptr, options.get());
     opened->m_input.reset(context);
     if (code < 0) {
         return statusOf(code);

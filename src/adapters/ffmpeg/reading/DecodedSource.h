@@ -2,11 +2,9 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
-#include "adapters/ffmpeg/reading/PacketReader.h"
+#include "adapters/ffmpeg/reading/PacketDecoder.h"
 #include "files/PositionedIo.h"
-#include "sound/alac/AlacDecoder.h"
 #include "sound/io/SoundSource.h"
 
 namespace tavi {
@@ -35,10 +33,6 @@ private:
     void describe();
     /// Makes the next decoded frame the current one and finds its place; false at the end.
     bool nextFrame();
-    /// Fills m_frame.
-    bool decode();
-    /// Fills m_frame from m_packet without libavcodec; false where that is asked instead.
-    bool decodeLossless();
     void place();
     bool restart();
     /// What can be decoded of a length that is declared.
@@ -47,11 +41,7 @@ private:
 
     FileDescriptor m_file;
     std::unique_ptr<PacketReader> m_packets;
-    AvCodec m_decoder;
-    /// Faster where the file is one of Apple Lossless as it is recorded.
-    std::optional<AlacDecoder> m_lossless;
-    AvPacket m_packet;
-    AvFrame m_frame;
+    std::unique_ptr<PacketDecoder> m_decoder;
     AudioStreamBasicDescription m_format;
     std::uint64_t m_channelMask = 0;
     int m_rate = 0;
@@ -59,7 +49,8 @@ private:
 
     /// What the decoder's first frame counts as, in frames by its time.
     std::int64_t m_origin = 0;
-    std::int64_t m_length = -2;
+    /// Once it has been asked for.
+    std::optional<std::int64_t> m_length;
     /// The next frame to hand out.
     std::int64_t m_position = 0;
     /// Where the current decoded frame begins, and how many samples it has.
@@ -68,7 +59,6 @@ private:
     bool m_isPlaced = false;
     bool m_isFrameSound = false;
     bool m_hasFrame = false;
-    bool m_isDraining = false;
 };
 
 }  // namespace tavi

@@ -30,13 +30,16 @@ bool Mp4Packets::describe() {
     const AudioStreamBasicDescription& format = m_reader.format();
     const auto configuration = m_reader.configuration();
     m_parameters.reset(avcodec_parameters_alloc());
-    auto* extra = static_cast<std::uint8_t*>(av_mallocz(configuration.size() + AV_INPUT_BUFFER_PADDING_SIZE));
-    if (!m_parameters || extra == nullptr) {
-        av_free(extra);
+    if (!m_parameters) {
         return false;
     }
-    std::copy(configuration.begin(), configuration.end(), extra);
-    m_parameters->extradata = extra;
+    // Freed with the parameters.
+    m_parameters->extradata =
+        static_cast<std::uint8_t*>(av_mallocz(configuration.size() + AV_INPUT_BUFFER_PADDING_SIZE));
+    if (m_parameters->extradata == nullptr) {
+        return false;
+    }
+    std::copy(configuration.begin(), configuration.end(), m_parameters->extradata);
     m_parameters->extradata_size = static_cast<int>(configuration.size());
     m_parameters->codec_type = AVMEDIA_TYPE_AUDIO;
     m_parameters->codec_id = format.formatID == kAudioFormatAppleLossless ? AV_CODEC_ID_ALAC : AV_CODEC_ID_AAC;
