@@ -185,7 +185,7 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     while (code >= 0 && !job.control.isCancelled() && packets.next()) {
         AVPacket& packet = packets.packet();
         const std::int64_t begin = packet.pts;
-        // One packet always follows the first that is heard: see there, in PacketExport.cpp.
+        // One packet always follows the first that is heard: see M4aPackets.h.
         if (begin >= end && last > start) {
             break;
         }
@@ -205,10 +205,10 @@ Result<void> exportAnyPackets(const ExportJob& job) {
         code = output.write(packet, timeBase);
     }
     if (code >= 0 && !isAny) {
-        return failure(QStringLiteral("The sound file is damaged."));
+        return damagedSource();
     }
     if (code >= 0 && next < end - timeOf(job.rate / 2) && !job.control.isCancelled()) {
-        return failure(QStringLiteral("The sound file became shorter while it was read."));
+        return shortenedSource();
     }
     code = code >= 0 ? output.finish() : code;
     return code >= 0 ? Result<void>() : tl::unexpected(textOf(code));

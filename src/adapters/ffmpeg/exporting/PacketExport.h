@@ -23,20 +23,16 @@ struct ExportJob {
 
 /// Copies the packets of a stretch; nothing is encoded again.
 ///
-/// | source                     | container | how exact                                                               |
-/// |----------------------------|-----------|-------------------------------------------------------------------------|
-/// | WAV of linear PCM          | WAVE      | to the frame; RF64 (EBU Tech 3306) from 4 GiB on | | CAF of linear PCM |
-/// CAF       | to the frame                                                            | | CAF of IMA4                |
-/// CAF       | to the frame by its packet table; players that leave it aside play from | |                            |
-/// | the packet of 64 frames at or before the start, to the end of a packet  | | MP4 of AAC, Apple Lossless | M4A | to
-/// the frame by an edit list, in the media's own time scale             | | ADTS of AAC                | M4A       |
-/// the same                                                                | | what libavformat reads     | what it   |
-/// by an edit list in M4A; elsewhere from the packet at or before the      | |                            | writes    |
-/// start                                                                   |
+/// - WAV of linear PCM to WAVE: to the frame; RF64 (EBU Tech 3306) from 4 GiB on.
+/// - CAF of linear PCM to CAF: to the frame.
+/// - CAF of IMA4 to CAF: to the frame by its packet table. Players that leave it aside play whole packets of 64 frames.
+/// - MP4 of AAC or Apple Lossless to M4A: to the frame by an edit list, in the media's own time scale.
+/// - ADTS of AAC to M4A: the same.
+/// - What libavformat reads to what it writes: by an edit list in M4A; elsewhere from the packet before the start on.
 ///
-/// In the last row Vorbis in M4A starts with the packet after the start, as FFmpeg plays no part of its packets.
+/// In the last case Vorbis in M4A starts with the packet after the start, as FFmpeg plays no part of its packets.
 ///
-/// AAC gets two packets before the start that are decoded but not heard. Everything but the last row is copied in large
+/// AAC gets two packets before the start that are decoded but not heard. Everything but the last is copied in large
 /// blocks.
 Result<void> exportPackets(const ExportJob& job);
 
@@ -47,5 +43,10 @@ Result<bool> exportMp4Packets(const ExportJob& job);
 Result<bool> exportAdtsPackets(const ExportJob& job);
 /// Through libavformat.
 Result<void> exportAnyPackets(const ExportJob& job);
+
+/// What the ways have in common: that the source is no good, that it is no longer what it was, and the end.
+tl::unexpected<Error> damagedSource();
+tl::unexpected<Error> shortenedSource();
+Result<bool> exportDone(const ExportJob& job);
 
 }  // namespace tavi

@@ -60,7 +60,7 @@ Result<void> exportSound(const ExportJob& job) {
         auto frames = static_cast<std::uint32_t>(std::min<std::int64_t>(kBlockFrames, total - done));
         AudioBufferList list{1, {{client.channelsPerFrame, frames * client.bytesPerFrame, samples.data()}}};
         if (input->read(frames, list) != kAudioNoError || frames == 0) {
-            return failure(QStringLiteral("The sound file became shorter while it was read."));
+            return shortenedSource();
         }
         const std::size_t count = std::size_t{frames} * client.channelsPerFrame;
         if (job.volume != 1.0F) {
