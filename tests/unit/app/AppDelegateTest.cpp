@@ -46,6 +46,7 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_TRUE(sharedDefaults.boolForKey(settingskey::kAppStart));
     EXPECT_TRUE(idleTimer.isIdleTimerDisabled());
     EXPECT_TRUE(std::filesystem::is_directory(container.documentsPath() / "ICloud"));
+    EXPECT_EQ(session.questions.size(), 1U);
     session.answer(false);
     EXPECT_TRUE(presenter.alerts.empty()) << "a refusal at start-up shows nothing";
 
@@ -58,7 +59,12 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_EQ(defaults.writes, (QStringList{settingskey::kSort, QStringLiteral("synchronize")}));
     EXPECT_EQ(application.shortcutItems(), own);
 
+    sharedDefaults.writes.clear();
+    screen.playAndPauseRecording();
+    EXPECT_TRUE(isRecordingAfterAnswer());
     delegate.applicationWillTerminate();
+    EXPECT_EQ(QDir(container.documentsPath()).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(sharedDefaults.writes, (QStringList{settingskey::kAppStart, QStringLiteral("synchronize")}));
     EXPECT_FALSE(sharedDefaults.boolForKey(settingskey::kAppStart));
 }
 
@@ -71,7 +77,8 @@ TEST_F(AppDelegateTest, ALaunchingQuickActionRunsOnceAtActivation) {
     tabBar.setSelectedIndex(2);
     delegate.applicationDidBecomeActive();
     EXPECT_EQ(tabBar.selectedIndex(), 2);
-    delegate.applicationPerformActionForShortcutItem(application.shortcutItems().first(), [](bool) {});
+    delegate.applicationPerformActionForShortcutItem(application.shortcutItems().first(),
+                                                     [](bool isDone) { EXPECT_FALSE(isDone); });
     EXPECT_EQ(tabBar.selectedIndex(), 0);
     EXPECT_TRUE(isRecordingAfterAnswer());
 }

@@ -34,7 +34,7 @@ protected:
     QStringList titles() const {
         QStringList titles{presenter.sheets.back().title};
         for (const AlertAction& action : presenter.sheets.back().actions) {
-            titles += action.title;
+            titles += action.title + QLatin1String(action.style == AlertAction::Style::Cancel ? "!" : "");
         }
         return titles;
     }
@@ -54,12 +54,15 @@ TEST_F(SettingVCTest, RowsShowWhatIsStoredAndStoreTheirSliders) {
     } cases[] = {{0.0, 10.0, 30.0}, {3.0, 5.0, 5.0}, {45.0, 45.0, 45.0}, {90.0, 60.0, 60.0}};
     settings.setAudioFileType(QStringLiteral("caf"));
     settings.setAudioQualityType(QStringLiteral("Low"));
+    settings.setCloudSyncOn(true);
+    settings.setQuickMailOn(true);
     for (const auto& row : cases) {
         settings.setRewindSeconds(row.stored);
         settings.setForwardSeconds(row.stored);
         SettingVC screen(services);
         screen.viewDidLoad();
         screen.viewWillAppear();
+        screen.loadData();
         EXPECT_EQ(screen.rewindValue(), row.rewind);
         EXPECT_EQ(screen.forwardValue(), row.forward);
         EXPECT_EQ(settings.storedRewindSeconds(), row.rewind);
@@ -71,6 +74,7 @@ TEST_F(SettingVCTest, RowsShowWhatIsStoredAndStoreTheirSliders) {
                                QStringLiteral("Wort mail")}));
         EXPECT_EQ(screen.sectionarray().mid(5).join(QLatin1Char(' ')), QStringLiteral("data_security support feature"));
         EXPECT_EQ(screen.fileType() + screen.quality(), QStringLiteral("cafLow"));
+        EXPECT_TRUE(screen.isCloudSyncOn() && screen.isQuickMailOn());
     }
 }
 
@@ -85,13 +89,17 @@ TEST_F(SettingVCTest, AMovedSliderSnapsAndIsLabelledInEnglishUntilTheRowsAreBuil
                     "Wort rewind 15", "Rewind ( 15 Sec )"},
                    {&SettingVC::forwardSliderChange, &SettingVC::forwardValue, &SettingVC::forwardText, "ForwardSong",
                     "Wort forward 15", "Forward ( 15 Sec )"}};
+    int changes = 0;
+    QObject::connect(&vc, &SettingVC::slidersChanged, &notifications, [&] { ++changes; });
     vc.viewWillAppear();
     for (const auto& slider : sliders) {
         SCOPED_TRACE(slider.key);
         for (const auto& [position, seconds] :
              {std::pair{7.49, 5.0}, {7.5, 10.0}, {99.0, 60.0}, {0.0, 5.0}, {17.0, 15.0}}) {
             writes();
+            changes = 0;
             (vc.*slider.move)(position);
+            EXPECT_EQ(changes, 1);
             EXPECT_EQ((vc.*slider.value)(), seconds) << position;
             EXPECT_EQ(defaults.floatForKey(QLatin1String(slider.key)), seconds) << position;
             EXPECT_EQ(writes(), QLatin1String(slider.key) + QStringLiteral(" synchronize"));
@@ -116,11 +124,12 @@ TEST_F(SettingVCTest, AChoiceIsStoredAtOnceAndShownAfterAMoment) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.title);
         row.isType ? vc.showExtentionActionsheet() : vc.showQualityActionsheet();
-        EXPECT_EQ(titles().join(QLatin1Char('|')),
-                  QLatin1String(
-                      row.isType
-                          ? "Wort Select Recording Audio Type|Wort M4a|Wort Wave|Wort Aac|Wort Mp4|Wort Caf|Wort Cancel"
-                          : "Wort Select Recording Audio Quality|Wort Low|Wort Medium|Wort High|Wort Cancel"));
+        EXPECT_EQ(
+            titles().join(QLatin1Char('|')),
+            QLatin1String(
+                row.isType
+                    ? "Wort Select Recording Audio Type|Wort M4a|Wort Wave|Wort Aac|Wort Mp4|Wort Caf|Wort Cancel!"
+                    : "Wort Select Recording Audio Quality|Wort Low|Wort Medium|Wort High|Wort Cancel!"));
         const auto shown = [&] { return row.isType ? vc.fileType() : vc.quality(); };
         const QString before = shown();
         writes();
@@ -140,8 +149,10 @@ TEST_F(SettingVCTest, TypeAndQualityWaitForTheEndOfARecording) {
     vc.viewWillAppear();
     vc.showExtentionActionsheet();
     vc.showQualityActionsheet();
+    std::string told;
+    QObject::connect(&vc, &SettingVC::formatHeldChanged, &notifications,
+                     [&] { told += vc.isFormatHeld() ? '+' : '-'; });
     formatHold.setHeld(true);
-    EXPECT_TRUE(vc.isFormatHeld());
     vc.showExtentionActionsheet();
     vc.showQualityActionsheet();
     EXPECT_EQ(presenter.sheets.size(), 2U);
@@ -154,7 +165,8 @@ TEST_F(SettingVCTest, TypeAndQualityWaitForTheEndOfARecording) {
     runLoop.advance(1.0);
     EXPECT_EQ(writes(), QString());
     formatHold.setHeld(false);
-    EXPECT_FALSE(vc.isFormatHeld());
+    EXPECT_EQ(told.front(), '+');
+    EXPECT_EQ(told.back(), '-');
     EXPECT_EQ(settings.audioFileType() + settings.audioQualityType(), QStringLiteral("wavHigh"));
     runLoop.advance(0.2);
     EXPECT_EQ(vc.fileType() + vc.quality(), QStringLiteral("wavHigh"));
