@@ -44,9 +44,8 @@ std::optional<AdtsScanner::Found> AdtsScanner::next() {
         if (isInStep && frame->bytes > bytes.size()) {
             return std::nullopt;
         }
-        const bool isFollowed =
-            frame->bytes + kAdtsHeaderBytes <= bytes.size() && readAdtsFrame(bytes.data() + frame->bytes);
-        if (isInStep || isFollowed) {
+        if (isInStep ||
+            (frame->bytes + kAdtsHeaderBytes <= bytes.size() && readAdtsFrame(bytes.data() + frame->bytes))) {
             const Found found{*frame, m_offset, bytes.first(frame->bytes)};
             m_offset += frame->bytes;
             return found;

@@ -18,22 +18,22 @@ struct AdtsFrame {
     std::uint32_t bytes = 0;
 };
 
-/// The frame whose header stands there; nothing where none does. Needs kAdtsHeaderBytes.
+/// Reads the header of a frame; nothing when it is none. Needs kAdtsHeaderBytes.
 std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes);
 inline constexpr std::size_t kAdtsHeaderBytes = 7;
 
-/// Finds one frame of a stream after the other. What lies between frames is skipped: there a header counts only when
-/// another follows where it says. A frame that is cut off by the end of the file does not count. Borrows the
-/// descriptor.
+/// Finds the frames of a stream in order. Bytes between frames are skipped: after them a header counts only when
+/// another one follows at the end of its frame. A frame that is cut off by the end of the file does not count. Borrows
+/// the descriptor.
 class AdtsScanner {
 public:
-    /// Frames of another rate do not count. As many bytes are read at once.
+    /// Frames of another rate do not count. bytes are read at once.
     AdtsScanner(int fd, int rate, std::size_t bytes) : m_file(fd, bytes), m_rate(rate) {}
 
     struct Found {
         AdtsFrame frame;
         std::int64_t offset = 0;
-        /// With the header; they stay until the next frame is looked for.
+        /// With the header; valid until the next frame is looked for.
         std::span<const std::uint8_t> bytes;
     };
     /// The next frame; nothing at the end.
@@ -86,7 +86,7 @@ public:
         /// Where it begins, and how long it is, in blocks of 1024 samples of the core coder.
         std::int64_t start = 0;
         int blocks = 0;
-        /// Stay until the next packet is read.
+        /// Valid until the next packet is read.
         std::span<const std::uint8_t> bytes;
     };
     /// The next packet; nothing at the end, and when the file cannot be read any more.

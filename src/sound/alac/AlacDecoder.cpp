@@ -19,8 +19,8 @@ int signOf(std::int32_t value) {
     return (value > 0) - (value < 0);
 }
 
-/// Predicts each sample from kOrder before it, and lets the coefficients follow the signs of the errors. The compiler
-/// keeps a known order in registers.
+/// Predicts each sample from the kOrder samples before it, and adapts the coefficients by the signs of the errors. With
+/// the order known the compiler keeps them in registers.
 template <int kOrder>
 void predictFrom(const std::int32_t* errors, std::int32_t* coefficients, int shift, int bits, int first, int count,
                  std::int32_t* out) {
@@ -43,7 +43,7 @@ void predictFrom(const std::int32_t* errors, std::int32_t* coefficients, int shi
             static_cast<std::int32_t>(static_cast<std::uint32_t>(predicted) + static_cast<std::uint32_t>(base) +
                                       static_cast<std::uint32_t>(error)),
             bits);
-        // Until what the earlier coefficients account for has used up the error.
+        // Coefficient after coefficient, until their parts add up to the error.
         if (error > 0) {
             for (std::size_t j = 0; j < kOrder && error > 0; ++j) {
                 gains[j] += signOf(steps[j]);
@@ -74,13 +74,13 @@ void unmix(int shift, int weight, int count, std::int32_t* mixture, std::int32_t
 
 }  // namespace
 
-/// Big-endian bits. It may be asked for more than there are; the caller sees that afterwards.
+/// Bits, the high one of a byte first. Reads beyond the end give bits without meaning; isPastEnd() tells afterwards.
 class AlacDecoder::BitReader {
 public:
     explicit BitReader(std::span<const std::uint8_t> bytes) : m_bytes(bytes.data()), m_end(bytes.size() * 8) {}
 
     bool isPastEnd() const { return m_position > m_end; }
-    /// The next bits from the top; at least 57 of them are true.
+    /// The next bits, the first one highest; at least 57 of the 64 are valid.
     std::uint64_t word() const {
         std::uint64_t value;
         std::memcpy(&value, m_bytes + std::min(m_position, m_end) / 8, sizeof value);

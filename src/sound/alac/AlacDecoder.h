@@ -9,19 +9,19 @@
 namespace tavi {
 
 /// Decodes packets of Apple Lossless with 16 bits and one or two channels (Apple Lossless Format Description), which
-/// takes about half of the time that libavcodec takes. What it does not understand completely it refuses. Every packet
-/// stands for itself. One thread at a time.
+/// takes about half of the time that libavcodec takes. It refuses what it does not understand completely. No packet
+/// depends on another. One thread at a time.
 class AlacDecoder {
 public:
-    /// cookie is the sample description's box "alac" with its header. Nothing for streams of another shape.
+    /// cookie is the box "alac" of the sample description, with its header. Nothing for other depths and channels.
     static std::optional<AlacDecoder> create(std::span<const std::uint8_t> cookie);
 
     int channels() const { return m_channels; }
-    /// Decodes a packet behind whose end kPadding more bytes can be read. Returns how many samples of each channel came
-    /// out; 0 when it refuses.
+    /// Decodes a packet; kPadding bytes after its end must be readable, too. Returns the number of samples of each
+    /// channel; 0 when it refuses.
     int decode(std::span<const std::uint8_t> packet);
     static constexpr std::size_t kPadding = 16;
-    /// The samples of a channel.
+    /// The samples of a channel, until the next packet.
     const std::int32_t* samples(int channel) const { return m_samples[static_cast<std::size_t>(channel)].data(); }
 
 private:

@@ -12,13 +12,13 @@ namespace tavi {
 
 namespace {
 
-/// More than any file has.
+/// More chunks than any file has.
 constexpr int kMaximumChunks = 1024;
 constexpr std::int64_t kChunkHeaderBytes = 12;
-/// Before the packets in a chunk "data": how often the file was edited.
+/// The edit count, which comes before the packets in a chunk "data".
 constexpr std::int64_t kEditCountBytes = 4;
 
-/// Frames in all packets that are there, without priming; -1 where packets vary.
+/// Frames in all packets of the file, without priming; -1 where packets vary.
 std::int64_t framesThere(const CafHeader& header) {
     constexpr std::uint32_t kMostPacketFrames = 1 << 20;
     constexpr std::int64_t kMostPackets = std::int64_t{1} << 40;

@@ -13,13 +13,13 @@ struct CafChunk {
     std::uint32_t type = 0;
     std::int64_t offset = 0;
     std::int64_t body = 0;
-    /// Where the body ends; not behind the end of the file.
+    /// Where the body ends, at most the end of the file.
     std::int64_t end = 0;
-    /// Whether the file ends before the chunk says so, or the chunk says nothing of its end.
+    /// The length of the chunk is not filled in, or goes beyond the end of the file.
     bool isOpen = false;
 };
 
-/// The chunks of a file in their order, until visit returns false or one is open. False when it is no CAF file.
+/// Visits the chunks in order, until visit returns false or a chunk is open. Returns false when it is no CAF file.
 bool forEachCafChunk(int fd, FileWindow& window, const std::function<bool(const CafChunk&)>& visit);
 
 /// What a CAF file (Apple Core Audio Format 1.0) says about itself.
@@ -32,14 +32,14 @@ struct CafHeader {
     std::uint32_t packetFrames = 0;
     std::uint32_t channels = 0;
     std::int64_t dataOffset = 0;
-    /// What is there of it.
+    /// Bytes of packets that the file holds.
     std::int64_t dataBytes = 0;
     std::int64_t primingFrames = 0;
     /// Frames that are meant to be heard; -1 where the file does not tell.
     std::int64_t frames = -1;
 };
 
-/// Nothing for files of another type, and for those that make no sense.
+/// Reads the header; nothing for files of another type, and for headers that make no sense.
 std::optional<CafHeader> readCafHeader(int fd);
 
 }  // namespace tavi

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kLowest = -32768;
 constexpr int kHighest = 32767;
-/// Samples that share one rounded sample.
+/// How many samples have the same rounded value.
 constexpr int kRounding = 128;
 /// Packets within which a correction is looked for.
 constexpr int kMaximumCorrected = 8;
@@ -25,7 +25,7 @@ const Ima4Move& moveOf(int step, int code) {
     return kIma4Moves[place];
 }
 
-/// The state behind a packet whose header has been read.
+/// The state after a packet whose header has been read.
 Ima4State decoded(const std::uint8_t* packet, Ima4State state) {
     for (std::size_t i = 0; i < kIma4PacketFrames; ++i) {
         const Ima4Move& move = moveOf(state.step, ima4Code(packet, i));
@@ -41,13 +41,14 @@ void writeHeader(std::uint8_t* packet, const Ima4State& state) {
     packet[1] = static_cast<std::uint8_t>(bits);
 }
 
-/// Looks for codes that lead a decoder from a wrong sample to the right one within a packet. The steps stay as they
-/// are: a code is only exchanged for one that leads to the same next step. Of many ways the least audible are followed.
+/// Looks for codes that bring a decoder from a wrong sample to the right one within a packet. The step indexes stay as
+/// they are: a code is only replaced by one with the same next step index. Of all ways to a sample it follows that with
+/// the smallest error, and of all samples the kWidth best.
 class Correction {
 public:
-    /// right is what a decoder of the whole file carries, past its header; starts are samples to begin with.
+    /// right is the state of a decoder of the whole file, after the header; starts are the samples to begin with.
     bool find(const std::uint8_t* packet, const Ima4State& right, std::span<const int> starts);
-    /// Which of the starts, and the codes.
+    /// Which of the starts was taken, and the codes that were found.
     int start() const { return m_start; }
     void apply(std::uint8_t* packet) const;
 
@@ -71,7 +72,7 @@ bool Correction::find(const std::uint8_t* packet, const Ima4State& right, std::s
     for (const int sample : starts) {
         m_ways[0].push_back({sample, 0, -1, 0});
     }
-    // Where in the next list a sample stands.
+    // The index of each sample in the next list.
     std::vector<std::int32_t> places(kHighest - kLowest + 1, -1);
     Ima4State state = right;
     for (std::size_t i = 0; i < kIma4PacketFrames; ++i) {
@@ -155,7 +156,7 @@ const std::uint8_t* Ima4Cut::packetAt(std::size_t channel, std::int64_t packet) 
 
 std::optional<Ima4State> Ima4Cut::stateFrom(std::size_t channel, std::int64_t from, std::int64_t packet) {
     Ima4State state;
-    // The exact sample is that of the state and something between these.
+    // The exact sample is that of the state plus something from low to high.
     int low = 0;
     int high = kRounding - 1;
     bool isLost = true;
@@ -166,7 +167,7 @@ std::optional<Ima4State> Ima4Cut::stateFrom(std::size_t channel, std::int64_t fr
         }
         const Ima4State header = ima4Header(bytes);
         if (!isLost && header.step != state.step) {
-            // Every decoder begins anew here.
+            // Every decoder takes over this header.
             state = header;
             low = high = 0;
         } else if (isLost) {
@@ -194,7 +195,7 @@ std::optional<Ima4State> Ima4Cut::stateFrom(std::size_t channel, std::int64_t fr
 }
 
 std::optional<Ima4State> Ima4Cut::stateBefore(std::size_t channel, std::int64_t packet) {
-    // Whether samples were rounded down shows at the beginning of the file, where all is known.
+    // The start of the file, where every sample is known, shows whether the encoder rounds down.
     constexpr std::int64_t kEnough = 512;
     constexpr int kNearEnd = 16;
     Ima4State state;

@@ -15,8 +15,8 @@ constexpr std::array<int, kIma4Steps> kStepSizes = {
     2272, 2499,  2749,  3024,  3327,  3660,  4026,  4428,  4871,  5358,  5894,  6484,  7132,  7845, 8630,
     9493, 10442, 11487, 12635, 13899, 15289, 16818, 18500, 20350, 22385, 24623, 27086, 29794, 32767};
 
-/// What the codes of a packet add up to. Each code's step depends on the one before, from the header on, but neither on
-/// the sample nor on any other packet: the processor works on several packets at the same time.
+/// Sums of the codes of a packet. The step of a code depends on the codes before it in the packet only, and on no
+/// sample, so several packets can be summed at the same time.
 class Sums {
 public:
     explicit Sums(const std::uint8_t* packet)
@@ -29,7 +29,7 @@ public:
         addCode(codes >> 4, byte * 2 + 1);
     }
 
-    /// Turns the whole packet into samples, from the state before it to the one behind it.
+    /// Turns the packet into samples, and the state before it into the state after it.
     void finish(Ima4State& state, std::int16_t* samples) const {
         readIma4Header(m_packet, state);
         int outside = 0;
@@ -52,7 +52,7 @@ private:
         m_row = static_cast<unsigned int>(move.next);
     }
 
-    /// What goes too far stops at the end of the range, and goes on from there.
+    /// Computes the samples again where one is out of range: it is clipped, and the next one counts from there.
     void clip(int sample, std::int16_t* samples) const {
         int before = 0;
         for (std::size_t i = 0; i < kIma4PacketFrames; ++i) {

@@ -11,11 +11,11 @@
 
 namespace tavi {
 
-/// IMA 4:1 ADPCM in CAF files, read in large blocks.
-/// A file that was cut declares the frames of its first packet that are not to be heard as priming.
+/// IMA 4:1 ADPCM in CAF files, read in large blocks. In a file that was cut the first frames of the first packet are
+/// not to be heard; the file declares them as priming.
 class Ima4Source : public SoundSource {
 public:
-    /// Null for what it does not read; the descriptor is taken only on success.
+    /// Null for other files. The descriptor is taken over only on success.
     static std::unique_ptr<Ima4Source> open(FileDescriptor& file);
 
     const AudioStreamBasicDescription& format() const override { return m_format; }
@@ -25,13 +25,13 @@ public:
     std::size_t read(float* const* planes, std::size_t frames) override;
     bool has16Bits() const override { return true; }
     std::size_t read16(std::int16_t* samples, std::size_t frames) override;
-    /// As cheap as reading where it has not been before.
+    /// Decodes up to the frame where no read or seek has come that far before.
     void seek(std::int64_t frame) override;
 
 private:
     Ima4Source() = default;
 
-    /// Counts up to that many decoded frames as read, which then stand before m_used; how many there are.
+    /// Takes up to that many decoded frames, which then end at m_used in m_samples; returns how many.
     std::size_t takeDecoded(std::size_t frames);
     /// Decodes the next packets into m_samples; false at the end of the file.
     bool decodeBlock();
@@ -43,7 +43,7 @@ private:
     /// Decoded samples of one channel after the other, for kBlockPackets packets each.
     std::vector<std::int16_t> m_samples;
     std::vector<Ima4State> m_states;
-    /// The states before every block that has been reached, kept for seeking.
+    /// The states at the start of every block that has been decoded, for seeking.
     std::vector<Ima4State> m_history;
     std::int64_t m_block = 0;
     std::size_t m_used = 0;

@@ -9,8 +9,8 @@
 
 namespace tavi {
 
-/// Numbers that follow each other in a span, the high byte first unless told otherwise. From the first read behind the
-/// end on everything is 0, and ok() false.
+/// Reads numbers from a span, the high byte first unless told otherwise. After a read beyond the end every value is 0,
+/// and ok() is false.
 class ByteReader {
 public:
     explicit ByteReader(std::span<const std::uint8_t> bytes, std::endian order = std::endian::big)
@@ -20,7 +20,7 @@ public:
     std::uint16_t u16() { return static_cast<std::uint16_t>(number(2)); }
     std::uint32_t u32() { return static_cast<std::uint32_t>(number(4)); }
     std::uint64_t u64() { return number(8); }
-    /// Four letters, as fourCharacterCode() makes a number of them.
+    /// A four-character code: its letters are in order whatever the order of bytes.
     std::uint32_t code() {
         const std::uint32_t value = u32();
         return m_order == std::endian::big ? value : __builtin_bswap32(value);
@@ -51,7 +51,7 @@ private:
     bool m_ok = true;
 };
 
-/// The reverse: numbers that are put one behind the other.
+/// The reverse: writes numbers one after the other.
 class ByteWriter {
 public:
     explicit ByteWriter(std::endian order = std::endian::big) : m_order(order) {}

@@ -7,16 +7,16 @@
 
 namespace tavi {
 
-/// Small pieces of a file, read through a window: what lies close together costs one read. Borrows the descriptor. What
-/// others write to the file meanwhile is seen when the window moves. One thread at a time.
+/// Reads small pieces of a file through a window, so that pieces close to each other cost one read. Borrows the
+/// descriptor. What others write to the file meanwhile shows when the window moves. One thread at a time.
 class FileWindow {
 public:
     FileWindow() = default;
-    /// The window has so many bytes; where one piece after the other is wanted it grows, up to most.
+    /// The window has that many bytes, and grows up to most while one piece after the other is read.
     explicit FileWindow(int fd, std::size_t bytes = 4096, std::size_t most = 0)
         : m_fd(fd), m_first(bytes), m_most(most > bytes ? most : bytes) {}
 
-    /// The bytes from an offset on; fewer than asked for at the end of the file. They stay until the next call.
+    /// The bytes from an offset on; fewer than asked for at the end of the file. Valid until the next call.
     std::span<const std::uint8_t> at(std::int64_t offset, std::size_t size);
 
 private:

@@ -64,7 +64,7 @@ float decode(const std::uint8_t* at) {
         return static_cast<float>(static_cast<std::int32_t>(load<std::uint32_t, kSwap>(at))) * (1.0F / 2147483648.0F);
     } else {
         const auto value = std::bit_cast<float>(load<std::uint32_t, kSwap>(at));
-        // No comparison with a value that is no number is true.
+        // False for NaN, too.
         return std::abs(value) <= 3.0e38F ? value : 0.0F;
     }
 }

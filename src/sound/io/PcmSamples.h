@@ -14,15 +14,14 @@ struct PcmEncoding {
     Kind kind = Kind::Signed16;
     bool isBigEndian = false;
 
-    /// The encoding that a description names; nothing for one that is not linear PCM, that is padded, or that
-    /// contradicts itself.
+    /// The encoding of a format; nothing for other codecs, padded samples, and formats that contradict themselves.
     static std::optional<PcmEncoding> of(const AudioStreamBasicDescription& format);
 
     std::size_t bytes() const;
     bool operator==(const PcmEncoding&) const = default;
 };
 
-/// Reads count samples, of which each stands stride samples behind the one before. What is no number becomes silence.
+/// Reads count samples that lie stride samples apart. NaN and infinity become silence.
 void unpackPcm(PcmEncoding encoding, const void* from, std::size_t stride, float* to, std::size_t count);
 /// The reverse: rounds to the nearest, and clips what integers cannot hold.
 void packPcm(PcmEncoding encoding, const float* from, void* to, std::size_t stride, std::size_t count);

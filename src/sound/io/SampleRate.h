@@ -7,7 +7,7 @@ namespace tavi {
 inline constexpr int kLowestSampleRate = 1000;
 inline constexpr int kHighestSampleRate = 768000;
 
-/// Not for what is no number either.
+/// False for NaN, too.
 constexpr bool isSampleRate(double hertz) {
     return hertz >= kLowestSampleRate && hertz <= kHighestSampleRate;
 }

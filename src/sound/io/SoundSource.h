@@ -15,7 +15,8 @@ public:
     virtual ~SoundSource() = default;
 
     virtual const AudioStreamBasicDescription& format() const = 0;
-    /// Which loudspeakers the channels are for, as FFmpeg numbers them; 0 for the usual ones of that count.
+    /// Which loudspeakers the channels are for, by the bits of WAVE_FORMAT_EXTENSIBLE; 0 for the usual ones of that
+    /// count.
     virtual std::uint64_t channelMask() const { return 0; }
     /// May read through the file when first called.
     virtual std::int64_t length() = 0;

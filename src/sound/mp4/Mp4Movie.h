@@ -39,8 +39,8 @@ struct Mp4FragmentDefaults {
     std::uint32_t size = 0;
 };
 
-/// The header of an MP4 file (the box "moov", 8.2 to 8.6): everyone who wants to know what such a file says reads it
-/// here. The tables of packets are Mp4TableReader's, and fragments Mp4FragmentReader's.
+/// The header of an MP4 file (the box "moov", 8.2 to 8.6). This is its only reader; Mp4TableReader reads the tables of
+/// packets, and Mp4FragmentReader the fragments.
 struct Mp4Movie {
     /// Nothing for other files, and where the header is not whole. Takes little of the file into memory.
     static std::optional<Mp4Movie> read(int fd);

@@ -13,7 +13,7 @@ struct Mp4Packet {
     std::uint32_t duration = 0;
 };
 
-/// The same where its place is known from those before it.
+/// A packet whose place follows from those before it.
 struct Mp4Sample {
     std::uint32_t size = 0;
     std::uint32_t duration = 0;

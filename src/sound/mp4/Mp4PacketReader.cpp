@@ -45,7 +45,7 @@ bool Mp4PacketReader::survey() {
     const std::int64_t heardEnd = edited ? m_sound.start() + *edited : std::numeric_limits<std::int64_t>::max();
     // A short packet that says to last long would make hours of silence of a small file.
     const std::uint32_t longest = 2 * std::clamp(m_format.framesPerPacket, 4096U, kMostFrames);
-    // A second for the decoder to hear before the start, as libavformat has it.
+    // The decoder gets a second before the start, as it would from libavformat.
     m_first = tables.packetAt(std::max<std::int64_t>(0, m_sound.start() - m_sound.timeScale()));
     m_end = tables.packets();
     std::int64_t bytes = 0;

@@ -12,8 +12,8 @@ namespace tavi {
 /// place. Its memory does not grow with the sound. Borrows the descriptor. One thread at a time.
 class Mp4PacketReader {
 public:
-    /// Nothing for what only libavformat understands: other codecs, fragments, several tracks, tables that do not fit
-    /// together or tell of packets that are not there.
+    /// Nothing for what it does not understand completely: other codecs, fragments, several tracks, tables that do not
+    /// fit together or name packets that the file does not have.
     static std::optional<Mp4PacketReader> open(int fd);
 
     /// What the packets are, with one or two channels, and what their decoder has to know.
@@ -27,7 +27,7 @@ public:
         /// In frames, from the first one that is meant to be heard on; a decoder may have to hear some before it.
         std::int64_t start = 0;
         std::uint32_t duration = 0;
-        /// Stay until the next packet is read.
+        /// Valid until the next packet is read.
         std::span<const std::uint8_t> bytes;
     };
     /// The next packet; nothing at the end, and when the file cannot be read any more.

@@ -29,7 +29,7 @@ bool areUsual(const std::vector<Mp4Box>& boxes, std::initializer_list<std::uint3
     });
 }
 
-/// Whether a box names the remark in which some programs write how much of the start and end is not to be heard.
+/// Whether a box has the remark in which some programs note how much of the start and end is not to be heard.
 bool hasGaplessRemark(FileWindow& file, const Mp4Box& box) {
     constexpr std::string_view kName = "iTunSMPB";
     constexpr std::int64_t kPiece = 16384;

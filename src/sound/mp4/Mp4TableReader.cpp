@@ -6,20 +6,20 @@ namespace tavi {
 
 namespace {
 
-/// Two days of sound.
+/// Two days of AAC at 44.1 kHz.
 constexpr std::uint64_t kMaximumPackets = std::uint64_t{8} << 20;
 constexpr std::uint64_t kMaximumRuns = std::uint64_t{1} << 20;
-/// Longer and larger than any file: sums of these do not overflow.
+/// More than any time or offset in a file, and so little that no sum overflows.
 constexpr std::uint64_t kMost = std::uint64_t{1} << 60;
 
-/// The entries of a table with a version, flags and a count before them; nothing when they are not there.
+/// The entries of a table, after version, flags and count; nothing when the table is too short for them.
 std::optional<Mp4Numbers> numbersOf(int fd, const Mp4Box& box, std::size_t bytes) {
     const auto count = Mp4Numbers(fd, box.body, 2, 4).at(1);
     const auto room = static_cast<std::uint64_t>(std::max<std::int64_t>(0, box.end - box.body - 8));
     return count && *count <= room / bytes ? std::optional(Mp4Numbers(fd, box.body + 8, *count, bytes)) : std::nullopt;
 }
 
-/// A table of few long entries.
+/// The numbers of a table of runs, which is short, so many in each entry.
 std::optional<std::vector<std::uint32_t>> runsOf(int fd, const Mp4Box& box, std::uint32_t numbers) {
     const auto body = readMp4Bytes(fd, box.body, box.end);
     ByteReader reader(body ? std::span<const std::uint8_t>(*body) : std::span<const std::uint8_t>{});

@@ -13,12 +13,12 @@ namespace tavi {
 class Mp4Numbers {
 public:
     Mp4Numbers() = default;
-    /// So many numbers of 4 or 8 bytes.
+    /// count numbers of 4 or 8 bytes.
     Mp4Numbers(int fd, std::int64_t offset, std::uint64_t count, std::size_t bytes)
         : m_file(fd, kWindowBytes), m_offset(offset), m_count(count), m_bytes(bytes) {}
 
     std::uint64_t count() const { return m_count; }
-    /// Nothing behind the last one, and when the file cannot be read any more.
+    /// Nothing after the last one, and when the file cannot be read any more.
     std::optional<std::uint64_t> at(std::uint64_t index) const;
 
 private:
@@ -39,26 +39,26 @@ public:
     /// Takes the boxes in a box "stbl"; nothing when some are missing or make no sense. Borrows the descriptor.
     static std::optional<Mp4TableReader> open(int fd, const std::vector<Mp4Box>& tables);
 
-    /// Packets of which every table tells.
+    /// How many packets all tables cover.
     std::uint64_t packets() const { return m_packets; }
-    /// Whether the tables tell of equally many packets and every packet lasts some time.
+    /// Whether the tables cover equally many packets, and no packet has a duration of 0.
     bool isWhole() const { return m_isWhole; }
     /// The packet at or before a media time.
     std::uint64_t packetAt(std::int64_t time) const;
 
-    /// Between two packets.
+    /// A place between two packets.
     struct Place {
-        /// The one behind it.
+        /// The next packet.
         std::uint64_t packet = 0;
-        /// Where that lies, unless it is the first of a chunk.
+        /// Its offset in the file, unless it is the first of a chunk.
         std::int64_t offset = 0;
         std::size_t timeRun = 0;
         std::size_t chunkRun = 0;
     };
     /// The place before a packet; nothing when the file cannot be read.
     std::optional<Place> placeBefore(std::uint64_t packet) const;
-    /// Reads the packet behind a place with the media time at which it begins, and steps behind it. False at the end,
-    /// and when the file cannot be read.
+    /// Reads the next packet, and the media time at which it begins, and moves the place on. False at the end, and when
+    /// the file cannot be read.
     bool next(Place& place, std::int64_t& start, Mp4Packet& packet) const;
 
 private:

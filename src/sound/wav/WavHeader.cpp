@@ -12,11 +12,11 @@ namespace tavi {
 
 namespace {
 
-/// More than any file has before its sound.
+/// More chunks than any file has before its sound.
 constexpr int kMaximumChunks = 1024;
 /// A chunk's header, and what is wanted of its body.
 constexpr std::size_t kChunkBytes = 48;
-/// A length that is not filled in, or that stands elsewhere.
+/// In place of a length that is not filled in, or that the chunk "ds64" holds.
 constexpr std::uint32_t kNoLength = 0xffffffff;
 
 /// Reads the body of a chunk "fmt "; false when it is not one of linear PCM.

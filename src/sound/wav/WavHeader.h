@@ -18,11 +18,11 @@ struct WavHeader {
     std::int64_t formatOffset = 0;
     std::uint32_t formatBytes = 0;
     std::int64_t dataOffset = 0;
-    /// Whole frames that are there: a length that was never filled in, or that reaches behind the end, is cut there.
+    /// Whole frames. Where the length is not filled in, or goes beyond the end of the file, the frames up to that end.
     std::int64_t frames = 0;
 };
 
-/// Nothing for files of another type or codec, and for those that make no sense.
+/// Reads the header; nothing for files of another type or codec, and for headers that make no sense.
 std::optional<WavHeader> readWavHeader(int fd);
 
 }  // namespace tavi

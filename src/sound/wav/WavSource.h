@@ -13,7 +13,7 @@ namespace tavi {
 /// Linear PCM in WAV and RF64 files, read in large blocks.
 class WavSource : public SoundSource {
 public:
-    /// Null for what it does not read; the descriptor is taken only on success.
+    /// Null for other files. The descriptor is taken over only on success.
     static std::unique_ptr<WavSource> open(FileDescriptor& file);
 
     const AudioStreamBasicDescription& format() const override { return m_format; }
@@ -30,7 +30,7 @@ public:
 private:
     WavSource() = default;
 
-    /// Reads up to that many bytes of the next frames; how many frames came.
+    /// Reads the next frames, as many as fit into room bytes; returns how many.
     std::size_t readFrames(void* target, std::size_t room, std::size_t frames);
 
     FileDescriptor m_file;

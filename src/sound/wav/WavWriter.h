@@ -6,8 +6,8 @@
 
 namespace tavi {
 
-/// The bytes of a WAV file before its samples; of an RF64 file (EBU Tech 3306) where it gets too long for the other.
-/// format is the body of the chunk "fmt ". Samples of an odd number of bytes are to be followed by one more byte.
+/// The header of a WAV file, up to its samples; that of an RF64 file (EBU Tech 3306) where 32 bits cannot hold the
+/// length. format is the body of the chunk "fmt ". The caller writes a padding byte after an odd number of bytes.
 std::vector<std::uint8_t> wavHeader(std::span<const std::uint8_t> format, std::uint64_t dataBytes,
                                     std::uint64_t frames);
 

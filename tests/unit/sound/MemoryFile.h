@@ -30,7 +30,8 @@ inline Bytes contents(const FileDescriptor& file) {
     return bytes;
 }
 
-/// What a source has from a frame on, a row of samples a channel; asked for in pieces of an odd size.
+/// What a source has from a frame on, a row of samples a channel; asked for in pieces of an odd size. The same comes as
+/// 16-bit samples where the source has them.
 inline std::vector<std::vector<float>> readFrom(SoundSource& source, std::int64_t frame) {
     constexpr std::size_t kPiece = 1001;
     std::vector<std::vector<float>> sound(source.format().channelsPerFrame);
@@ -43,6 +44,16 @@ inline std::vector<std::vector<float>> readFrom(SoundSource& source, std::int64_
             sound[channel].insert(sound[channel].end(), planes[channel], planes[channel] + count);
         }
     }
+    std::vector<std::int16_t> samples(source.has16Bits() ? kPiece * sound.size() : 0);
+    std::size_t at = 0;
+    source.seek(frame);
+    while (const std::size_t count = source.has16Bits() ? source.read16(samples.data(), kPiece) : 0) {
+        for (std::size_t i = 0; i < count * sound.size(); ++i) {
+            EXPECT_EQ(samples[i], sound[i % sound.size()].at(at + i / sound.size()) * 32768);
+        }
+        at += count;
+    }
+    EXPECT_TRUE(at == sound[0].size() || !source.has16Bits());
     return sound;
 }
 
