@@ -96,14 +96,14 @@ int run(int& argc, char** argv) {
     if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
         return runPrinting(argc, argv, *command, **container);
     }
-    const auto& request = std::get<ProgramRequest>(line->command);
+    const auto* request = std::get_if<ProgramRequest>(&line->command);
     const QString busName = busNameForContainer(line->container);
     const auto lock = InstanceLock::take((*container)->cachesPath());
     if (!lock) {
         const auto& [isHeld, error] = lock.error();
-        return isHeld ? runBesideOther(argc, argv, request, busName, error) : reportFailure(error);
+        return isHeld ? runBesideOther(argc, argv, *request, busName, error) : reportFailure(error);
     }
-    return runProgram(argc, argv, request, busName, **container);
+    return runProgram(argc, argv, *request, busName, **container);
 }
 
 }  // namespace
