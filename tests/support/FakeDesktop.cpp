@@ -96,7 +96,7 @@ QVariantList FakeDesktop::answer(const QDBusMessage& message, bool& known) {
     if (call == QLatin1String("org.freedesktop.DBus.Properties.Get") && mailVersion > 0) {
         return {QVariant::fromValue(QDBusVariant(mailVersion))};
     }
-    if (call == QLatin1String("org.freedesktop.portal.Email.ComposeEmail")) {
+    if (call == QLatin1String("org.freedesktop.portal.Email.ComposeEmail") && !refusesMail) {
         takeMail(message);
         return {QVariant::fromValue(QDBusObjectPath(requestPath(message, mail)))};
     }

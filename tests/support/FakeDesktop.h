@@ -42,6 +42,7 @@ public:
     /// The portal's answer to a mail.
     quint32 mailResponse = 0;
     quint32 mailVersion = 4;
+    bool refusesMail = false;
     /// As portals of old did. Their response is then the test's to send, by respondToMail().
     bool namesRequestsItself = false;
     void respondToMail();

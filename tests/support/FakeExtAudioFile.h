@@ -141,7 +141,7 @@ public:
         file.reset();
         ++opened;
         if (failingOpens > 0 && opened >= failingOpens) {
-            return kAudioFilePermissionsError;
+            return openFailure;
         }
         const auto found = sounds.find(path);
         if (found == sounds.end()) {
@@ -161,6 +161,7 @@ public:
     int opened = 0;
     /// From this opening on all fail; 0 for none.
     int failingOpens = 0;
+    AudioStatus openFailure = kAudioFilePermissionsError;
 };
 
 }  // namespace tavi::test

@@ -78,6 +78,7 @@ TEST_P(QtAppContainerTest, PutsFoldersWherePeopleLookForThem) {
     for (const auto& path : {own->cachesPath(), own->temporaryPath(), own->preferencesPath(),
                              own->groupContainerPath(QStringLiteral("g"))}) {
         EXPECT_EQ(permissions(path), std::filesystem::perms::owner_all) << path;
+        EXPECT_THAT(path.native(), ::testing::StartsWith(below("mine/").native())) << path;
     }
 }
 

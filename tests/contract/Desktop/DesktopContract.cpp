@@ -208,6 +208,9 @@ TEST_P(MailOnBus, TellsRefusalFromCancelling) {
     EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("ok"));
     m_desktop.mailResponse = 2;
     EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("The desktop's mail program did not take the mail."));
+    m_desktop.refusesMail = true;
+    EXPECT_EQ(outcomeOf(*composer, message()), QStringLiteral("There is no mail program."));
+    m_desktop.refusesMail = false;
     m_desktop.disown(FakeDesktop::portal());
     EXPECT_TRUE(spinUntil([&composer] { return !composer->canSendMail(); }));
     m_desktop.mailVersion = 2;

@@ -141,11 +141,13 @@ TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {
         {{Kind::Open, {QStringLiteral("x:y")}, {}}, "open x:y, foreground, active"},
         {{Kind::Action, {}, QStringLiteral("Record")}, "shortcut Record, foreground, active"},
         {{}, "foreground, active"}};
+    bool isMinimised = false;
     for (const auto& [request, calls] : cases) {
         EXPECT_EQ(handedOver(request), QStringLiteral("ok"));
-        EXPECT_TRUE(window.isVisible());
+        EXPECT_TRUE(window.isVisible() && !window.windowStates().testFlag(Qt::WindowMinimized));
         expectCalls(calls);
-        window.hide();
+        isMinimised = !isMinimised;
+        isMinimised ? window.showMinimized() : window.hide();
         spinUntil([this] { return m_delegate.calls.contains(QStringLiteral("background")); });
         m_delegate.calls.clear();
     }

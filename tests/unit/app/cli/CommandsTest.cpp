@@ -69,6 +69,10 @@ TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
                 {"get|QuickMail", "true\n"},
                 {"set|QuickMail|NO", ""},
                 {"get|QuickMail", "false\n"},
+                {"set|QuickMail|1", ""},
+                {"get|QuickMail", "true\n"},
+                {"set|QuickMail|0", ""},
+                {"get|QuickMail", "false\n"},
                 {"set|QuickMail|Yes", ""},
                 {"set|QuickMail|maybe", "! QuickMail is true or false, not “maybe”"},
                 {"get|QuickMail", "true\n"},
@@ -98,6 +102,9 @@ TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
                 {"set|AppStart|1", ""},
                 {"get|quickmail", "! “quickmail” is not a setting"},
                 {"set||x", "! “” is not a setting"}});
+    // As somebody typed it into the file.
+    defaults.setObject(QStringLiteral("0"), settingskey::kIclound);
+    expectSaid({{"get|Iclound", "false\n"}});
     EXPECT_TRUE(shared.boolForKey(settingskey::kAppStart));
     EXPECT_FALSE(defaults.objectForKey(settingskey::kAppStart).isValid());
     EXPECT_EQ(shared.writes.last(), QStringLiteral("synchronize"));
@@ -159,7 +166,13 @@ TEST_F(CommandsTest, SaysWhyASoundFileCannotBeUsed) {
     }
     EXPECT_EQ(tavi("waveform|" + empty), "! " + empty.toStdString() + ": it holds no sound");
     files.failingOpens = 1;
-    EXPECT_EQ(tavi("waveform|" + empty), "! " + empty.toStdString() + ": it may not be read");
+    const std::pair<AudioStatus, const char*> reasons[] = {{kAudioFilePermissionsError, ": it may not be read"},
+                                                           {kAudioFileInvalidFileError, ": it is damaged"},
+                                                           {kAudioFileUnspecifiedError, ": it cannot be read"}};
+    for (const auto& [status, reason] : reasons) {
+        files.openFailure = status;
+        EXPECT_EQ(tavi("waveform|" + empty), "! " + empty.toStdString() + reason);
+    }
 }
 
 TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
@@ -169,13 +182,15 @@ TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
     expectSaid({{"trim|" + file + "|--from|0.5|--to|2", first + ".WAV\n"},
                 {"trim|--from=4.5|--to=1e9|" + file, first + "_2.WAV\n"},
                 {"trim|" + file + "|--from|1|--to|2|--out|" + file, why + "File exists"},
+                {"trim|" + file + "|--from|1|--to|2|--out|" + file + "x", file.toStdString() + "x\n"},
                 {"trim|" + file + "|--from|2|--to|2", why + "--to must be later than --from"},
                 {"trim|" + file + "|--from|5|--to|6", why + "it is only 5 s long"}});
     const FakeAssetExportSession::State& made = *assets.sessions.at(0);
     EXPECT_EQ(made.outputFileType, AssetFileType::Wave);
     EXPECT_EQ(made.timeRange->start.seconds(), 0.5);
     EXPECT_EQ(made.timeRange->duration.seconds(), 1.5);
-    EXPECT_EQ(assets.sessions.size(), 3U);
+    EXPECT_EQ(assets.sessions.size(), 4U);
+    EXPECT_EQ(assets.sessions.back()->outputFileType, AssetFileType::Wave);
 }
 
 }  // namespace tavi::test
