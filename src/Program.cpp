@@ -123,6 +123,7 @@ struct Screens {
                         .session = platform.audioSession,
                         .remoteControl = platform.remoteControl,
                         .settings = platform.settings.store,
+                        .notices = platform.notices,
                         .runLoop = platform.runLoop,
                         .waveforms = waveforms,
                         .refreshes = platform.refreshes}};

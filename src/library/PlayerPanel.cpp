@@ -73,18 +73,25 @@ void PlayerPanel::initAudioWithUrl(const std::filesystem::path& path) {
         Q_EMIT urlPathChanged();
         showWaveform();
     }
-    // Without a sound system there is nothing to hear; the player says so itself when it is told to play.
+    // Without a sound server there is nothing to hear; the player says so when it is told to play.
     static_cast<void>(
         m_services.session.setCategory(AudioSession::Category::Playback, AudioSession::CategoryOption::None));
     static_cast<void>(m_services.session.setActive(true));
+    // Category playback takes the sound away from the earpiece.
+    m_ishandset = false;
+    m_speakerButton = {};
+    m_speakerButton.image = kEarpieceIsNext;
     if (m_avPlayer) {
         m_services.remoteControl.beginReceivingRemoteControlEvents();
         m_avPlayer->setDelegate(this);
         m_avPlayer->setEnableRate(true);
         m_avPlayer->setMeteringEnabled(true);
+    } else {
+        m_services.remoteControl.endReceivingRemoteControlEvents();
     }
     ++m_updateTimers;
     m_slider_player = {0.0, m_avPlayer ? m_avPlayer->duration() : 0.0};
+    m_lblSongMinTime.text = kNoTime;
     m_lblSongMaxTime.text = playerrules::timeText(m_slider_player.maximumValue);
     announceProgress();
     changed();
@@ -288,9 +295,11 @@ bool PlayerPanel::isHeadsetPluggedIn() const {
     return route && route->contains(QLatin1String("Head"));
 }
 
-void PlayerPanel::audioPlayerDidFinishPlaying(AudioPlayer& /*player*/, bool successfully) {
+void PlayerPanel::audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) {
     if (successfully) {
         showProgress();
+    } else {
+        m_services.notices.postNotice({player.error().text});
     }
     changed();
     Q_EMIT finished();
@@ -313,16 +322,16 @@ void PlayerPanel::changed() {
     const bool isPlaying = isPlayerPlaying();
     m_btnPlay.image = m_btnplaypuas.image = isPlaying ? kPauseImage : kPlayImage;
     runTick();
+    NowPlayingInfo info;
     if (m_avPlayer) {
-        NowPlayingInfo info;
         info.identifier =
             QString::fromLatin1(QCryptographicHash::hash(m_urlPath.native(), QCryptographicHash::Sha1).toHex());
         info.title = pathText(m_urlPath.filename());
         info.playbackDuration = m_avPlayer->duration();
         info.playbackState = isPlaying ? NowPlayingInfo::PlaybackState::Playing : NowPlayingInfo::PlaybackState::Paused;
         info.playbackRate = static_cast<double>(m_avPlayer->rate());
-        m_services.remoteControl.setNowPlayingInfo(info);
     }
+    m_services.remoteControl.setNowPlayingInfo(info);
     Q_EMIT outletsChanged();
 }
 

@@ -7,6 +7,7 @@
 #include "app/settings/SettingsStore.h"
 #include "platform/AudioPlayer.h"
 #include "platform/AudioSession.h"
+#include "platform/Notices.h"
 #include "platform/Outlets.h"
 #include "platform/RemoteControl.h"
 #include "platform/RunLoop.h"
@@ -43,6 +44,7 @@ public:
         AudioSession& session;
         RemoteControl& remoteControl;
         const SettingsStore& settings;
+        Notices& notices;
         RunLoop& runLoop;
         WaveformLoader& waveforms;
         DisplayRefreshes& refreshes;

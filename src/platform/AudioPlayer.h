@@ -38,6 +38,8 @@ public:
     /// Like pause(), and lets go of the output.
     virtual void stop() = 0;
     virtual bool isPlaying() const = 0;
+    /// Why the delegate was told last that the end came unsuccessfully; for the user.
+    virtual Error error() const = 0;
     /// What is heard now: from 0 to duration(), where it stays after the end.
     virtual double currentTime() const = 0;
     /// Goes to a time, exact to the sample; times outside the recording are its ends. Heard within 50 ms while playing.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "platform/AudioPlayer.h"
 #include "platform/RunLoop.h"
@@ -26,14 +27,14 @@ public:
     FakeAudioPlayer& operator=(const FakeAudioPlayer&) = delete;
 
     void setDelegate(AudioPlayerDelegate* delegate) override { m_delegate = delegate; }
-    bool prepareToPlay() override { return !m_hasFailed; }
+    bool prepareToPlay() override { return true; }
     bool play() override {
-        if (!m_isPlaying && prepareToPlay()) {
+        if (!m_isPlaying) {
             m_time = m_time >= m_duration ? 0.0 : m_time;
             m_isPlaying = true;
             run();
         }
-        return m_isPlaying;
+        return true;
     }
     void pause() override {
         settle();
@@ -41,6 +42,7 @@ public:
     }
     void stop() override { pause(); }
     bool isPlaying() const override { return m_isPlaying; }
+    Error error() const override { return m_error.value_or(Error()); }
     double currentTime() const override {
         const double elapsed = m_isPlaying ? static_cast<double>(m_since.msecsTo(m_runLoop.clock().now())) / 1000 : 0.0;
         return std::min(m_time + elapsed * effectiveRate(), m_duration);
@@ -66,16 +68,17 @@ public:
     void updateMeters() override { m_power = m_isMetering && m_isPlaying ? -20.0F : -160.0F; }
     float averagePowerForChannel(int channel) const override { return channel < 2 ? m_power : -160.0F; }
 
-    /// The file or the sound system is gone.
-    void fail() {
-        m_hasFailed = true;
+    /// The file or the sound system is gone, for good.
+    void fail(const Error& error) {
+        m_error = error;
         if (m_isPlaying) {
             finish(false);
         }
     }
 
-private:
     double effectiveRate() const { return m_isRateEnabled ? static_cast<double>(m_rate) : 1.0; }
+
+private:
     /// Brings the time up to now and arranges nothing more.
     void settle() {
         m_time = currentTime();
@@ -88,10 +91,10 @@ private:
     void run() {
         m_since = m_runLoop.clock().now();
         if (m_isPlaying) {
-            const double left = (m_duration - m_time) / effectiveRate();
+            const double left = m_error ? 0.0 : (m_duration - m_time) / effectiveRate();
             m_end = m_runLoop.scheduledTimer(left, false, [self = m_self] {
                 if (*self != nullptr) {
-                    (*self)->finish(true);
+                    (*self)->finish(!(*self)->m_error);
                 }
             });
         }
@@ -114,7 +117,7 @@ private:
     QDateTime m_since;
     std::shared_ptr<Timer> m_end;
     bool m_isPlaying = false;
-    bool m_hasFailed = false;
+    std::optional<Error> m_error;
     bool m_isRateEnabled = false;
     float m_rate = 1.0F;
     bool m_isMetering = false;

@@ -7,13 +7,14 @@ namespace tavi::test {
 
 /// A library screen with all that it needs.
 struct FakeLibrary {
-    explicit FakeLibrary(FakeServices& fakes, const AudioDuration& lengths)
+    FakeLibrary(FakeServices& fakes, const AudioDuration& lengths, Notices& notices)
         : lister(lengths, fakes.runLoop),
           waveforms({.files = fakes.files, .converters = fakes.converters, .queues = fakes.runLoop}),
           player({.players = fakes.players,
                   .session = fakes.session,
                   .remoteControl = fakes.remote,
                   .settings = fakes.settings,
+                  .notices = notices,
                   .runLoop = fakes.runLoop,
                   .waveforms = waveforms,
                   .refreshes = fakes.refreshes}),

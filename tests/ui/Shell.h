@@ -126,7 +126,7 @@ struct ShellScreens : FakeServices {
     NoticeLine notices{runLoop};
     FakeRecording fakeRecording{*this, presenter, tabBar};
     AudioRecordVC& recording = fakeRecording.vc;
-    FakeLibrary fakeLibrary{*this, durations};
+    FakeLibrary fakeLibrary{*this, durations, notices};
     VoiceMemoVC& library = fakeLibrary.vc;
     PlayerPanel& player = fakeLibrary.player;
     SettingVC settingVC{{.settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter}};

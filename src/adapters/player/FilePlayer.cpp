@@ -8,7 +8,6 @@
 
 #include "adapters/player/PlaybackBuffer.h"
 #include "adapters/player/PlaybackClock.h"
-#include "adapters/player/PlaybackFeed.h"
 #include "adapters/player/PlaybackReader.h"
 
 namespace tavi {
@@ -72,11 +71,10 @@ struct PlaybackCore {
 FilePlayer::FilePlayer(std::unique_ptr<ExtAudioFile> file, const AudioOutputFormat& format, double fileFramesPerFrame,
                        std::int64_t length, AudioTempos& tempos, AudioOutputs& outputs, RunLoop& runLoop)
     : m_format(format), m_length(length), m_outputs(outputs), m_runLoop(runLoop), m_averagePower{kSilence, kSilence} {
-    const auto whenEnded = [this, &runLoop, alive = std::weak_ptr<int>(m_lifetime)](bool successfully,
-                                                                                    std::uint64_t jump) {
-        runLoop.dispatchMain([this, alive, successfully, jump] {
+    const auto whenEnded = [this, &runLoop, alive = std::weak_ptr<int>(m_lifetime)](const PlaybackFeed::End& end) {
+        runLoop.dispatchMain([this, alive, end] {
             if (!alive.expired()) {
-                ended(successfully, jump);
+                ended(end);
             }
         });
     };
@@ -210,14 +208,16 @@ float FilePlayer::averagePowerForChannel(int channel) const {
     return index < m_averagePower.size() ? m_averagePower[index] : kSilence;
 }
 
-void FilePlayer::ended(bool successfully, std::uint64_t jump) {
-    // The number of a jump tells apart what has ended from what has been asked for since; an output that fails has
-    // none.
-    const bool hasOutputFailed = jump == 0;
-    if (!hasOutputFailed && (!m_isPlaying || jump != m_jump)) {
+void FilePlayer::ended(const PlaybackFeed::End& end) {
+    using Reason = PlaybackFeed::End::Reason;
+    const bool hasOutputFailed = end.reason == Reason::NoOutput;
+    // The number of a jump tells what has ended from what has been asked for since.
+    if (!hasOutputFailed && (!m_isPlaying || end.jump != m_jump)) {
         return;
     }
     const bool wasPlaying = m_isPlaying;
+    const bool successfully = end.reason == Reason::Whole;
+    m_error = end.reason == Reason::CutShort ? Error{qtTrId("error_recording_cut_short")} : end.error;
     m_frame = successfully ? m_length : currentFrame();
     m_isPlaying = false;
     m_core->feed.setPlaying(false);

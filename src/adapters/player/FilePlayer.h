@@ -5,6 +5,7 @@
 #include <memory>
 #include <thread>
 
+#include "adapters/player/PlaybackFeed.h"
 #include "platform/AudioOutput.h"
 #include "platform/AudioPlayer.h"
 #include "platform/AudioTempo.h"
@@ -33,6 +34,7 @@ public:
     void pause() override;
     void stop() override;
     bool isPlaying() const override { return m_isPlaying; }
+    Error error() const override { return m_error; }
     double currentTime() const override;
     void setCurrentTime(double seconds) override;
     double duration() const override { return seconds(m_length); }
@@ -49,7 +51,7 @@ private:
     void goTo(std::int64_t frame);
     void applyRate();
     void closeOutput();
-    void ended(bool successfully, std::uint64_t jump);
+    void ended(const PlaybackFeed::End& end);
 
     const AudioOutputFormat m_format;
     const std::int64_t m_length;
@@ -62,6 +64,7 @@ private:
     std::shared_ptr<std::jthread> m_thread;
     std::unique_ptr<AudioOutput> m_output;
     bool m_isPlaying = false;
+    Error m_error;
     /// Where the player stands while it does not play or a jump is under way, and the number of the last jump.
     std::int64_t m_frame = 0;
     std::uint64_t m_jump = 0;

@@ -248,7 +248,8 @@ void PlaybackFeed::audioOutputDidReach(AudioOutputStream& stream) {
     stream.setRunning(false);
     if (hasEnded) {
         publishPosition();
-        m_ended(m_end->kind == PlaybackMark::Kind::End, m_position.jump);
+        const bool isWhole = m_end->kind == PlaybackMark::Kind::End;
+        m_ended({isWhole ? End::Reason::Whole : End::Reason::CutShort, m_position.jump});
     }
 }
 
@@ -266,12 +267,12 @@ std::int64_t PlaybackFeed::audioOutputWillClose(AudioOutputStream& stream) {
     return end;
 }
 
-void PlaybackFeed::audioOutputDidFail(const Error&) {
+void PlaybackFeed::audioOutputDidFail(const Error& error) {
     m_stream = nullptr;
     m_isRunning = false;
     m_isFading = false;
     // The clock goes on: it knows better than the last timing what has been heard by now.
-    m_ended(false, 0);
+    m_ended({End::Reason::NoOutput, 0, error});
 }
 
 void PlaybackFeed::write(std::int64_t at, const float* interleaved, std::int64_t frames) {

@@ -20,8 +20,23 @@ namespace tavi {
 /// the old, frame for frame.
 class PlaybackFeed : public AudioOutputSource {
 public:
-    /// Told on the playback thread that a jump's sound has come to its end, and whether that is the recording's.
-    using Ended = std::function<void(bool successfully, std::uint64_t jump)>;
+    /// Why sound has come to its end, told on the playback thread.
+    struct End {
+        enum class Reason {
+            /// The recording's own end has been heard.
+            Whole,
+            /// No more of the recording can be read.
+            CutShort,
+            /// There is no output, or no longer.
+            NoOutput,
+        };
+        Reason reason = Reason::Whole;
+        /// The number of the jump whose sound it was; 0 where the output failed.
+        std::uint64_t jump = 0;
+        /// What the output said.
+        Error error = {};
+    };
+    using Ended = std::function<void(const End& end)>;
     /// Sum of the squares of each channel's samples, and over how many frames.
     struct Level {
         std::array<double, 2> sumOfSquares{};

@@ -20,6 +20,12 @@ constexpr pa_usec_t kAnswerLimit = 3 * PA_USEC_PER_SEC;
 /// Closing takes no longer.
 constexpr pa_usec_t kCloseLimit = PA_USEC_PER_SEC / 2;
 
+/// What pulseError() says, but where that is about microphones.
+Error playbackError(int code) {
+    const bool isAboutDevice = code == PA_ERR_NOENTITY || code == PA_ERR_KILLED;
+    return isAboutDevice ? Error{qtTrId("error_output_missing")} : pulseError(code);
+}
+
 }  // namespace
 
 PulsePlayback::PulsePlayback(PulseConnection& connection, const AudioOutputFormat& format,
@@ -46,7 +52,7 @@ void PulsePlayback::connectionDidSettle(PulseConnection::State state) {
         return;
     }
     if (state != PulseConnection::State::Ready) {
-        fail(pulseError(state == PulseConnection::State::Refused ? PA_ERR_ACCESS : PA_ERR_CONNECTIONREFUSED));
+        fail(playbackError(state == PulseConnection::State::Refused ? PA_ERR_ACCESS : PA_ERR_CONNECTIONREFUSED));
         return;
     }
     m_connection.addObserver(shared_from_this());
@@ -69,7 +75,7 @@ void PulsePlayback::limitDidPass() {
     if (m_isReady && !m_query) {
         updateTiming();
     } else {
-        fail(pulseError(PA_ERR_TIMEOUT));
+        fail(playbackError(PA_ERR_TIMEOUT));
     }
 }
 
@@ -87,7 +93,7 @@ void PulsePlayback::createStream() {
                               static_cast<std::uint8_t>(m_format.channels)};
     m_stream.reset(pa_stream_new(m_connection.context(), "Tavi", &spec, nullptr));
     if (!m_stream) {
-        fail(pulseError(pa_context_errno(m_connection.context())));
+        fail(playbackError(pa_context_errno(m_connection.context())));
         return;
     }
     pa_stream_set_state_callback(
@@ -115,7 +121,7 @@ void PulsePlayback::createStream() {
     constexpr auto kFlags = static_cast<pa_stream_flags_t>(PA_STREAM_START_CORKED | PA_STREAM_ADJUST_LATENCY);
     // Without a name libpulse takes the sink of the user's configuration, else the server's default.
     if (pa_stream_connect_playback(m_stream.get(), nullptr, &attributes, kFlags, nullptr, nullptr) < 0) {
-        fail(pulseError(pa_context_errno(m_connection.context())));
+        fail(playbackError(pa_context_errno(m_connection.context())));
     }
 }
 
@@ -128,7 +134,7 @@ void PulsePlayback::streamDidChangeState() {
             break;
         case PA_STREAM_FAILED:
         case PA_STREAM_TERMINATED:
-            fail(pulseError(pa_context_errno(m_connection.context())));
+            fail(playbackError(pa_context_errno(m_connection.context())));
             break;
         default:
             break;

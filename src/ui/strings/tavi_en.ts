@@ -250,6 +250,14 @@
         <source></source>
         <translation>There is no microphone to record from.</translation>
     </message>
+    <message id="error_output_missing">
+        <source></source>
+        <translation>There is nothing to play sound on.</translation>
+    </message>
+    <message id="error_recording_cut_short">
+        <source></source>
+        <translation>The rest of this recording cannot be read.</translation>
+    </message>
     <message id="error_sound_server_missing">
         <source></source>
         <translation>No sound server is running.</translation>

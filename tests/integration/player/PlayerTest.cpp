@@ -31,7 +31,9 @@ double tone(double time) {
 /// Plays made-up recordings to a private sound server and listens to its speaker.
 class PlayerTest : public ::testing::Test, public AudioPlayerDelegate {
 protected:
-    void audioPlayerDidFinishPlaying(AudioPlayer&, bool successfully) override { m_ends.push_back(successfully); }
+    void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override {
+        m_ends << (successfully ? QStringLiteral("whole") : player.error().text);
+    }
 
     std::unique_ptr<AudioPlayer> made(double seconds, double rate, const std::function<double(double)>& valueAt) {
         m_sound = std::make_shared<FakeSound>();
@@ -97,7 +99,8 @@ protected:
     PulseAudioOutputs m_outputs{std::make_shared<PulseConnection>()};
     FilePlayers m_players{m_files, m_tempos, m_outputs, m_runLoop};
     std::shared_ptr<FakeSound> m_sound;
-    std::vector<bool> m_ends;
+    /// How each playing has ended.
+    QStringList m_ends;
 };
 
 TEST_F(PlayerTest, KeepsThePitchAndTheTimeAtEveryRate) {
@@ -107,10 +110,10 @@ TEST_F(PlayerTest, KeepsThePitchAndTheTimeAtEveryRate) {
         m_ends.clear();
         player->setRate(static_cast<float>(rate));
         ASSERT_TRUE(player->play());
-        ASSERT_TRUE(spinUntil([&] { return !m_ends.empty(); }));
+        ASSERT_TRUE(spinUntil([&] { return !m_ends.isEmpty(); }));
         EXPECT_EQ(player->currentTime(), 3.0);
         const std::vector<float> samples = heardUntilSilence();
-        EXPECT_EQ(m_ends, std::vector<bool>{true});
+        EXPECT_EQ(m_ends, QStringList{QStringLiteral("whole")});
         // A machine that is busy leaves gaps.
         std::size_t played = 0;
         std::pair<std::size_t, std::size_t> longest;
@@ -133,8 +136,8 @@ TEST_F(PlayerTest, GoesOnInPlaceWithoutAClickWhereTheRateChanges) {
     ASSERT_TRUE(spinUntil([&] { return player->currentTime() >= 1.0; }));
     const double place = player->currentTime();
     player->setRate(2.0F);
-    ASSERT_TRUE(spinUntil([&] { return !m_ends.empty(); }));
-    EXPECT_EQ(m_ends, std::vector<bool>{true});
+    ASSERT_TRUE(spinUntil([&] { return !m_ends.isEmpty(); }));
+    EXPECT_EQ(m_ends, QStringList{QStringLiteral("whole")});
     EXPECT_EQ(player->currentTime(), 3.0);
     const std::vector<float> samples = heardUntilSilence();
     const auto runs = soundsIn(samples);
@@ -184,25 +187,36 @@ TEST_F(PlayerTest, GoesOnElsewhereAndEndsWhenTheServerOrTheFileGivesUp) {
     ASSERT_TRUE(playsOn());
     m_server.pactl("move-sink-input $(pactl list short sink-inputs | cut -f1) mic_sink");
     EXPECT_TRUE(playsOn());
-    EXPECT_TRUE(m_ends.empty());
+    EXPECT_TRUE(m_ends.isEmpty());
 
-    const auto ends = [&](std::size_t count) {
-        const bool hasEnded = spinUntil([&] { return m_ends.size() >= count; });
-        return hasEnded && !player->isPlaying() && m_ends == std::vector<bool>(count, false);
+    const auto endsWith = [&](const char* why) {
+        const bool hasEnded = spinUntil([&] { return !m_ends.isEmpty(); });
+        const QStringList ends = std::exchange(m_ends, {});
+        return hasEnded && !player->isPlaying() && ends == QStringList{QLatin1String(why)};
     };
     m_server.freeze();
-    EXPECT_TRUE(ends(1));
+    EXPECT_TRUE(endsWith("error_sound_server_silent"));
     m_server.thaw();
     EXPECT_TRUE(playsOn());
     const double before = player->currentTime();
     m_server.kill();
-    EXPECT_TRUE(ends(2));
+    EXPECT_TRUE(endsWith("error_sound_server_stopped"));
     EXPECT_GE(player->currentTime(), before);
     ASSERT_TRUE(player->play());
-    EXPECT_TRUE(ends(3));
+    EXPECT_TRUE(endsWith("error_sound_server_missing"));
 
     m_server.start();
     EXPECT_TRUE(playsOn());
+    m_sound->readable = static_cast<std::int64_t>(player->currentTime() + 5.0) * kRate;
+    player->setCurrentTime(player->currentTime() + 4.0);
+    EXPECT_TRUE(endsWith("error_recording_cut_short"));
+
+    player->setCurrentTime(0.0);
+    EXPECT_TRUE(playsOn());
+    m_server.pactl("unload-module module-null-sink");
+    EXPECT_TRUE(endsWith("error_output_missing"));
+    ASSERT_TRUE(player->play());
+    EXPECT_TRUE(endsWith("error_output_missing"));
 }
 
 }  // namespace

@@ -173,8 +173,9 @@ protected:
     PlaybackClock m_clock;
     FakeStream m_stream;
     std::vector<std::pair<bool, std::uint64_t>> m_ends;
-    PlaybackFeed m_feed{m_buffer, m_clock,
-                        [this](bool successfully, std::uint64_t jump) { m_ends.emplace_back(successfully, jump); }};
+    PlaybackFeed m_feed{m_buffer, m_clock, [this](const PlaybackFeed::End& end) {
+                            m_ends.emplace_back(end.reason == PlaybackFeed::End::Reason::Whole, end.jump);
+                        }};
     std::unique_ptr<PlaybackReader> m_reader;
 };
 
