@@ -12,6 +12,9 @@ extern "C" {
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <type_traits>
+
+#include "platform/Error.h"
 
 namespace tavi {
 
@@ -46,14 +49,18 @@ struct AvOutputDeleter {
 };
 using AvOutput = std::unique_ptr<AVFormatContext, AvOutputDeleter>;
 
-/// A file's bytes for libavformat, through functions of the caller's; null where there is no memory. From FFmpeg 7 on
-/// the bytes that are written are const.
-template <class Read, class Write>
-AvIo makeAvIo(bool isWriting, void* opaque, Read read, Write write, std::int64_t (*seek)(void*, std::int64_t, int)) {
+/// From FFmpeg 7 on, what is written is const.
+using AvWrittenByte = std::conditional_t<(LIBAVFORMAT_VERSION_MAJOR >= 61), const std::uint8_t, std::uint8_t>;
+
+/// A file's bytes for libavformat, through functions of the caller's, of which it needs one to read or write; null
+/// where there is no memory.
+inline AvIo makeAvIo(void* opaque, int (*read)(void*, std::uint8_t*, int), int (*write)(void*, AvWrittenByte*, int),
+                     std::int64_t (*seek)(void*, std::int64_t, int)) {
     constexpr int kBufferBytes = 64 * 1024;
     auto* buffer = static_cast<unsigned char*>(av_malloc(kBufferBytes));
-    AvIo io(buffer != nullptr ? avio_alloc_context(buffer, kBufferBytes, isWriting ? 1 : 0, opaque, read, write, seek)
-                              : nullptr);
+    AvIo io(buffer != nullptr
+                ? avio_alloc_context(buffer, kBufferBytes, write != nullptr ? 1 : 0, opaque, read, write, seek)
+                : nullptr);
     if (!io) {
         av_free(buffer);
     }
@@ -89,6 +96,11 @@ inline QString avErrorText(int code) {
     char text[AV_ERROR_MAX_STRING_SIZE] = {};
     av_strerror(code, text, sizeof text);
     return QString::fromUtf8(text);
+}
+
+/// A failure of FFmpeg's: what could not be done, and why.
+inline tl::unexpected<Error> avFailure(const QString& what, int code) {
+    return failure(what + QStringLiteral(": ") + avErrorText(code));
 }
 
 }  // namespace tavi

@@ -33,7 +33,7 @@ void addEntries(const AVDictionary* dictionary, AudioFileInfo& info) {
 
 }  // namespace
 
-AvFile::AvFile(int fd) : m_fd(fd), m_io(makeAvIo(false, this, &AvFile::readPacket, nullptr, &AvFile::seekTo)) {}
+AvFile::AvFile(int fd) : m_fd(fd), m_io(makeAvIo(this, &AvFile::readPacket, nullptr, &AvFile::seekTo)) {}
 
 AvFile::~AvFile() = default;
 

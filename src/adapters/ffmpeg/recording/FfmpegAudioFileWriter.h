@@ -4,8 +4,9 @@
 #include <memory>
 #include <optional>
 
-#include "adapters/ffmpeg/AvHandles.h"
 #include "adapters/ffmpeg/converting/SampleConverter.h"
+#include "adapters/ffmpeg/recording/RecordingContainer.h"
+#include "adapters/ffmpeg/recording/RecordingEncoder.h"
 #include "adapters/ffmpeg/recording/RecordingFile.h"
 #include "adapters/ffmpeg/recording/RecordingFormat.h"
 #include "platform/AudioFileWriter.h"
@@ -29,42 +30,21 @@ public:
     Result<void> finish() override;
 
 private:
-    FfmpegAudioFileWriter(std::unique_ptr<RecordingFile> file, const RecordingFormat& format);
+    FfmpegAudioFileWriter(std::unique_ptr<RecordingFile> file, const RecordingFormat& format, RecordingEncoder encoder);
 
-    Result<void> openEncoder();
-    Result<void> openContainer();
-    /// Where the next converted frames go, and how many fit.
-    int room(std::uint8_t** planes) const;
+    /// So many converted frames, or a code of FFmpeg's, have come.
     Result<void> take(int frames);
-    Result<void> encodeFrame(const AVFrame* frame);
-    /// FFmpeg's code of what failed, or 0.
-    int storePacket();
-    /// Hands what the container holds back to the file.
-    void flushContainer();
     /// Encodes what the converter and the encoder hold back.
     Result<void> drain();
-    void closeContainer();
     Result<void> fail(const Error& error);
 
-    // The file outlives the container that writes into it.
+    // In the order in which they use each other.
     std::unique_ptr<RecordingFile> m_file;
     RecordingFormat m_format;
-    AvIo m_io;
-    AvOutput m_container;
-    AvCodec m_encoder;
-    AvFrame m_frame;
-    AvPacket m_packet;
+    RecordingEncoder m_encoder;
+    std::unique_ptr<RecordingContainer> m_container;
     std::optional<SampleConverter> m_converter;
     int m_channelsIn = 0;
-    /// Frames that one encoder frame takes, and how many of them are there.
-    int m_frameSize = 0;
-    int m_filled = 0;
-    /// Frames given to the encoder, and the presentation time up to which the container was flushed.
-    std::int64_t m_framesEncoded = 0;
-    std::int64_t m_flushedUntil = 0;
-    /// Bytes before the sound.
-    std::int64_t m_dataOffset = 0;
-    bool m_hasFragments = false;
     bool m_finished = false;
     std::optional<Error> m_failure;
 };
