@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 
 #include "adapters/ffmpeg/exporting/PacketExport.h"
 #include "adapters/ffmpeg/reading/AvFile.h"
@@ -80,17 +81,16 @@ Result<void> Output::open(const ExportJob& job, const AVStream& source) {
     code = avcodec_parameters_copy(stream->codecpar, source.codecpar);
     stream->codecpar->codec_tag = 0;
     stream->time_base = {1, source.codecpar->sample_rate};
-    AVDictionary* options = nullptr;
+    AvOptions options;
     if (job.type == AssetFileType::AppleM4A) {
         // The default of milliseconds would round the edit list.
-        av_dict_set_int(&options, "movie_timescale", source.codecpar->sample_rate, 0);
+        options.set("movie_timescale", source.codecpar->sample_rate);
     } else if (job.type == AssetFileType::Wave) {
-        av_dict_set(&options, "rf64", "auto", 0);
+        options.set("rf64", "auto");
     }
     if (code >= 0) {
-        code = avformat_write_header(container, &options);
+        code = avformat_write_header(container, options.get());
     }
-    av_dict_free(&options);
     if (code == AVERROR(ENOSPC)) {
         return tl::unexpected(textOf(code));
     }
@@ -154,6 +154,48 @@ private:
     std::int64_t m_duration = 0;
 };
 
+/// A stretch in the source's own times, and from where on packets are wanted, so that a decoder settles.
+struct Stretch {
+    std::int64_t start = 0;
+    std::int64_t end = 0;
+    std::int64_t first = 0;
+};
+
+/// What has been copied: nothing, or up to a time; and a code of FFmpeg's where that failed.
+struct Copied {
+    std::optional<std::int64_t> end;
+    int code = 0;
+};
+
+Copied copyStretch(const ExportJob& job, const Stretch& stretch, AVRational timeBase, TimedPackets& packets,
+                   Output& output) {
+    Copied copied;
+    bool isFollowed = false;
+    while (copied.code >= 0 && !job.control.isCancelled() && packets.next()) {
+        AVPacket& packet = packets.packet();
+        const std::int64_t begin = packet.pts;
+        // One packet always follows the first that is heard: see M4aPackets.h.
+        if (begin >= stretch.end && isFollowed) {
+            break;
+        }
+        const std::int64_t end = begin + packet.duration;
+        if (end <= stretch.first) {
+            continue;
+        }
+        // The last one that is heard ends with the stretch, and what follows it takes no time.
+        packet.pts = packet.dts = std::min(begin, stretch.end) - stretch.start;
+        packet.duration = std::min(packet.duration, std::max<std::int64_t>(0, stretch.end - begin));
+        // What the whole file leaves out at its ends is not at those of the stretch.
+        av_packet_free_side_data(&packet);
+        job.control.setProgress(static_cast<double>(std::max<std::int64_t>(0, begin - stretch.start)) /
+                                static_cast<double>(stretch.end - stretch.start));
+        isFollowed = begin > stretch.start;
+        copied.end = end;
+        copied.code = output.write(packet, timeBase);
+    }
+    return copied;
+}
+
 }  // namespace
 
 Result<void> exportAnyPackets(const ExportJob& job) {
@@ -162,55 +204,29 @@ Result<void> exportAnyPackets(const ExportJob& job) {
         return failure(QStringLiteral("The sound file could not be read."));
     }
     AVStream& stream = input->stream();
-    const AVRational timeBase = stream.time_base;
-    const auto timeOf = [&](std::int64_t frame) { return av_rescale_q(frame, {1, job.rate}, timeBase); };
+    const auto timeOf = [&](std::int64_t frame) { return av_rescale_q(frame, {1, job.rate}, stream.time_base); };
     Output output;
     if (Result<void> opened = output.open(job, stream); !opened) {
         return opened;
     }
     const std::int64_t origin =
         input->heardFrom().value_or(stream.start_time != AV_NOPTS_VALUE ? stream.start_time : 0);
-    const std::int64_t start = origin + timeOf(job.start);
-    const std::int64_t end = origin + timeOf(job.end);
-    const std::int64_t first = start - timeOf(prerollOf(*stream.codecpar));
-    if (first > origin) {
+    Stretch stretch{origin + timeOf(job.start), origin + timeOf(job.end)};
+    stretch.first = stretch.start - timeOf(prerollOf(*stream.codecpar));
+    if (stretch.first > origin) {
         // A packet earlier, as packets are found by their start.
-        avformat_seek_file(&input->context(), stream.index, INT64_MIN, first - timeOf(job.rate / 10), first, 0);
+        const std::int64_t early = stretch.first - timeOf(job.rate / 10);
+        avformat_seek_file(&input->context(), stream.index, INT64_MIN, early, stretch.first, 0);
     }
     TimedPackets packets(*input, origin);
-    int code = 0;
-    bool isAny = false;
-    std::int64_t last = origin - 1;
-    std::int64_t next = origin;
-    while (code >= 0 && !job.control.isCancelled() && packets.next()) {
-        AVPacket& packet = packets.packet();
-        const std::int64_t begin = packet.pts;
-        // One packet always follows the first that is heard: see M4aPackets.h.
-        if (begin >= end && last > start) {
-            break;
-        }
-        next = begin + packet.duration;
-        if (next <= first) {
-            continue;
-        }
-        // The last one that is heard ends with the stretch, and what follows it takes no time.
-        packet.pts = packet.dts = std::min(begin, end) - start;
-        packet.duration = std::min(packet.duration, std::max<std::int64_t>(0, end - begin));
-        // What the whole file leaves out at its ends is not at those of the stretch.
-        av_packet_free_side_data(&packet);
-        job.control.setProgress(static_cast<double>(std::max<std::int64_t>(0, begin - start)) /
-                                static_cast<double>(end - start));
-        isAny = true;
-        last = begin;
-        code = output.write(packet, timeBase);
-    }
-    if (code >= 0 && !isAny) {
+    Copied copied = copyStretch(job, stretch, stream.time_base, packets, output);
+    if (copied.code >= 0 && !copied.end) {
         return damagedSource();
     }
-    if (code >= 0 && next < end - timeOf(job.rate / 2) && !job.control.isCancelled()) {
+    if (copied.code >= 0 && *copied.end < stretch.end - timeOf(job.rate / 2) && !job.control.isCancelled()) {
         return shortenedSource();
     }
-    code = code >= 0 ? output.finish() : code;
+    const int code = copied.code >= 0 ? output.finish() : copied.code;
     return code >= 0 ? Result<void>() : tl::unexpected(textOf(code));
 }
 

@@ -20,20 +20,6 @@ namespace {
 constexpr std::int64_t kMaximumChannels = 64;
 constexpr std::int64_t kMostPacketBytes = std::int64_t{1} << 30;
 
-/// Frames to leave out at the start and at the end of a packet, as libavformat tells its decoder.
-std::int64_t skippedFrames(const AVPacket& packet) {
-    std::size_t size = 0;
-    const std::uint8_t* data = av_packet_get_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
-    if (data == nullptr || size < 8) {
-        return 0;
-    }
-    const auto number = [data](std::size_t at) {
-        return std::int64_t{data[at]} | std::int64_t{data[at + 1]} << 8 | std::int64_t{data[at + 2]} << 16 |
-               std::int64_t{data[at + 3]} << 24;
-    };
-    return number(0) + number(4);
-}
-
 }  // namespace
 
 AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& packets) {
@@ -141,16 +127,14 @@ std::int64_t ContainerPackets::scannedLength(int rate) {
     m_isFresh = false;
     const AvPacket packet(av_packet_alloc());
     std::int64_t duration = 0;
-    std::int64_t skipped = 0;
     while (m_file->next(*packet)) {
         m_maxPacketSize = std::max(m_maxPacketSize, static_cast<std::uint32_t>(packet->size));
         if ((packet->flags & AV_PKT_FLAG_DISCARD) == 0) {
             // Damaged files name any duration; their sum does not overflow.
             duration += std::clamp<std::int64_t>(packet->duration, 0, std::int64_t{1} << 32);
-            skipped += skippedFrames(*packet);
         }
     }
-    return std::max<std::int64_t>(0, av_rescale_q(duration, m_file->stream().time_base, {1, rate}) - skipped);
+    return av_rescale_q(duration, m_file->stream().time_base, {1, rate});
 }
 
 bool ContainerPackets::rewind() {

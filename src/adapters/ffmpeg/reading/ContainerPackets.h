@@ -34,7 +34,7 @@ private:
     bool tellsExactTimes() const;
     /// Length from the movie's header, cut where the file ends before.
     std::int64_t movieLength(int rate) const;
-    /// Adds up what the packets say.
+    /// Adds up what the packets say; what a decoder leaves out of the first and last ones is counted, too.
     std::int64_t scannedLength(int rate);
 
     int m_fd;

@@ -2,22 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tavi {
-
-namespace {
-
-/// Tells the decoder how much of what comes out at the start to leave out.
-bool addSkip(AVPacket& packet, std::int64_t frames) {
-    std::uint8_t* data = av_packet_new_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, 10);
-    for (int i = 0; data != nullptr && i < 10; ++i) {
-        data[i] = i < 4 ? static_cast<std::uint8_t>(frames >> (8 * i)) : std::uint8_t{0};
-    }
-    return data != nullptr;
-}
-
-}  // namespace
 
 std::unique_ptr<Mp4Packets> Mp4Packets::open(int fd) {
     auto reader = Mp4PacketReader::open(fd);
@@ -53,16 +39,6 @@ std::int64_t Mp4Packets::declaredLength(int rate) {
     return std::llround(std::min(m_reader.seconds() * rate, 1e15));
 }
 
-bool Mp4Packets::rewind() {
-    m_isFresh = true;
-    return m_reader.rewind();
-}
-
-bool Mp4Packets::seek(std::int64_t time) {
-    m_isFresh = true;
-    return m_reader.seek(time);
-}
-
 bool Mp4Packets::next(AVPacket& packet) {
     av_packet_unref(&packet);
     const auto found = m_reader.next();
@@ -72,10 +48,6 @@ bool Mp4Packets::next(AVPacket& packet) {
     std::copy(found->bytes.begin(), found->bytes.end(), packet.data);
     packet.pts = packet.dts = found->start;
     packet.duration = found->duration;
-    packet.flags = AV_PKT_FLAG_KEY | (packet.pts + packet.duration <= 0 ? AV_PKT_FLAG_DISCARD : 0);
-    if (std::exchange(m_isFresh, false) && packet.pts < 0) {
-        return addSkip(packet, -packet.pts);
-    }
     return true;
 }
 

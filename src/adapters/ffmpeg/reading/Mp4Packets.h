@@ -19,9 +19,11 @@ public:
     bool hasExactTimes() const override { return true; }
     std::uint32_t maxPacketSize() const override { return m_reader.maxPacketSize(); }
     std::int64_t declaredLength(int rate) override;
+    /// What comes before time 0 is decoded, but not meant to be heard.
+    std::optional<std::int64_t> startTime() const override { return 0; }
     bool next(AVPacket& packet) override;
-    bool rewind() override;
-    bool seek(std::int64_t time) override;
+    bool rewind() override { return m_reader.rewind(); }
+    bool seek(std::int64_t time) override { return m_reader.seek(time); }
 
 private:
     explicit Mp4Packets(Mp4PacketReader reader) : m_reader(std::move(reader)) {}
@@ -30,8 +32,6 @@ private:
 
     Mp4PacketReader m_reader;
     AvParameters m_parameters;
-    /// No packet has been read since the place changed.
-    bool m_isFresh = true;
 };
 
 }  // namespace tavi
