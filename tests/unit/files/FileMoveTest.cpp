@@ -15,6 +15,8 @@
 #include <fstream>
 #include <string>
 
+#include "files/FreeName.h"
+
 namespace tavi::test {
 namespace {
 
@@ -123,6 +125,22 @@ TEST_F(FileMoveTest, aFailureLeavesTheSourceAndNothingElse) {
     EXPECT_EQ(read(from), large.toStdString());
     EXPECT_FALSE(isThere(farTo));
     EXPECT_EQ(entriesOf(far() / "PrivateInbox"), 0);
+}
+
+TEST_F(FileMoveTest, WhatStepsAsideGetsTheFirstFreeName) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"talk.wav", "talk_3.wav"}, {"talk.old.m4a", "talk.old_2.m4a"}, {"talk", "talk_2"}, {"t\xfflk.", "t\xfflk_2."}};
+    write(near() / "talk_2.wav", "other");
+    for (const auto& [name, expected] : cases) {
+        write(near() / name, "new");
+        const auto aside = stepAside(near() / name);
+        ASSERT_TRUE(aside) << name;
+        EXPECT_EQ(aside->filename(), expected);
+        EXPECT_EQ(read(*aside), "new");
+        EXPECT_FALSE(isThere(near() / name));
+    }
+    EXPECT_EQ(read(near() / "talk_2.wav"), "other");
+    EXPECT_FALSE(stepAside(near() / "missing.wav"));
 }
 
 }  // namespace
