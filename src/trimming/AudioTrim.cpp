@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "files/FileMove.h"
+#include "files/FreeName.h"
 #include "files/NativePath.h"
 #include "files/PathText.h"
 #include "trimming/TrimRules.h"
@@ -120,7 +121,6 @@ void AudioTrim::trimAudio() {
     Q_EMIT outletsChanged();
     m_outputPath =
         trimrules::outputPath(m_services.container.documentsPath(), m_services.runLoop.clock().now(), m_fileName);
-    removeAt(m_outputPath);
     if (!exportAsset(m_services.exports.assetWithURL(m_fileName), m_outputPath)) {
         m_indicatorText.clear();
         Q_EMIT outletsChanged();
@@ -157,14 +157,19 @@ bool AudioTrim::exportAsset(const Asset& asset, const std::filesystem::path& pat
     if (!made) {
         return false;
     }
+    if (existsAt(path)) {
+        if (const auto aside = stepAside(path); !aside) {
+            qCWarning(lcTrimming, "%s", qUtf8Printable(aside.error().text));
+        }
+    }
     const std::shared_ptr<AssetExportSession> session = std::move(*made);
-    // Whole seconds, on purpose: what is dropped at both ends keeps the files of this screen comparable.
+    // On purpose whole seconds: fractions are dropped at both ends.
     const auto start = static_cast<std::int64_t>(m_leftValue);
     const auto end = static_cast<std::int64_t>(m_rightValue);
     session->setTimeRange({{start, 1}, {end - start, 1}});
     session->setAudioMix({{AssetAudioMixParameters{}}});
     session->setOutputURL(path);
-    // Whatever the name says, on purpose: every file that this screen has made so far holds M4A data.
+    // On purpose whatever the name says: this screen always makes M4A data.
     session->setOutputFileType(AssetFileType::AppleM4A);
     const QPointer<AudioTrim> self(this);
     session->exportAsynchronously([self, session, &runLoop = m_services.runLoop, reload = m_reloadTableViewDataSource] {

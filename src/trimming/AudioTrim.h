@@ -79,7 +79,8 @@ public:
     void setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save) {
         m_saveToCloud = std::move(save);
     }
-    /// Exports whole seconds into the file at that path. False, with nothing exported, for a file without sound.
+    /// Exports whole seconds into the file at that path; one that is there steps aside to a free name. False, with
+    /// nothing exported, for a file without sound.
     bool exportAsset(const Asset& asset, const std::filesystem::path& path);
     /// Moves the new file into a folder, and closes.
     void addTrimFileWithFilePath(const std::filesystem::path& folder);

@@ -22,13 +22,13 @@ void AudioTrimmerStage::letGo(AudioTrimmerViewController* screen) {
     if (m_screen == screen) {
         m_screen = nullptr;
         Q_EMIT screenChanged();
-        connect(screen->exporter(), &TrimExport::changed, this, [this, screen] { deleteWhenIdle(screen); });
+        connect(screen, &AudioTrimmerViewController::busyChanged, this, [this, screen] { deleteWhenIdle(screen); });
     }
     deleteWhenIdle(screen);
 }
 
 void AudioTrimmerStage::deleteWhenIdle(AudioTrimmerViewController* screen) {
-    if (!screen->exporter()->isRunning()) {
+    if (!screen->isBusy()) {
         // Later: the export that has just ended goes on to tell the screen.
         screen->deleteLater();
     }

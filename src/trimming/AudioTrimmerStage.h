@@ -7,7 +7,8 @@
 
 namespace tavi {
 
-/// Where the trimmer is shown: owns it while it is on screen, and until its exports have ended. Main thread only.
+/// Where the trimmer is shown: owns it while it is on screen, and until its exports and recordings have ended. Main
+/// thread only.
 class AudioTrimmerStage : public QObject {
     Q_OBJECT
     /// The screen to show; null while there is none.

@@ -32,8 +32,10 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
       m_audioPlot(EZAudioPlot::init(services.refreshes)),
       m_player({.players = services.players, .runLoop = services.runLoop}, filePath(), m_selection),
       m_export(services.exports, services.runLoop),
-      m_recorder(services.recorder, services.container, [this] { didFinishRecording(); }) {
+      m_recorder(services.recorder, services.exports, services.runLoop, services.container.documentsPath()) {
     connect(&m_selection, &TrimSelection::panned, &m_player, &TrimPlayer::stopAudioPlayer);
+    connect(&m_export, &TrimExport::changed, this, &AudioTrimmerViewController::busyChanged);
+    connect(&m_recorder, &ScratchRecorder::recorded, this, &AudioTrimmerViewController::didRecord);
     connect(&m_player, &TrimPlayer::prepared, this, [this](double duration) {
         m_lblTotalDuration = trimrules::timeFormatted(duration, true);
         Q_EMIT outletsChanged();
@@ -149,12 +151,6 @@ void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> c
 }
 
 void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std::function<void()>& completion) {
-    if (!m_abandonedPath.empty()) {
-        // It may have been over before it could be given up.
-        removeAt(m_abandonedPath);
-        postDataUpdated();
-        return;
-    }
     if (status == AssetExportStatus::Completed) {
         // Before the completion, on purpose: what waits for the first export's completion finds the second one begun,
         // and a caller is told again whenever the file is written anew.
@@ -162,13 +158,12 @@ void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std
         completion();
         return;
     }
-    if (!existsAt(m_strTrimmedAudioURL)) {
-        // An export that was given up has taken the earlier file with it.
+    if (m_isDismissed) {
+        // The list may show the file before under the name that it had meanwhile.
+        postDataUpdated();
+    } else if (!existsAt(m_strTrimmedAudioURL)) {
         m_isAudioTrimmed = false;
         m_areEditingControlsHidden = false;
-        if (m_isDismissed) {
-            postDataUpdated();
-        }
         Q_EMIT outletsChanged();
     }
 }
@@ -219,10 +214,7 @@ void AudioTrimmerViewController::btnEditTrimmedVideoTapped() {
 }
 
 void AudioTrimmerViewController::btnCancelTapped() {
-    if (m_export.isRunning()) {
-        m_abandonedPath = m_strTrimmedAudioURL;
-        m_export.cancel();
-    }
+    m_export.abandon();
     m_strTrimmedAudioURL.clear();
     m_player.drop();
     dismissAudioTrimmer({});
@@ -234,6 +226,7 @@ void AudioTrimmerViewController::dismissAudioTrimmer(const std::filesystem::path
     if (std::exchange(m_isLoading, false)) {
         m_services.waveforms.cancel();
     }
+    m_recorder.close();
     if (m_input.completionBlock) {
         m_input.completionBlock(!path.empty(), path);
     }
@@ -263,27 +256,19 @@ void AudioTrimmerViewController::stopRecording() {
     Q_EMIT outletsChanged();
 }
 
-void AudioTrimmerViewController::didFinishRecording() {
-    const QPointer<AudioTrimmerViewController> self(this);
-    m_services.runLoop.dispatchBackground(
-        [self, services = m_services, original = m_recorder.strOriginalAudioURL(), copy = m_recorder.strAudioURL()] {
-            const double duration = services.exports.assetWithURL(original).duration.seconds();
-            ScratchRecorder::replaceCopy(original, copy);
-            services.runLoop.dispatchMain([self, duration] {
-                if (self) {
-                    self->didCopyRecording(duration);
-                }
-            });
-        });
-}
-
-void AudioTrimmerViewController::didCopyRecording(double duration) {
-    m_selection.setAudioDuration(duration);
-    m_recorder.activatePlayback();
+void AudioTrimmerViewController::didRecord(double seconds) {
+    if (m_isDismissed) {
+        postDataUpdated();
+        Q_EMIT busyChanged();
+        return;
+    }
     m_isDoneHidden = false;
     m_isRecordingViewHidden = true;
-    m_areEditingControlsHidden = false;
-    resetAudioPlayer();
+    if (seconds > 0.0) {
+        m_areEditingControlsHidden = false;
+        m_selection.setAudioDuration(seconds);
+        resetAudioPlayer();
+    }
     Q_EMIT outletsChanged();
 }
 
@@ -296,11 +281,7 @@ void AudioTrimmerViewController::btnResetAudioTapped() {
 
 void AudioTrimmerViewController::btnResetTapped() {
     m_isAudioTrimmed = false;
-    // A copy that has no original goes, on purpose: the pair belongs to the trimmer.
-    m_services.runLoop.dispatchBackground(
-        [original = m_recorder.strOriginalAudioURL(), copy = m_recorder.strAudioURL()] {
-            ScratchRecorder::replaceCopy(original, copy);
-        });
+    m_recorder.replaceCopy();
     resetAudioPlayer();
     Q_EMIT outletsChanged();
 }

@@ -1,21 +1,15 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
-#include <QVariantMap>
-#include <filesystem>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
-#include "platform/NotificationCenter.h"
 #include "trimming/ScratchRecorder.h"
 #include "trimming/TrimExport.h"
 #include "trimming/TrimPlayer.h"
 #include "trimming/TrimSelection.h"
-#include "trimming/waves/EZAudioPlot.h"
-#include "trimming/waves/WaveformLoader.h"
+#include "trimming/TrimmerInput.h"
 
 namespace tavi {
 
@@ -41,31 +35,9 @@ class AudioTrimmerViewController : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY outletsChanged)
 
 public:
-    /// What the screen works with; all of it must outlive the screen.
-    struct Services {
-        AssetExportSessions& exports;
-        AudioPlayers& players;
-        ScratchRecorder::Services recorder;
-        /// For the trimmer alone: another load would take the place of its own.
-        WaveformLoader& waveforms;
-        DisplayRefreshes& refreshes;
-        const AppContainer& container;
-        NotificationCenter& notifications;
-        RunLoop& runLoop;
-    };
-    /// Told when the screen closes: with the new file, or without one. A completed export tells it several times.
-    using Completion = std::function<void(bool success, const std::filesystem::path& path)>;
-
-    struct Input {
-        /// "file://" and the path, or the path alone, in the path's bytes.
-        std::string getUrl;
-        /// Its "duration" is the text of the list.
-        QVariantMap getDictData;
-        std::filesystem::path getFileName;
-        Completion completionBlock;
-        QPointer<QObject> refreshDelegate;
-        bool isPushAudioTrimmer = false;
-    };
+    using Services = TrimmerServices;
+    using Input = TrimmerInput;
+    using Completion = TrimmerInput::Completion;
 
     /// Shows the trimmer over the presenting screen, on the stage.
     static void presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter, const std::string& strUrl,
@@ -94,6 +66,8 @@ public:
     /// Whether the recording has been looked at and holds sound.
     bool canExport() const { return m_asset && !m_asset->audioTracks.empty(); }
     QString problem() const;
+    /// Whether an export or a recording has not ended yet.
+    bool isBusy() const { return m_export.isRunning() || m_recorder.isBusy(); }
 
     const Input& input() const { return m_input; }
     bool isAudioTrimmed() const { return m_isAudioTrimmed; }
@@ -118,6 +92,7 @@ Q_SIGNALS:
     void outletsChanged();
     /// The screen is to leave; comes again with every further closing.
     void dismissed();
+    void busyChanged();
 
 private:
     std::filesystem::path filePath() const;
@@ -134,8 +109,7 @@ private:
     void postDataUpdated();
     void startRecording();
     void stopRecording();
-    void didFinishRecording();
-    void didCopyRecording(double duration);
+    void didRecord(double seconds);
 
     Services m_services;
     Input m_input;
@@ -147,8 +121,6 @@ private:
     std::optional<Asset> m_asset;
     std::vector<float> m_waveform;
     std::filesystem::path m_strTrimmedAudioURL;
-    /// Where an export writes that was cancelled with the screen.
-    std::filesystem::path m_abandonedPath;
     QString m_lblTotalDuration;
     bool m_isLoading = false;
     bool m_isAudioTrimmed = false;

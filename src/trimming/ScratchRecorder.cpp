@@ -1,8 +1,8 @@
 #include "trimming/ScratchRecorder.h"
 
 #include <QLoggingCategory>
-
-#include "files/NativePath.h"
+#include <QPointer>
+#include <utility>
 
 namespace tavi {
 
@@ -21,9 +21,9 @@ AudioRecordSettings scratchSettings() {
 
 }  // namespace
 
-ScratchRecorder::ScratchRecorder(const Services& services, const AppContainer& container,
-                                 std::function<void()> finished)
-    : m_services(services), m_folder(container.documentsPath()), m_finished(std::move(finished)) {}
+ScratchRecorder::ScratchRecorder(const Services& services, AssetExportSessions& assets, RunLoop& runLoop,
+                                 const std::filesystem::path& folder, QObject* parent)
+    : QObject(parent), m_services(services), m_assets(assets), m_runLoop(runLoop), m_files(folder, runLoop) {}
 
 ScratchRecorder::~ScratchRecorder() {
     if (m_recorder != nullptr) {
@@ -38,18 +38,25 @@ bool ScratchRecorder::fail(const Error& error) {
 }
 
 bool ScratchRecorder::prepareToRecordAudio() {
+    if (m_isBusy) {
+        return false;
+    }
     m_recorder.reset();
-    removeAt(strOriginalAudioURL());
     AudioSession& session = m_services.audioSession;
     if (const auto set = session.setCategory(AudioSession::Category::PlayAndRecord, AudioSession::CategoryOption::None);
         !set) {
         return fail(set.error());
     }
     session.setActive(true);
-    auto recorder = m_services.recorders.recorderWithPath(strOriginalAudioURL(), scratchSettings());
+    if (const auto begun = m_files.beginRecording(); !begun) {
+        return fail(begun.error());
+    }
+    auto recorder = m_services.recorders.recorderWithPath(m_files.original(), scratchSettings());
     if (!recorder) {
+        m_files.dropRecording(true);
         return fail(recorder.error());
     }
+    m_isBusy = true;
     m_recorder = std::move(*recorder);
     m_recorder->setDelegate(this);
     m_recorder->setMeteringEnabled(true);
@@ -63,27 +70,51 @@ void ScratchRecorder::record() {
 }
 
 void ScratchRecorder::stop() {
-    if (m_recorder != nullptr) {
+    if (m_isBusy) {
         m_recorder->stop();
     }
 }
 
-void ScratchRecorder::activatePlayback() {
-    m_services.audioSession.setCategory(AudioSession::Category::Playback, AudioSession::CategoryOption::None);
-    m_services.audioSession.setActive(true);
+void ScratchRecorder::close() {
+    m_isClosing = true;
+    if (m_isBusy) {
+        m_recorder->stop();
+    } else {
+        m_files.close();
+    }
 }
 
-void ScratchRecorder::replaceCopy(const std::filesystem::path& original, const std::filesystem::path& copy) {
-    removeAt(copy);
-    std::error_code ignored;
-    std::filesystem::copy_file(original, copy, ignored);
-}
-
-void ScratchRecorder::audioRecorderDidFinishRecording(AudioRecorder&, const std::optional<Error>& error) {
+void ScratchRecorder::audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) {
     if (error) {
         qCWarning(lcTrimming, "Audio Session Error: %s", qUtf8Printable(error->text));
     }
-    m_finished();
+    const QPointer<ScratchRecorder> self(this);
+    m_runLoop.dispatchBackground([self, &assets = m_assets, &runLoop = m_runLoop, path = m_files.original(),
+                                  holdsSound = recorder.framesRecorded() > 0] {
+        const double seconds = assets.assetWithURL(path).duration.seconds();
+        runLoop.dispatchMain([self, seconds, holdsSound] {
+            if (self) {
+                self->didMeasure(seconds, holdsSound);
+            }
+        });
+    });
+}
+
+void ScratchRecorder::didMeasure(double seconds, bool holdsSound) {
+    m_isBusy = false;
+    if (seconds > 0.0) {
+        m_files.keepRecording();
+        m_files.replaceCopy();
+    } else {
+        qCWarning(lcTrimming, "Audio Session Error: nothing was recorded");
+        m_files.dropRecording(holdsSound);
+    }
+    if (m_isClosing) {
+        m_files.close();
+    }
+    m_services.audioSession.setCategory(AudioSession::Category::Playback, AudioSession::CategoryOption::None);
+    m_services.audioSession.setActive(true);
+    Q_EMIT recorded(seconds);
 }
 
 }  // namespace tavi

@@ -1,51 +1,58 @@
 #pragma once
 
-#include <QString>
-#include <filesystem>
-#include <functional>
+#include <QObject>
 #include <memory>
 
-#include "platform/AppContainer.h"
+#include "platform/AssetExportSession.h"
 #include "platform/AudioRecorder.h"
 #include "platform/AudioSession.h"
+#include "platform/RunLoop.h"
+#include "trimming/ScratchFiles.h"
 
 namespace tavi {
 
-/// The trimmer's small recorder, and its two scratch files in the documents folder. Main thread only.
-class ScratchRecorder : private AudioRecorderDelegate {
+/// The trimmer's small recorder into its scratch files. Main thread only.
+class ScratchRecorder : public QObject, private AudioRecorderDelegate {
+    Q_OBJECT
+
 public:
     struct Services {
         AudioRecorders& recorders;
         AudioSession& audioSession;
     };
 
-    /// finished is called when a recording's file is whole; services and container must outlive the recorder.
-    ScratchRecorder(const Services& services, const AppContainer& container, std::function<void()> finished);
+    /// All of it must outlive the recorder. The scratch files lie in the folder.
+    ScratchRecorder(const Services& services, AssetExportSessions& assets, RunLoop& runLoop,
+                    const std::filesystem::path& folder, QObject* parent = nullptr);
     ~ScratchRecorder() override;
-    ScratchRecorder(const ScratchRecorder&) = delete;
-    ScratchRecorder& operator=(const ScratchRecorder&) = delete;
 
-    /// What is recorded into, and the copy of it that stays until the next recording or reset.
-    std::filesystem::path strOriginalAudioURL() const { return m_folder / "originalRecording.wav"; }
-    std::filesystem::path strAudioURL() const { return m_folder / "recording.wav"; }
-
+    /// From prepareToRecordAudio() until recorded() has come.
+    bool isBusy() const { return m_isBusy; }
     /// Makes a recorder over a new file. False, with the reason in the log, when that cannot be.
     bool prepareToRecordAudio();
     void record();
     void stop();
-    /// Sets the session up for playing.
-    void activatePlayback();
-    /// Makes the copy anew. Any thread; takes as long as the disk needs.
-    static void replaceCopy(const std::filesystem::path& original, const std::filesystem::path& copy);
+    /// Makes the copy anew.
+    void replaceCopy() { m_files.replaceCopy(); }
+    /// Ends a recording, and lets go of the files as soon as that is whole.
+    void close();
+
+Q_SIGNALS:
+    /// A recording has ended, and is that many seconds long; 0 when nothing came of it and the files are as before.
+    void recorded(double seconds);
 
 private:
     void audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) override;
+    void didMeasure(double seconds, bool holdsSound);
     bool fail(const Error& error);
 
     Services m_services;
-    std::filesystem::path m_folder;
-    std::function<void()> m_finished;
+    AssetExportSessions& m_assets;
+    RunLoop& m_runLoop;
+    ScratchFiles m_files;
     std::unique_ptr<AudioRecorder> m_recorder;
+    bool m_isBusy = false;
+    bool m_isClosing = false;
 };
 
 }  // namespace tavi

@@ -3,7 +3,10 @@
 #include <QLoggingCategory>
 #include <QPointer>
 #include <algorithm>
+#include <utility>
 
+#include "files/FileMove.h"
+#include "files/FreeName.h"
 #include "files/NativePath.h"
 
 namespace tavi {
@@ -41,9 +44,7 @@ double TrimExport::progress() const {
 
 void TrimExport::start(const Asset& asset, const std::filesystem::path& path, AssetFileType type,
                        const TrimTimes& times, Ended ended) {
-    removeAt(path);
-    // The best quality only tells by being offered that there is something to export. Without it nothing happens, on
-    // purpose: there is nothing that could be told about a file without sound.
+    // The best quality only tells by being offered that there is something to export.
     const auto presets = m_exports.exportPresetsCompatibleWithAsset(asset);
     if (std::find(presets.begin(), presets.end(), AssetExportPreset::HighestQuality) == presets.end()) {
         return;
@@ -53,6 +54,17 @@ void TrimExport::start(const Asset& asset, const std::filesystem::path& path, As
         qCWarning(lcTrimming, "Export failed: %s", qUtf8Printable(session.error().text));
         return;
     }
+    if (existsAt(path)) {
+        const bool isWrittenHere = m_written && FileIdentity::at(path) == m_written;
+        const auto aside = stepAside(path);
+        if (!aside) {
+            qCWarning(lcTrimming, "Export failed: %s", qUtf8Printable(aside.error().text));
+            return;
+        }
+        m_aside = isWrittenHere ? std::optional(*aside) : std::nullopt;
+    }
+    m_path = path;
+    m_isAbandoned = false;
     m_exportSession = std::move(*session);
     m_exportSession->setOutputURL(path);
     m_exportSession->setOutputFileType(type);
@@ -76,19 +88,49 @@ void TrimExport::start(const Asset& asset, const std::filesystem::path& path, As
     });
 }
 
+TrimExport::~TrimExport() {
+    if (m_isRunning) {
+        settle();
+    }
+}
+
 void TrimExport::didEnd(const Ended& ended) {
     log(*m_exportSession);
     m_isRunning = false;
+    const AssetExportStatus status = settle();
+    Q_EMIT changed();
+    ended(status);
+}
+
+AssetExportStatus TrimExport::settle() {
     m_progressTimer->invalidate();
     m_progressTimer.reset();
-    Q_EMIT changed();
-    ended(m_exportSession->status());
+    AssetExportStatus status = m_exportSession->status();
+    if (status == AssetExportStatus::Completed && m_isAbandoned) {
+        removeAt(m_path);
+        status = AssetExportStatus::Cancelled;
+    }
+    const auto before = std::exchange(m_aside, std::nullopt);
+    if (status == AssetExportStatus::Completed) {
+        m_written = FileIdentity::at(m_path);
+        if (before) {
+            removeAt(*before);
+        }
+    } else if (before) {
+        renameWithoutReplacing(*before, m_path);
+    }
+    return status;
 }
 
 void TrimExport::cancel() {
     if (m_isRunning) {
         m_exportSession->cancelExport();
     }
+}
+
+void TrimExport::abandon() {
+    m_isAbandoned = true;
+    cancel();
 }
 
 void TrimExport::waitUntilFinished() {

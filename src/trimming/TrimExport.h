@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 
+#include "files/FileIdentity.h"
 #include "platform/AssetExportSession.h"
 #include "platform/RunLoop.h"
 #include "trimming/TrimRules.h"
@@ -23,15 +25,20 @@ public:
 
     /// Both must outlive this.
     TrimExport(AssetExportSessions& exports, RunLoop& runLoop, QObject* parent = nullptr);
+    /// A file that has made room for a running export gets its name back, unless the export is complete.
+    ~TrimExport() override;
 
     bool isRunning() const { return m_isRunning; }
     double progress() const;
 
-    /// Replaces the file at the path with the stretch; ended is called unless this has been destroyed by then. An asset
-    /// that no export is offered for is not exported, and ended is not called.
+    /// Writes the stretch to the path; ended is called unless this has been destroyed by then. A file there steps aside
+    /// to a free name: one that was written here goes when the new one is complete, or gets its name back; any other
+    /// one stays there. An asset that no export is offered for is not exported, and ended is not called.
     void start(const Asset& asset, const std::filesystem::path& path, AssetFileType type, const TrimTimes& times,
                Ended ended);
     void cancel();
+    /// Gives the running export up, even if it is complete before it can be cancelled.
+    void abandon();
     void waitUntilFinished();
 
 Q_SIGNALS:
@@ -39,12 +46,19 @@ Q_SIGNALS:
 
 private:
     void didEnd(const Ended& ended);
+    AssetExportStatus settle();
 
     AssetExportSessions& m_exports;
     RunLoop& m_runLoop;
     std::unique_ptr<AssetExportSession> m_exportSession;
     std::shared_ptr<Timer> m_progressTimer;
     bool m_isRunning = false;
+    bool m_isAbandoned = false;
+    std::filesystem::path m_path;
+    /// The file at the path as it was written here.
+    std::optional<FileIdentity> m_written;
+    /// Where that is during the next export.
+    std::optional<std::filesystem::path> m_aside;
 };
 
 }  // namespace tavi

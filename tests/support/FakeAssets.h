@@ -27,6 +27,8 @@ public:
         float progress = 0.0F;
         Error error;
         std::function<void()> completion;
+        /// What the new file will hold.
+        QByteArray contents = "sound";
 
         bool isRunning() const { return status == AssetExportStatus::Exporting; }
         /// Ends a running export as it would end by itself.
@@ -42,7 +44,8 @@ public:
                 end(AssetExportStatus::Failed, {QStringLiteral("The file type is not supported.")});
             } else if (!isRangeUsable()) {
                 end(AssetExportStatus::Failed, {QStringLiteral("Nothing is selected.")});
-            } else if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write("sound") == 5) {
+            } else if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
+                       file.write(contents) == contents.size()) {
                 progress = 1.0F;
                 end(AssetExportStatus::Completed, {});
             } else {

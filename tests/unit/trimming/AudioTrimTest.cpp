@@ -152,6 +152,7 @@ TEST_F(AudioTrimTest, AsksBeforeItLeavesACut) {
 
 TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
     const auto screen = open("1");
+    container.addDocument(kOutput.toStdString(), "another's");
     screen->trimAudio();
     runLoop.drain();
     reloads = 0;
@@ -159,6 +160,7 @@ TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
     screen->addTrimFileWithFilePath(container.cachesPath());
     EXPECT_TRUE(std::filesystem::exists(container.cachesPath() / kOutput.toStdString()));
     EXPECT_FALSE(std::filesystem::exists(folder / kOutput.toStdString()));
+    EXPECT_EQ(std::filesystem::file_size(folder / "Trim_2024_Mar_05_14_03_59_2.wav"), 9U) << "another's is still there";
     EXPECT_EQ(reloads, 1);
     container.addDocument("old.wav", "old");
     for (int i = 0; i < 2; ++i) {

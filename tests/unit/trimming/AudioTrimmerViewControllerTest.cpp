@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <fstream>
+#include <map>
 
 #include "support/FakeServices.h"
 #include "support/Printers.h"
@@ -12,8 +14,10 @@ namespace tavi::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::Pair;
 
 const char* const kOutput = "Trim_2024_Mar_05_14_03_59.wav";
+const char* const kBeside = "Trim_2024_Mar_05_14_03_59_2.wav";
 
 class AudioTrimmerTest : public ::testing::Test, protected FakeServices {
 protected:
@@ -50,7 +54,25 @@ protected:
                                                : assets.sessions.back()->end(status, {QStringLiteral("no")});
         runLoop.drain();
     }
-    bool exists(const char* name) const { return std::filesystem::exists(container.documentsPath() / name); }
+    bool exists(const char* name) const { return documents().contains(name); }
+    /// What lies beside the recording, by name.
+    std::map<std::string, std::string> documents() const {
+        std::map<std::string, std::string> result;
+        for (const auto& entry : std::filesystem::directory_iterator(container.documentsPath())) {
+            std::ifstream file(entry.path());
+            result[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
+        }
+        EXPECT_EQ(result["talk.wav"], "original");
+        result.erase("talk.wav");
+        return result;
+    }
+    /// Records again, for as long as the scratch file will be.
+    void reRecord(AudioTrimmerViewController& screen, std::int64_t seconds) {
+        assets.files["originalRecording.wav"] = {{seconds * 11025, 11025}, 1, {}};
+        screen.btnResetAudioTapped();
+        screen.btnStopRecordingTapped();
+        runLoop.drain();
+    }
     bool isGone() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return trimmers.findChildren<AudioTrimmerViewController*>().isEmpty();
@@ -146,25 +168,44 @@ TEST_F(AudioTrimmerTest, DoneExportsTwiceAndClosesEachTime) {
     EXPECT_EQ(assets.sessions.size(), 2U);
     EXPECT_EQ(closings, std::vector<std::string>(3, std::string("1 ") + kOutput));
     EXPECT_EQ(dataUpdated, 3);
-    EXPECT_TRUE(exists(kOutput));
-    QFile original(path);
-    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
-    EXPECT_EQ(original.readAll(), "original");
+    EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "sound")));
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(AudioTrimmerTest, ASecondExportThatFailsLeavesTheFirstCut) {
+    assets.areExportsHeldBack = true;
+    // A file of another making that has the name stays, beside.
+    container.addDocument(kOutput, "another's");
+    open().btnUploadTapped();
+    assets.sessions[0]->contents = "first";
+    endExport();
+    EXPECT_EQ(documents().size(), 2U) << "nothing is lost while the second one runs";
+    EXPECT_EQ(dataUpdated, 1);
+    endExport(AssetExportStatus::Failed);
+    EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "first"), Pair(kBeside, "another's")));
+    EXPECT_EQ(dataUpdated, 2) << "the first one has its name again";
     EXPECT_TRUE(isGone());
 }
 
 TEST_F(AudioTrimmerTest, TheLastExportIsWaitedForWhenTheProgramEnds) {
     assets.areExportsHeldBack = true;
-    auto ending = std::make_unique<AudioTrimmerStage>(trimmers.services());
-    AudioTrimmerViewController::pushAudioTrimmerController(*ending, path, {});
-    runLoop.drain();
-    ending->screen()->btnUploadTapped();
-    endExport();
-    EXPECT_EQ(dataUpdated, 0) << "a pushed screen is popped";
-    EXPECT_FALSE(exists(kOutput));
-    ending.reset();
-    EXPECT_TRUE(exists(kOutput));
-    runLoop.drain();
+    for (const bool isDone : {true, false}) {
+        auto ending = std::make_unique<AudioTrimmerStage>(trimmers.services());
+        AudioTrimmerViewController::pushAudioTrimmerController(*ending, path, {});
+        runLoop.drain();
+        AudioTrimmerViewController& screen = *ending->screen();
+        isDone ? screen.btnUploadTapped() : screen.btnTrimFinalAudio();
+        assets.sessions.back()->contents = "first";
+        endExport();
+        EXPECT_EQ(dataUpdated, 0) << "a pushed screen is popped";
+        EXPECT_FALSE(exists(kOutput));
+        ending.reset();
+        // A caller that has been told waits for its file; anyone else has the first one back.
+        EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, isDone ? "sound" : "first")));
+        runLoop.drain();
+        EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, isDone ? "sound" : "first")));
+        std::filesystem::remove(container.documentsPath() / kOutput);
+    }
 }
 
 TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWas) {
@@ -178,22 +219,42 @@ TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWas) {
     EXPECT_FALSE(screen.isAudioTrimmed() || screen.areEditingControlsHidden() || screen.exporter()->isRunning());
     EXPECT_TRUE(closings.empty());
 
-    // Given up after the first export, whose file the second one has taken away.
+    // Given up after the first export, whose file is back at once.
     screen.btnTrimFinalAudio();
+    assets.sessions.back()->contents = "first";
     endExport();
     EXPECT_TRUE(screen.isAudioTrimmed() && screen.btnEditTrimmedVideo().selected);
     screen.cancelExport();
     runLoop.drain();
-    EXPECT_FALSE(screen.isAudioTrimmed());
+    EXPECT_TRUE(screen.isAudioTrimmed());
+    EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "first")));
 
-    // Cancelled with the screen, but over before it could be.
+    // Another stretch, cancelled with the screen, but over before it could be.
+    screen.btnEditTrimmedVideoTapped();
+    EXPECT_FALSE(screen.isAudioTrimmed() || screen.areEditingControlsHidden());
     screen.btnUploadTapped();
     screen.btnCancelTapped();
     endExport();
-    EXPECT_FALSE(exists(kOutput));
+    EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "first")));
     EXPECT_THAT(closings, ElementsAre("0 "));
     EXPECT_EQ(runLoop.activeTimers(), 0U);
     EXPECT_TRUE(isGone());
+}
+
+TEST_F(AudioTrimmerTest, AnotherStretchReplacesTheFirst) {
+    AudioTrimmerViewController& screen = open();
+    screen.btnTrimFinalAudio();
+    runLoop.drain();
+    runLoop.manualClock().advance(9.0);
+    screen.btnEditTrimmedVideoTapped();
+    drag(screen, true, 50.0);
+    screen.btnPlayPauseTapped();
+    screen.btnUploadTapped();
+    runLoop.drain();
+    ASSERT_EQ(assets.sessions.size(), 4U);
+    EXPECT_EQ(assets.sessions[3]->timeRange->start.seconds(), 10.0);
+    EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "sound")));
+    EXPECT_EQ(runLoop.activeTimers(), 0U) << "nothing plays on";
 }
 
 TEST_F(AudioTrimmerTest, WhatCannotBeReadIsNotTrimmed) {
@@ -208,26 +269,89 @@ TEST_F(AudioTrimmerTest, WhatCannotBeReadIsNotTrimmed) {
     EXPECT_TRUE(closings.empty());
 }
 
-TEST_F(AudioTrimmerTest, RecordsIntoItsScratchFiles) {
-    container.addDocument("originalRecording.wav", "old");
+TEST_F(AudioTrimmerTest, RecordsIntoItsScratchFilesAndLeavesTheUsersOwn) {
+    container.addDocument("recording.wav", "mine");
     AudioTrimmerViewController& screen = open();
-    session.categoryResult = failure(QStringLiteral("no server"));
-    screen.btnStartRecordingTapped();
-    EXPECT_TRUE(screen.isRecordingViewHidden());
-    session.categoryResult = {};
-    screen.btnResetAudioTapped();
-    EXPECT_TRUE(recorders.last()->isRecording());
-    EXPECT_EQ(recorders.lastSettings.sampleRate, 11025.0);
-    screen.btnStopRecordingTapped();
-    runLoop.drain();
-    EXPECT_EQ(screen.selection()->times(), (TrimTimes{0.0, 5.0}));
-
-    ASSERT_TRUE(std::filesystem::remove(container.documentsPath() / "recording.wav"));
     drag(screen, true, 30.0);
     screen.btnResetTapped();
     runLoop.drain();
-    EXPECT_TRUE(exists("recording.wav")) << "made anew from the original";
+    EXPECT_THAT(documents(), ElementsAre(Pair("recording.wav", "mine"))) << "there is nothing to copy";
     EXPECT_EQ(screen.selection()->leftThumbX(), 0.0);
+    container.addDocument("originalRecording.wav", "mine, too");
+
+    reRecord(screen, 5);
+    EXPECT_EQ(
+        recorders.lastSettings,
+        (AudioRecordSettings{
+            .formatID = kAudioFormatLinearPCM, .sampleRate = 11025.0, .numberOfChannels = 1, .linearPCMBitDepth = 16}));
+    EXPECT_EQ(session.lastCategory, AudioSession::Category::Playback);
+    EXPECT_EQ(screen.selection()->times(), (TrimTimes{0.0, 5.0}));
+    EXPECT_FALSE(screen.isDoneHidden() || screen.isEditingViewHidden());
+    const std::map<std::string, std::string> whileOpen = {{"originalRecording.wav", "sound"},
+                                                          {"originalRecording_2.wav", "mine, too"},
+                                                          {"recording.wav", "sound"},
+                                                          {"recording_2.wav", "mine"}};
+    EXPECT_EQ(documents(), whileOpen);
+    std::filesystem::remove(container.documentsPath() / "recording.wav");
+    screen.btnResetTapped();
+    runLoop.drain();
+    reRecord(screen, 6);
+    EXPECT_EQ(screen.selection()->endTime(), 6.0);
+    EXPECT_EQ(documents(), whileOpen) << "a second time";
+    screen.btnCancelTapped();
+    EXPECT_THAT(documents(), ElementsAre(Pair("originalRecording_2.wav", "mine, too"),
+                                         Pair("originalRecording_3.wav", "sound"), Pair("recording_2.wav", "mine")))
+        << "the copy goes, the recording stays";
+}
+
+TEST_F(AudioTrimmerTest, ARecordingOfNothingLeavesAllAsItWas) {
+    AudioTrimmerViewController& screen = open();
+    reRecord(screen, 5);
+    drag(screen, true, 60.0);
+    assets.files["originalRecording.wav"] = {};
+    const auto before = documents();
+    const auto nothing = [] {};
+    const struct {
+        const char* what;
+        std::function<void()> prepare, record;
+    } cases[] = {
+        {"no sound system", [this] { session.categoryResult = failure(QStringLiteral("no server")); }, nothing},
+        {"no recorder", [this] { recorders.creation = failure(QStringLiteral("no microphone")); }, nothing},
+        {"nothing is heard", nothing, [&screen] { screen.btnStopRecordingTapped(); }},
+        {"it breaks down", nothing, [this] { recorders.last()->fail({QStringLiteral("gone")}); }},
+    };
+    for (const auto& [what, prepare, record] : cases) {
+        SCOPED_TRACE(what);
+        session.categoryResult = recorders.creation = {};
+        prepare();
+        screen.btnStartRecordingTapped();
+        record();
+        runLoop.drain();
+        EXPECT_EQ(screen.selection()->times(), (TrimTimes{1.0, 5.0}));
+        EXPECT_FALSE(screen.isDoneHidden() || screen.isEditingViewHidden());
+        EXPECT_EQ(documents(), before);
+    }
+    // Sound that was captured, but cannot be read, is kept.
+    session.categoryResult = recorders.creation = {};
+    screen.btnStartRecordingTapped();
+    recorders.last()->capture(100, -20.0F);
+    recorders.last()->fail({QStringLiteral("gone")});
+    runLoop.drain();
+    EXPECT_EQ(documents().size(), before.size() + 1);
+    EXPECT_TRUE(exists("originalRecording_3.wav"));
+}
+
+TEST_F(AudioTrimmerTest, CancelledWhileItRecordsItWaitsForTheWholeFile) {
+    AudioTrimmerViewController& screen = open();
+    screen.btnStartRecordingTapped();
+    EXPECT_TRUE(screen.isDoneHidden() && screen.isEditingViewHidden());
+    screen.btnCancelTapped();
+    EXPECT_EQ(trimmers.screen(), nullptr);
+    EXPECT_FALSE(isGone());
+    runLoop.drain();
+    EXPECT_THAT(documents(), ElementsAre(Pair("originalRecording_2.wav", "sound")));
+    EXPECT_EQ(dataUpdated, 2) << "its name is another";
+    EXPECT_TRUE(isGone());
 }
 
 }  // namespace
