@@ -9,6 +9,7 @@
 #include <limits>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "API/AudioTrimmerController/EZAudio/TPCircularBuffer/TPCircularBufferMemory.h"
 
@@ -18,21 +19,9 @@ namespace {
 
 constexpr int kRetries = 3;
 
-void* reserve(std::size_t length, int* descriptor) {
-    *descriptor = memfd_create("TPCircularBuffer", MFD_CLOEXEC);
-    if (*descriptor < 0) {
-        return nullptr;
-    }
-    if (ftruncate(*descriptor, static_cast<off_t>(length)) == 0) {
-        void* start = mmap(nullptr, 2 * length, PROT_READ | PROT_WRITE, MAP_SHARED, *descriptor, 0);
-        if (start != MAP_FAILED) {
-            return start;
-        }
-    }
-    const int error = errno;
-    close(*descriptor);
-    errno = error;
-    return nullptr;
+void* reserve(std::size_t length) {
+    void* start = mmap(nullptr, 2 * length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    return start == MAP_FAILED ? nullptr : start;
 }
 
 bool releaseSecondHalf(void* secondHalf, std::size_t length) {
@@ -40,14 +29,38 @@ bool releaseSecondHalf(void* secondHalf, std::size_t length) {
            MAP_FAILED;
 }
 
-void* remap(void* secondHalf, std::size_t length, int descriptor) {
-    void* landed = mmap(secondHalf, length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, descriptor, 0);
+void* remap(void* firstHalf, void* secondHalf, std::size_t length) {
+    // An old size of 0 maps the pages of shared memory a second time: mremap(2).
+    void* landed = mremap(firstHalf, 0, length, MREMAP_MAYMOVE | MREMAP_FIXED, secondHalf);
     return landed == MAP_FAILED ? nullptr : landed;
 }
 
 void release(void* start, std::size_t length) {
     munmap(start, length);
 }
+
+/// The addresses of both mappings, given back unless they are kept. Leaves errno as it is.
+class Addresses {
+public:
+    explicit Addresses(std::size_t length) : m_start(circularBufferMemory().reserve(length)), m_length(length) {}
+    ~Addresses() {
+        if (m_start != nullptr) {
+            const int error = errno;
+            circularBufferMemory().release(m_start, 2 * m_length);
+            errno = error;
+        }
+    }
+    Addresses(const Addresses&) = delete;
+    Addresses& operator=(const Addresses&) = delete;
+
+    void* start() const { return m_start; }
+    void* secondHalf() const { return static_cast<char*>(m_start) + m_length; }
+    void* keep() { return std::exchange(m_start, nullptr); }
+
+private:
+    void* m_start;
+    std::size_t m_length;
+};
 
 /// One attempt at the double mapping. What it made is undone unless it succeeds.
 struct Attempt {
@@ -59,31 +72,22 @@ struct Attempt {
 
 Attempt attemptMapping(std::size_t length) {
     const TPCircularBufferMemory& memory = circularBufferMemory();
-    int descriptor = -1;
-    void* start = memory.reserve(length, &descriptor);
-    if (start == nullptr) {
+    Addresses addresses(length);
+    if (addresses.start() == nullptr) {
         return {"Buffer allocation", 48, nullptr};
     }
-    void* secondHalf = static_cast<char*>(start) + length;
-    Attempt result;
-    if (!memory.releaseSecondHalf(secondHalf, length)) {
-        result = {"Buffer deallocation", 61, nullptr};
-    } else if (void* landed = memory.remap(secondHalf, length, descriptor); landed == nullptr) {
-        result = {"Remap buffer memory", 85, nullptr};
-    } else if (landed == secondHalf) {
-        result.start = start;
-    } else {
+    if (!memory.releaseSecondHalf(addresses.secondHalf(), length)) {
+        return {"Buffer deallocation", 61, nullptr};
+    }
+    void* landed = memory.remap(addresses.start(), addresses.secondHalf(), length);
+    if (landed == nullptr) {
+        return {"Remap buffer memory", 85, nullptr};
+    }
+    if (landed != addresses.secondHalf()) {
         memory.release(landed, length);
+        return {};
     }
-    const int error = errno;
-    if (descriptor >= 0) {
-        close(descriptor);
-    }
-    if (result.start == nullptr) {
-        memory.release(start, 2 * length);
-    }
-    errno = error;
-    return result;
+    return {nullptr, 0, addresses.keep()};
 }
 
 void report(const Attempt& attempt) {

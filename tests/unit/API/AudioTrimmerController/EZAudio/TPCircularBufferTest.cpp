@@ -78,8 +78,8 @@ TEST(TPCircularBuffer, EveryStepOfTheMappingIsTriedFourTimes) {
     const Step steps[] = {
         {"TPCircularBuffer.c:48: Buffer allocation: Cannot allocate memory\n",
          [](TPCircularBufferMemory& memory) {
-             memory.reserve = [](std::size_t length, int* descriptor) -> void* {
-                 return isFailing() ? nullptr : systemCircularBufferMemory().reserve(length, descriptor);
+             memory.reserve = [](std::size_t length) -> void* {
+                 return isFailing() ? nullptr : systemCircularBufferMemory().reserve(length);
              };
          }},
         {"TPCircularBuffer.c:61: Buffer deallocation: Cannot allocate memory\n",
@@ -90,15 +90,15 @@ TEST(TPCircularBuffer, EveryStepOfTheMappingIsTriedFourTimes) {
          }},
         {"TPCircularBuffer.c:85: Remap buffer memory: Cannot allocate memory\n",
          [](TPCircularBufferMemory& memory) {
-             memory.remap = [](void* half, std::size_t length, int descriptor) -> void* {
-                 return isFailing() ? nullptr : systemCircularBufferMemory().remap(half, length, descriptor);
+             memory.remap = [](void* first, void* second, std::size_t length) -> void* {
+                 return isFailing() ? nullptr : systemCircularBufferMemory().remap(first, second, length);
              };
          }},
         {"Couldn't map buffer memory to end of buffer\n",
          [](TPCircularBufferMemory& memory) {
-             memory.remap = [](void* half, std::size_t length, int descriptor) {
+             memory.remap = [](void* first, void* second, std::size_t length) {
                  return isFailing() ? mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)
-                                    : systemCircularBufferMemory().remap(half, length, descriptor);
+                                    : systemCircularBufferMemory().remap(first, second, length);
              };
          }},
     };
