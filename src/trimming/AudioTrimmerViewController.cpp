@@ -152,8 +152,7 @@ void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> c
 
 void AudioTrimmerViewController::exportEnded(AssetExportStatus status, const std::function<void()>& completion) {
     if (status == AssetExportStatus::Completed) {
-        // Before the completion, on purpose: what waits for the first export's completion finds the second one begun,
-        // and a caller is told again whenever the file is written anew.
+        // On purpose before the completion, so that the first export starts a second one; callers hear of both.
         done();
         completion();
         return;

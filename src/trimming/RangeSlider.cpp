@@ -64,7 +64,7 @@ void RangeSlider::setFrame(const QRectF& frame) {
 }
 
 void RangeSlider::layoutSubviews() {
-    // The container's measure of the centre, on purpose: controls lie at their container's origin.
+    // On purpose the centre as the container sees it: the control lies at the container's origin.
     const double y = m_frame.center().y();
     const auto place = [y](Thumb& thumb, float x) {
         thumb.centre = {static_cast<double>(x), y};

@@ -63,8 +63,7 @@ public:
     QPointF maxLabelCentre() const { return m_maxThumb.labelCentre; }
     QString lblMinValue() const { return m_minThumb.label; }
     QString lblMaxVal() const { return m_maxThumb.label; }
-    /// Between the thumbs. It is kept up, but not part of the control, so that nobody sees it: on purpose, what is
-    /// drawn under the control shows the stretch.
+    /// Between the thumbs. On purpose it is computed and never drawn: what lies under the control shows the stretch.
     QRectF trackHighlight() const { return m_track; }
     static double thumbWidth() { return kThumbWidth; }
     static double thumbHeight() { return kThumbHeight; }

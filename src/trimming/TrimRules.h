@@ -48,9 +48,8 @@ double movedCentre(double centre, double translation, double containerWidth);
 /// finger cannot carry one thumb beyond the other. All of a movement that does not get there.
 double firstStep(TrimThumb thumb, const TrimTimes& times, double translation, double duration, double containerWidth);
 
-/// "mm:ss.hh" or "ss.hh" of whole milliseconds. Without minutes they are dropped, on purpose: the small labels have
-/// room for seconds only, and 75.5 s read 15.50. Hundredths are the first two digits of the milliseconds, so that 5 ms
-/// and 50 ms read 05 and 50.
+/// "mm:ss.hh" or "ss.hh" of whole milliseconds. On purpose the short form drops the minutes, so that 75.5 s read 15.50,
+/// and hundredths are the first two digits of the milliseconds, so that 5 ms and 50 ms read 05 and 50.
 QString timeFormatted(double seconds, bool isWithMinutes);
 
 /// What follows the last point of a file's name; empty where there is none, or nothing before it.

@@ -48,8 +48,8 @@ void TrimSelection::handlePan(TrimThumb thumb, PanGesture& pan) {
         return;
     }
     m_frontThumb = thumb;
-    // Before the move, on purpose: the rule judges by the stretch before the step, so during a drag the times lag one
-    // step behind the thumb; the end of the drag makes them exact.
+    // On purpose before the move: a step is judged by the stretch before it. During a drag the times are one step
+    // behind the thumb; its end makes them exact.
     calculateAudioTrimTime();
     if (trimrules::isMoveAllowed(thumb, m_times, pan.translation)) {
         double& centre = thumb == TrimThumb::Left ? m_thumbs.left : m_thumbs.right;

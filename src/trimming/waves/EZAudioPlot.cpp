@@ -60,7 +60,7 @@ void EZAudioPlot::setShouldOptimizeForRealtimePlot(bool optimize) {
         m_displayLink = EZAudioDisplayLink::displayLinkWithDelegate(m_refreshes, this);
         m_displayLink->start();
     } else if (m_displayLink) {
-        // On purpose also when it is turned on a second time: turning it on toggles the link.
+        // On purpose also when it is turned on a second time.
         m_displayLink->stop();
         m_displayLink.reset();
     }

@@ -49,8 +49,7 @@ void WaveView::startWavingWithValue(double value) {
     if (m_waveType == Default) {
         m_new.setY(m_waveRange - m_waveRange * (value - m_minValue) / (m_maxValue - m_minValue));
     } else if (m_waveType == Mirror) {
-        // On purpose a reading below the zero point draws taller than one exactly at it: silence leaves a visible line,
-        // and recordings made so far look the same as new ones.
+        // On purpose a reading below the zero point is taller than one exactly at it: silence leaves a visible line.
         const double height = value < m_zeroPointValue
                                   ? m_zeroPointLineWidth * 0.5
                                   : (value - m_zeroPointValue) * m_waveRange / (m_maxValue - m_zeroPointValue);

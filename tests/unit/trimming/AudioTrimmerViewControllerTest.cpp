@@ -35,10 +35,12 @@ protected:
     /// 300 points are 60 seconds.
     AudioTrimmerViewController& open(const char* name = "talk.wav") {
         AudioTrimmerViewController::presentAudioTrimmerController(
-            trimmers, nullptr, "file://" + (container.documentsPath() / name).native(), {}, name,
+            trimmers, nullptr, "file://" + (container.documentsPath() / name).native(),
+            {{QStringLiteral("duration"), QStringLiteral("an hour")}}, name,
             [this](bool success, const std::filesystem::path& result) {
                 closings.push_back((success ? "1 " : "0 ") + result.filename().native());
             });
+        EXPECT_EQ(trimmers.screen()->lblTotalDuration().text, QStringLiteral("an hour")) << "until it is read";
         runLoop.drain();
         trimmers.screen()->selection()->setContainerWidth(300.0);
         return *trimmers.screen();
@@ -131,6 +133,13 @@ TEST_F(AudioTrimmerTest, PlaysTheStretchAndShowsWhere) {
     play();
     runLoop.advance(0.1);
     EXPECT_NEAR(player.indicatorX(), 50.5, 1e-6);
+    EXPECT_FALSE(player.indicatorHidden());
+    screen.btnPlayPauseTapped();
+    EXPECT_TRUE(player.indicatorHidden());
+    EXPECT_FALSE(players.last()->isPlaying());
+    play();
+    runLoop.advance(0.1);
+    EXPECT_NEAR(player.indicatorX(), 50.5, 1e-6) << "from the start again";
     runLoop.advance(0.95);
     EXPECT_FALSE(player.isPlaying()) << "the end of the stretch";
     EXPECT_EQ(runLoop.activeTimers(), 0U);
@@ -233,6 +242,8 @@ TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWas) {
     screen.btnEditTrimmedVideoTapped();
     EXPECT_FALSE(screen.isAudioTrimmed() || screen.areEditingControlsHidden());
     screen.btnUploadTapped();
+    screen.btnPlayPauseTapped();
+    runLoop.drain();
     screen.btnCancelTapped();
     endExport();
     EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "first")));

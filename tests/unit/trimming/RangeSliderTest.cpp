@@ -46,7 +46,9 @@ TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
         {"where both thumbs are hit, the minimum's moves", 355.0, 255.0, 23.0F, 34.0F},
         {"not beyond the left end", 250.0, -90.0, 0.0F, 34.0F},
         {"not beyond the right end", 360.0, 900.0, 0.0F, 36.0F},
-        {"the maximum down to the least range", 380.0, -50.0, 0.0F, 1.0F},
+        {"no thumb is hit, after the maximum's was", 200.0, 250.0, 0.0F, 36.0F},
+        {"the minimum's again", 20.0, 120.0, 10.0F, 36.0F},
+        {"the maximum down to the least range", 380.0, -50.0, 10.0F, 11.0F},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.what);
@@ -56,7 +58,7 @@ TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
         EXPECT_NEAR(slider.minThumbX(), 20.0 + 10.0 * static_cast<double>(one.minimum), 1e-3);
         EXPECT_NEAR(slider.trackHighlight().width(), 10.0 * static_cast<double>(one.maximum - one.minimum), 1e-3);
     }
-    EXPECT_EQ(changes, 6) << "a touch that hits no thumb changes nothing";
+    EXPECT_EQ(changes, 7) << "a touch that hits no thumb changes nothing";
     EXPECT_EQ(slider.trackHighlight().center().y(), 60.0);
 }
 
@@ -107,7 +109,10 @@ TEST_F(RangeSliderTest, MixesThePrecisionsOfItsArithmetic) {
     EXPECT_EQ(slider.stringFromTime(65), QStringLiteral("01:05"));
     EXPECT_EQ(slider.stringFromTime(600), QStringLiteral("10:00"));
     slider.nudge(false, -1.0);
+    slider.nudge(true, 0.5);
     EXPECT_NEAR(slider.selectedMaximumValue, 33.0F, 1e-3F);
+    EXPECT_NEAR(slider.selectedMinimumValue, 2.5F, 1e-3F);
+    EXPECT_FALSE(slider.minThumbOn() || slider.maxThumbOn());
 }
 
 }  // namespace
