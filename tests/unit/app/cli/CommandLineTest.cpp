@@ -57,20 +57,20 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"waveform|--points|8192|--|--x=", "prints"},
         {"trim|record|--from|0|--to|1e9", "prints"},
 
-        {"--container", "! --container: 1 required DIR missing"},
+        {"--container", "? --container"},
         {"--container=|record", "! --container= needs a value"},
         {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
-        {"record|stop", "! The following argument was not expected: stop"},
-        {"set|key", "! VALUE is required"},
-        {"waveform|a|--from|1", "! The following arguments were not expected: 1 --from"},
-        {"waveform|a|--points|0", "! --points: Value 0 not in range 1 to 8192"},
-        {"waveform|a|--points|8193", "! --points: Value 8193 not in range 1 to 8192"},
-        {"waveform|a|--json|--png|b", "! --json excludes --png"},
-        {"trim|a|--from|1", "! --to is required"},
+        {"record|stop", "? stop"},
+        {"set|key", "? VALUE"},
+        {"waveform|a|--from|1", "? --from"},
+        {"waveform|a|--points|0", "? --points"},
+        {"waveform|a|--points|8193", "? 8193"},
+        {"waveform|a|--json|--png|b", "? --png"},
+        {"trim|a|--from|1", "? --to"},
         {"trim|a|--from|x|--to|2", "! --from: “x” is no number of seconds"},
         {"trim|a|--from|0|--to|nan", "! --to: “nan” is no number of seconds"},
         {"trim|a|--from|-1|--to|1", "! --from: “-1” is no number of seconds"},
-        {"trim|a|--from|1|--to", "! --to: 1 required SECONDS missing"},
+        {"trim|a|--from|1|--to", "? --to"},
         {"fly", "! unknown command “fly”"},
         {"music/a.wav", "! files cannot be imported from the command line: “music/a.wav”"},
         {"https://example.org/", "! the scheme of “https://example.org/” is not one that the recorder opens"},
@@ -78,7 +78,14 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"TaviRecordStop://[", "! “TaviRecordStop://[” is not a valid URL"},
     };
     for (const auto& [line, expected] : cases) {
-        EXPECT_EQ(meaning(line), expected) << line;
+        const std::string meant = meaning(line);
+        if (*expected == '?') {
+            // The library's words; they have to name what is wrong.
+            EXPECT_THAT(meant, ::testing::AllOf(::testing::StartsWith("! "), ::testing::HasSubstr(expected + 2)))
+                << line;
+        } else {
+            EXPECT_EQ(meant, expected) << line;
+        }
     }
 }
 
