@@ -152,32 +152,6 @@ TEST_F(PlayerTest, GoesOnInPlaceWithoutAClickWhereTheRateChanges) {
     }
 }
 
-TEST_F(PlayerTest, GoesToTheExactFrameAndOnFromAPause) {
-    // Each value tells its place, to a thousandth of a second with what 16 bits hold.
-    const auto player = made(20.0, kRate, [](double time) { return 0.1 + time / 25.0; });
-    const auto timeOf = [](float value) { return (static_cast<double>(value) - 0.1) * 25.0; };
-    listen();
-    ASSERT_TRUE(player->play());
-    for (const double target : {12.0, 3.25, 17.5, 7.75}) {
-        player->setCurrentTime(target);
-        EXPECT_EQ(player->currentTime(), target);
-        ASSERT_TRUE(spinUntil([&] { return player->currentTime() >= target + 0.5; }));
-        player->pause();
-        const double paused = player->currentTime();
-        const std::vector<float> before = heardUntilSilence();
-        EXPECT_EQ(player->currentTime(), paused);
-        // The sound stops behind what was heard at the tap, however long that takes.
-        const auto [begin, length] = soundsIn(before).back();
-        EXPECT_GE(timeOf(before[begin + length - kRate / 10]) + 0.1, paused - 0.02);
-
-        ASSERT_TRUE(player->play());
-        ASSERT_TRUE(spinUntil([&] { return player->currentTime() >= paused + 0.4; }));
-        const std::vector<float> after = heard();
-        // The ramp hides where exactly the sound begins; the place of what follows is exact.
-        EXPECT_NEAR(timeOf(after[soundsIn(after).back().first + kRate / 10]), paused + 0.1, 0.02);
-    }
-}
-
 TEST_F(PlayerTest, GoesOnElsewhereAndEndsWhenTheServerOrTheFileGivesUp) {
     const auto player = made(60.0, kRate, tone);
     const auto playsOn = [&player] {
