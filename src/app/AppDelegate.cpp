@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "files/FileNames.h"
+
 namespace tavi {
 
 namespace {
@@ -47,7 +49,7 @@ void AppDelegate::setAppStart(bool started) {
 void AppDelegate::createICloudFolder() const {
     // Without the folder there is nothing to mirror into; the recordings themselves do not need it.
     std::error_code ignored;
-    std::filesystem::create_directory(m_services.container.documentsPath() / "ICloud", ignored);
+    std::filesystem::create_directory(m_services.container.documentsPath() / foldername::kCloud, ignored);
 }
 
 void AppDelegate::createDynamicShortcut() {

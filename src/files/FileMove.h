@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "platform/Error.h"
+#include "files/FileError.h"
 
 namespace tavi {
 
@@ -21,11 +21,15 @@ enum class RenameMethod {
 int renameWithoutReplacing(const std::filesystem::path& from, const std::filesystem::path& to,
                            RenameMethod method = RenameMethod::Exclusive);
 
+/// Gives a file the first numbered name beside its own that is free, "talk_2.wav" for "talk.wav", and returns it.
+/// Replaces nothing and waits for no disk; with a failure the file keeps its name. Any thread.
+FileResult<std::filesystem::path> stepAside(const std::filesystem::path& path);
+
 /// Moves the file to another name, replacing nothing.
 ///
-/// Across file systems the file is copied under a temporary name in the folder "PrivateInbox" beside its target, which
-/// no list shows, and gets its name when all of it is on the disk. When this fails the source is as it was and the
+/// Across file systems it is copied, by way of the folder "PrivateInbox" beside its target, which no list shows; it
+/// gets its name when all of it is on the disk. When this fails the source is as it was and the
 /// target folder shows no part of it. Any thread; takes as long as the disk needs.
-Result<void> moveItem(const std::filesystem::path& from, const std::filesystem::path& to);
+FileResult<void> moveItem(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace tavi

@@ -1,19 +1,36 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <filesystem>
+#include <string_view>
 
 namespace tavi {
 
-/// Whether there is something at a path.
-inline bool existsAt(const std::filesystem::path& path) {
-    return ::access(path.c_str(), F_OK) == 0;
-}
+/// Folders among the recordings, which no list shows as recordings.
+namespace foldername {
+/// The recordings of the cloud.
+inline constexpr std::string_view kCloud = "ICloud";
+/// What other programs hand over.
+inline constexpr std::string_view kInbox = "Inbox";
+/// Files in the making.
+inline constexpr std::string_view kPrivateInbox = "PrivateInbox";
+}  // namespace foldername
+
+/// The folder in which a path's last name lies: "." for a path of one name.
+std::filesystem::path folderOf(const std::filesystem::path& path);
+
+/// Whether something has that name, be it a link to nothing.
+bool existsAt(const std::filesystem::path& path);
 
 /// Removes the file at a path, if there is one.
-inline void removeAt(const std::filesystem::path& path) {
-    ::unlink(path.c_str());
-}
+void removeAt(const std::filesystem::path& path);
+/// Removes the file at a path if it is the one that is open there, and not one that has come in its place.
+void removeIfStill(const std::filesystem::path& path, int fd);
+
+/// "NAME_NUMBER.EXTENSION" for "NAME.EXTENSION": the names that are tried, from 2 on, where one is taken.
+std::filesystem::path numberedPath(const std::filesystem::path& path, int number);
+
+/// The path itself, or where something has its name the first numbered one that is free. By the time it is used
+/// somebody else may have taken it: whoever uses it replaces nothing.
+std::filesystem::path freePath(const std::filesystem::path& path);
 
 }  // namespace tavi

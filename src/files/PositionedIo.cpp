@@ -1,36 +1,11 @@
 #include "files/PositionedIo.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 
 namespace tavi {
-
-FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
-    if (this != &other) {
-        reset();
-        m_fd = std::exchange(other.m_fd, -1);
-    }
-    return *this;
-}
-
-FileDescriptor FileDescriptor::open(const std::filesystem::path& path, int flags, mode_t mode) {
-    int fd = -1;
-    do {
-        fd = ::open(path.c_str(), flags | O_CLOEXEC, mode);
-    } while (fd < 0 && errno == EINTR);
-    return FileDescriptor(fd);
-}
-
-void FileDescriptor::reset() {
-    if (m_fd >= 0) {
-        // Not repeated after EINTR: Linux has released the descriptor by then.
-        ::close(m_fd);
-        m_fd = -1;
-    }
-}
 
 PwriteFunction systemPwrite() {
     return ::pwrite;

@@ -4,34 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
-#include <utility>
 
 namespace tavi {
-
-/// Owns one file descriptor; -1 stands for none.
-class FileDescriptor {
-public:
-    FileDescriptor() = default;
-    explicit FileDescriptor(int fd) : m_fd(fd) {}
-    FileDescriptor(FileDescriptor&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
-    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    ~FileDescriptor() { reset(); }
-
-    /// Opens a path; invalid, with errno set, when that fails. Always close-on-exec; mode counts for a file that is
-    /// made.
-    static FileDescriptor open(const std::filesystem::path& path, int flags, mode_t mode = 0);
-
-    int get() const { return m_fd; }
-    bool isValid() const { return m_fd >= 0; }
-    void reset();
-
-private:
-    int m_fd = -1;
-};
 
 /// pwrite(2) or what stands in for it, with its return value and errno.
 using PwriteFunction = std::function<ssize_t(int fd, const void* data, std::size_t size, off_t offset)>;

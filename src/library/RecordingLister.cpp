@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <future>
 
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/PlayerRules.h"
 #include "library/utility/Utility.h"
@@ -40,8 +41,9 @@ std::vector<std::filesystem::path> namesInFolder(const std::filesystem::path& fo
     return names;
 }
 
-bool isListed(const std::filesystem::path& name) {
-    return name != "PrivateInbox" && name != "Inbox" && name != "ICloud" && name != ".DS_Store";
+bool isListed(std::string_view name) {
+    return name != foldername::kPrivateInbox && name != foldername::kInbox && name != foldername::kCloud &&
+           name != ".DS_Store";
 }
 
 QString extensionOf(const QString& name) {
@@ -64,7 +66,7 @@ std::vector<RecordingEntry> RecordingLister::list(const std::filesystem::path& f
     for (const std::filesystem::path& name : namesInFolder(folder)) {
         const std::filesystem::path path = folder / name;
         struct stat attributes = {};
-        if (isListed(name) && ::stat(path.c_str(), &attributes) == 0) {
+        if (isListed(name.native()) && ::stat(path.c_str(), &attributes) == 0) {
             entries.push_back(entryOf(name, path, attributes));
         }
     }

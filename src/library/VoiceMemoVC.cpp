@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <algorithm>
 
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/RecordingOrder.h"
 
@@ -188,7 +188,7 @@ std::filesystem::path VoiceMemoVC::pathOf(bool inCloud, int row) const {
     if (row < 0 || static_cast<std::size_t>(row) >= list.size()) {
         return {};
     }
-    std::filesystem::path path = m_services.container.documentsPath() / (inCloud ? "ICloud" : "") /
+    std::filesystem::path path = m_services.container.documentsPath() / (inCloud ? foldername::kCloud : "") /
                                  list[static_cast<std::size_t>(row)].nativeName();
     return existsAt(path) ? path : std::filesystem::path();
 }

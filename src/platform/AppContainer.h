@@ -11,7 +11,7 @@ class AppContainer {
 public:
     virtual ~AppContainer() = default;
 
-    /// The user's recordings, and the folders "ICloud", "Inbox" and "PrivateInbox" among them.
+    /// The user's recordings, and the folders of files/FileNames.h among them.
     virtual std::filesystem::path documentsPath() const = 0;
     /// Files that may be thrown away, and the recording in progress.
     virtual std::filesystem::path cachesPath() const = 0;

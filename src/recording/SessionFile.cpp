@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "files/FileMove.h"
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/utility/Notifications.h"
 #include "library/utility/Utility.h"
@@ -36,7 +36,7 @@ public:
                 if (const auto moved = moveItem(from, to); !moved) {
                     // The user is not told, on purpose: the recording stays at the temporary path until the next one
                     // starts.
-                    qCWarning(lcRecording, "%s", qPrintable(moved.error().text));
+                    qCWarning(lcRecording, "%s", moved.error().text.c_str());
                 }
             }
         });

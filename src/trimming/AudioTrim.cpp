@@ -10,8 +10,7 @@
 #include <system_error>
 
 #include "files/FileMove.h"
-#include "files/FreeName.h"
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "trimming/TrimRules.h"
 
@@ -159,7 +158,7 @@ bool AudioTrim::exportAsset(const Asset& asset, const std::filesystem::path& pat
     }
     if (existsAt(path)) {
         if (const auto aside = stepAside(path); !aside) {
-            qCWarning(lcTrimming, "%s", qUtf8Printable(aside.error().text));
+            qCWarning(lcTrimming, "%s", aside.error().text.c_str());
         }
     }
     const std::shared_ptr<AssetExportSession> session = std::move(*made);
@@ -207,7 +206,7 @@ void AudioTrim::backButtonpressed() {
 
 void AudioTrim::addTrimFileWithFilePath(const std::filesystem::path& folder) {
     if (const auto moved = moveItem(m_outputPath, folder / m_outputPath.filename()); !moved) {
-        qCWarning(lcTrimming, "%s", qUtf8Printable(moved.error().text));
+        qCWarning(lcTrimming, "%s", moved.error().text.c_str());
     }
     m_indicatorText.clear();
     Q_EMIT outletsChanged();

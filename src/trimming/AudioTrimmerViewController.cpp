@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerStage.h"

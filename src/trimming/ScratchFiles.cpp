@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "files/FileMove.h"
-#include "files/FreeName.h"
-#include "files/NativePath.h"
+#include "files/FileNames.h"
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -27,7 +27,7 @@ bool free(const std::filesystem::path& path, const Made& made) {
         removeAt(path);
     } else if (existsAt(path)) {
         if (const auto aside = stepAside(path); !aside) {
-            qCWarning(lcTrimming, "%s", qUtf8Printable(aside.error().text));
+            qCWarning(lcTrimming, "%s", aside.error().text.c_str());
             return false;
         }
     }
@@ -54,7 +54,7 @@ Result<void> ScratchFiles::beginRecording() {
     const bool isOwn = isAt(original(), m_recording);
     const auto aside = stepAside(original());
     if (!aside) {
-        return tl::unexpected(aside.error());
+        return tl::unexpected(errorOf(aside.error()));
     }
     m_aside = {*aside, isOwn};
     return {};

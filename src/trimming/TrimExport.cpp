@@ -6,8 +6,7 @@
 #include <utility>
 
 #include "files/FileMove.h"
-#include "files/FreeName.h"
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 
 namespace tavi {
 
@@ -58,7 +57,7 @@ void TrimExport::start(const Asset& asset, const std::filesystem::path& path, As
         const bool isWrittenHere = m_written && FileIdentity::at(path) == m_written;
         const auto aside = stepAside(path);
         if (!aside) {
-            qCWarning(lcTrimming, "Export failed: %s", qUtf8Printable(aside.error().text));
+            qCWarning(lcTrimming, "Export failed: %s", aside.error().text.c_str());
             return;
         }
         m_aside = isWrittenHere ? std::optional(*aside) : std::nullopt;

@@ -11,6 +11,12 @@ namespace tavi::test {
 /// The program's folders below a temporary folder that goes away with this: the real file system, no fake.
 class TemporaryContainer : public AppContainer {
 public:
+    /// Names that are no text, which QTemporaryDir leaves behind, go too.
+    ~TemporaryContainer() override {
+        std::error_code ignored;
+        std::filesystem::remove_all(root(), ignored);
+    }
+
     std::filesystem::path documentsPath() const override { return made("Documents"); }
     std::filesystem::path cachesPath() const override { return made("Caches"); }
     std::filesystem::path temporaryPath() const override { return made("tmp"); }

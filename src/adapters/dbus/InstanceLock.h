@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "platform/Error.h"
 
 namespace tavi {

@@ -1,7 +1,7 @@
 #include "app/cli/Trim.h"
 
 #include "app/cli/SoundFile.h"
-#include "files/NativePath.h"
+#include "files/FileNames.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {
@@ -22,15 +22,8 @@ Result<AssetTimeRange> rangeOf(const TrimOptions& options, const Asset& asset) {
 }
 
 /// A name among the recordings that nothing has yet.
-std::filesystem::path freeNameFor(const std::filesystem::path& file, const CommandServices& services) {
-    const std::string first =
-        trimrules::outputPath(services.container.documentsPath(), services.runLoop.clock().now(), file);
-    const std::size_t point = first.size() - trimrules::pathExtension(file).size() - 1;
-    std::filesystem::path path = first;
-    for (int number = 2; existsAt(path); ++number) {
-        path = first.substr(0, point) + '_' + std::to_string(number) + first.substr(point);
-    }
-    return path;
+std::filesystem::path freePathFor(const std::filesystem::path& file, const CommandServices& services) {
+    return freePath(trimrules::outputPath(services.container.documentsPath(), services.runLoop.clock().now(), file));
 }
 
 }  // namespace
@@ -49,7 +42,7 @@ Result<QByteArray> run(const TrimOptions& options, const CommandServices& servic
         return failureOf(options.file, session.error().text);
     }
     const std::filesystem::path output =
-        options.out.empty() ? freeNameFor(options.file, services) : std::filesystem::path(options.out);
+        options.out.empty() ? freePathFor(options.file, services) : std::filesystem::path(options.out);
     (*session)->setOutputURL(output);
     (*session)->setOutputFileType(trimrules::outputFileType(options.file));
     (*session)->setTimeRange(*range);

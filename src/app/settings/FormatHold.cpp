@@ -14,7 +14,7 @@ FileDescriptor locked(const AppContainer& container, int operation) {
     FileDescriptor file = FileDescriptor::open(container.cachesPath() / "recording.lock", O_RDONLY | O_CREAT, 0600);
     if (file.isValid() && ::flock(file.get(), operation | LOCK_NB) != 0) {
         const int error = errno;
-        file.reset();
+        file.close();
         errno = error;
     }
     return file;

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "platform/AppContainer.h"
 #include "platform/Error.h"
 

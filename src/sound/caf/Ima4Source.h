@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "sound/caf/CafHeader.h"
 #include "sound/caf/Ima4Packet.h"
 #include "sound/io/SoundSource.h"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "files/PositionedIo.h"
+
 namespace tavi {
 
 namespace {

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "sound/io/PcmSamples.h"
 #include "sound/io/SoundSource.h"
 #include "sound/wav/WavHeader.h"

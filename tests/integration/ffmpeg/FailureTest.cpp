@@ -2,6 +2,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include "files/PositionedIo.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 
 namespace tavi::test {

@@ -14,6 +14,8 @@
 
 #include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
+#include "files/FileDescriptor.h"
+#include "files/PositionedIo.h"
 #include "integration/SoundProbe.h"
 #include "sound/mp4/Mp4Finalizer.h"
 

@@ -77,7 +77,6 @@ TEST_F(VoiceMemoVCTest, aNameThatIsNoTextIsListedAndMeasuredLikeAnyOther) {
     const SizeInsteadOfDuration sizes;
     FakeLibrary other(*this, sizes, notices);
     other.vc.getAlltheFiles();
-    EXPECT_TRUE(std::filesystem::remove(path));
     ASSERT_EQ(other.vc.arrRecordings().size(), 1U);
     const RecordingEntry& entry = other.vc.arrRecordings()[0];
     EXPECT_EQ(entry.value(entrykey::kFilename), QStringLiteral("x\uFFFD.m4a"));

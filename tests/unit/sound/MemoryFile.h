@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "sound/io/SoundSource.h"
 

@@ -1,6 +1,7 @@
 #include <cerrno>
 #include <numeric>
 
+#include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
 #include "sound/mp4/Mp4Finalizer.h"
 #include "sound/mp4/Mp4MovieWriter.h"

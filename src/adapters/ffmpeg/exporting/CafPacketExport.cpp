@@ -1,5 +1,5 @@
-#include "adapters/ffmpeg/FileErrors.h"
 #include "adapters/ffmpeg/exporting/PacketExport.h"
+#include "files/PathText.h"
 #include "sound/caf/CafHeader.h"
 #include "sound/caf/CafWriter.h"
 #include "sound/caf/Ima4Cut.h"

@@ -1,18 +1,13 @@
 #include "adapters/ffmpeg/exporting/ExportFile.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <sys/uio.h>
-#include <unistd.h>
 
-#include <QUuid>
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <ctime>
 #include <system_error>
+#include <utility>
+
+#include "files/PositionedIo.h"
 
 namespace tavi {
 
@@ -25,6 +20,9 @@ constexpr auto kPrefix = ".tavi-export-";
 constexpr std::size_t kMaximumPieces = 512;
 
 QString reason(int error) {
+    if (error == EEXIST) {
+        return QStringLiteral("There is a file of that name already.");
+    }
     if (error == ENOSPC || error == EDQUOT) {
         return QStringLiteral("The disk is full.");
     }
@@ -32,84 +30,17 @@ QString reason(int error) {
            QString::fromStdString(std::generic_category().message(error));
 }
 
-/// Renames without replacing, also on file systems that lack the call for it. An errno value.
-int renameExclusively(const char* from, const char* to) {
-    if (::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0) {
-        return 0;
-    }
-    if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) {
-        return errno;
-    }
-    if (::link(from, to) == 0) {
-        ::unlink(from);
-        return 0;
-    }
-    if (errno == EEXIST) {
-        return errno;
-    }
-    const FileDescriptor reserved = FileDescriptor::open(to, O_WRONLY | O_CREAT | O_EXCL, 0600);
-    return reserved.isValid() && ::rename(from, to) == 0 ? 0 : errno;
-}
-
-/// Where files are made that shall have that path: beside it, or in the folder there that no list shows.
-std::filesystem::path workFolderOf(const std::filesystem::path& path) {
-    const std::filesystem::path folder = path.parent_path();
-    const std::filesystem::path hidden = folder / "PrivateInbox";
-    struct stat status = {};
-    return ::stat(hidden.c_str(), &status) == 0 && S_ISDIR(status.st_mode) ? hidden : folder;
-}
-
-/// Removes what exports have left that were killed: nobody has written to it for a while.
-void removeLeftovers(const std::filesystem::path& folder) {
-    constexpr std::time_t kWhile = 3600;
-    struct Closer {
-        void operator()(DIR* directory) const { ::closedir(directory); }
-    };
-    const std::unique_ptr<DIR, Closer> directory(::opendir(folder.empty() ? "." : folder.c_str()));
-    // No other thread reads this stream, which is all that readdir(3) asks for.
-    while (const dirent* item = directory ? ::readdir(directory.get()) : nullptr) {  // NOLINT(concurrency-mt-unsafe)
-        struct stat status = {};
-        const std::filesystem::path path = folder / item->d_name;
-        if (std::string_view(item->d_name).starts_with(kPrefix) && ::lstat(path.c_str(), &status) == 0 &&
-            S_ISREG(status.st_mode) && std::time(nullptr) - status.st_mtim.tv_sec > kWhile) {
-            ::unlink(path.c_str());
-        }
-    }
-}
-
 }  // namespace
 
 Result<std::unique_ptr<ExportFile>> ExportFile::create(const std::filesystem::path& path) {
-    struct stat status = {};
     if (path.empty() || path.native().find('\0') != std::string::npos) {
         return failure(QStringLiteral("There is no name for the new file."));
     }
-    if (::lstat(path.c_str(), &status) == 0) {
-        return failure(QStringLiteral("There is a file of that name already."));
-    }
-    const std::filesystem::path folder = workFolderOf(path);
-    removeLeftovers(folder);
-    const std::filesystem::path temporary =
-        folder / (kPrefix + QUuid::createUuid().toByteArray(QUuid::Id128) + ".m4a").toStdString();
-    FileDescriptor file = FileDescriptor::open(temporary, O_RDWR | O_CREAT | O_EXCL, 0666);
+    DurableFile file = DurableFile::create(path, ".m4a");
     if (!file.isValid()) {
         return failure(reason(errno));
     }
-    return std::unique_ptr<ExportFile>(new ExportFile(std::move(file), temporary, path));
-}
-
-ExportFile::ExportFile(FileDescriptor file, std::filesystem::path temporary, std::filesystem::path path)
-    : m_file(std::move(file)), m_temporary(std::move(temporary)), m_path(std::move(path)) {}
-
-ExportFile::~ExportFile() {
-    if (!m_temporary.empty()) {
-        ::unlink(m_temporary.c_str());
-    }
-}
-
-void ExportFile::discard() {
-    m_file.reset();
-    ::unlink(m_temporary.c_str());
+    return std::unique_ptr<ExportFile>(new ExportFile(std::move(file)));
 }
 
 void ExportFile::fail(const QString& text) {
@@ -126,7 +57,7 @@ void ExportFile::append(std::span<const std::uint8_t> bytes) {
 
 void ExportFile::overwrite(std::span<const std::uint8_t> bytes, std::int64_t offset) {
     if (m_failure.isEmpty()) {
-        const WriteResult result = writeFully(::pwrite, m_file.get(), bytes.data(), bytes.size(), offset);
+        const WriteResult result = writeFully(::pwrite, m_file.fd(), bytes.data(), bytes.size(), offset);
         if (result.error != 0) {
             fail(reason(result.error));
         }
@@ -202,7 +133,7 @@ void ExportFile::writeGathered() {
         vectors.push_back({m_window.data() + (piece.offset - start), static_cast<std::size_t>(piece.size)});
         total += static_cast<std::size_t>(piece.size);
     }
-    const ssize_t written = ::pwritev(m_file.get(), vectors.data(), static_cast<int>(vectors.size()), m_size);
+    const ssize_t written = ::pwritev(m_file.fd(), vectors.data(), static_cast<int>(vectors.size()), m_size);
     // What was cut short is written again piece by piece, to get its error.
     if (written < 0 || static_cast<std::size_t>(written) < total) {
         std::int64_t offset = m_size;
@@ -233,29 +164,17 @@ Result<void> ExportFile::result() const {
 
 Result<void> ExportFile::publish(const ExportControl& control) {
     flush();
-    if (!m_file.isValid()) {
-        m_file = FileDescriptor::open(m_temporary, O_RDWR);
-    }
-    if (m_failure.isEmpty() && (!m_file.isValid() || ::fsync(m_file.get()) != 0)) {
-        fail(reason(errno));
-    }
-    if (m_failure.isEmpty() && control.isCancelled()) {
+    const int lost = m_failure.isEmpty() ? m_file.synchronize() : 0;
+    if (lost != 0) {
+        fail(reason(lost));
+    } else if (control.isCancelled()) {
         fail(QStringLiteral("The export was cancelled."));
     }
-    if (!m_failure.isEmpty()) {
-        return failure(m_failure);
+    const int unnamed = m_failure.isEmpty() ? m_file.publish() : 0;
+    if (unnamed != 0) {
+        fail(reason(unnamed));
     }
-    if (const int error = renameExclusively(m_temporary.c_str(), m_path.c_str()); error != 0) {
-        return failure(error == EEXIST ? QStringLiteral("There is a file of that name already.") : reason(error));
-    }
-    m_temporary.clear();
-    // The name, too. Where that cannot be done the file is whole all the same.
-    const FileDescriptor entry =
-        FileDescriptor::open(m_path.has_parent_path() ? m_path.parent_path() : ".", O_RDONLY | O_DIRECTORY);
-    if (entry.isValid()) {
-        ::fsync(entry.get());
-    }
-    return {};
+    return result();
 }
 
 }  // namespace tavi

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "files/PositionedIo.h"
+#include "files/DurableFile.h"
 #include "platform/Error.h"
 
 namespace tavi {
@@ -25,22 +25,19 @@ private:
     std::atomic<float> m_progress = 0.0F;
 };
 
-/// A file in the making, under a name of its own: beside the one that it shall have, or in the folder "PrivateInbox"
-/// there, which no list shows. Unless it is published it disappears; what a killed process leaves goes with a later
-/// export. One thread at a time.
+/// The file that an export grows into, which has its name only when it is whole. One thread at a time.
 class ExportFile {
 public:
     /// Fails when there is a file of the final name already.
     static Result<std::unique_ptr<ExportFile>> create(const std::filesystem::path& path);
-    ~ExportFile();
     ExportFile(const ExportFile&) = delete;
     ExportFile& operator=(const ExportFile&) = delete;
 
     /// The name for now, which ends in ".m4a". Someone else may make the file of that name anew after discard().
-    const std::filesystem::path& temporaryPath() const { return m_temporary; }
+    const std::filesystem::path& temporaryPath() const { return m_file.temporaryPath(); }
     /// Removes the empty file, so that another writer can make it; publish() takes what is there then.
-    void discard();
-    int fd() const { return m_file.get(); }
+    void discard() { m_file.discard(); }
+    int fd() const { return m_file.fd(); }
 
     /// Appends bytes; the first failure stays, and so does its text.
     void append(std::span<const std::uint8_t> bytes);
@@ -66,7 +63,7 @@ private:
         std::int64_t size = 0;
     };
 
-    ExportFile(FileDescriptor file, std::filesystem::path temporary, std::filesystem::path path);
+    explicit ExportFile(DurableFile file) : m_file(std::move(file)) {}
 
     void fail(const QString& text);
     /// What is gathered through one read and one gathering write.
@@ -74,9 +71,7 @@ private:
     void copyLong(const Piece& piece);
     void advance(std::int64_t bytes);
 
-    FileDescriptor m_file;
-    std::filesystem::path m_temporary;
-    std::filesystem::path m_path;
+    DurableFile m_file;
     std::int64_t m_size = 0;
     int m_source = -1;
     std::vector<Piece> m_pieces;

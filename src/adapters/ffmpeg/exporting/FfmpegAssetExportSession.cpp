@@ -14,6 +14,8 @@ extern "C" {
 #include <utility>
 
 #include "adapters/ffmpeg/exporting/SoundExport.h"
+#include "files/FileDescriptor.h"
+#include "files/PositionedIo.h"
 
 namespace tavi {
 

@@ -8,6 +8,7 @@
 #include "adapters/ffmpeg/exporting/FfmpegAssetExportSession.h"
 #include "adapters/ffmpeg/reading/FfmpegAssetReader.h"
 #include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
+#include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
 #include "sound/mp4/Mp4Sound.h"

@@ -1,6 +1,6 @@
 #include "adapters/ffmpeg/exporting/M4aPackets.h"
 
-#include "adapters/ffmpeg/FileErrors.h"
+#include "files/PathText.h"
 #include "sound/mp4/Mp4MovieWriter.h"
 
 namespace tavi {

@@ -3,6 +3,7 @@ extern "C" {
 }
 
 #include "adapters/ffmpeg/exporting/M4aPackets.h"
+#include "files/PositionedIo.h"
 #include "sound/mp4/Mp4Sound.h"
 
 namespace tavi {

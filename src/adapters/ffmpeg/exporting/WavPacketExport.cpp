@@ -1,4 +1,5 @@
 #include "adapters/ffmpeg/exporting/PacketExport.h"
+#include "files/PositionedIo.h"
 #include "sound/wav/WavHeader.h"
 #include "sound/wav/WavWriter.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "adapters/ffmpeg/reading/PacketDecoder.h"
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "sound/io/SoundSource.h"
 
 namespace tavi {

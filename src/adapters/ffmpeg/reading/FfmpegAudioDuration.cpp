@@ -3,6 +3,7 @@
 #include <fcntl.h>
 
 #include "adapters/ffmpeg/reading/AvFile.h"
+#include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
 #include "sound/io/SampleRate.h"

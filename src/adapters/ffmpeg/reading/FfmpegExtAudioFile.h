@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "adapters/ffmpeg/converting/FormatConverter.h"
-#include "files/PositionedIo.h"
+#include "files/FileDescriptor.h"
 #include "platform/ExtAudioFile.h"
 #include "sound/io/SoundSource.h"
 

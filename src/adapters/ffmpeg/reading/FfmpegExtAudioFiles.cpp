@@ -7,6 +7,8 @@
 
 #include "adapters/ffmpeg/reading/DecodedSource.h"
 #include "adapters/ffmpeg/reading/FfmpegExtAudioFile.h"
+#include "files/FileDescriptor.h"
+#include "files/PositionedIo.h"
 #include "sound/caf/Ima4Source.h"
 #include "sound/wav/WavSource.h"
 

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "adapters/ffmpeg/FileErrors.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
+#include "files/PathText.h"
 #include "sound/mp4/Mp4Finalizer.h"
 
 namespace tavi {

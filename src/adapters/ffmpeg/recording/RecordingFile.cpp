@@ -7,7 +7,9 @@
 #include <cerrno>
 #include <system_error>
 
+#include "files/DurableFile.h"
 #include "files/FileError.h"
+#include "files/FileNames.h"
 
 namespace tavi {
 
@@ -29,8 +31,7 @@ Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const std::filesyst
                                          : QStringLiteral("The recording could not be created: ") +
                                                QString::fromStdString(std::generic_category().message(errno)));
     }
-    return std::unique_ptr<RecordingFile>(
-        new RecordingFile(std::move(file), path.has_parent_path() ? path.parent_path() : ".", std::move(pwrite)));
+    return std::unique_ptr<RecordingFile>(new RecordingFile(std::move(file), folderOf(path), std::move(pwrite)));
 }
 
 RecordingFile::RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite)
@@ -42,7 +43,7 @@ void RecordingFile::makeReserve() {
     // fallocate(2) rather than posix_fallocate(3), which would write zeros where the file system cannot reserve.
     m_reserve = FileDescriptor::open(m_folder, O_TMPFILE | O_RDWR, 0600);
     if (m_reserve.isValid() && ::fallocate(m_reserve.get(), 0, 0, kReserveBytes) != 0) {
-        m_reserve.reset();
+        m_reserve.close();
     }
 }
 
@@ -76,15 +77,7 @@ void RecordingFile::shorten(std::int64_t size) {
 }
 
 int RecordingFile::sync() {
-    if (::fsync(m_file.get()) != 0) {
-        return errno;
-    }
-    const FileDescriptor folder = FileDescriptor::open(m_folder, O_RDONLY | O_DIRECTORY);
-    // Some file systems cannot sync a folder and say EINVAL.
-    if (folder.isValid() && ::fsync(folder.get()) != 0 && errno != EINVAL) {
-        return errno;
-    }
-    return 0;
+    return synchronize(m_file.get(), m_folder);
 }
 
 }  // namespace tavi

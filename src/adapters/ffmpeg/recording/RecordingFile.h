@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "platform/Error.h"
 
@@ -41,7 +42,7 @@ public:
     /// Drops what stands behind that many bytes.
     void shorten(std::int64_t size);
     /// Gives the reserve back.
-    void releaseReserve() { m_reserve.reset(); }
+    void releaseReserve() { m_reserve.close(); }
     /// Brings the file and its entry in the folder to the disk. The errno of what failed, or 0.
     int sync();
 
