@@ -95,7 +95,7 @@ bool Mp4Sound::read() {
         if (!fragments) {
             return false;
         }
-        m_fragments = std::move(*fragments);
+        m_fragments = *fragments;
     }
     return readEdits(track.edits);
 }
