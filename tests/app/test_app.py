@@ -102,7 +102,8 @@ class Recording(AppTest):
         self.start()
         for count, (file_type, quality, expected, tolerance) in enumerate(cases, start=1):
             with self.subTest(file_type=file_type, quality=quality):
-                self.tavi("set", "AudioFileType", file_type)
+                # The former recording holds type and quality for a moment after its file is there.
+                self.wait(lambda: self.tavi("set", "AudioFileType", file_type, check=False).returncode == 0, "a free type")
                 self.tavi("set", "AudioQualityType", quality)
                 before = set(self.recordings())
                 self.tavi("record")
