@@ -2,6 +2,14 @@ tavi_precompiled(tavi_test_headers LINKS Qt6::Core GTest::gmock tl::expected
   HEADERS <QByteArray> <QDateTime> <QFile> <QObject> <QPointer> <QString> <QStringList> <QTemporaryDir> <QVariant>
     <algorithm> <filesystem> <functional> <memory> <optional> <vector> <tl/expected.hpp> <gmock/gmock.h>)
 
+# Seconds after which a test hangs. The sanitizers slow down what decodes and encodes.
+set(TAVI_TEST_TIMEOUT 60)
+if(TAVI_SANITIZERS MATCHES "thread")
+  set(TAVI_TEST_TIMEOUT 240)
+elseif(TAVI_SANITIZERS)
+  set(TAVI_TEST_TIMEOUT 120)
+endif()
+
 # tavi_test(NAME SOURCES file... LINKS target... [LABELS label...] [ENVIRONMENT NAME=value...])
 #
 # Declares one GoogleTest executable and its CTest entry. tests/support/main.cpp gives it a QCoreApplication. LABELS choose
@@ -15,7 +23,7 @@ function(tavi_test name)
   target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
   tavi_use_precompiled(${name} tavi_test_headers)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT 60)
+  set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" ENVIRONMENT "${arg_ENVIRONMENT}" TIMEOUT ${TAVI_TEST_TIMEOUT})
   # Sound is played in real time: two servers at once leave each other gaps.
   if("tavi_test_pulse" IN_LIST arg_LINKS)
     set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
