@@ -8,6 +8,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "files/FileDescriptor.h"
+#include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
 #include "sound/adts/AdtsStream.h"
 #include "sound/alac/AlacDecoder.h"
