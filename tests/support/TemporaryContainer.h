@@ -28,7 +28,7 @@ public:
 
     /// Writes a file below the documents folder and returns its path.
     std::filesystem::path addDocument(const std::filesystem::path& name, const QByteArray& bytes) const {
-        const std::filesystem::path path = documentsPath() / name;
+        std::filesystem::path path = documentsPath() / name;
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
             qFatal("cannot write %s", path.c_str());
@@ -38,7 +38,7 @@ public:
 
 private:
     std::filesystem::path made(const std::filesystem::path& name) const {
-        const std::filesystem::path path = root() / name;
+        std::filesystem::path path = root() / name;
         std::filesystem::create_directories(path);
         return path;
     }

@@ -182,12 +182,13 @@ TEST_F(ExportTest, PacketsOfEveryRecordingAreCutExactly) {
     }
 }
 
-TEST_F(ExportTest, FragmentsAreCutExactlyToo) {
+TEST_F(ExportTest, FragmentsAndWhatOthersMakeAreCutExactlyToo) {
     const auto finished = recording(kTypes[0], kQualities[2]);
     // In these the header tells of the first second, the fragments of the rest.
     const auto late =
         converted(finished, "recording.late", "-c:a alac -movflags frag_keyframe -frag_duration 1000000 -f mp4");
-    for (const auto& [index, source] : {std::pair(0, std::filesystem::path()), {3, {}}, {0, late}}) {
+    const auto flac = converted(finished, "recording.flac", "-c:a flac");
+    for (const auto& [index, source] : {std::pair(0, std::filesystem::path()), {3, {}}, {0, late}, {0, flac}}) {
         const Type& type = kTypes[static_cast<std::size_t>(index)];
         const double tolerance = kEdges[static_cast<std::size_t>(index)].tolerance;
         const auto path = source.empty() ? recording(type, kQualities[2], false) : source;

@@ -193,6 +193,13 @@ Copied copyStretch(const ExportJob& job, const Stretch& stretch, AVRational time
         copied.end = end;
         copied.code = output.write(packet, timeBase);
     }
+    // In the file's last packet none follows: it comes again, behind the end.
+    if (copied.end && copied.code >= 0 && !isFollowed && job.type == AssetFileType::AppleM4A) {
+        AVPacket& again = packets.packet();
+        again.pts = again.dts = stretch.end - stretch.start;
+        again.duration = 0;
+        copied.code = output.write(again, timeBase);
+    }
     return copied;
 }
 
