@@ -34,6 +34,7 @@
 #include "app/SettingVC.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingLister.h"
+#include "library/RecordingShapes.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
 #include "trimming/AudioTrimmerStage.h"
@@ -118,6 +119,7 @@ struct Screens {
                              .tabBar = platform.tabBar,
                              .sessionFile = sessionFile}};
     RecordingLister lister{platform.media, platform.runLoop};
+    RecordingShapes shapes{platform.media, platform.runLoop};
     WaveformLoader waveforms{waveformServices};
     PlayerPanel player{{.players = platform.audioPlayers,
                         .session = platform.audioSession,
@@ -141,6 +143,7 @@ struct Screens {
                          .container = platform.container,
                          .notifications = platform.notifications,
                          .lister = lister,
+                         .shapes = shapes,
                          .remoteControl = platform.remoteControl,
                          .trimmers = trimmers},
                         player};

@@ -5,6 +5,8 @@
 #include <array>
 #include <filesystem>
 
+#include "files/FileIdentity.h"
+
 namespace tavi {
 
 /// Keys of a RecordingEntry. Lists are sorted by key, so they are part of the design.
@@ -44,6 +46,10 @@ public:
     const std::filesystem::path& nativeName() const { return m_nativeName; }
     void setNativeName(const std::filesystem::path& name) { m_nativeName = name; }
 
+    /// Of the file as it was listed; of no file where it is none that could hold sound.
+    const FileIdentity& identity() const { return m_identity; }
+    void setIdentity(const FileIdentity& identity) { m_identity = identity; }
+
     bool operator==(const RecordingEntry&) const = default;
 
 private:
@@ -59,6 +65,7 @@ private:
 
     std::array<QString, kKeys.size()> m_values;
     std::filesystem::path m_nativeName;
+    FileIdentity m_identity;
 };
 
 }  // namespace tavi

@@ -4,6 +4,11 @@
 
 namespace tavi {
 
+RecordingListModel::RecordingListModel(RecordingShapes& shapes, const AppContainer& container)
+    : m_shapes(shapes), m_container(container) {
+    connect(&m_shapes, &RecordingShapes::made, this, &RecordingListModel::shapeMade);
+}
+
 int RecordingListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_entries.size());
 }
@@ -20,13 +25,20 @@ QVariant RecordingListModel::data(const QModelIndex& index, int role) const {
             return QStringList{entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
                                entry.value(entrykey::kModdate)}
                 .join(QStringLiteral(" | "));
+        case ShapeRole: {
+            const WaveformSample* shape =
+                entry.identity() == FileIdentity()
+                    ? nullptr
+                    : m_shapes.shapeOf(entry.identity(), m_container.documentsPath() / entry.nativeName());
+            return QVariant::fromValue(shape ? QList<qreal>(shape->begin(), shape->end()) : QList<qreal>());
+        }
         default:
             return {};
     }
 }
 
 QHash<int, QByteArray> RecordingListModel::roleNames() const {
-    return {{NameTextRole, "nameText"}, {DetailTextRole, "detailText"}};
+    return {{NameTextRole, "nameText"}, {DetailTextRole, "detailText"}, {ShapeRole, "shape"}};
 }
 
 void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) {
@@ -48,6 +60,15 @@ void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) 
     const auto to = static_cast<int>(end - entries.begin()) - 1;
     m_entries = entries;
     Q_EMIT dataChanged(index(from), index(to));
+}
+
+void RecordingListModel::shapeMade(const FileIdentity& identity) {
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&identity](const RecordingEntry& entry) { return entry.identity() == identity; });
+    if (found != m_entries.end()) {
+        const QModelIndex row = index(static_cast<int>(found - m_entries.begin()));
+        Q_EMIT dataChanged(row, row, {ShapeRole});
+    }
 }
 
 }  // namespace tavi

@@ -4,18 +4,22 @@
 #include <vector>
 
 #include "library/RecordingEntry.h"
+#include "library/RecordingShapes.h"
+#include "platform/AppContainer.h"
 
 namespace tavi {
 
-/// The rows of one section of the library's table: the text of their two lines.
+/// The rows of one section of the library's table: the text of their two lines, and the shape of their sound.
 class RecordingListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    /// Role names in QML: "nameText" and "detailText".
-    enum Role { NameTextRole = Qt::UserRole, DetailTextRole };
+    /// Role names in QML: "nameText", "detailText" and "shape". A shape is a list of numbers from 0 to 1; it is empty
+    /// until it has been made, which asking for it begins.
+    enum Role { NameTextRole = Qt::UserRole, DetailTextRole, ShapeRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    /// Shows recordings of the documents folder. Both must outlive the model.
+    RecordingListModel(RecordingShapes& shapes, const AppContainer& container);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -26,6 +30,10 @@ public:
     void setEntries(const std::vector<RecordingEntry>& entries);
 
 private:
+    void shapeMade(const FileIdentity& identity);
+
+    RecordingShapes& m_shapes;
+    const AppContainer& m_container;
     std::vector<RecordingEntry> m_entries;
 };
 

@@ -103,6 +103,7 @@ RecordingEntry RecordingLister::entryOf(const std::filesystem::path& name, const
     // Folders are listed like files, on purpose: a stray one is seen, and has no length. A pipe would block its reader.
     if (S_ISREG(attributes.st_mode)) {
         const FileIdentity identity(attributes);
+        entry.setIdentity(identity);
         const auto known = m_known.find(identity);
         if (known == m_known.end()) {
             m_open.push_back({name, path, identity});

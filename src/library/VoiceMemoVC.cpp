@@ -11,7 +11,7 @@
 namespace tavi {
 
 VoiceMemoVC::VoiceMemoVC(const Services& services, PlayerPanel& player, QObject* parent)
-    : QObject(parent), m_services(services), m_player(player) {
+    : QObject(parent), m_services(services), m_tableView(services.shapes, services.container), m_player(player) {
     m_filter.setSourceModel(&m_tableView);
     m_services.remoteControl.setDelegate(this);
     connect(&m_player, &PlayerPanel::finished, this, &VoiceMemoVC::audioPlayerDidFinishPlaying);

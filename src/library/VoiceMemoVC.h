@@ -45,6 +45,7 @@ public:
         const AppContainer& container;
         NotificationCenter& notifications;
         RecordingLister& lister;
+        RecordingShapes& shapes;
         RemoteControl& remoteControl;
         AudioTrimmerStage& trimmers;
     };

@@ -9,6 +9,7 @@ namespace tavi::test {
 struct FakeLibrary {
     FakeLibrary(FakeServices& fakes, const AudioDuration& lengths, Notices& notices)
         : lister(lengths, fakes.runLoop),
+          shapes(fakes.files, fakes.runLoop),
           waveforms({.files = fakes.files, .converters = fakes.converters, .queues = fakes.runLoop}),
           player({.players = fakes.players,
                   .session = fakes.session,
@@ -22,11 +23,13 @@ struct FakeLibrary {
               .container = fakes.container,
               .notifications = fakes.notifications,
               .lister = lister,
+              .shapes = shapes,
               .remoteControl = fakes.remote,
               .trimmers = fakes.trimmers},
              player) {}
 
     RecordingLister lister;
+    RecordingShapes shapes;
     WaveformLoader waveforms;
     PlayerPanel player;
     VoiceMemoVC vc;

@@ -245,6 +245,43 @@ TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
     EXPECT_EQ(openIn(waiting.vc), 0) << "whoever asks for the whole list waits for it";
 }
 
+TEST_F(VoiceMemoVCTest, aShapeIsMadeOnceWhereItIsSeenAndAnewForAChangedFile) {
+    for (int i = 0; i < 100; ++i) {
+        const std::string name = std::to_string(100 + i);
+        add(name, 1000);
+        files.sounds[container.documentsPath() / name] = std::make_shared<FakeSound>();
+        files.sounds[container.documentsPath() / name]->planes = {std::vector<float>(800, 0.5F)};
+    }
+    std::filesystem::create_directory(container.documentsPath() / "stray");
+    defaults.setObject(2, settingskey::kSort);
+    vc.viewDidLoad();
+    runLoop.drain();
+    std::vector<int> told;
+    QObject::connect(vc.tableView(), &QAbstractItemModel::dataChanged, &vc,
+                     [&told](const auto& first, const auto&) { told.push_back(first.row()); });
+    // How many rows have a shape; asks for those that have none.
+    const auto seen = [this](int from, int to) {
+        int shapes = 0;
+        for (int row = from; row < to; ++row) {
+            const auto shape = vc.tableView()->index(row, 0).data(RecordingListModel::ShapeRole).value<QList<qreal>>();
+            shapes += shape == QList<qreal>(8, 1.0) ? 1 : 0;
+        }
+        runLoop.advance(1.0);
+        return shapes;
+    };
+    EXPECT_EQ(seen(3, 5), 0);
+    EXPECT_EQ(seen(3, 5), 2);
+    EXPECT_THAT(told, ElementsAre(4, 3)) << "what is asked for last comes first, and the stray folder never";
+    EXPECT_EQ(files.opened, 2);
+    vc.viewWillAppear();
+    add("103", 2000);
+    vc.viewWillAppear();
+    EXPECT_EQ(seen(3, 5), 1);
+    EXPECT_EQ(files.opened, 3);
+    EXPECT_EQ(seen(0, 101), 2);
+    EXPECT_EQ(files.opened, 3 + 64) << "what has been scrolled away is no longer wanted";
+}
+
 TEST_F(VoiceMemoVCTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {
     add("a", 1);
     vc.viewDidLoad();

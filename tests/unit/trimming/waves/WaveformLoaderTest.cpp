@@ -6,6 +6,7 @@
 #include "support/FakeExtAudioFile.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
+#include "trimming/waves/WaveformSample.h"
 
 namespace tavi::test {
 namespace {
@@ -88,6 +89,23 @@ TEST_F(WaveformLoaderTest, WhatNobodyWaitsForEndsSoonAndTellsNobody) {
     load(known);
     runLoop.drain();
     EXPECT_THAT(loaded, ElementsAre(Each(FloatEq(0.1F)))) << "the one asked for last";
+}
+
+TEST_F(WaveformLoaderTest, SamplesAnEighthByAQuarterOfASecond) {
+    const auto path = add("a", 0.0F);
+    auto& planes = files.sounds[path]->planes = {std::vector<float>(80'000)};
+    EXPECT_THAT(sampleWaveform(files, path), Each(0.0F)) << "silence";
+    EXPECT_THAT(sampleWaveform(files, "missing"), Each(0.0F));
+    // The first half is a quarter as loud as the second; eight hundred seconds.
+    files.sounds[path]->rate = 100;
+    planes = {std::vector<float>(80'000, 0.2F)};
+    std::fill_n(planes[0].begin(), 40'000, 0.05F);
+    for (const bool isRandomAccess : {true, false}) {
+        files.sounds[path]->isRandomAccess = isRandomAccess;
+        const float fifth = isRandomAccess ? 1.0F : 0.5F;
+        EXPECT_THAT(sampleWaveform(files, path), ElementsAre(0.5F, 0.5F, 0.5F, 0.5F, FloatEq(fifth), 1.0F, 1.0F, 1.0F));
+        EXPECT_THAT(*files.reads.back(), ::testing::AllOf(SizeIs(8), Each(25U)));
+    }
 }
 
 }  // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+
+#include "platform/ExtAudioFile.h"
+
+namespace tavi {
+
+/// How loud each eighth of a recording is beside its loudest: square roots of levels, from 0 to 1. Silence, and what
+/// cannot be read, is all 0.
+using WaveformSample = std::array<float, 8>;
+
+/// Listens to a quarter of a second in the middle of each eighth of a file, and to nothing else: hours cost as much as
+/// seconds. Where getting to a place means reading all before it, only the first ten minutes stand for the file. Any
+/// thread.
+WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path);
+
+}  // namespace tavi
