@@ -22,64 +22,62 @@ struct OtherTexts : QTranslator {
 
 class SettingVCTest : public ::testing::Test, protected FakeServices {
 protected:
+    SettingVCTest() {
+        QObject::connect(&vc, &SettingVC::slidersChanged, &notifications, [this] { told += "s"; });
+        QObject::connect(&vc, &SettingVC::formatHeldChanged, &notifications,
+                         [this] { told += vc.isFormatHeld() ? "+" : "-"; });
+    }
     /// Chooses the action of that title in the sheet shown last.
     void choose(const char* title) {
         for (const AlertAction& action : presenter.sheets.back().actions) {
-            if (action.title == QLatin1String(title)) {
+            if (action.title == QStringLiteral("Wort ") + QLatin1String(title)) {
                 return action.handler ? action.handler() : void();
             }
         }
         FAIL() << "no action " << title;
     }
-    QStringList titles() const {
-        QStringList titles{presenter.sheets.back().title};
+    /// Title and choices of the sheet shown last, one to cancel with "!".
+    std::string sheet() const {
+        QString text = presenter.sheets.back().title;
         for (const AlertAction& action : presenter.sheets.back().actions) {
-            titles += action.title + QLatin1String(action.style == AlertAction::Style::Cancel ? "!" : "");
+            text += action.title.mid(4) + QLatin1String(action.style == AlertAction::Style::Cancel ? "!" : "");
         }
-        return titles;
+        return text.toStdString();
     }
     /// Keys written since the last call.
-    QString writes() { return std::exchange(defaults.writes, {}).join(QLatin1Char(' ')); }
+    std::string writes() { return std::exchange(defaults.writes, {}).join(QLatin1Char(' ')).toStdString(); }
 
+    const OtherTexts texts;
     FakePresenter presenter;
     SettingVC::Services services{
         .settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter};
     SettingVC vc{services};
+    std::string told;
 };
 
 TEST_F(SettingVCTest, RowsShowWhatIsStoredAndStoreTheirSliders) {
-    const OtherTexts texts;
-    const struct {
-        double stored, rewind, forward;
-    } cases[] = {{0.0, 10.0, 30.0}, {3.0, 5.0, 5.0}, {45.0, 45.0, 45.0}, {90.0, 60.0, 60.0}};
     settings.setAudioFileType(QStringLiteral("caf"));
     settings.setAudioQualityType(QStringLiteral("Low"));
     settings.setCloudSyncOn(true);
     settings.setQuickMailOn(true);
-    for (const auto& row : cases) {
-        settings.setRewindSeconds(row.stored);
-        settings.setForwardSeconds(row.stored);
-        SettingVC screen(services);
-        screen.viewDidLoad();
-        screen.viewWillAppear();
-        screen.loadData();
-        EXPECT_EQ(screen.rewindValue(), row.rewind);
-        EXPECT_EQ(screen.forwardValue(), row.forward);
-        EXPECT_EQ(settings.storedRewindSeconds(), row.rewind);
-        EXPECT_EQ(settings.storedForwardSeconds(), row.forward);
-        EXPECT_EQ(screen.title(), QStringLiteral("Wort Settings"));
-        EXPECT_EQ(screen.headerTexts(),
-                  (QStringList{QStringLiteral("Wort recording_type"), QStringLiteral("Wort recording_quality"),
-                               QStringLiteral("Wort audio_setting"), QStringLiteral("Wort icloud_sync"),
-                               QStringLiteral("Wort mail")}));
-        EXPECT_EQ(screen.sectionarray().mid(5).join(QLatin1Char(' ')), QStringLiteral("data_security support feature"));
-        EXPECT_EQ(screen.fileType() + screen.quality(), QStringLiteral("cafLow"));
-        EXPECT_TRUE(screen.isCloudSyncOn() && screen.isQuickMailOn());
+    for (const auto& [stored, rewind, forward] :
+         {std::tuple{0.0, 10.0, 30.0}, {3.0, 5.0, 5.0}, {45.0, 45.0, 45.0}, {90.0, 60.0, 60.0}}) {
+        settings.setRewindSeconds(stored);
+        settings.setForwardSeconds(stored);
+        vc.viewDidLoad();
+        vc.loadData();
+        EXPECT_EQ((std::pair{vc.rewindValue(), vc.forwardValue()}), (std::pair{rewind, forward}));
+        EXPECT_EQ((std::pair{settings.storedRewindSeconds(), settings.storedForwardSeconds()}),
+                  (std::pair{rewind, forward}));
+        EXPECT_EQ((vc.headerTexts() << vc.title() << vc.fileType() << vc.quality() << vc.sectionarray().mid(5))
+                      .join(QLatin1Char(' ')),
+                  QStringLiteral("Wort recording_type Wort recording_quality Wort audio_setting Wort icloud_sync "
+                                 "Wort mail Wort Settings caf Low data_security support feature"));
+        EXPECT_TRUE(vc.isCloudSyncOn() && vc.isQuickMailOn());
     }
 }
 
 TEST_F(SettingVCTest, AMovedSliderSnapsAndIsLabelledInEnglishUntilTheRowsAreBuiltAgain) {
-    const OtherTexts texts;
     const struct {
         void (SettingVC::*move)(double);
         double (SettingVC::*value)() const;
@@ -89,20 +87,17 @@ TEST_F(SettingVCTest, AMovedSliderSnapsAndIsLabelledInEnglishUntilTheRowsAreBuil
                     "Wort rewind 15", "Rewind ( 15 Sec )"},
                    {&SettingVC::forwardSliderChange, &SettingVC::forwardValue, &SettingVC::forwardText, "ForwardSong",
                     "Wort forward 15", "Forward ( 15 Sec )"}};
-    int changes = 0;
-    QObject::connect(&vc, &SettingVC::slidersChanged, &notifications, [&] { ++changes; });
     vc.viewWillAppear();
     for (const auto& slider : sliders) {
-        SCOPED_TRACE(slider.key);
         for (const auto& [position, seconds] :
              {std::pair{7.49, 5.0}, {7.5, 10.0}, {99.0, 60.0}, {0.0, 5.0}, {17.0, 15.0}}) {
             writes();
-            changes = 0;
+            told.clear();
             (vc.*slider.move)(position);
-            EXPECT_EQ(changes, 1);
+            EXPECT_EQ(told, "s");
             EXPECT_EQ((vc.*slider.value)(), seconds) << position;
             EXPECT_EQ(defaults.floatForKey(QLatin1String(slider.key)), seconds) << position;
-            EXPECT_EQ(writes(), QLatin1String(slider.key) + QStringLiteral(" synchronize"));
+            EXPECT_EQ(writes(), std::string(slider.key) + " synchronize");
         }
         vc.viewWillAppear();
         EXPECT_EQ((vc.*slider.text)(), QLatin1String(slider.moved));
@@ -112,36 +107,29 @@ TEST_F(SettingVCTest, AMovedSliderSnapsAndIsLabelledInEnglishUntilTheRowsAreBuil
 }
 
 TEST_F(SettingVCTest, AChoiceIsStoredAtOnceAndShownAfterAMoment) {
-    const OtherTexts texts;
-    const struct {
-        bool isType;
-        const char *title, *stored;
-    } cases[] = {{true, "Wave", "wav"},        {true, "Aac", "aac"},
-                 {true, "Mp4", "mp4"},         {true, "Caf", "caf"},
-                 {true, "M4a", "m4a"},         {false, "Low", "Wort Low"},
-                 {false, "High", "Wort High"}, {false, "Medium", "Wort Medium"}};
     vc.viewWillAppear();
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.title);
-        row.isType ? vc.showExtentionActionsheet() : vc.showQualityActionsheet();
-        EXPECT_EQ(
-            titles().join(QLatin1Char('|')),
-            QLatin1String(
-                row.isType
-                    ? "Wort Select Recording Audio Type|Wort M4a|Wort Wave|Wort Aac|Wort Mp4|Wort Caf|Wort Cancel!"
-                    : "Wort Select Recording Audio Quality|Wort Low|Wort Medium|Wort High|Wort Cancel!"));
-        const auto shown = [&] { return row.isType ? vc.fileType() : vc.quality(); };
-        const QString before = shown();
+    for (const auto& [isType, title, stored] : {std::tuple{true, "Wave", "wav"},
+                                                {true, "Aac", "aac"},
+                                                {true, "Mp4", "mp4"},
+                                                {true, "Caf", "caf"},
+                                                {true, "M4a", "m4a"},
+                                                {false, "Low", "Wort Low"},
+                                                {false, "High", "Wort High"},
+                                                {false, "Medium", "Wort Medium"}}) {
+        isType ? vc.showExtentionActionsheet() : vc.showQualityActionsheet();
+        EXPECT_EQ(sheet(), isType ? "Wort Select Recording Audio Type M4a Wave Aac Mp4 Caf Cancel!"
+                                  : "Wort Select Recording Audio Quality Low Medium High Cancel!");
+        const QString before = isType ? vc.fileType() : vc.quality();
         writes();
-        choose("Wort Cancel");
-        EXPECT_EQ(writes(), QString());
-        choose(qPrintable(QStringLiteral("Wort ") + QLatin1String(row.title)));
-        EXPECT_EQ(writes(), QLatin1String(row.isType ? "AudioFileType" : "AudioQualityType synchronize"));
-        EXPECT_EQ(row.isType ? settings.audioFileType() : settings.audioQualityType(), QLatin1String(row.stored));
+        choose("Cancel");
+        EXPECT_EQ(writes(), "");
+        choose(title);
+        EXPECT_EQ(writes(), isType ? "AudioFileType" : "AudioQualityType synchronize");
+        EXPECT_EQ(isType ? settings.audioFileType() : settings.audioQualityType(), QLatin1String(stored));
         runLoop.advance(0.19);
-        EXPECT_EQ(shown(), before);
+        EXPECT_EQ(isType ? vc.fileType() : vc.quality(), before);
         runLoop.advance(0.01);
-        EXPECT_EQ(shown(), QLatin1String(row.stored));
+        EXPECT_EQ(isType ? vc.fileType() : vc.quality(), QLatin1String(stored));
     }
 }
 
@@ -149,31 +137,28 @@ TEST_F(SettingVCTest, TypeAndQualityWaitForTheEndOfARecording) {
     vc.viewWillAppear();
     vc.showExtentionActionsheet();
     vc.showQualityActionsheet();
-    std::string told;
-    QObject::connect(&vc, &SettingVC::formatHeldChanged, &notifications,
-                     [&] { told += vc.isFormatHeld() ? '+' : '-'; });
+    writes();
+    told.clear();
     formatHold.setHeld(true);
+    EXPECT_EQ(told, "+");
     vc.showExtentionActionsheet();
     vc.showQualityActionsheet();
-    EXPECT_EQ(presenter.sheets.size(), 2U);
-    writes();
-    // Both sheets still stand.
+    ASSERT_EQ(presenter.sheets.size(), 2U);
+    // The two that were there still stand.
     choose("High");
     presenter.sheets.pop_back();
     choose("Caf");
     choose("Wave");
     runLoop.advance(1.0);
-    EXPECT_EQ(writes(), QString());
+    EXPECT_EQ(writes(), "");
     formatHold.setHeld(false);
-    EXPECT_EQ(told.front(), '+');
     EXPECT_EQ(told.back(), '-');
-    EXPECT_EQ(settings.audioFileType() + settings.audioQualityType(), QStringLiteral("wavHigh"));
     runLoop.advance(0.2);
-    EXPECT_EQ(vc.fileType() + vc.quality(), QStringLiteral("wavHigh"));
+    EXPECT_EQ(settings.audioFileType() + vc.fileType() + vc.quality(), QStringLiteral("wavwavWort High"));
     writes();
     formatHold.setHeld(true);
     formatHold.setHeld(false);
-    EXPECT_EQ(writes(), QString()) << "a choice is stored twice";
+    EXPECT_EQ(writes(), "") << "a choice is stored twice";
 }
 
 TEST_F(SettingVCTest, SwitchesAreStoredNegated) {
@@ -181,10 +166,10 @@ TEST_F(SettingVCTest, SwitchesAreStoredNegated) {
         writes();
         vc.hideShowiClound(on);
         vc.autoQuickMail(on);
-        EXPECT_EQ(writes(), QStringLiteral("Iclound synchronize QuickMail synchronize"));
+        EXPECT_EQ(writes(), "Iclound synchronize QuickMail synchronize");
         EXPECT_EQ(defaults.boolForKey(QStringLiteral("Iclound")), !on);
         EXPECT_EQ(defaults.boolForKey(QStringLiteral("QuickMail")), !on);
-        EXPECT_EQ(vc.isCloudSyncOn() && vc.isQuickMailOn(), on);
+        EXPECT_EQ((std::pair{vc.isCloudSyncOn(), vc.isQuickMailOn()}), (std::pair{on, on}));
     }
 }
 
@@ -197,7 +182,7 @@ TEST_F(SettingVCTest, AChoiceAfterTheScreenIsGoneDoesNothing) {
     writes();
     choose("High");
     runLoop.advance(1.0);
-    EXPECT_EQ(writes(), QString());
+    EXPECT_EQ(writes(), "");
 }
 
 }  // namespace
