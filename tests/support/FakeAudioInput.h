@@ -17,11 +17,10 @@ public:
 
     void resume() override { m_wanted = true; }
     void pause() override {
-        if (!std::exchange(m_wanted, false) || m_failed) {
-            return;
+        m_wanted = false;
+        if (std::exchange(m_pausing, true)) {
+            m_listener.audioInputDidPause();
         }
-        finishPause();
-        m_pausing = true;
         if (m_answersPause) {
             finishPause();
         }
@@ -30,26 +29,19 @@ public:
     /// Hands on frames if the input runs or a pause is still pending; otherwise they are lost, as they ought to be. The
     /// samples are interleaved; a null pointer is a hole.
     void deliver(const float* interleaved, std::size_t frames) {
-        if (!m_failed && (m_wanted || m_pausing)) {
+        if (m_wanted || m_pausing) {
             if (!std::exchange(m_opened, true)) {
                 m_listener.audioInputDidOpen(m_format);
             }
             m_listener.audioInputDidCapture(interleaved, frames);
         }
     }
-    void deliver(const std::vector<float>& interleaved) {
-        deliver(interleaved.data(), interleaved.size() / static_cast<std::size_t>(m_format.channels));
-    }
     /// Ends a pending pause, where the inputs were told not to answer pauses by themselves.
     void finishPause() {
-        if (std::exchange(m_pausing, false)) {
-            m_listener.audioInputDidPause();
-        }
+        m_pausing = false;
+        m_listener.audioInputDidPause();
     }
-    void fail(const Error& error) {
-        m_failed = true;
-        m_listener.audioInputDidFail(error);
-    }
+    void fail(const Error& error) { m_listener.audioInputDidFail(error); }
 
 private:
     AudioInputListener& m_listener;
@@ -58,7 +50,6 @@ private:
     bool m_wanted = false;
     bool m_pausing = false;
     bool m_opened = false;
-    bool m_failed = false;
 };
 
 class FakeAudioInputs : public AudioInputs {

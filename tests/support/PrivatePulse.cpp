@@ -1,8 +1,6 @@
 #include "support/PrivatePulse.h"
 
-#include <arpa/inet.h>
 #include <spawn.h>
-#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,28 +29,10 @@ bool runs(const QByteArray& shellCommand) {
     return ::system(shellCommand.constData()) == 0;
 }
 
-/// A port that nobody listens on.
-int freePort() {
-    const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    if (bind(descriptor, generic, size) != 0 || getsockname(descriptor, generic, &size) != 0) {
-        qFatal("There is no free port.");
-    }
-    close(descriptor);
-    return ntohs(address.sin_port);
-}
-
 }  // namespace
 
-ChildProcess::ChildProcess(const QStringList& command, const QMap<QByteArray, QByteArray>& environment) {
-    QList<QByteArray> words{"setpriv", "--pdeathsig=KILL", "env"};
-    for (auto change = environment.begin(); change != environment.end(); ++change) {
-        words.append(change.value().isNull() ? "--unset=" + change.key() : change.key() + '=' + change.value());
-    }
+ChildProcess::ChildProcess(const QStringList& command) {
+    QList<QByteArray> words{"setpriv", "--pdeathsig=KILL"};
     for (const QString& word : command) {
         words.append(word.toLocal8Bit());
     }
@@ -85,25 +65,25 @@ PrivatePulse::PrivatePulse() {
 }
 
 QByteArray PrivatePulse::refusingAddress() const {
-    const QByteArray port = QByteArray::number(freePort());
-    pactl("load-module module-native-protocol-tcp listen=127.0.0.1 port=" + port +
-          " auth-cookie=" + m_folder.filePath(QStringLiteral("another-cookie")).toLocal8Bit());
-    return "tcp:127.0.0.1:" + port;
+    const QByteArray cookie = m_folder.filePath(QStringLiteral("another-cookie")).toLocal8Bit();
+    // Others may listen on some ports.
+    for (int port = 20'000; port < 60'000; ++port) {
+        const QByteArray number = QByteArray::number(port);
+        if (runs("timeout 20 pactl load-module module-native-protocol-tcp listen=127.0.0.1 port=" + number +
+                 " auth-cookie=" + cookie + " >/dev/null 2>&1")) {
+            return "tcp:127.0.0.1:" + number;
+        }
+    }
+    qFatal("There is no free port.");
 }
 
 void PrivatePulse::start() {
-    const QByteArray folder = m_folder.path().toLocal8Bit();
-    m_server = std::make_unique<ChildProcess>(
-        QStringList{QStringLiteral("pulseaudio"), QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                    QStringLiteral("--use-pid-file=no"), QStringLiteral("--exit-idle-time=-1"),
-                    QStringLiteral("--disable-shm=yes"), QStringLiteral("--log-level=error"), QStringLiteral("-F"),
-                    QStringLiteral(TAVI_PRIVATE_PULSE)},
-        QMap<QByteArray, QByteArray>{{"PULSE_SERVER", {}},
-                                     {"DBUS_SESSION_BUS_ADDRESS", {}},
-                                     {"HOME", folder},
-                                     {"XDG_RUNTIME_DIR", folder},
-                                     {"PULSE_RUNTIME_PATH", folder},
-                                     {"PULSE_STATE_PATH", folder}});
+    const QString command = QStringLiteral(
+        "env --unset=PULSE_SERVER --unset=DBUS_SESSION_BUS_ADDRESS HOME=%1 XDG_RUNTIME_DIR=%1 "
+        "PULSE_RUNTIME_PATH=%1 PULSE_STATE_PATH=%1 pulseaudio -n --daemonize=no --use-pid-file=no "
+        "--exit-idle-time=-1 --disable-shm=yes --log-level=error -F");
+    m_server = std::make_unique<ChildProcess>(command.arg(m_folder.path()).split(QLatin1Char(' '))
+                                              << QStringLiteral(TAVI_PRIVATE_PULSE));
     const auto isUp = [this] {
         if (!m_server->isRunning()) {
             qFatal("The private sound server has ended.");
@@ -111,14 +91,6 @@ void PrivatePulse::start() {
         return runs("timeout 20 pactl get-default-source 2>/dev/null | grep -qx microphone");
     };
     waitUntil(isUp, "The private sound server does not come up.");
-}
-
-void PrivatePulse::freeze() const {
-    ::kill(m_server->pid(), SIGSTOP);
-}
-
-void PrivatePulse::thaw() const {
-    ::kill(m_server->pid(), SIGCONT);
 }
 
 void PrivatePulse::setMicrophone(int sampleRate, int channels) const {
@@ -144,18 +116,16 @@ ProcessHandle PrivatePulse::play(const QByteArray& samples, int sampleRate, int 
         qFatal("cannot write %s", qPrintable(path));
     }
     file.close();
-    return std::make_unique<ChildProcess>(
-        QStringList{QStringLiteral("pacat"), QStringLiteral("--playback"), QStringLiteral("--raw"),
-                    QStringLiteral("--device=mic_sink"), QStringLiteral("--format=s16ne"),
-                    QStringLiteral("--rate=%1").arg(sampleRate), QStringLiteral("--channels=%1").arg(channels), path});
+    const QString command =
+        QStringLiteral("pacat --playback --raw --device=mic_sink --format=s16ne --rate=%1 --channels=%2 %3");
+    return std::make_unique<ChildProcess>(command.arg(sampleRate).arg(channels).arg(path).split(QLatin1Char(' ')));
 }
 
 ProcessHandle PrivatePulse::listen(const QString& path, int channels, const QString& sink) const {
     QFile::remove(path);
-    auto listener = std::make_unique<ChildProcess>(
-        QStringList{QStringLiteral("parec"), QStringLiteral("--raw"), QStringLiteral("--device=%1.monitor").arg(sink),
-                    QStringLiteral("--format=float32ne"), QStringLiteral("--rate=48000"),
-                    QStringLiteral("--latency-msec=50"), QStringLiteral("--channels=%1").arg(channels), path});
+    const QString command = QStringLiteral(
+        "parec --raw --device=%1.monitor --format=float32ne --rate=48000 --latency-msec=50 --channels=%2");
+    auto listener = std::make_unique<ChildProcess>(command.arg(sink).arg(channels).split(QLatin1Char(' ')) << path);
     waitUntil([&path] { return QFile(path).size() > 0; }, "Nothing is heard from the sink.");
     return listener;
 }

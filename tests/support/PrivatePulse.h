@@ -3,9 +3,9 @@
 #include <sys/types.h>
 
 #include <QByteArray>
-#include <QMap>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <csignal>
 #include <memory>
 
 namespace tavi::test {
@@ -16,8 +16,7 @@ namespace tavi::test {
 /// Not QProcess: its way of forking hides the main thread's locks from ThreadSanitizer.
 class ChildProcess {
 public:
-    /// The environment is the program's own with these changes; a null value removes a variable.
-    explicit ChildProcess(const QStringList& command, const QMap<QByteArray, QByteArray>& environment = {});
+    explicit ChildProcess(const QStringList& command);
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
@@ -46,8 +45,8 @@ public:
     /// Ends the server as a crash would.
     void kill() { m_server.reset(); }
     /// Stops and continues the server's process: it answers nothing meanwhile.
-    void freeze() const;
-    void thaw() const;
+    void freeze() const { ::kill(m_server->pid(), SIGSTOP); }
+    void thaw() const { ::kill(m_server->pid(), SIGCONT); }
 
     /// Replaces the microphone by one of that shape.
     void setMicrophone(int sampleRate, int channels) const;

@@ -16,163 +16,157 @@ namespace tavi::test {
 namespace {
 
 constexpr int kRate = 48000;
+/// Frames on either side of a seam in which the sound fades.
+constexpr std::size_t kRamp = 240;
 
-/// What the writers of one test were given.
-struct Written {
+/// A recorder, what its writer is given, and what its delegate is told.
+class Recording : public AudioRecorderDelegate {
+public:
+    Recording(FakeAudioInputs& inputs, RunLoop& runLoop)
+        : recorder(std::make_unique<CaptureRecorder>(inputs, std::make_unique<Writer>(*this), runLoop)) {
+        recorder->setDelegate(this);
+        recorder->setMeteringEnabled(true);
+    }
+
+    /// The errors that it ended with, empty for none.
+    std::vector<QString> ends;
+    /// Held by a test to make the disk stall.
+    std::mutex disk;
     std::vector<float> samples;
-    AudioInputFormat format;
-    int finishes = 0;
     Result<void> writeResult;
     Result<void> finishResult;
-    /// Held by a test to make the disk stall.
-    std::mutex stall;
-};
-
-class FakeWriter : public AudioFileWriter {
-public:
-    explicit FakeWriter(Written& written) : m_written(written) {}
-
-    Result<void> setInputFormat(const AudioInputFormat& format) override {
-        m_written.format = format;
-        return {};
-    }
-    Result<void> write(const float* interleaved, std::size_t frames) override {
-        const std::lock_guard lock(m_written.stall);
-        m_written.samples.insert(m_written.samples.end(), interleaved,
-                                 interleaved + frames * static_cast<std::size_t>(m_written.format.channels));
-        return m_written.writeResult;
-    }
-    Result<void> finish() override {
-        ++m_written.finishes;
-        return m_written.finishResult;
-    }
+    int finishes = 0;
+    std::unique_ptr<CaptureRecorder> recorder;
 
 private:
-    Written& m_written;
-};
+    struct Writer : AudioFileWriter {
+        explicit Writer(Recording& owner) : recording(owner) {}
+        Result<void> setInputFormat(const AudioInputFormat&) override { return {}; }
+        Result<void> write(const float* mono, std::size_t frames) override {
+            const std::lock_guard lock(recording.disk);
+            recording.samples.insert(recording.samples.end(), mono, mono + frames);
+            return recording.writeResult;
+        }
+        Result<void> finish() override {
+            ++recording.finishes;
+            return recording.finishResult;
+        }
+        Recording& recording;
+    };
 
-class Listener : public AudioRecorderDelegate {
-public:
     void audioRecorderDidFinishRecording(AudioRecorder&, const std::optional<Error>& error) override {
         ends.push_back(error ? error->text : QString());
     }
-
-    std::vector<QString> ends;
 };
 
 class CaptureRecorderTest : public ::testing::Test {
 protected:
-    CaptureRecorderTest() {
-        inputs.format = {kRate, 1};
-        recorder = std::make_unique<CaptureRecorder>(inputs, std::make_unique<FakeWriter>(written), runLoop);
-        recorder->setDelegate(&listener);
-        recorder->setMeteringEnabled(true);
-    }
+    CaptureRecorderTest() { inputs.format = {kRate, 1}; }
 
-    void deliver(float value, std::size_t frames) { inputs.last->deliver(std::vector<float>(frames, value)); }
+    void deliver(float value, std::size_t frames) {
+        inputs.last->deliver(std::vector<float>(frames, value).data(), frames);
+    }
+    /// Waits for the thread that writes. The limit only ends a test that hangs.
+    template <class Condition>
+    bool becomes(Condition condition) {
+        for (const QDeadlineTimer limit(20'000); !limit.hasExpired(); std::this_thread::yield()) {
+            runLoop.drain();
+            const std::lock_guard lock(recording.disk);
+            if (condition()) {
+                return true;
+            }
+        }
+        return false;
+    }
 
     ManualRunLoop runLoop;
     FakeAudioInputs inputs;
-    Written written;
-    Listener listener;
-    std::unique_ptr<CaptureRecorder> recorder;
+    Recording recording{inputs, runLoop};
+    CaptureRecorder& recorder = *recording.recorder;
 };
 
 }  // namespace
 
 TEST_F(CaptureRecorderTest, KeepsEveryFrameOfTheRunningTimeAndJoinsPausesWithoutAStep) {
-    ASSERT_TRUE(recorder->record());
+    ASSERT_TRUE(recorder.record());
     deliver(1.0F, 1000);
-    recorder->pause();
+    deliver(1.0F, 23800);
+    recorder.pause();
     deliver(0.5F, 700);
-    ASSERT_TRUE(recorder->record());
+    ASSERT_TRUE(recorder.record());
+    deliver(-1.0F, 300);
+    // What is written at once ends within the ramp behind the seam.
+    ASSERT_TRUE(becomes([&] { return recording.samples.size() == 25100 - kRamp; }));
     deliver(-1.0F, 30000);
-    recorder->pause();
-    recorder->pause();
-    recorder->stop();
-    recorder->waitUntilFinished();
+    recorder.pause();
+    recorder.pause();
+    recorder.stop();
+    recorder.waitUntilFinished();
 
-    ASSERT_EQ(written.samples.size(), 31000U);
-    EXPECT_EQ(recorder->framesRecorded(), 31000);
+    const std::vector<float>& written = recording.samples;
+    ASSERT_EQ(written.size(), 55100U);
+    EXPECT_EQ(recorder.framesRecorded(), 55100);
     float largestStep = 0.0F;
-    for (std::size_t i = 1; i < written.samples.size(); ++i) {
-        largestStep = std::max(largestStep, std::abs(written.samples[i] - written.samples[i - 1]));
+    for (std::size_t i = 1; i < written.size(); ++i) {
+        largestStep = std::max(largestStep, std::abs(written[i] - written[i - 1]));
     }
     EXPECT_LT(largestStep, 0.01F);
-    EXPECT_EQ(written.samples[1000 - 241], 1.0F);
-    EXPECT_EQ(written.samples[1000 + 241], -1.0F);
+    EXPECT_EQ(written[24800 - kRamp - 1], 1.0F);
+    EXPECT_EQ(written[24800 + kRamp + 1], -1.0F);
     // The last pause was followed by nothing, so the end is as it was captured.
-    EXPECT_EQ(written.samples.back(), -1.0F);
-    EXPECT_EQ(listener.ends, std::vector<QString>{QString()});
+    EXPECT_EQ(written.back(), -1.0F);
+    EXPECT_EQ(recording.ends, std::vector<QString>{QString()});
 }
 
 TEST_F(CaptureRecorderTest, StopTakesWhatTheInputStillOwesButWaitsNotForever) {
     inputs.answersPause = false;
     for (const bool answers : {true, false}) {
-        Written file;
-        Listener ears;
-        CaptureRecorder other(inputs, std::make_unique<FakeWriter>(file), runLoop);
-        other.setDelegate(&ears);
-        other.record();
+        Recording other(inputs, runLoop);
+        other.recorder->record();
         deliver(0.25F, 100);
-        other.pause();
-        other.record();
-        other.stop();
+        other.recorder->pause();
+        other.recorder->record();
+        other.recorder->stop();
         deliver(0.25F, 50);
         runLoop.drain();
-        EXPECT_TRUE(ears.ends.empty());
-        if (answers) {
-            inputs.last->finishPause();
-        } else {
-            runLoop.advance(1.0);
-        }
-        // The file is finished on another thread. The limit only ends a test that hangs.
-        for (const QDeadlineTimer limit(20'000); ears.ends.empty() && !limit.hasExpired(); std::this_thread::yield()) {
-            runLoop.drain();
-        }
-        EXPECT_EQ(ears.ends, std::vector<QString>{QString()});
-        other.waitUntilFinished();
-        EXPECT_EQ(ears.ends.size(), 1U);
-        EXPECT_EQ(file.samples.size(), 150U);
+        EXPECT_TRUE(other.ends.empty());
+        answers ? inputs.last->finishPause() : runLoop.advance(1.0);
+        EXPECT_TRUE(becomes([&] { return !other.ends.empty(); }));
+        other.recorder->waitUntilFinished();
+        EXPECT_EQ(other.ends, std::vector<QString>{QString()});
+        EXPECT_EQ(other.samples.size(), 150U);
     }
 }
 
 TEST_F(CaptureRecorderTest, EveryEndFinishesTheFileAndIsToldOnce) {
     const Result<void> bad = failure(QStringLiteral("told"));
-    for (const char* fault : {"open", "input", "write", "finish", "unstarted"}) {
+    for (const std::string fault : {"open", "input", "write", "finish", "unstarted", "dropped"}) {
         SCOPED_TRACE(fault);
-        const auto is = [fault](const char* name) { return qstrcmp(fault, name) == 0; };
-        Written file;
-        Listener ears;
-        inputs.openResult = is("open") ? bad : Result<void>{};
-        file.writeResult = is("write") ? bad : Result<void>{};
-        file.finishResult = is("finish") ? bad : Result<void>{};
-        CaptureRecorder other(inputs, std::make_unique<FakeWriter>(file), runLoop);
-        other.setDelegate(&ears);
-        const bool runs = !is("unstarted") && other.record();
-        EXPECT_EQ(runs, !is("unstarted") && !is("open"));
-        if (runs) {
-            deliver(0.5F, 100);
+        Recording other(inputs, runLoop);
+        inputs.openResult = fault == "open" ? bad : Result<void>{};
+        other.writeResult = fault == "write" ? bad : Result<void>{};
+        other.finishResult = fault == "finish" ? bad : Result<void>{};
+        const bool runs = fault != "unstarted" && other.recorder->record();
+        EXPECT_EQ(runs, fault != "unstarted" && fault != "open");
+        runs ? deliver(0.5F, 1000) : void();
+        fault == "input" ? inputs.last->fail(bad.error()) : void();
+        if (fault == "dropped") {
+            other.recorder.reset();
+            runLoop.drain();
+            EXPECT_TRUE(other.ends.empty());
+        } else {
+            // The first three end it at once, the others when it is stopped.
+            const bool isOver = fault == "open" || fault == "input" || fault == "write";
+            EXPECT_TRUE(!isOver || becomes([&] { return !other.ends.empty(); }));
+            other.recorder->waitUntilFinished();
+            other.recorder->stop();
+            EXPECT_FALSE(other.recorder->record());
+            runLoop.drain();
+            EXPECT_EQ(other.ends, std::vector<QString>{QLatin1String(fault == "unstarted" ? "" : "told")});
         }
-        if (is("input")) {
-            inputs.last->fail(bad.error());
-        }
-        other.waitUntilFinished();
-        other.stop();
-        EXPECT_FALSE(other.record());
-        runLoop.drain();
-        EXPECT_EQ(file.finishes, 1);
-        EXPECT_EQ(file.samples.size(), runs ? 100U : 0U);
-        EXPECT_EQ(ears.ends, std::vector<QString>{QLatin1String(is("unstarted") ? "" : "told")});
+        EXPECT_EQ(other.finishes, 1);
+        EXPECT_EQ(other.samples.size(), !runs ? 0 : fault == "write" ? 1000 - kRamp : 1000);
     }
-    // Dropped while it runs, a recorder still makes a whole file, and tells nobody any more.
-    recorder->record();
-    deliver(0.5F, 100);
-    recorder.reset();
-    runLoop.drain();
-    EXPECT_EQ(written.finishes, 1);
-    EXPECT_EQ(written.samples.size(), 100U);
-    EXPECT_TRUE(listener.ends.empty());
 }
 
 TEST_F(CaptureRecorderTest, AStalledDiskLosesOnlyWhatMemoryCannotHoldAndThatIsLogged) {
@@ -181,33 +175,40 @@ TEST_F(CaptureRecorderTest, AStalledDiskLosesOnlyWhatMemoryCannotHoldAndThatIsLo
     const auto old = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
         isLogged = isLogged || text.contains(QLatin1String("frames of the recording were lost"));
     });
-    recorder->record();
+    recorder.record();
     {
-        const std::lock_guard stalled(written.stall);
+        const std::lock_guard stalled(recording.disk);
         for (int second = 0; second < 15; ++second) {
             deliver(0.1F, kRate);
         }
     }
-    const std::int64_t kept = recorder->framesRecorded();
+    const auto kept = static_cast<std::size_t>(recorder.framesRecorded());
+    EXPECT_TRUE(becomes([&] { return recording.samples.size() == kept - kRamp; }));
+    // What the sound system lost is silence of the same length.
     inputs.last->deliver(nullptr, 480);
-    recorder->waitUntilFinished();
+    recorder.waitUntilFinished();
     qInstallMessageHandler(old);
     EXPECT_TRUE(isLogged);
-    EXPECT_GE(kept, 10 * kRate);
-    EXPECT_LT(kept, 12 * kRate);
-    EXPECT_EQ(static_cast<std::int64_t>(written.samples.size()), recorder->framesRecorded());
+    EXPECT_GE(kept, 10U * kRate);
+    EXPECT_LT(kept, 12U * kRate);
+    ASSERT_EQ(recording.samples.size(), kept + 480);
+    EXPECT_THAT(std::vector(recording.samples.end() - 480, recording.samples.end()), ::testing::Each(0.0F));
 }
 
 TEST_F(CaptureRecorderTest, MetersThePowerOfWhatArrivedSinceTheLastUpdate) {
-    recorder->record();
-    for (const auto& [value, power] : {std::pair{0.5F, -6.02F}, {0.0F, -160.0F}, {2.0F, 0.0F}}) {
-        deliver(value, 4800);
+    inputs.format = {kRate, 2};
+    recorder.record();
+    const float frames[] = {0.5F, 0.25F, -0.5F, -0.25F};
+    for (const auto& [gain, power] : {std::pair{1.0F, -6.02F}, {0.0F, -160.0F}, {8.0F, 0.0F}}) {
+        const float heard[] = {gain * frames[0], gain * frames[1], gain * frames[2], gain * frames[3]};
+        inputs.last->deliver(heard, 2);
         for (int updates = 0; updates < 2; ++updates) {
-            recorder->updateMeters();
-            EXPECT_NEAR(recorder->averagePowerForChannel(0), power, 0.01F);
+            recorder.updateMeters();
+            EXPECT_NEAR(recorder.averagePowerForChannel(0), power, 0.01F);
+            EXPECT_NEAR(recorder.averagePowerForChannel(1), gain == 1.0F ? -12.04F : power, 0.01F);
         }
     }
-    EXPECT_EQ(recorder->averagePowerForChannel(1), -160.0F);
+    EXPECT_EQ(recorder.averagePowerForChannel(2), -160.0F);
 }
 
 TEST(CaptureBuffer, TheEndThatIsSeenIsTheEndThatStays) {
