@@ -138,6 +138,7 @@ struct Screens {
          .refreshes = platform.refreshes,
          .container = platform.container,
          .notifications = platform.notifications,
+         .notices = platform.notices,
          .runLoop = platform.runLoop}};
     VoiceMemoVC library{{.settings = platform.settings.store,
                          .container = platform.container,

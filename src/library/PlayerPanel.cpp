@@ -77,10 +77,8 @@ void PlayerPanel::initAudioWithUrl(const std::filesystem::path& path) {
     static_cast<void>(
         m_services.session.setCategory(AudioSession::Category::Playback, AudioSession::CategoryOption::None));
     static_cast<void>(m_services.session.setActive(true));
-    // Category playback takes the sound away from the earpiece.
-    m_ishandset = false;
-    m_speakerButton = {};
-    m_speakerButton.image = kEarpieceIsNext;
+    // Category playback takes it away.
+    earpieceWasLeft();
     if (m_avPlayer) {
         m_services.remoteControl.beginReceivingRemoteControlEvents();
         m_avPlayer->setDelegate(this);
@@ -287,6 +285,13 @@ void PlayerPanel::playerSpeaker() {
     static_cast<void>(m_services.session.overrideOutputAudioPort(m_ishandset ? AudioSession::PortOverride::Speaker
                                                                              : AudioSession::PortOverride::None));
     m_ishandset = !m_ishandset;
+    Q_EMIT outletsChanged();
+}
+
+void PlayerPanel::earpieceWasLeft() {
+    m_ishandset = false;
+    m_speakerButton = {};
+    m_speakerButton.image = kEarpieceIsNext;
     Q_EMIT outletsChanged();
 }
 

@@ -4,15 +4,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "app/settings/SettingsStore.h"
-#include "platform/AudioPlayer.h"
-#include "platform/AudioSession.h"
-#include "platform/Notices.h"
+#include "library/PlayerServices.h"
 #include "platform/Outlets.h"
-#include "platform/RemoteControl.h"
-#include "platform/RunLoop.h"
-#include "trimming/waves/EZAudioPlot.h"
-#include "trimming/waves/WaveformLoader.h"
 
 namespace tavi {
 
@@ -38,17 +31,7 @@ class PlayerPanel : public QObject, private AudioPlayerDelegate {
     Q_PROPERTY(bool ishandset READ ishandset NOTIFY outletsChanged)
 
 public:
-    /// What the panel works with; all of it must outlive the panel.
-    struct Services {
-        AudioPlayers& players;
-        AudioSession& session;
-        RemoteControl& remoteControl;
-        const SettingsStore& settings;
-        Notices& notices;
-        RunLoop& runLoop;
-        WaveformLoader& waveforms;
-        DisplayRefreshes& refreshes;
-    };
+    using Services = PlayerServices;
 
     explicit PlayerPanel(const Services& services, QObject* parent = nullptr);
     ~PlayerPanel() override;
@@ -107,6 +90,8 @@ public Q_SLOTS:
     void faster();
     /// Sends the sound to the earpiece and back.
     void playerSpeaker();
+    /// The session has taken the sound away from the earpiece.
+    void earpieceWasLeft();
     /// Whether the current route's name says headphones or headset; false when it cannot be read.
     bool isHeadsetPluggedIn() const;
 

@@ -7,6 +7,7 @@
 #include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/RecordingOrder.h"
+#include "library/utility/Notifications.h"
 
 namespace tavi {
 
@@ -319,6 +320,8 @@ void VoiceMemoVC::handleUpdatedData() {
 void VoiceMemoVC::notificationPosted(const QString& name) {
     if (name == kDataUpdatedNotification) {
         handleUpdatedData();
+    } else if (name == kOutputReturnedNotification) {
+        m_player.earpieceWasLeft();
     }
 }
 

@@ -4,17 +4,10 @@
 #include <filesystem>
 #include <vector>
 
-#include "app/settings/SettingsStore.h"
+#include "library/LibraryServices.h"
 #include "library/PlayerPanel.h"
-#include "library/RecordingEntry.h"
 #include "library/RecordingFilterModel.h"
 #include "library/RecordingListModel.h"
-#include "library/RecordingLister.h"
-#include "library/utility/Notifications.h"
-#include "platform/AppContainer.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Outlets.h"
-#include "trimming/AudioTrimmerStage.h"
 
 namespace tavi {
 
@@ -39,16 +32,7 @@ class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_PROPERTY(bool isPanelShown READ isPanelShown NOTIFY selectionChanged)
 
 public:
-    /// What the screen works with; all of it must outlive the screen.
-    struct Services {
-        SettingsStore& settings;
-        const AppContainer& container;
-        NotificationCenter& notifications;
-        RecordingLister& lister;
-        RecordingShapes& shapes;
-        RemoteControl& remoteControl;
-        AudioTrimmerStage& trimmers;
-    };
+    using Services = LibraryServices;
     /// What selectRow() is when no row's icon is highlighted.
     static constexpr int kNoRow = 500;
 

@@ -32,7 +32,7 @@ AudioTrim::AudioTrim(const Services& services, std::filesystem::path fileName, Q
       m_fileName(std::move(fileName)),
       m_section(std::move(section)),
       m_waveformView(services.readers),
-      m_player(services.players, services.runLoop) {
+      m_player(services.players, services.notices, services.runLoop) {
     connect(&m_rangeSlider, &RangeSlider::valueChanged, this, &AudioTrim::updateRangeLabel);
     connect(&m_player, &AudioTrimPlayer::isPlayingChanged, this, &AudioTrim::outletsChanged);
     connect(&m_player, &AudioTrimPlayer::timeChanged, this, &AudioTrim::timeChanged);
@@ -78,6 +78,14 @@ QString AudioTrim::lblCurrentTime() const {
 
 QString AudioTrim::lblDuration() const {
     return m_rangeSlider.updateCurrentTime(static_cast<float>(duration()));
+}
+
+void AudioTrim::setTrimDelegate(std::function<void()> reloadTableViewDataSource) {
+    m_reloadTableViewDataSource = std::move(reloadTableViewDataSource);
+}
+
+void AudioTrim::setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save) {
+    m_saveToCloud = std::move(save);
 }
 
 void AudioTrim::viewDidLoad() {

@@ -5,13 +5,9 @@
 #include <functional>
 #include <memory>
 
-#include "app/settings/SettingsStore.h"
-#include "platform/AppContainer.h"
-#include "platform/AssetExportSession.h"
 #include "platform/Outlets.h"
-#include "platform/Presenter.h"
-#include "platform/RunLoop.h"
 #include "trimming/AudioTrimPlayer.h"
+#include "trimming/AudioTrimServices.h"
 #include "trimming/RangeSlider.h"
 #include "trimming/waves/SCWaveformView.h"
 
@@ -37,16 +33,7 @@ class AudioTrim : public QObject {
     Q_PROPERTY(double duration READ duration NOTIFY timeChanged)
 
 public:
-    /// What the screen works with; all of it must outlive the screen.
-    struct Services {
-        AssetExportSessions& exports;
-        AssetReaders& readers;
-        AudioPlayers& players;
-        SettingsStore& settings;
-        const AppContainer& container;
-        Presenter& presenter;
-        RunLoop& runLoop;
-    };
+    using Services = AudioTrimServices;
 
     /// fileName is the recording's full path; section the list's section that it comes from.
     AudioTrim(const Services& services, std::filesystem::path fileName, QString section, QObject* parent = nullptr);
@@ -72,13 +59,9 @@ public:
     std::filesystem::path outputPath() const { return m_outputPath; }
 
     /// Called when the list of recordings is to be read again; may outlive the screen.
-    void setTrimDelegate(std::function<void()> reloadTableViewDataSource) {
-        m_reloadTableViewDataSource = std::move(reloadTableViewDataSource);
-    }
+    void setTrimDelegate(std::function<void()> reloadTableViewDataSource);
     /// Saves the file at a path as a cloud document of that name. Without one nothing is saved there.
-    void setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save) {
-        m_saveToCloud = std::move(save);
-    }
+    void setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save);
     /// Exports whole seconds into the file at that path; one that is there steps aside to a free name. False, with
     /// nothing exported, for a file without sound.
     bool exportAsset(const Asset& asset, const std::filesystem::path& path);

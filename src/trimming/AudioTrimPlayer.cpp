@@ -14,8 +14,8 @@ constexpr double kTimeInterval = 0.01;
 
 }  // namespace
 
-AudioTrimPlayer::AudioTrimPlayer(AudioPlayers& players, RunLoop& runLoop, QObject* parent)
-    : QObject(parent), m_players(players), m_runLoop(runLoop) {}
+AudioTrimPlayer::AudioTrimPlayer(AudioPlayers& players, Notices& notices, RunLoop& runLoop, QObject* parent)
+    : QObject(parent), m_players(players), m_notices(notices), m_runLoop(runLoop) {}
 
 AudioTrimPlayer::~AudioTrimPlayer() {
     if (m_timer != nullptr) {
@@ -93,7 +93,10 @@ void AudioTrimPlayer::setCurrentTime(double seconds) {
     }
 }
 
-void AudioTrimPlayer::audioPlayerDidFinishPlaying(AudioPlayer&, bool) {
+void AudioTrimPlayer::audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) {
+    if (!successfully) {
+        m_notices.postNotice({player.error().text});
+    }
     if (isPlaying()) {
         leavePlaying();
     }

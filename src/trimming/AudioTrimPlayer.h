@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/AudioPlayer.h"
+#include "platform/Notices.h"
 #include "platform/RunLoop.h"
 
 namespace tavi {
@@ -14,8 +15,8 @@ class AudioTrimPlayer : public QObject, private AudioPlayerDelegate {
     Q_OBJECT
 
 public:
-    /// Both must outlive this.
-    AudioTrimPlayer(AudioPlayers& players, RunLoop& runLoop, QObject* parent = nullptr);
+    /// All must outlive this. What ends the playing early is told in a notice.
+    AudioTrimPlayer(AudioPlayers& players, Notices& notices, RunLoop& runLoop, QObject* parent = nullptr);
     ~AudioTrimPlayer() override;
 
     /// Makes the recording's player. Without one, with the reason in the log, nothing plays.
@@ -47,6 +48,7 @@ private:
     void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override;
 
     AudioPlayers& m_players;
+    Notices& m_notices;
     RunLoop& m_runLoop;
     std::unique_ptr<AudioPlayer> m_recording;
     /// There while it plays.

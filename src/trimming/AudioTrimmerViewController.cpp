@@ -30,7 +30,8 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
       m_services(services),
       m_input(std::move(input)),
       m_audioPlot(EZAudioPlot::init(services.refreshes)),
-      m_player({.players = services.players, .runLoop = services.runLoop}, filePath(), m_selection),
+      m_player({.players = services.players, .notices = services.notices, .runLoop = services.runLoop}, filePath(),
+               m_selection),
       m_export(services.exports, services.runLoop),
       m_recorder(services.recorder, services.exports, services.runLoop, services.container.documentsPath()) {
     connect(&m_selection, &TrimSelection::panned, &m_player, &TrimPlayer::stopAudioPlayer);
@@ -239,7 +240,7 @@ void AudioTrimmerViewController::postDataUpdated() {
     m_services.notifications.postNotification(kDataUpdatedNotification, QVariant::fromValue<QObject*>(this));
 }
 
-void AudioTrimmerViewController::startRecording() {
+void AudioTrimmerViewController::btnStartRecordingTapped() {
     if (!m_recorder.prepareToRecordAudio()) {
         return;
     }
@@ -249,13 +250,14 @@ void AudioTrimmerViewController::startRecording() {
     Q_EMIT outletsChanged();
 }
 
-void AudioTrimmerViewController::stopRecording() {
+void AudioTrimmerViewController::btnStopRecordingTapped() {
     m_recorder.stop();
     m_isDoneHidden = false;
     Q_EMIT outletsChanged();
 }
 
 void AudioTrimmerViewController::didRecord(double seconds) {
+    m_services.notifications.postNotification(kOutputReturnedNotification);
     if (m_isDismissed) {
         postDataUpdated();
         Q_EMIT busyChanged();
@@ -275,7 +277,7 @@ void AudioTrimmerViewController::btnResetAudioTapped() {
     resetAudioPlayer();
     m_areEditingControlsHidden = false;
     Q_EMIT outletsChanged();
-    startRecording();
+    btnStartRecordingTapped();
 }
 
 void AudioTrimmerViewController::btnResetTapped() {

@@ -82,8 +82,8 @@ public Q_SLOTS:
     void btnResetTapped();
     void btnTrimFinalAudio();
     void btnEditTrimmedVideoTapped();
-    void btnStartRecordingTapped() { startRecording(); }
-    void btnStopRecordingTapped() { stopRecording(); }
+    void btnStartRecordingTapped();
+    void btnStopRecordingTapped();
     void btnResetAudioTapped();
     /// Gives a running export up; the screen stays.
     void cancelExport() { m_export.cancel(); }
@@ -107,8 +107,6 @@ private:
     void done();
     void dismissAudioTrimmer(const std::filesystem::path& path);
     void postDataUpdated();
-    void startRecording();
-    void stopRecording();
     void didRecord(double seconds);
 
     Services m_services;

@@ -123,7 +123,10 @@ void TrimPlayer::drop() {
     m_audioPlayer.reset();
 }
 
-void TrimPlayer::audioPlayerDidFinishPlaying(AudioPlayer&, bool) {
+void TrimPlayer::audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) {
+    if (!successfully) {
+        m_services.notices.postNotice({player.error().text});
+    }
     // The recording's end can come before the tick that would see it.
     stopAudioPlayer();
 }

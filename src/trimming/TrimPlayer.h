@@ -6,12 +6,14 @@
 #include <memory>
 
 #include "platform/AudioPlayer.h"
+#include "platform/Notices.h"
 #include "platform/RunLoop.h"
 #include "trimming/TrimSelection.h"
 
 namespace tavi {
 
-/// Plays the stretch that a trimmer's thumbs mark, and shows where it is. Main thread only.
+/// Plays the stretch that a trimmer's thumbs mark, and shows where it is; what ends the playing early is told in a
+/// notice. Main thread only.
 class TrimPlayer : public QObject, private AudioPlayerDelegate {
     Q_OBJECT
     Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY isPlayingChanged)
@@ -22,6 +24,7 @@ public:
     /// All of it must outlive the player.
     struct Services {
         AudioPlayers& players;
+        Notices& notices;
         RunLoop& runLoop;
     };
 

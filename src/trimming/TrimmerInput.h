@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/AppContainer.h"
+#include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "trimming/ScratchRecorder.h"
 #include "trimming/waves/EZAudioPlot.h"
@@ -25,6 +26,7 @@ struct TrimmerServices {
     DisplayRefreshes& refreshes;
     const AppContainer& container;
     NotificationCenter& notifications;
+    Notices& notices;
     RunLoop& runLoop;
 };
 

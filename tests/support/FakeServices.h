@@ -22,6 +22,7 @@ struct FakeServices {
     ManualRunLoop runLoop;
     TemporaryContainer container;
     NotificationCenter notifications;
+    FakeNotices notices;
     FakeUserDefaults defaults;
     SettingsStore settings{defaults};
     FormatHold formatHold{container};
@@ -42,6 +43,7 @@ struct FakeServices {
                                 .refreshes = refreshes,
                                 .container = container,
                                 .notifications = notifications,
+                                .notices = notices,
                                 .runLoop = runLoop}};
 };
 

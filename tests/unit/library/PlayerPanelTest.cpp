@@ -83,7 +83,6 @@ struct World : FakeServices {
         };
     }
 
-    FakeNotices notices;
     FakeLibrary library{*this, durations, notices};
     VoiceMemoVC& vc = library.vc;
     PlayerPanel& player = library.player;
@@ -97,6 +96,14 @@ const std::map<std::string, std::function<void(World&, double)>> kActions = {
     {"play", [](World& w, double) { w.vc.playAudio(w.vc.selectedIndex(), w.player.btnplaypuas().selected); }},
     {"space", [](World& w, double row) { w.vc.spacePressed(static_cast<int>(row)); }},
     {"trim", [](World& w, double row) { w.vc.trimRow(static_cast<int>(row)); }},
+    {"rerecord",
+     [](World& w, double) {
+         w.assets.files["originalRecording.wav"] = {{11025, 11025}, 1, {}};
+         w.trimmers.screen()->btnStartRecordingTapped();
+         w.trimmers.screen()->btnStopRecordingTapped();
+         w.runLoop.drain();
+         w.trimmers.screen()->btnCancelTapped();
+     }},
     {"sort", [](World& w, double) { w.vc.sortByName(&w.vc); }},
     {"slider", [](World& w, double seconds) { w.player.progressSliderMoved(seconds); }},
     {"slow", [](World& w, double) { w.player.slowAudio(&w.vc); }},
@@ -181,6 +188,7 @@ const struct {
     {kPlaying, "playerSpeaker tap 0", "row=0/0 file=a.m4a at=0 of=01:00/60 on=01 session=play1"},
     {kPlaying, "trim 3", "row=-1/500 panel=00 file= heard=none at=0 rate=0 trimmer=d.wav"},
     {kPlaying, "removeD trim 3", ""},
+    {"tap 1 playerSpeaker trim 3", "rerecord", "route=headset.png0 session=play1 trimmer="},
     {kPlaying, "sort", "row=2/2"},
     {kPlaying, "add reloadData", "row=2/2"},
     {kPlaying, "removeB reloadData", "row=-1/500"},

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "library/PlayerRules.h"
+#include "library/utility/Notifications.h"
 #include "support/FakeLibrary.h"
 
 namespace tavi::test {
@@ -35,7 +36,6 @@ protected:
         return all;
     }
 
-    FakeNotices notices;
     FakeLibrary library{*this, durations, notices};
     VoiceMemoVC& vc = library.vc;
 };

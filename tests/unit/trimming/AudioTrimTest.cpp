@@ -25,6 +25,7 @@ protected:
                                                                       .settings = settings,
                                                                       .container = container,
                                                                       .presenter = presenter,
+                                                                      .notices = notices,
                                                                       .runLoop = runLoop},
                                                   container.documentsPath() / name, QLatin1String(section));
         screen->setTrimDelegate([this] { ++reloads; });
@@ -134,6 +135,10 @@ TEST_F(AudioTrimTest, PlaysTheRecordingAndWhatWasCutFromIt) {
     shows(true, true, "00:06", "00:20");
     runLoop.advance(15.0);
     shows(false, false, "00:20", "00:20");
+    screen->playTrimmedAudio();
+    players.last()->fail({QStringLiteral("gone")});
+    shows(false, false, "00:20", "00:20");
+    EXPECT_EQ(notices.posted.at(0).text, QStringLiteral("gone"));
     screen->playTrimmedAudio();
     screen->closeButtonpressed();
     shows(false, false, "00:20", "00:20");

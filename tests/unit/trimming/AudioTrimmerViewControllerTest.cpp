@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 
+#include "library/utility/Notifications.h"
 #include "support/FakeServices.h"
 #include "support/Printers.h"
 
@@ -29,7 +30,8 @@ protected:
         const auto sound = std::make_shared<FakeSound>();
         sound->planes = {std::vector<float>(10'240, 0.5F)};
         files.sounds[path] = sound;
-        QObject::connect(&notifications, &NotificationCenter::posted, [this] { ++dataUpdated; });
+        QObject::connect(&notifications, &NotificationCenter::posted,
+                         [this](const QString& name) { dataUpdated += name == kDataUpdatedNotification ? 1 : 0; });
     }
 
     /// 300 points are 60 seconds.
@@ -150,6 +152,11 @@ TEST_F(AudioTrimmerTest, PlaysTheStretchAndShowsWhere) {
     play();
     runLoop.advance(60.1);
     EXPECT_FALSE(player.isPlaying()) << "the end of the recording";
+    play();
+    players.last()->fail({QStringLiteral("gone")});
+    EXPECT_FALSE(player.isPlaying());
+    EXPECT_EQ(notices.posted.at(0).text, QStringLiteral("gone"));
+    EXPECT_EQ(notices.posted.size(), 1U);
 }
 
 TEST_F(AudioTrimmerTest, DoneExportsTwiceAndClosesEachTime) {
