@@ -329,6 +329,54 @@ def waveform(binaries):
         row("  most memory", values[f"{name}-memory"], "MB", aim=64)
 
 
+def hour(folder, name, *coding, hours=1):
+    """A file of sound that swells, made once and kept."""
+    path = folder / name
+    if not path.exists():
+        folder.mkdir(exist_ok=True)
+        making = folder / f"making-{name}"
+        sound = f"aevalsrc=(0.05+0.3*mod(t\\,60)/60)*sin(2000*t)+0.05*(random(0)-0.5):s=44100:d={3600 * hours}"
+        subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-f", "lavfi", "-i", sound, "-ac", "2", *coding, making], check=True)
+        making.rename(path)
+    return path
+
+
+def seconds_of(*command):
+    started = time.monotonic()
+    subprocess.run(list(map(str, command)), check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return time.monotonic() - started
+
+
+def beside(what, ours, theirs, aim):
+    """One line for two commands, each run in turn."""
+    rounds = [(ours(), theirs()) for _ in range(ROUNDS)]
+    mine, others = (1000 * statistics.median(taken) for taken in zip(*rounds))
+    row(what, mine, "ms", others, aim=aim)
+
+
+@bench
+def commands(binaries):
+    """Whole processes, the disk included: "tavi waveform" of an hour beside a plain reducer, and "tavi trim" beside ffmpeg's copy."""
+    folder = binaries.parent / "bench-data"
+    tavi = binaries / "tavi"
+    lossless = ("-c:a", "alac", "-sample_fmt", "s16p")
+    for name, coding, aim in (("hour.wav", ("-c:a", "pcm_u8"), 0.20), ("hour.mp4", ("-c:a", "aac", "-b:a", "128k"), 0.28),
+                              ("hour.m4a", lossless, 0.38), ("hour-16k.m4a", (*lossless, "-ar", "16000"), 0.45)):
+        path = hour(folder, name, *coding)
+        beside(f"tavi waveform {name}", lambda: seconds_of(tavi, "waveform", "--json", path),
+               lambda: seconds_of(binaries / "plain_waveform", path, "1024"), aim)
+    for name, coding, aim in (("three.m4a", lossless, 0.95), ("three.wav", ("-c:a", "pcm_u8"), 1.0)):
+        path, cut = hour(folder, name, *coding, hours=3), folder / f"cut-{name}"
+
+        def run(*command):
+            cut.unlink(missing_ok=True)
+            return seconds_of(*command)
+
+        beside(f"tavi trim {name}, 30 minutes", lambda: run(tavi, "trim", path, "--from", "3600", "--to", "5400", "--out", cut),
+               lambda: run("ffmpeg", "-nostdin", "-ss", "3600", "-to", "5400", "-i", path, "-c", "copy", cut), aim)
+        cut.unlink(missing_ok=True)
+
+
 def main(binaries, *names):
     unknown = [name for name in names if name not in BENCHES]
     if unknown:

@@ -1,5 +1,6 @@
 #include "adapters/ffmpeg/exporting/ExportFile.h"
 
+#include <fcntl.h>
 #include <sys/uio.h>
 
 #include <algorithm>
@@ -15,7 +16,8 @@ namespace {
 
 /// What one read covers, gaps between the pieces included; little enough to stay in the processor's cache.
 constexpr std::int64_t kWindowBytes = 512 * 1024;
-constexpr auto kPrefix = ".tavi-export-";
+/// The disk begins to write when this much has gathered, so that little is left to wait for at the end.
+constexpr std::int64_t kWriteBehindBytes = 8 * 1024 * 1024;
 /// Pieces of one gathering write, within the system's limit.
 constexpr std::size_t kMaximumPieces = 512;
 
@@ -72,6 +74,11 @@ void ExportFile::setControl(ExportControl& control, std::int64_t expectedBytes) 
 void ExportFile::advance(std::int64_t bytes) {
     m_size += bytes;
     m_copied += bytes;
+    if (m_size - m_handedOver >= kWriteBehindBytes) {
+        // Only a hint: what it does not do, or cannot tell, the closing synchronization does and tells.
+        static_cast<void>(::sync_file_range(m_file.fd(), m_handedOver, m_size - m_handedOver, SYNC_FILE_RANGE_WRITE));
+        m_handedOver = m_size;
+    }
     if (m_control != nullptr) {
         m_control->setProgress(static_cast<double>(m_copied) /
                                static_cast<double>(std::max({m_expected, m_copied, std::int64_t{1}})));

@@ -80,6 +80,8 @@ private:
     ExportControl* m_control = nullptr;
     std::int64_t m_expected = 0;
     std::int64_t m_copied = 0;
+    /// What the disk was told to write already, in bytes from the start.
+    std::int64_t m_handedOver = 0;
     QString m_failure;
 };
 
