@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <cmath>
-#include <functional>
 #include <numbers>
 
 #include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
@@ -21,12 +20,8 @@ namespace {
 constexpr int kRate = 48000;
 constexpr double kTone = 440.0;
 constexpr std::int64_t kBlock = kRate / 100;
-/// The furthest that tone() goes from one sample to the next.
+/// The furthest that the tone goes from one sample to the next.
 constexpr double kToneStep = 0.5 * 2.0 * std::numbers::pi * kTone / kRate;
-
-double tone(double time) {
-    return 0.5 * std::sin(2.0 * std::numbers::pi * kTone * time);
-}
 
 /// Plays made-up recordings to a private sound server and listens to its speaker.
 class PlayerTest : public ::testing::Test, public AudioPlayerDelegate {
@@ -35,12 +30,13 @@ protected:
         m_ends << (successfully ? QStringLiteral("whole") : player.error().text);
     }
 
-    std::unique_ptr<AudioPlayer> made(double seconds, double rate, const std::function<double(double)>& valueAt) {
+    /// A player of as many seconds of a tone.
+    std::unique_ptr<AudioPlayer> made(double seconds) {
         m_sound = std::make_shared<FakeSound>();
-        m_sound->rate = rate;
+        m_sound->rate = kRate;
         std::vector<float>& samples = m_sound->planes.emplace_back();
-        for (double i = 0.0; i < seconds * rate; ++i) {
-            samples.push_back(static_cast<float>(valueAt(i / rate)));
+        for (double i = 0.0; i < seconds * kRate; ++i) {
+            samples.push_back(static_cast<float>(0.5 * std::sin(2.0 * std::numbers::pi * kTone * i / kRate)));
         }
         m_files.sounds["recording"] = m_sound;
         auto player = std::move(m_players.playerWithContentsOfURL("recording").value());
@@ -54,20 +50,15 @@ protected:
         m_listener.reset();
         m_listener = m_server.listen(m_path, 1);
     }
-    /// What has been heard by now.
-    std::vector<float> heard() {
-        QFile file(m_path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
-        std::vector<float> samples(static_cast<std::size_t>(bytes.size()) / sizeof(float));
-        std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
-        return samples;
-    }
     /// All that the speaker played until now, once it has been silent for a moment.
     std::vector<float> heardUntilSilence() {
         std::vector<float> samples;
         EXPECT_TRUE(spinUntil([&] {
-            samples = heard();
+            QFile file(m_path);
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            const QByteArray bytes = file.readAll();
+            samples.resize(static_cast<std::size_t>(bytes.size()) / sizeof(float));
+            std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
             const std::size_t pause = kRate / 5;
             return samples.size() > pause && levelOf(std::span(samples).last(pause)) < -100.0;
         }));
@@ -103,57 +94,40 @@ protected:
     QStringList m_ends;
 };
 
-TEST_F(PlayerTest, KeepsThePitchAndTheTimeAtEveryRate) {
-    for (const auto& [rate, tolerance] : {std::pair{1.0, 0.001}, {0.5, 0.01}, {2.0, 0.01}}) {
-        const auto player = made(3.0, 44100.0, tone);
+TEST_F(PlayerTest, KeepsThePitchAndGoesOnInPlaceWithoutAClickWhereTheRateChanges) {
+    for (const double rate : {2.0, 0.5}) {
+        const auto player = made(3.0);
         listen();
         m_ends.clear();
-        player->setRate(static_cast<float>(rate));
         ASSERT_TRUE(player->play());
+        ASSERT_TRUE(spinUntil([&] { return player->currentTime() >= 1.0; }));
+        const double place = player->currentTime();
+        player->setRate(static_cast<float>(rate));
         ASSERT_TRUE(spinUntil([&] { return !m_ends.isEmpty(); }));
         EXPECT_EQ(player->currentTime(), 3.0);
         const std::vector<float> samples = heardUntilSilence();
         EXPECT_EQ(m_ends, QStringList{QStringLiteral("whole")});
-        // A machine that is busy leaves gaps.
         std::size_t played = 0;
         std::pair<std::size_t, std::size_t> longest;
-        for (const auto& run : soundsIn(samples)) {
+        const auto runs = soundsIn(samples);
+        for (const auto& run : runs) {
             played += run.second;
             longest = run.second > longest.second ? run : longest;
         }
-        EXPECT_NEAR(static_cast<double>(played) / kRate, 3.0 / rate, 0.06) << rate;
+        EXPECT_NEAR(static_cast<double>(played) / kRate, place + (3.0 - place) / rate, 0.1) << rate;
         const auto [first, length] = longest;
         EXPECT_NEAR(frequencyOf(std::span(samples).subspan(first + kBlock, length - 2 * kBlock), kRate), kTone,
-                    kTone * tolerance)
+                    kTone * 0.01)
             << rate;
-    }
-}
-
-TEST_F(PlayerTest, GoesOnInPlaceWithoutAClickWhereTheRateChanges) {
-    const auto player = made(3.0, kRate, tone);
-    listen();
-    ASSERT_TRUE(player->play());
-    ASSERT_TRUE(spinUntil([&] { return player->currentTime() >= 1.0; }));
-    const double place = player->currentTime();
-    player->setRate(2.0F);
-    ASSERT_TRUE(spinUntil([&] { return !m_ends.isEmpty(); }));
-    EXPECT_EQ(m_ends, QStringList{QStringLiteral("whole")});
-    EXPECT_EQ(player->currentTime(), 3.0);
-    const std::vector<float> samples = heardUntilSilence();
-    const auto runs = soundsIn(samples);
-    ASSERT_FALSE(runs.empty());
-    // A machine that was too busy to play without gaps cannot tell.
-    if (runs.size() == 1) {
-        const auto [first, length] = runs[0];
-        EXPECT_NEAR(static_cast<double>(length) / kRate, place + (3.0 - place) / 2.0, 0.1);
-        for (std::size_t i = 1; i < first + length - 2 * kBlock; ++i) {
+        // A machine that was too busy to play without gaps cannot tell.
+        for (std::size_t i = 1; runs.size() == 1 && i < first + length - 2 * kBlock; ++i) {
             ASSERT_LT(std::abs(samples[i] - samples[i - 1]), 2.0 * kToneStep) << i - first;
         }
     }
 }
 
 TEST_F(PlayerTest, GoesOnElsewhereAndEndsWhenTheServerOrTheFileGivesUp) {
-    const auto player = made(60.0, kRate, tone);
+    const auto player = made(60.0);
     const auto playsOn = [&player] {
         const double before = player->currentTime();
         return player->play() && spinUntil([&] { return player->currentTime() >= before + 0.6; });

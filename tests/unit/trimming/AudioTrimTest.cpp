@@ -52,13 +52,9 @@ protected:
 };
 
 TEST_F(AudioTrimTest, ExportsWholeSecondsAsM4aAndClosesOrSavesToTheCloud) {
-    struct Case {
-        bool isCloudOn;
-        const char* section;
-        bool saves;
-    };
     // The setting is on where nothing goes to the cloud; only a recording of the cloud's is saved there.
-    for (const auto& [isCloudOn, section, saves] : {Case{true, "1", true}, {true, "0", false}, {false, "1", false}}) {
+    for (const auto& [isCloudOn, section, saves] :
+         {std::tuple{true, "1", true}, {true, "0", false}, {false, "1", false}}) {
         SCOPED_TRACE(::testing::Message() << isCloudOn << section);
         settings.setCloudSyncOn(isCloudOn);
         closings = reloads = 0;
@@ -144,23 +140,16 @@ TEST_F(AudioTrimTest, PlaysTheRecordingAndWhatWasCutFromIt) {
     shows(false, false, "00:20", "00:20");
 }
 
-TEST_F(AudioTrimTest, AsksBeforeItLeavesACut) {
-    const auto screen = open("1");
-    screen->trimAudio();
-    runLoop.drain();
-    screen->backButtonpressed();
-    ASSERT_EQ(presenter.alerts.size(), 1U);
-    EXPECT_EQ(closings, 0);
-    presenter.alerts[0].actions[0].handler();
-    EXPECT_EQ(closings, 1);
-}
-
-TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
+TEST_F(AudioTrimTest, AsksBeforeItLeavesACutAndMovesAndRemovesFiles) {
     const auto screen = open("1");
     container.addDocument(kOutput.toStdString(), "another's");
     screen->trimAudio();
     runLoop.drain();
     reloads = 0;
+    screen->backButtonpressed();
+    EXPECT_EQ(closings, 0);
+    presenter.alerts.at(0).actions[0].handler();
+    EXPECT_EQ(closings, 1);
     const std::filesystem::path folder = container.documentsPath();
     screen->addTrimFileWithFilePath(container.cachesPath());
     EXPECT_TRUE(std::filesystem::exists(container.cachesPath() / kOutput.toStdString()));
@@ -172,7 +161,7 @@ TEST_F(AudioTrimTest, MovesAndRemovesFilesAndCloses) {
         screen->removeFile("old.wav");
         EXPECT_FALSE(std::filesystem::exists(folder / "old.wav"));
     }
-    EXPECT_EQ(closings, 3);
+    EXPECT_EQ(closings, 4);
 }
 
 TEST_F(AudioTrimTest, WithoutSoundExportsNothingAndClosesAsAfterATrim) {

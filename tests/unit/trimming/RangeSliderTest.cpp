@@ -31,15 +31,12 @@ protected:
 };
 
 TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
-    struct Case {
-        const char* what;
-        double from;
-        double to;
-        float minimum;
-        float maximum;
-    };
     // Each drag goes on from where the one before it left the thumbs.
-    const Case cases[] = {
+    const struct {
+        const char* what;
+        double from, to;
+        float minimum, maximum;
+    } cases[] = {
         {"a thumb follows its touch, grabbed beside its centre", 50.0, 150.0, 12.0F, 34.0F},
         {"no thumb is hit", 250.0, 300.0, 12.0F, 34.0F},
         {"up to the least range", 140.0, 399.0, 33.0F, 34.0F},
@@ -50,7 +47,7 @@ TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
         {"the minimum's again", 20.0, 120.0, 10.0F, 36.0F},
         {"the maximum down to the least range", 380.0, -50.0, 10.0F, 11.0F},
     };
-    for (const Case& one : cases) {
+    for (const auto& one : cases) {
         SCOPED_TRACE(one.what);
         drag(one.from, one.to);
         EXPECT_NEAR(slider.selectedMinimumValue, one.minimum, 1e-4F);
@@ -60,19 +57,14 @@ TEST_F(RangeSliderTest, DragsKeepTheLeastRangeAndTheEnds) {
     }
     EXPECT_EQ(changes, 7) << "a touch that hits no thumb changes nothing";
     EXPECT_EQ(slider.trackHighlight().center().y(), 60.0);
-}
-
-TEST_F(RangeSliderTest, ANarrowRangeIsPushedApartButNotBeyondTheEnd) {
-    slider.selectedMinimumValue = 10.0F;
-    slider.selectedMaximumValue = 10.5F;
-    slider.layoutSubviews();
-    drag(120.0, 121.0);
-    EXPECT_NEAR(slider.selectedMinimumValue, 9.5F, 1e-4F);
-    slider.selectedMinimumValue = 0.4F;
-    slider.selectedMaximumValue = 0.5F;
-    slider.layoutSubviews();
-    drag(24.0, 30.0);
-    EXPECT_EQ(slider.selectedMinimumValue, 0.0F);
+    // A narrow range is pushed apart, but not beyond the end.
+    for (const auto& [from, to, left] : {std::tuple{10.0F, 10.5F, 9.5F}, {0.4F, 0.5F, 0.0F}}) {
+        slider.selectedMinimumValue = from;
+        slider.selectedMaximumValue = to;
+        slider.layoutSubviews();
+        drag(slider.minThumbX(), slider.minThumbX() + 1.0);
+        EXPECT_NEAR(slider.selectedMinimumValue, left, 1e-4F);
+    }
 }
 
 TEST_F(RangeSliderTest, LabelsAndImagesFollowADragOnly) {

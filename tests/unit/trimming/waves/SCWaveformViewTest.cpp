@@ -44,36 +44,21 @@ TEST(SCWaveformView, MakesOnlyThePicturesThatHaveToBeNew) {
     NotingCanvas canvas;
     view.setCanvas(&canvas);
     view.setProgress(0.25);
+    const auto layOut = [&view](double width) { return [&view, width] { view.layoutSubviews({width, 20}); }; };
     const struct {
         const char* what;
         std::function<void()> change;
         std::vector<std::string> calls;
     } steps[] = {
-        {"there is no asset",
-         [&] {
-             view.layoutSubviews({100, 20});
-         },
-         {}},
+        {"there is no asset", layOut(100), {}},
         {"the first pictures", [&] { view.setAsset(Asset{}); }, {"draw #0000ff 100", "progress #ff0000"}},
         {"drawn again", [] {}, {}},
         {"a new colour", [&] { view.setNormalColor(QStringLiteral("red")); }, {"normal red"}},
         {"another progress colour", [&] { view.setProgressColor(QStringLiteral("lime")); }, {"progress lime"}},
         {"another progress", [&] { view.setProgress(0.5); }, {}},
-        {"narrower",
-         [&] {
-             view.layoutSubviews({60, 20});
-         },
-         {}},
-        {"as wide as before",
-         [&] {
-             view.layoutSubviews({100, 20});
-         },
-         {}},
-        {"wider",
-         [&] {
-             view.layoutSubviews({120, 20});
-         },
-         {"draw red 120", "progress lime"}},
+        {"narrower", layOut(60), {}},
+        {"as wide as before", layOut(100), {}},
+        {"wider", layOut(120), {"draw red 120", "progress lime"}},
         {"smooth", [&] { view.setAntialiasingEnabled(true); }, {"draw red 120 smooth", "progress lime"}},
         {"as smooth", [&] { view.setAntialiasingEnabled(true); }, {}},
         {"another asset", [&] { view.setAsset(Asset{}); }, {"draw red 120 smooth", "progress lime"}},

@@ -12,7 +12,6 @@
 #include "API/AudioTrimmerController/EZAudio/TPCircularBuffer/TPCircularBufferMemory.h"
 
 namespace tavi::test {
-
 namespace {
 
 const auto kPage = static_cast<std::int32_t>(sysconf(_SC_PAGESIZE));
@@ -23,8 +22,6 @@ struct Ring {
 
     TPCircularBuffer buffer;
 };
-
-}  // namespace
 
 TEST(TPCircularBuffer, WrapsThroughTheMirrorInOneCopy) {
     Ring ring;
@@ -43,96 +40,74 @@ TEST(TPCircularBuffer, WrapsThroughTheMirrorInOneCopy) {
     ASSERT_EQ(count, kPage);
     EXPECT_EQ(std::memcmp(tail, bytes.data(), bytes.size()), 0);
     EXPECT_EQ(static_cast<char*>(ring.buffer.buffer)[0], bytes[1]);
-}
-
-TEST(TPCircularBuffer, RulesEndTheProcess) {
-    Ring ring;
-    EXPECT_DEATH(TPCircularBufferProduce(&ring.buffer, kPage + 1),
+    EXPECT_DEATH(TPCircularBufferProduce(&ring.buffer, 1),
                  "fillCount <= buffer->length.*TPCircularBufferProduce, file TPCircularBuffer.h, line 145");
-    EXPECT_DEATH(TPCircularBufferConsume(&ring.buffer, 1),
+    EXPECT_DEATH(TPCircularBufferConsume(&ring.buffer, kPage + 1),
                  "fillCount >= 0.*TPCircularBufferConsume, file TPCircularBuffer.h, line 109");
-    TPCircularBuffer other;
-    EXPECT_DEATH(TPCircularBufferInit(&other, 0),
-                 "length > 0.*_TPCircularBufferInit, file TPCircularBuffer.c, line 26");
-    EXPECT_DEATH(_TPCircularBufferInit(&other, 1, 24), "TPCircularBuffer: Header version mismatch");
+    EXPECT_DEATH(TPCircularBufferInit(&ring.buffer, 0), "length > 0.*_TPCircularBufferInit, file TPCircularBuffer.c");
+    EXPECT_DEATH(_TPCircularBufferInit(&ring.buffer, 1, 24), "TPCircularBuffer: Header version mismatch");
 }
 
-namespace {
-
+/// Which step of the mapping is to fail, how often still, and how often it was tried.
+int failingStep = 0;
 int failures = 0;
 int attempts = 0;
+/// Addresses that have not been given back.
+std::size_t held = 0;
 
-bool isFailing() {
-    ++attempts;
-    errno = ENOMEM;
-    return failures-- > 0;
+bool isFailing(int step) {
+    if (step == failingStep) {
+        ++attempts;
+        errno = ENOMEM;
+        return failures-- > 0;
+    }
+    return false;
 }
 
-}  // namespace
+TPCircularBufferMemory failingMemory() {
+    return {[](std::size_t length) {
+                held += isFailing(0) ? 0 : 2 * length;
+                return held == 0 ? nullptr : systemCircularBufferMemory().reserve(length);
+            },
+            [](void* half, std::size_t length) {
+                return !isFailing(1) && systemCircularBufferMemory().releaseSecondHalf(half, length);
+            },
+            [](void* first, void* second, std::size_t length) -> void* {
+                if (isFailing(3)) {
+                    held += length;
+                    return mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+                }
+                return isFailing(2) ? nullptr : systemCircularBufferMemory().remap(first, second, length);
+            },
+            [](void* start, std::size_t length) {
+                held -= length;
+                systemCircularBufferMemory().release(start, length);
+            }};
+}
 
-TEST(TPCircularBuffer, EveryStepOfTheMappingIsTriedFourTimes) {
-    struct Step {
-        const char* report;
-        void (*breakIn)(TPCircularBufferMemory& memory);
-    };
-    const Step steps[] = {
-        {"TPCircularBuffer.c:48: Buffer allocation: Cannot allocate memory\n",
-         [](TPCircularBufferMemory& memory) {
-             memory.reserve = [](std::size_t length) -> void* {
-                 return isFailing() ? nullptr : systemCircularBufferMemory().reserve(length);
-             };
-         }},
-        {"TPCircularBuffer.c:61: Buffer deallocation: Cannot allocate memory\n",
-         [](TPCircularBufferMemory& memory) {
-             memory.releaseSecondHalf = [](void* half, std::size_t length) {
-                 return !isFailing() && systemCircularBufferMemory().releaseSecondHalf(half, length);
-             };
-         }},
-        {"TPCircularBuffer.c:85: Remap buffer memory: Cannot allocate memory\n",
-         [](TPCircularBufferMemory& memory) {
-             memory.remap = [](void* first, void* second, std::size_t length) -> void* {
-                 return isFailing() ? nullptr : systemCircularBufferMemory().remap(first, second, length);
-             };
-         }},
-        {"Couldn't map buffer memory to end of buffer\n",
-         [](TPCircularBufferMemory& memory) {
-             memory.remap = [](void* first, void* second, std::size_t length) {
-                 return isFailing() ? mmap(nullptr, length, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)
-                                    : systemCircularBufferMemory().remap(first, second, length);
-             };
-         }},
-    };
-    for (const Step& step : steps) {
+TEST(TPCircularBuffer, TriesEachStepOfTheMappingFourTimesAndGivesEveryAddressBackOnce) {
+    const char* const reports[] = {"TPCircularBuffer.c:48: Buffer allocation: Cannot allocate memory\n",
+                                   "TPCircularBuffer.c:61: Buffer deallocation: Cannot allocate memory\n",
+                                   "TPCircularBuffer.c:85: Remap buffer memory: Cannot allocate memory\n",
+                                   "Couldn't map buffer memory to end of buffer\n"};
+    circularBufferMemory() = failingMemory();
+    for (failingStep = 0; failingStep < 4; ++failingStep) {
         for (const int times : {4, 3}) {
-            step.breakIn(circularBufferMemory());
             failures = times;
             attempts = 0;
             TPCircularBuffer buffer;
             ::testing::internal::CaptureStdout();
-            EXPECT_EQ(TPCircularBufferInit(&buffer, 1), times < 4);
-            EXPECT_EQ(::testing::internal::GetCapturedStdout(), times < 4 ? "" : step.report);
+            EXPECT_EQ(TPCircularBufferInit(&buffer, kPage + 1), times < 4);
+            EXPECT_EQ(::testing::internal::GetCapturedStdout(), times < 4 ? "" : reports[failingStep]);
             EXPECT_EQ(attempts, 4);
+            EXPECT_EQ(held, times < 4 ? 4 * static_cast<std::size_t>(kPage) : 0);
+            TPCircularBufferClear(&buffer);
             TPCircularBufferCleanup(&buffer);
-            circularBufferMemory() = systemCircularBufferMemory();
+            TPCircularBufferCleanup(&buffer);
+            EXPECT_EQ(held, 0U);
         }
     }
-}
-
-TEST(TPCircularBuffer, GivesEveryAddressBackOnce) {
-    static std::size_t released = 0;
-    circularBufferMemory().release = [](void* start, std::size_t length) {
-        released += length;
-        systemCircularBufferMemory().release(start, length);
-    };
-    TPCircularBuffer buffer;
-    TPCircularBufferClear(&buffer);
-    TPCircularBufferCleanup(&buffer);
-    EXPECT_EQ(released, 0U);
-    ASSERT_TRUE(TPCircularBufferInit(&buffer, 2 * kPage + 1));
-    TPCircularBufferCleanup(&buffer);
-    TPCircularBufferCleanup(&buffer);
     circularBufferMemory() = systemCircularBufferMemory();
-    EXPECT_EQ(released, 6 * static_cast<std::size_t>(kPage));
 }
 
 TEST(TPCircularBuffer, CarriesEveryByteBetweenTwoThreads) {
@@ -151,12 +126,11 @@ TEST(TPCircularBuffer, CarriesEveryByteBetweenTwoThreads) {
         for (std::int32_t i = 0; i < count / 4; ++i) {
             wrong += values[i] == expected++ ? 0U : 1U;
         }
-        if (count > 0) {
-            TPCircularBufferConsume(&ring.buffer, count);
-        }
+        TPCircularBufferConsume(&ring.buffer, count);
     }
     producer.join();
     EXPECT_EQ(wrong, 0U);
 }
 
+}  // namespace
 }  // namespace tavi::test
