@@ -1,14 +1,21 @@
 #include "ui/Texts.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTranslator>
 
 namespace tavi {
 
 void installTexts(QCoreApplication& application) {
-    auto* translator = new QTranslator(&application);
-    if (translator->load(QStringLiteral(":/strings/tavi_en.qm"))) {
-        QCoreApplication::installTranslator(translator);
+    const QString folder = QStringLiteral(":/strings");
+    const QString name = QStringLiteral("tavi");
+    const QString separator = QStringLiteral("_");
+    // The last one installed is asked first; what it does not have is said in English.
+    for (const QLocale& locale : {QLocale(QLocale::English), QLocale::system()}) {
+        auto* translator = new QTranslator(&application);
+        if (translator->load(locale, name, separator, folder)) {
+            QCoreApplication::installTranslator(translator);
+        }
     }
 }
 

@@ -4,8 +4,9 @@ class QCoreApplication;
 
 namespace tavi {
 
-/// Installs the program's texts; from then on qtTrId() and qsTrId() find them. Once, on the main thread, before any
-/// text is asked for. A text that is missing shows its id.
+/// Installs the program's texts in the first of the user's languages that there is, else in English; from then on
+/// qtTrId() and qsTrId() find them. Once, on the main thread, before any text is asked for. A text that is missing
+/// shows its id.
 void installTexts(QCoreApplication& application);
 
 }  // namespace tavi

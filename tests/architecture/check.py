@@ -1,4 +1,4 @@
-"""Checks that the sources keep to the layers that docs/architecture.md draws.
+"""Checks that the sources keep to the layers that docs/architecture.md draws, and that no text is missing in a language.
 
 check.py ROOT prints what is wrong in that tree; exit status 1 if anything is. Before, it plants one fault of each kind in
 a small tree of its own and sees that it is found.
@@ -8,6 +8,7 @@ import pathlib
 import re
 import sys
 import tempfile
+import xml.etree.ElementTree
 
 # Folders of src/ and what they may include from beside themselves. Every folder may include platform. The C++ of a
 # screen's qml/ folder, an item that QML draws with (...Item) and what paints for one (...Painter) may include the
@@ -52,6 +53,7 @@ PLAIN_FOR_QT = "files/PathText.h"
 QT = re.compile(r"^(Qt?[A-Z]|Q[A-Z])")
 GRAPHICS = re.compile(r"^(Qt(Quick|Qml|Gui|Widgets)\b|QQ(uick|ml)|QGuiApplication|QPainter|QWindow|QImage)")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+TEXT = re.compile(r'q[st]TrId\("([^"]+)"')
 NOISE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 
 
@@ -133,8 +135,30 @@ def find_qt_headers(folder):
     return found
 
 
+def placeholders(text):
+    return sorted(re.findall(r"%(?:L?\d|n)", text))
+
+
+def check_texts(root):
+    """Every text that is asked for, in every language, with the same places to fill."""
+    tables = {}
+    for file in sorted((root / "src").glob("ui/strings/*.ts")):
+        tables[file.name] = {message.get("id"): ["".join(form.itertext()) for form in message.findall("translation/numerusform")
+                                                 or message.findall("translation")]
+                             for message in xml.etree.ElementTree.parse(file).iter("message")}
+    asked = {text for file in (root / "src").rglob("*") if file.suffix in (".cpp", ".h", ".qml")
+             for text in TEXT.findall(file.read_text(encoding="utf-8"))}
+    everything = asked.union(*tables.values())
+    for name, table in tables.items():
+        yield from (f"{name}: no text for {text}" for text in sorted(everything - table.keys()))
+        for text, forms in table.items():
+            wanted = placeholders(tables["tavi_en.ts"].get(text, [""])[-1])
+            if not all(forms) or placeholders(forms[-1]) != wanted:
+                yield f"{name}: {text} is empty or has other places to fill"
+
+
 def check(root):
-    faults = []
+    faults = [f"src/ui/strings/{fault}" for fault in check_texts(root)]
     count = 0
     qt_headers = find_qt_headers(root / "src")
     for folder, checker in (("src", check_source), ("tests", check_test)):
@@ -179,6 +203,16 @@ CROWD = "#include <pulse/simple.h>\nQTimer t;\nauto n = QDateTime::currentDateTi
 CROWD_FAULTS = ["<pulse/simple.h>", "QDBusConnection", "QDateTime::currentDateTime", "QTimer"]
 
 
+# A text that has no German, one that has another place to fill there, and one that nobody wrote.
+WORDS = {
+    "src/ui/strings/tavi_en.ts": '<TS><message id="a"><translation>A</translation></message>'
+                                 '<message id="b"><translation>%1 b</translation></message></TS>',
+    "src/ui/strings/tavi_de.ts": '<TS><message id="b"><translation>b</translation></message></TS>',
+    "src/ui/Words.cpp": 'auto c = qtTrId("c");\n',
+}
+WORDS_FAULTS = ["tavi_de.ts: no text for a", "tavi_de.ts: no text for c", "tavi_de.ts: b is empty", "tavi_en.ts: no text for c"]
+
+
 def self_test():
     def faults_of(files):
         with tempfile.TemporaryDirectory() as folder:
@@ -193,6 +227,9 @@ def self_test():
         found = faults_of(CLEAN | {name: code})
         if len(found) != 1 or not found[0].startswith(name + ":"):
             wrong.append(f"planted in {name}, found {found}")
+    found = faults_of(CLEAN | WORDS)
+    if len(found) != len(WORDS_FAULTS) or not all(text in fault for text, fault in zip(WORDS_FAULTS, found)):
+        wrong.append(f"planted in texts, found {found}")
     found = faults_of(CLEAN | {CROWDED: CROWD})
     if [fault.split()[1] for fault in found] != CROWD_FAULTS:
         wrong.append(f"planted in {CROWDED}, found {found}")

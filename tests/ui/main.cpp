@@ -22,6 +22,8 @@ void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& tex
 int main(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // The texts that are compared are English, wherever the tests run.
+    qputenv("LANGUAGE", "en");
     QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
     tavi::installTexts(application);

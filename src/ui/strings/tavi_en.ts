@@ -297,19 +297,19 @@
     </message>
     <message id="Local Recording&apos;s">
         <source></source>
-        <translation>Local Recording's</translation>
+        <translation>Local Recordings</translation>
     </message>
     <message id="iCloud Sync Recording&apos;s">
         <source></source>
-        <translation>iCloud Sync Recording's</translation>
+        <translation>Cloud Recordings</translation>
     </message>
     <message id="iCloud not available">
         <source></source>
-        <translation>iCloud not available</translation>
+        <translation>Cloud Not Available</translation>
     </message>
     <message id="Please sign in iCloud">
         <source></source>
-        <translation>Please sign in iCloud</translation>
+        <translation>Please set up your cloud in the settings.</translation>
     </message>
     <!-- Shell -->
     <message id="record_hint">

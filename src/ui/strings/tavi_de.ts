@@ -1,0 +1,545 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <!-- The program -->
+    <message id="app_name">
+        <source></source>
+        <translation>Sprachrekorder</translation>
+    </message>
+    <message id="Record">
+        <source></source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message id="voice_memo">
+        <source></source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message id="Setting">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="Ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="OK">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="Record Audio">
+        <source></source>
+        <translation>Ton aufnehmen</translation>
+    </message>
+    <message id="Quick Create Voice Memo">
+        <source></source>
+        <translation>Schnell eine Aufnahme beginnen</translation>
+    </message>
+    <message id="Recordings">
+        <source></source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message id="Recorded Voice Memos">
+        <source></source>
+        <translation>Gespeicherte Aufnahmen</translation>
+    </message>
+    <!-- These three stay as they are: recordings take their format from the words themselves. -->
+    <message id="Low">
+        <source></source>
+        <translation>Low</translation>
+    </message>
+    <message id="Medium">
+        <source></source>
+        <translation>Medium</translation>
+    </message>
+    <message id="High">
+        <source></source>
+        <translation>High</translation>
+    </message>
+    <message id="user_abc">
+        <source></source>
+        <translation>user_abc</translation>
+    </message>
+    <!-- Settings -->
+    <message id="Settings">
+        <source></source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="recording_type">
+        <source></source>
+        <translation>Art der Aufnahme</translation>
+    </message>
+    <message id="recording_quality">
+        <source></source>
+        <translation>Qualität der Aufnahme</translation>
+    </message>
+    <message id="audio_setting">
+        <source></source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message id="icloud_sync">
+        <source></source>
+        <translation>Cloud</translation>
+    </message>
+    <message id="mail">
+        <source></source>
+        <translation>E-Mail</translation>
+    </message>
+    <message id="data_security">
+        <source></source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message id="support">
+        <source></source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="feature">
+        <source></source>
+        <translation>Funktionen</translation>
+    </message>
+    <message id="Extention">
+        <source></source>
+        <translation>Dateiendung</translation>
+    </message>
+    <message id="Quality">
+        <source></source>
+        <translation>Qualität</translation>
+    </message>
+    <message id="rewind">
+        <source></source>
+        <translation>Zurück ( %1 Sek )</translation>
+    </message>
+    <message id="forward">
+        <source></source>
+        <translation>Vor ( %1 Sek )</translation>
+    </message>
+    <message id="use_icloud">
+        <source></source>
+        <translation>Aufnahmen in die Cloud spiegeln</translation>
+    </message>
+    <message id="Quick_Mail">
+        <source></source>
+        <translation>Aufnahmen sofort mailen</translation>
+    </message>
+    <message id="passcode_lock">
+        <source></source>
+        <translation>Code-Sperre</translation>
+    </message>
+    <message id="change_pass">
+        <source></source>
+        <translation>Code ändern</translation>
+    </message>
+    <message id="rate">
+        <source></source>
+        <translation>App bewerten</translation>
+    </message>
+    <message id="more_apps">
+        <source></source>
+        <translation>Weitere Apps</translation>
+    </message>
+    <message id="report_bug">
+        <source></source>
+        <translation>Problem melden</translation>
+    </message>
+    <message id="bug_report">
+        <source></source>
+        <translation>Problembericht: Sprachrekorder</translation>
+    </message>
+    <message id="gmail">
+        <source></source>
+        <translation>support@quillfen.com</translation>
+    </message>
+    <message id="issue_recorder">
+        <source></source>
+        <translation>Bitte beschreiben Sie, was nicht funktioniert hat und was Sie unmittelbar davor getan haben:&#10;&#10;</translation>
+    </message>
+    <message id="Select Recording Audio Type">
+        <source></source>
+        <translation>Art der Aufnahme wählen</translation>
+    </message>
+    <message id="Select Recording Audio Quality">
+        <source></source>
+        <translation>Qualität der Aufnahme wählen</translation>
+    </message>
+    <message id="M4a">
+        <source></source>
+        <translation>M4a</translation>
+    </message>
+    <message id="Wave">
+        <source></source>
+        <translation>Wave</translation>
+    </message>
+    <message id="Aac">
+        <source></source>
+        <translation>Aac</translation>
+    </message>
+    <message id="Mp4">
+        <source></source>
+        <translation>Mp4</translation>
+    </message>
+    <message id="Caf">
+        <source></source>
+        <translation>Caf</translation>
+    </message>
+    <message id="Cancel">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <!-- Recording -->
+    <message id="lbl_recording">
+        <source></source>
+        <translation>Aufnahme läuft</translation>
+    </message>
+    <message id="lbl_record_pause">
+        <source></source>
+        <translation>Pausiert</translation>
+    </message>
+    <message id="microphone_denied">
+        <source></source>
+        <translation>Kein Zugriff auf das Mikrofon</translation>
+    </message>
+    <message id="access_device_microphone">
+        <source></source>
+        <translation>Zum Aufnehmen braucht die App das Mikrofon dieses Geräts. Bitte erlauben Sie ihr den Zugriff in den Systemeinstellungen.</translation>
+    </message>
+    <message id="alert_title">
+        <source></source>
+        <translation>Aufnahme fehlgeschlagen</translation>
+    </message>
+    <message id="alert_title_ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="audio_hardware_alert_title">
+        <source></source>
+        <translation>Kein Mikrofon</translation>
+    </message>
+    <message id="audio_hardware_alert_message">
+        <source></source>
+        <translation>Es ist kein Toneingang da. Schließen Sie ein Mikrofon an und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="alert_error">
+        <source></source>
+        <translation>Fehler</translation>
+    </message>
+    <message id="file_size_msg">
+        <source></source>
+        <translation>Diese Aufnahme ist größer als 25 MB und kann nicht gemailt werden.</translation>
+    </message>
+    <message id="cloud_unavail">
+        <source></source>
+        <translation>Cloud nicht verfügbar</translation>
+    </message>
+    <message id="signin_icloud_account">
+        <source></source>
+        <translation>Bitte melden Sie sich bei Ihrer Cloud an, damit die Aufnahmen gespiegelt werden.</translation>
+    </message>
+    <message id="alert_okay">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="picke_subject">
+        <source></source>
+        <translation>Sprachaufnahme</translation>
+    </message>
+    <message id="error_microphone_disconnected">
+        <source></source>
+        <translation>Das Mikrofon wurde getrennt.</translation>
+    </message>
+    <message id="error_microphone_missing">
+        <source></source>
+        <translation>Es gibt kein Mikrofon, von dem aufgenommen werden kann.</translation>
+    </message>
+    <message id="error_output_missing">
+        <source></source>
+        <translation>Es gibt nichts, worauf Ton abgespielt werden kann.</translation>
+    </message>
+    <message id="error_recording_cut_short">
+        <source></source>
+        <translation>Der Rest dieser Aufnahme kann nicht gelesen werden.</translation>
+    </message>
+    <message id="error_sound_server_missing">
+        <source></source>
+        <translation>Es läuft kein Soundserver.</translation>
+    </message>
+    <message id="error_sound_server_refused">
+        <source></source>
+        <translation>Der Soundserver hat den Zugriff verweigert.</translation>
+    </message>
+    <message id="error_sound_server_silent">
+        <source></source>
+        <translation>Der Soundserver antwortet nicht.</translation>
+    </message>
+    <message id="error_sound_server_stopped">
+        <source></source>
+        <translation>Die Verbindung zum Soundserver ging verloren.</translation>
+    </message>
+    <message id="idle_reason">
+        <source></source>
+        <translation>Möglicherweise läuft eine Sprachaufnahme</translation>
+    </message>
+    <!-- Library -->
+    <message id="voice_record">
+        <source></source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message id="Name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="Date">
+        <source></source>
+        <translation>Datum</translation>
+    </message>
+    <message id="Size">
+        <source></source>
+        <translation>Größe</translation>
+    </message>
+    <message id="Local Recording&apos;s">
+        <source></source>
+        <translation>Lokale Aufnahmen</translation>
+    </message>
+    <message id="iCloud Sync Recording&apos;s">
+        <source></source>
+        <translation>Aufnahmen in der Cloud</translation>
+    </message>
+    <message id="iCloud not available">
+        <source></source>
+        <translation>Cloud nicht verfügbar</translation>
+    </message>
+    <message id="Please sign in iCloud">
+        <source></source>
+        <translation>Bitte richten Sie Ihre Cloud in den Einstellungen ein.</translation>
+    </message>
+    <!-- Shell -->
+    <message id="record_hint">
+        <source></source>
+        <translation>Zum Aufnehmen den roten Knopf antippen</translation>
+    </message>
+    <message id="record_saving">
+        <source></source>
+        <translation>Wird gespeichert…</translation>
+    </message>
+    <message id="record_starting">
+        <source></source>
+        <translation>Wird gespeichert, dann wird aufgenommen…</translation>
+    </message>
+    <message id="library_empty_title">
+        <source></source>
+        <translation>Noch keine Aufnahmen</translation>
+    </message>
+    <message id="library_empty">
+        <source></source>
+        <translation>Was Sie aufnehmen, wird hier aufbewahrt. Gehen Sie zu „Aufnahme“ und tippen Sie auf den roten Knopf, um anzufangen.</translation>
+    </message>
+    <message id="a11y_tabs">
+        <source></source>
+        <translation>Reiter</translation>
+    </message>
+    <message id="a11y_record">
+        <source></source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message id="a11y_pause">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="a11y_resume">
+        <source></source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message id="a11y_stop">
+        <source></source>
+        <translation>Anhalten und speichern</translation>
+    </message>
+    <message id="a11y_level">
+        <source></source>
+        <translation>Lautstärke des Tons</translation>
+    </message>
+    <message id="a11y_sort">
+        <source></source>
+        <translation>Sortiert die Aufnahmen; noch einmal kehrt die Reihenfolge um</translation>
+    </message>
+    <message id="library_search">
+        <source></source>
+        <translation>Aufnahmen suchen</translation>
+    </message>
+    <message id="library_search_none">
+        <source></source>
+        <translation>Keine Aufnahme hat das in ihrem Namen</translation>
+    </message>
+    <message id="player_nothing">
+        <source></source>
+        <translation>Wählen Sie eine Aufnahme, um sie zu hören</translation>
+    </message>
+    <message id="player_nothing_hint">
+        <source></source>
+        <translation>Sie wird hier abgespielt, mit ihrer Wellenform und so schnell, wie Sie möchten.</translation>
+    </message>
+    <message id="player_unplayable">
+        <source></source>
+        <translation>Diese Datei kann nicht abgespielt werden</translation>
+    </message>
+    <message id="a11y_play">
+        <source></source>
+        <translation>Abspielen</translation>
+    </message>
+    <message id="a11y_stop_playing">
+        <source></source>
+        <translation>Wiedergabe anhalten</translation>
+    </message>
+    <message id="a11y_skip_back">
+        <source></source>
+        <translation>Zurückspringen, %1</translation>
+    </message>
+    <message id="a11y_skip_forward">
+        <source></source>
+        <translation>Vorspringen, %1</translation>
+    </message>
+    <message id="a11y_slow">
+        <source></source>
+        <translation>Halbes Tempo</translation>
+    </message>
+    <message id="a11y_normal">
+        <source></source>
+        <translation>Normales Tempo</translation>
+    </message>
+    <message id="a11y_fast">
+        <source></source>
+        <translation>Doppeltes Tempo</translation>
+    </message>
+    <message id="a11y_to_earpiece">
+        <source></source>
+        <translation>Ton an die Hörmuschel geben</translation>
+    </message>
+    <message id="a11y_to_speaker">
+        <source></source>
+        <translation>Ton an den Lautsprecher geben</translation>
+    </message>
+    <message id="a11y_position">
+        <source></source>
+        <translation>Stelle</translation>
+    </message>
+    <message id="a11y_position_value">
+        <source></source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message id="a11y_close_player">
+        <source></source>
+        <translation>Wiedergabe schließen</translation>
+    </message>
+    <message id="a11y_clear_search">
+        <source></source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message id="a11y_row_playing">
+        <source></source>
+        <translation>läuft</translation>
+    </message>
+    <message id="a11y_row_paused">
+        <source></source>
+        <translation>pausiert</translation>
+    </message>
+    <message id="trimmer_title">
+        <source></source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message id="trimmer_done">
+        <source></source>
+        <translation>Fertig</translation>
+    </message>
+    <message id="trimmer_trim">
+        <source></source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message id="trimmer_edit">
+        <source></source>
+        <translation>Noch einmal bearbeiten</translation>
+    </message>
+    <message id="trimmer_reset">
+        <source></source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message id="trimmer_rerecord">
+        <source></source>
+        <translation>Neu aufnehmen</translation>
+    </message>
+    <message id="trimmer_play">
+        <source></source>
+        <translation>Auswahl abspielen</translation>
+    </message>
+    <message id="trimmer_loading">
+        <source></source>
+        <translation>Die Wellenform wird gelesen…</translation>
+    </message>
+    <message id="trimmer_unreadable">
+        <source></source>
+        <translation>Diese Aufnahme kann nicht gelesen werden.</translation>
+    </message>
+    <message id="trimmer_total">
+        <source></source>
+        <translation>insgesamt %1</translation>
+    </message>
+    <message id="trimmer_exporting">
+        <source></source>
+        <translation>Die Auswahl wird gespeichert</translation>
+    </message>
+    <message id="trimmer_stop_recording">
+        <source></source>
+        <translation>Aufnahme anhalten</translation>
+    </message>
+    <message id="a11y_trim_start">
+        <source></source>
+        <translation>Anfang der Auswahl</translation>
+    </message>
+    <message id="a11y_trim_end">
+        <source></source>
+        <translation>Ende der Auswahl</translation>
+    </message>
+    <message id="trimming_audio">
+        <source></source>
+        <translation>Ton zuschneiden</translation>
+    </message>
+    <message id="trim_audio">
+        <source></source>
+        <translation>Ton zuschneiden</translation>
+    </message>
+    <message id="save_trim_audio">
+        <source></source>
+        <translation>Möchten Sie mit der zugeschnittenen Aufnahme weitermachen?</translation>
+    </message>
+    <message id="trim_progress">
+        <source></source>
+        <translation>Der Ton wird zugeschnitten</translation>
+    </message>
+    <message id="trim_play_trimmed">
+        <source></source>
+        <translation>Anhören</translation>
+    </message>
+    <message id="trim_save">
+        <source></source>
+        <translation>Speichern</translation>
+    </message>
+    <message id="trim_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="Processing">
+        <source></source>
+        <translation>In Arbeit</translation>
+    </message>
+    <message id="Yes">
+        <source></source>
+        <translation>Ja</translation>
+    </message>
+    <message id="No">
+        <source></source>
+        <translation>Nein</translation>
+    </message>
+    <message id="a11y_trim">
+        <source></source>
+        <translation>%1 zuschneiden</translation>
+    </message>
+</context>
+</TS>
