@@ -1,7 +1,6 @@
-#include <numeric>
-
 #include "sound/HeaderDuration.h"
 #include "sound/adts/AdtsStream.h"
+#include "sound/io/Bytes.h"
 #include "unit/sound/MemoryFile.h"
 
 namespace tavi::test {
@@ -12,48 +11,36 @@ constexpr unsigned k8000 = 11;
 constexpr unsigned k16000 = 8;
 
 /// A frame of that many bytes and blocks, filled with a value.
-Bytes frame(std::size_t size, int blocks, std::uint8_t filling, unsigned rateIndex = k8000) {
-    Bytes bytes(size, filling);
-    const Bytes header = {0xff,
-                          0xf1,
-                          static_cast<std::uint8_t>(0x40 | rateIndex << 2),
-                          static_cast<std::uint8_t>(0x40 | size >> 11),
-                          static_cast<std::uint8_t>(size >> 3),
-                          static_cast<std::uint8_t>(size << 5 | 0x1f),
-                          static_cast<std::uint8_t>(0xfc | (blocks - 1))};
-    std::copy(header.begin(), header.end(), bytes.begin());
-    return bytes;
+Bytes frame(std::size_t size, int blocks = 1, std::uint8_t filling = 0, unsigned rateIndex = k8000) {
+    ByteWriter header;
+    header.u16(0xfff1);
+    header.u16(0x4040 | rateIndex << 10 | size >> 11);
+    header.u16(size << 5 | 0x1f);
+    header.u8(0xfbU + static_cast<unsigned>(blocks));
+    return header.release() + Bytes(size - kAdtsHeaderBytes, filling);
 }
 
-Bytes joined(const std::vector<Bytes>& parts) {
-    return std::accumulate(parts.begin(), parts.end(), Bytes{}, [](Bytes all, const Bytes& part) {
-        all.insert(all.end(), part.begin(), part.end());
-        return all;
-    });
-}
-
-TEST(AdtsTest, everyFrameIsFoundFromAnyBlock) {
+TEST(AdtsTest, EveryFrameIsFoundFromAnyBlock) {
     // Long enough for several windows. What lies between is skipped, though it looks like a header now and then.
-    std::vector<Bytes> parts;
+    Bytes stream;
     std::vector<std::pair<std::int64_t, Bytes>> wanted;
     std::int64_t blocks = 0;
     for (int i = 0; i < 900; ++i) {
         const int count = i % 5 == 0 ? 3 : 1;
         const std::size_t size = i == 300 ? 8191 : 100 + static_cast<std::size_t>(i) % 700;
-        parts.push_back(frame(size, count, static_cast<std::uint8_t>(i)));
-        wanted.emplace_back(blocks, parts.back());
+        wanted.emplace_back(blocks, frame(size, count, static_cast<std::uint8_t>(i)));
+        stream = std::move(stream) + wanted.back().second;
         blocks += count;
         if (i % 100 == 50) {
-            parts.push_back(Bytes(static_cast<std::size_t>(i), 0xff));
-            parts.push_back(frame(60, 1, 0));
-            parts.back().resize(50);
-            parts.push_back(frame(60, 1, 0, k16000));
+            Bytes half = frame(60);
+            half.resize(50);
+            stream = std::move(stream) + Bytes(static_cast<std::size_t>(i), 0xff) + half + frame(60, 1, 0, k16000);
         }
     }
     // The last one is cut off.
-    parts.push_back(frame(90, 1, 0));
-    parts.back().pop_back();
-    const FileDescriptor file = memoryFile(joined(parts));
+    stream = std::move(stream) + frame(90);
+    stream.pop_back();
+    const FileDescriptor file = memoryFile(stream);
     EXPECT_EQ(headerDuration(file.get()), static_cast<double>(blocks) * 1024 / 8000);
     auto reader = AdtsPacketReader::open(file.get());
     ASSERT_TRUE(reader);
@@ -73,12 +60,12 @@ TEST(AdtsTest, everyFrameIsFoundFromAnyBlock) {
     }
 }
 
-TEST(AdtsTest, whatOnlyBeginsLikeAStreamIsNone) {
-    const Bytes one = frame(40, 1, 0);
+TEST(AdtsTest, WhatOnlyBeginsLikeAStreamIsNone) {
+    const Bytes one = frame(40);
     EXPECT_TRUE(AdtsStream::read(memoryFile(one).get()));
-    EXPECT_TRUE(AdtsStream::read(memoryFile(joined({one, one, Bytes(9)})).get()));
+    EXPECT_TRUE(AdtsStream::read(memoryFile(one + one + Bytes(9)).get()));
     for (const Bytes& bytes : {Bytes(), Bytes(one.begin(), one.begin() + 6), Bytes(one.begin(), one.end() - 1),
-                               joined({one, Bytes(9)}), joined({Bytes(1), one, one}), Bytes(100, 0xff)}) {
+                               one + Bytes(9), Bytes(1) + one + one, Bytes(100, 0xff)}) {
         EXPECT_FALSE(AdtsStream::read(memoryFile(bytes).get())) << bytes.size();
     }
 }

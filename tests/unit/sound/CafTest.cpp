@@ -37,8 +37,9 @@ std::vector<float> decoded(std::span<const std::uint8_t> packets, std::size_t ch
     return sound;
 }
 
-/// Packets as an encoder makes them: each names the rounded sample before it. Codes are chosen at random.
-Bytes packets(std::size_t count, std::size_t channels, int loudest) {
+/// Packets as an encoder makes them: each names the rounded sample before it. Codes are chosen at random, quieter ones
+/// for the channels behind the first.
+Bytes packets(std::size_t count, std::size_t channels, unsigned loudest) {
     std::mt19937 random(5);
     Bytes bytes(count * channels * kIma4PacketBytes);
     std::vector<Ima4State> states(channels);
@@ -48,9 +49,9 @@ Bytes packets(std::size_t count, std::size_t channels, int loudest) {
         const auto header = static_cast<std::uint16_t>((state.sample & ~0x7f) | state.step);
         packet[0] = static_cast<std::uint8_t>(header >> 8);
         packet[1] = static_cast<std::uint8_t>(header);
+        const unsigned codes = at % channels == 0 ? loudest : std::min(loudest, 3U);
         for (std::size_t i = 2; i < kIma4PacketBytes; ++i) {
-            packet[i] = static_cast<std::uint8_t>(random() % static_cast<unsigned>(loudest) |
-                                                  random() % static_cast<unsigned>(loudest) << 4 | (random() & 0x88));
+            packet[i] = static_cast<std::uint8_t>(random() % codes | random() % codes << 4 | (random() & 0x88));
         }
         std::vector<float> sound;
         decodePacket(packet, state, sound);
@@ -61,7 +62,7 @@ Bytes packets(std::size_t count, std::size_t channels, int loudest) {
 struct Caf {
     double rate = 8000;
     std::uint32_t channels = 1;
-    std::uint32_t packetBytes = 34;
+    std::uint32_t packetBytes = 34 * channels;
     std::uint32_t packetFrames = 64;
     /// As a number that stands for none.
     std::int64_t validFrames = -1;
@@ -96,19 +97,15 @@ Bytes cafFile(const Caf& caf, const Bytes& packets) {
     return writer.release();
 }
 
-TEST(CafTest, ima4IsReadExactlyFromAnyFrame) {
+TEST(CafTest, Ima4IsReadExactlyFromAnyFrame) {
     // So loud that samples are clipped, and packets beyond one block.
-    for (const auto& [count, channels, loudest] : {std::tuple(600, 1, 8), {300, 2, 5}, {3, 3, 2}}) {
-        const Bytes sound = packets(static_cast<std::size_t>(count), static_cast<std::size_t>(channels), loudest);
+    for (const auto& [count, channels, loudest] : {std::tuple(600U, 1U, 8U), {300, 2, 5}, {3, 3, 2}}) {
+        const Bytes sound = packets(count, channels, loudest);
         for (const std::uint32_t priming : {0U, 70U}) {
             SCOPED_TRACE(testing::Message() << count << " packets, priming " << priming);
-            const std::int64_t frames = count * 64 - 71;
-            Caf caf;
-            caf.channels = static_cast<std::uint32_t>(channels);
-            caf.packetBytes = 34 * caf.channels;
-            caf.validFrames = frames;
-            caf.priming = priming;
-            FileDescriptor file = memoryFile(cafFile(caf, sound));
+            const std::int64_t frames = std::int64_t{count} * 64 - 71;
+            FileDescriptor file =
+                memoryFile(cafFile({.channels = channels, .validFrames = frames, .priming = priming}, sound));
             EXPECT_EQ(headerDuration(file.get()), static_cast<double>(frames) / 8000);
             const auto source = Ima4Source::open(file);
             ASSERT_TRUE(source);
@@ -125,7 +122,7 @@ TEST(CafTest, ima4IsReadExactlyFromAnyFrame) {
     }
 }
 
-TEST(CafTest, lengthsAreThoseOfWhatIsThere) {
+TEST(CafTest, LengthsAreThoseOfWhatIsThere) {
     constexpr std::int64_t kLowest = std::numeric_limits<std::int64_t>::min();
     const auto framesOf = [](const Caf& caf, std::int64_t size = 0) {
         const FileDescriptor file = memoryFile(cafFile(caf, Bytes(340)), size);
@@ -149,33 +146,30 @@ TEST(CafTest, lengthsAreThoseOfWhatIsThere) {
     }
     // More frames than numbers for them.
     EXPECT_GT(framesOf({.packetBytes = 1, .packetFrames = 1 << 20, .dataBytes = -1}, std::int64_t{1} << 62), 0);
-    for (const Caf& caf : {Caf{.channels = 0, .packetBytes = 0}, Caf{.channels = 1U << 20}, Caf{.packetFrames = 63}}) {
+    for (const Caf& caf : {Caf{.channels = 0}, Caf{.channels = 1U << 20, .packetBytes = 34}, Caf{.packetFrames = 63}}) {
         FileDescriptor file = memoryFile(cafFile(caf, Bytes(340)));
         EXPECT_FALSE(Ima4Source::open(file));
         EXPECT_TRUE(file.isValid());
     }
 }
 
-TEST(CafTest, aCutIsHeardAsInTheWholeFromItsSecondPacketOn) {
-    for (const auto& [count, channels, loudest] : {std::tuple(2000, 1, 3), {700, 2, 4}, {40, 1, 8}}) {
-        const auto width = static_cast<std::size_t>(channels) * kIma4PacketBytes;
-        const Bytes whole = packets(static_cast<std::size_t>(count), static_cast<std::size_t>(channels), loudest);
-        Caf caf;
-        caf.channels = static_cast<std::uint32_t>(channels);
-        caf.packetBytes = static_cast<std::uint32_t>(width);
-        const FileDescriptor file = memoryFile(cafFile(caf, whole));
+TEST(CafTest, ACutIsHeardAsInTheWholeFromItsSecondPacketOn) {
+    for (const auto& [count, channels, loudest] : {std::tuple(2000U, 1U, 3U), {700, 2, 4}, {40, 1, 8}, {40, 2, 8}}) {
+        const std::size_t width = channels * kIma4PacketBytes;
+        const Bytes whole = packets(count, channels, loudest);
+        const FileDescriptor file = memoryFile(cafFile({.channels = channels}, whole));
         Ima4Cut cut(file.get(), *readCafHeader(file.get()), [] { return false; });
-        for (const int first : {0, 1, count / 2, count - 2}) {
+        for (const std::size_t first : {0U, 1U, count / 2, count - 2}) {
             SCOPED_TRACE(testing::Message() << "from packet " << first << " of " << count);
-            const auto changed = cut.firstPackets(first);
+            const auto changed = cut.firstPackets(static_cast<std::int64_t>(first));
             ASSERT_TRUE(changed);
             ASSERT_LE(changed->size(), 2 * width);
-            const auto start = static_cast<std::size_t>(first) * width;
+            const std::size_t start = first * width;
             Bytes stretch(whole.begin() + static_cast<std::ptrdiff_t>(start), whole.end());
             std::copy(changed->begin(), changed->end(), stretch.begin());
-            for (std::size_t channel = 0; channel < caf.channels; ++channel) {
-                const auto all = decoded(whole, caf.channels, channel);
-                const auto heard = decoded(stretch, caf.channels, channel);
+            for (std::size_t channel = 0; channel < channels; ++channel) {
+                const auto all = decoded(whole, channels, channel);
+                const auto heard = decoded(stretch, channels, channel);
                 const std::size_t same = changed->size() / width * kFrames;
                 EXPECT_TRUE(std::equal(heard.begin() + static_cast<std::ptrdiff_t>(same), heard.end(),
                                        all.begin() + static_cast<std::ptrdiff_t>(first * kFrames + same)));
@@ -188,24 +182,19 @@ TEST(CafTest, aCutIsHeardAsInTheWholeFromItsSecondPacketOn) {
     EXPECT_FALSE(cut.firstPackets(8));
 }
 
-TEST(CafTest, aHeaderLikeAnothersKeepsItsDescription) {
+TEST(CafTest, AHeaderLikeAnothersKeepsItsDescription) {
     const Bytes sound = packets(10, 1, 3);
+    const Bytes note = "note\0\0\0\0\0\0\0\2hi"_bytes;
     Bytes other = cafFile({.validFrames = 640}, sound);
-    const Bytes note = {'n', 'o', 't', 'e', 0, 0, 0, 0, 0, 0, 0, 2, 'h', 'i'};
     other.insert(other.begin() + 8, note.begin(), note.end());
-    const FileDescriptor source = memoryFile(other);
-    const auto header = cafHeaderLike(source.get(), CafPacketTable{2, 100, 20, 8}, 68);
+    const auto header = cafHeaderLike(memoryFile(other).get(), CafPacketTable{2, 100, 20, 8}, 68);
     ASSERT_TRUE(header);
     EXPECT_TRUE(std::search(header->begin(), header->end(), note.begin(), note.end()) != header->end());
-    Bytes whole = *header;
-    whole.insert(whole.end(), sound.begin(), sound.begin() + 68);
-    const FileDescriptor file = memoryFile(whole);
-    const auto read = readCafHeader(file.get());
+    // What follows the packets does not count.
+    const auto read = readCafHeader(memoryFile(*header + sound).get());
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->frames, 100);
-    EXPECT_EQ(read->primingFrames, 20);
-    EXPECT_EQ(read->dataOffset, std::ssize(*header));
-    EXPECT_EQ(read->dataBytes, 68);
+    EXPECT_EQ(std::tuple(read->frames, read->primingFrames), std::tuple(100, 20));
+    EXPECT_EQ(std::tuple(read->dataOffset, read->dataBytes), std::tuple(std::ssize(*header), 68));
     EXPECT_FALSE(cafHeaderLike(memoryFile(Bytes(50)).get(), {}, 0));
 }
 

@@ -17,6 +17,23 @@ namespace tavi::test {
 
 using Bytes = std::vector<std::uint8_t>;
 
+inline Bytes operator""_bytes(const char* text, std::size_t size) {
+    return {text, text + size};
+}
+
+inline Bytes operator+(Bytes first, const Bytes& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// The box "alac" for 16 bits at 8 kHz.
+inline Bytes losslessBox(std::uint8_t channels, std::uint8_t historyFactor = 40, std::uint8_t initialHistory = 10,
+                         std::uint8_t riceLimit = 14) {
+    return "\0\0\0\x24"
+           "alac\0\0\0\0\0\0\x10\0\0\x10"_bytes +
+           Bytes{historyFactor, initialHistory, riceLimit, channels} + "\0\0\0\0\0\0\0\0\0\0\0\0\x1f\x40"_bytes;
+}
+
 /// A file that is nowhere but in memory, with those bytes; longer ones end in a hole.
 inline FileDescriptor memoryFile(std::span<const std::uint8_t> bytes, std::int64_t size = 0) {
     FileDescriptor file(::memfd_create("sound", MFD_CLOEXEC));

@@ -3,6 +3,7 @@
 
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
+#include "sound/mp4/Mp4Description.h"
 #include "sound/mp4/Mp4Finalizer.h"
 #include "sound/mp4/Mp4MovieWriter.h"
 #include "sound/mp4/Mp4PacketReader.h"
@@ -13,35 +14,15 @@ namespace tavi::test {
 namespace {
 
 constexpr std::uint32_t kRate = 8000;
-const Bytes kUserData = {0, 0, 0, 16, 'u', 'd', 't', 'a', 'a', ' ', 'r', 'e', 'm', 'a', 'r', 'k'};
+const Bytes kUserData =
+    "\0\0\0\x10"
+    "udtaa remark"_bytes;
 
-/// The box "stsd" with one entry of sound, in which that box is.
-Bytes description(std::uint32_t coding, const Bytes& configuration) {
-    Mp4BoxWriter writer;
-    writer.beginFull(mp4Type("stsd"));
-    writer.u32(1);
-    writer.begin(coding);
-    writer.u64(1);
-    writer.u64(0);
-    writer.u32(0x20010);
-    writer.u32(0);
-    writer.u32(kRate << 16);
-    writer.bytes(configuration);
-    writer.end();
-    writer.end();
-    return writer.release();
-}
-
+/// The box "stsd" of sound in Apple Lossless.
 Bytes lossless() {
-    Mp4BoxWriter cookie;
-    cookie.beginFull(mp4Type("alac"));
-    cookie.u32(4096);
-    cookie.u32(0x00102828);
-    cookie.u32(0x0e0200ff);
-    cookie.u64(0);
-    cookie.u32(kRate);
-    cookie.end();
-    return description(mp4Type("alac"), cookie.release());
+    return "\0\0\0\x58stsd\0\0\0\0\0\0\0\1\0\0\0\x48"
+           "alac\0\0\0\0\0\0\0\1"_bytes +
+           Bytes(8) + "\0\2\0\x10\0\0\0\0\x1f\x40\0\0"_bytes + losslessBox(2);
 }
 
 /// Packets of many sizes; the last one is shorter.
@@ -69,10 +50,9 @@ Bytes ordinary(const std::vector<Mp4Sample>& all, std::int64_t start = 0, const 
     for (std::size_t i = 0; i < all.size(); ++i) {
         data.bytes(contentsOf(i, all[i].size));
     }
-    ByteWriter file;
     const Bytes head = mp4FileHead(data.size());
-    file.bytes(head);
-    file.bytes(data.data());
+    ByteWriter file;
+    file.bytes(head + data.data());
     const Mp4Runs runs = mp4RunsOf(all, std::ssize(head));
     const auto isWritten = writeMp4Movie({kRate, coding, kUserData, start, durationOf(all) - start},
                                          *Mp4Totals::of(runs), runs, [&](auto bytes) { file.bytes(bytes); });
@@ -90,60 +70,79 @@ Bytes changed(Bytes file, std::string_view box, std::ptrdiff_t at, std::uint64_t
     return file;
 }
 
+/// The same file with one more box, the first in the innermost of some boxes around it.
+Bytes inserted(Bytes file, const Bytes& box, std::initializer_list<std::string_view> around) {
+    auto place = file.begin();
+    for (const std::string_view name : around) {
+        place = std::search(place, file.end(), name.begin(), name.end());
+        ByteWriter size;
+        size.u32(ByteReader(std::span(&*(place - 4), 4)).u32() + box.size());
+        std::copy(size.data().begin(), size.data().end(), place - 4);
+        place += std::ssize(name);
+    }
+    file.insert(place, box.begin(), box.end());
+    return file;
+}
+
+/// A box "edts" with stretches of the media: their durations in the movie's time scale, and where they start.
+Bytes edits(std::initializer_list<std::pair<std::uint32_t, std::uint32_t>> stretches) {
+    Mp4BoxWriter writer;
+    writer.begin(mp4Type("edts"));
+    writer.beginFull(mp4Type("elst"));
+    writer.u32(stretches.size());
+    for (const auto& [duration, start] : stretches) {
+        writer.u32(duration);
+        writer.u32(start);
+        writer.u32(0x10000);
+    }
+    writer.end();
+    writer.end();
+    return writer.release();
+}
+
 void expectPackets(const FileDescriptor& file, std::span<const Mp4Sample> all, std::int64_t start = 0) {
     const auto sound = Mp4Sound::open(file.get());
     ASSERT_TRUE(sound);
-    EXPECT_EQ(sound->timeScale(), kRate);
-    EXPECT_EQ(sound->start(), start);
+    EXPECT_EQ(std::pair(sound->timeScale(), sound->start()), std::pair(kRate, start));
+    EXPECT_EQ(headerDuration(file.get()), static_cast<double>(durationOf(all) - start) / kRate);
+    EXPECT_EQ(sound->movie().readUserData(file.get()), kUserData);
     for (const auto& [from, preroll] :
-         {std::pair<std::size_t, std::uint64_t>{0, 0}, {1, 5}, {all.size() / 2, 2}, {all.size() - 1, 1}}) {
+         {std::pair(std::size_t{0}, 0U), {1, 5}, {all.size() / 2, 2}, {all.size() - 1, 1}}) {
         std::size_t next = from - std::min<std::size_t>(from, preroll);
         const std::int64_t time = durationOf(all.first(from)) + 1;
-        const bool isRead = sound->forEachPacket(time, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
-            if (next == all.size()) {
-                ADD_FAILURE() << "a packet too many";
-                return false;
-            }
-            EXPECT_EQ(begin, durationOf(all.first(next)));
-            EXPECT_EQ(packet.duration, all[next].duration);
+        EXPECT_TRUE(sound->forEachPacket(time, preroll, [&](std::int64_t begin, const Mp4Packet& packet) {
             Bytes bytes(packet.size);
             EXPECT_EQ(readFully(file.get(), bytes.data(), bytes.size(), packet.offset), bytes.size());
-            EXPECT_EQ(bytes, contentsOf(next, all[next].size)) << next;
+            const bool isRight = next < all.size() && begin == durationOf(all.first(next)) &&
+                                 packet.duration == all[next].duration && bytes == contentsOf(next, all[next].size);
+            EXPECT_TRUE(isRight) << "packet " << next;
             ++next;
-            return true;
-        });
-        EXPECT_TRUE(isRead);
+            return isRight;
+        }));
         EXPECT_EQ(next, all.size()) << "from " << from;
     }
 }
 
-TEST(Mp4Test, anOrdinaryFileIsReadAsItWasWritten) {
+TEST(Mp4Test, AnOrdinaryFileIsReadAsItWasWritten) {
     for (const std::uint32_t count : {1U, 2U, 32U, 33U, 200U}) {
         for (const std::int64_t start : {0, 300}) {
             SCOPED_TRACE(testing::Message() << count << " packets from " << start);
             const auto all = samples(count);
-            const FileDescriptor file = memoryFile(ordinary(all, start));
-            expectPackets(file, all, start);
-            EXPECT_EQ(headerDuration(file.get()), static_cast<double>(durationOf(all) - start) / kRate);
-            const auto movie = Mp4Movie::read(file.get());
-            EXPECT_EQ(movie->readUserData(file.get()), kUserData);
+            expectPackets(memoryFile(ordinary(all, start)), all, start);
         }
     }
 }
 
-TEST(Mp4Test, packetsOfALongFileAreHandedOutFromAnyTime) {
+TEST(Mp4Test, PacketsOfALongFileAreHandedOutFromAnyTime) {
     // Tables beyond every block and window.
     constexpr std::uint32_t kDuration = 1024;
     constexpr std::int64_t kStart = 5000;
     const auto all = samples(20000, kDuration);
     const FileDescriptor file = memoryFile(ordinary(all, kStart));
-    EXPECT_EQ(headerDuration(file.get()), static_cast<double>(durationOf(all) - kStart) / kRate);
     auto reader = Mp4PacketReader::open(file.get());
     ASSERT_TRUE(reader);
-    EXPECT_EQ(reader->format().sampleRate, kRate);
-    EXPECT_EQ(reader->format().channelsPerFrame, 2U);
-    EXPECT_EQ(reader->maxPacketSize(), 16U);
-    EXPECT_EQ(reader->configuration().size(), 36U);
+    EXPECT_EQ(std::pair(reader->format().sampleRate, reader->format().channelsPerFrame), std::pair(double{kRate}, 2U));
+    EXPECT_EQ(std::pair(reader->maxPacketSize(), reader->configuration().size()), std::pair(16U, std::size_t{36}));
     EXPECT_EQ(reader->seconds(), headerDuration(file.get()));
     for (const std::size_t from : {std::size_t{0}, std::size_t{19999}, std::size_t{7}, std::size_t{12345}}) {
         ASSERT_TRUE(reader->seek(static_cast<std::int64_t>(from) * kDuration - kStart + 1));
@@ -155,6 +154,15 @@ TEST(Mp4Test, packetsOfALongFileAreHandedOutFromAnyTime) {
         }
         EXPECT_FALSE(reader->next());
     }
+    // What is heard ends before the packets do.
+    const FileDescriptor shorter = memoryFile(changed(ordinary(all, kStart), "elst", 12, 5 * kDuration));
+    auto part = Mp4PacketReader::open(shorter.get());
+    ASSERT_TRUE(part && part->seek(0));
+    std::int64_t last = 0;
+    while (const auto packet = part->next()) {
+        last = packet->start / kDuration;
+    }
+    EXPECT_EQ(last, 4);
     // Somebody cuts the file meanwhile.
     ASSERT_EQ(::ftruncate(file.get(), 1000), 0);
     reader->rewind();
@@ -165,7 +173,7 @@ TEST(Mp4Test, packetsOfALongFileAreHandedOutFromAnyTime) {
     EXPECT_LT(count, 100);
 }
 
-TEST(Mp4Test, lengthsAreThoseOfWhatPlays) {
+TEST(Mp4Test, LengthsAreThoseOfWhatPlays) {
     const auto all = samples(20);
     const double media = static_cast<double>(durationOf(all)) / kRate;
     const Bytes edited = ordinary(all, 1000);
@@ -182,19 +190,20 @@ TEST(Mp4Test, lengthsAreThoseOfWhatPlays) {
         {with(edited, 10, 0), media},
         // Silence, though longer than any file, plays nothing of the sound.
         {changed(with(edited, 10, 0xffffffff), "elst", 16, 0xffffffff), media},
+        {inserted(changed(with(edited, 10, 0), "edts", 0, mp4Type("free")), edits({{12, 0}, {10, 2000}}),
+                  {"moov", "trak"}),
+         2.2},
         {changed(edited, "hdlr", 12, mp4Type("vide")), -1},
+        // Beyond what 32 bits hold.
+        {ordinary(samples(600, 1 << 23), 1000), ((599.5 * (1 << 23)) - 1000) / kRate},
     };
-    // Beyond what 32 bits hold.
-    const auto days = samples(600, 1 << 23);
-    EXPECT_EQ(headerDuration(memoryFile(ordinary(days, 1000)).get()),
-              static_cast<double>(durationOf(days) - 1000) / kRate);
     for (const auto& [bytes, seconds] : files) {
         const FileDescriptor file = memoryFile(bytes);
         EXPECT_DOUBLE_EQ(headerDuration(file.get()).value_or(-1), seconds);
     }
 }
 
-TEST(Mp4Test, whatIsUnusualOrDamagedIsLeftToOthers) {
+TEST(Mp4Test, WhatIsUnusualOrDamagedIsLeftToOthers) {
     const Bytes file = ordinary(samples(100), 300);
     ASSERT_TRUE(Mp4PacketReader::open(memoryFile(file).get()));
     const std::pair<const char*, Bytes> files[] = {
@@ -206,7 +215,9 @@ TEST(Mp4Test, whatIsUnusualOrDamagedIsLeftToOthers) {
         {"another rate", changed(file, "alac", 28, 44100)},
         {"many channels", changed(file, "alac", 17, 3, 1)},
         {"two descriptions", changed(file, "stsd", 8, 2)},
-        {"two edits", changed(file, "elst", 8, 2)},
+        {"two edits",
+         inserted(changed(file, "edts", 0, mp4Type("free")), edits({{100, 0}, {200, 500}}), {"moov", "trak"})},
+        {"edits that are not there", changed(file, "elst", 8, 2)},
         {"at half speed", changed(file, "elst", 20, 0x8000)},
         {"from before its start", changed(file, "elst", 16, 0x80000000)},
         {"in another file", changed(file, "url ", 4, 0)},
@@ -223,29 +234,21 @@ TEST(Mp4Test, whatIsUnusualOrDamagedIsLeftToOthers) {
         {"a chunk behind every end", changed(file, "co64", 12, 0x7fffff00)},
         {"a table that is unknown", changed(file, "stts", 0, mp4Type("ctts"))},
         {"no time scale", changed(file, "mdhd", 16, 0)},
-        {"a remark on what is not heard",
-         changed(changed(file, "a re", 0, mp4Type("iTun")), "mark", 0, mp4Type("SMPB"))},
+        // Across the pieces in which boxes are searched.
+        {"a remark on what is not heard", inserted(file,
+                                                   "\0\0\x40\x14"
+                                                   "free"_bytes +
+                                                       Bytes(16380) + "iTunSMPB"_bytes + Bytes(0),
+                                                   {"moov"})},
     };
     for (const auto& [name, bytes] : files) {
         EXPECT_FALSE(Mp4PacketReader::open(memoryFile(bytes).get())) << name;
     }
 }
 
-TEST(Mp4Test, onlyAacThatIsWhatItSaysHasAFormat) {
+TEST(Mp4Test, OnlyAacThatIsWhatItSaysHasAFormat) {
     const auto formatOf = [](const Bytes& config, std::uint32_t timeScale) {
-        Mp4BoxWriter box;
-        box.beginFull(mp4Type("esds"));
-        for (const std::size_t byte :
-             {std::size_t{3}, 20 + config.size(), std::size_t{0}, std::size_t{1}, std::size_t{0}, std::size_t{4},
-              15 + config.size(), std::size_t{0x40}, std::size_t{0x15}}) {
-            box.u8(byte);
-        }
-        box.bytes(Bytes(11));
-        box.u8(5);
-        box.u8(config.size());
-        box.bytes(config);
-        box.end();
-        const Bytes file = ordinary(samples(2), 0, description(mp4Type("mp4a"), box.data()));
+        const Bytes file = ordinary(samples(2), 0, mp4AacDescription(config, 2, 44100));
         const auto sound = Mp4Sound::open(memoryFile(changed(file, "mdhd", 16, timeScale)).get());
         const auto format = sound->format();
         return format ? format->sampleRate * 10 + format->channelsPerFrame : 0;
@@ -262,81 +265,54 @@ TEST(Mp4Test, onlyAacThatIsWhatItSaysHasAFormat) {
     }
 }
 
-/// A recording as it grows: a header without packets, and a fragment for every ten of them. The first one names
-/// its own place, and tells how long its packets are only once.
+/// A recording as it grows: a header without packets, and a fragment for every ten of them. The first one names its own
+/// place, and tells how long its packets are only once; one of a single packet tells all only once.
 Bytes fragmented(const std::vector<Mp4Sample>& all, std::uint32_t start = 0) {
-    const std::vector<Mp4Sample> none;
-    const Bytes ordinaryEmpty = ordinary(none);
-    Bytes header(ordinaryEmpty.begin(), ordinaryEmpty.end());
-    // An edit of no length in the place of the user's data, which comes behind it; then what fragments default to.
-    Mp4BoxWriter edit;
-    edit.begin(mp4Type("edts"));
-    edit.beginFull(mp4Type("elst"));
-    edit.u32(1);
-    edit.u32(0);
-    edit.u32(start);
-    edit.u32(0x10000);
-    edit.end();
-    edit.end();
-    Mp4BoxWriter extends;
-    extends.begin(mp4Type("mvex"));
-    extends.beginFull(mp4Type("trex"));
-    extends.u32(1);
-    extends.u32(1);
-    extends.u32(1024);
-    extends.u32(10);
-    extends.u32(0);
-    extends.end();
-    extends.end();
-    const auto grow = [&](std::string_view box, std::size_t bytes) {
-        const auto found = std::search(header.begin(), header.end(), box.begin(), box.end()) - 4;
-        ByteWriter size;
-        size.u32(ByteReader(std::span(&*found, 4)).u32() + bytes);
-        std::copy(size.data().begin(), size.data().end(), found);
-        return found;
-    };
-    const auto track = grow("trak", edit.size());
-    header.insert(track + 8, edit.data().begin(), edit.data().end());
-    grow("moov", edit.size() + extends.size());
-    header.insert(header.end(), extends.data().begin(), extends.data().end());
-    ByteWriter file;
-    file.bytes(header);
+    // An edit of no length, as the length is not known yet.
+    Bytes file = inserted(ordinary({}), edits({{0, start}}), {"moov", "trak"});
+    file = inserted(file, "\0\0\0\x28mvex\0\0\0\x20trex\0\0\0\0\0\0\0\1\0\0\0\1\0\0\4\0\0\0\0\x0a\0\0\0\0"_bytes,
+                    {"moov"});
     for (std::size_t first = 0; first < all.size(); first += 10) {
         const std::size_t count = std::min<std::size_t>(10, all.size() - first);
+        const bool isFirst = first == 0;
+        const bool isSingle = count == 1;
         Mp4BoxWriter fragment;
         fragment.begin(mp4Type("moof"));
         fragment.begin(mp4Type("traf"));
-        const bool isOwn = first == 0;
         // Places count from the fragment, or from a place that it names.
-        fragment.beginFull(mp4Type("tfhd"), false, isOwn ? 0x9 : 0x20000);
+        fragment.beginFull(mp4Type("tfhd"), false, isFirst ? 0x9 : isSingle ? 0x20018 : 0x20000);
         fragment.u32(1);
-        if (isOwn) {
+        if (isFirst) {
             fragment.u64(file.size());
-            fragment.u32(1024);
+        }
+        if (isFirst || isSingle) {
+            fragment.u32(all[first].duration);
+        }
+        if (isSingle) {
+            fragment.u32(all[first].size);
         }
         fragment.end();
-        const bool hasDurations = !isOwn;
-        fragment.beginFull(mp4Type("trun"), false, hasDurations ? 0x301 : 0x201);
+        fragment.beginFull(mp4Type("trun"), false, isSingle ? 0x1 : isFirst ? 0x201 : 0x301);
         fragment.u32(count);
-        const std::size_t runHeader = fragment.size() + 4;
-        fragment.u32(runHeader + count * (hasDurations ? 8 : 4) + 8);
+        fragment.u32(fragment.size() + 12 + count * (isSingle ? 0 : isFirst ? 4 : 8));
         ByteWriter data;
         for (std::size_t i = first; i < first + count; ++i) {
-            if (hasDurations) {
+            if (!isFirst && !isSingle) {
                 fragment.u32(all[i].duration);
             }
-            fragment.u32(all[i].size);
+            if (!isSingle) {
+                fragment.u32(all[i].size);
+            }
             data.bytes(contentsOf(i, all[i].size));
         }
         for (int open = 3; open > 0; --open) {
             fragment.end();
         }
-        file.bytes(fragment.data());
-        file.u32(data.size() + 8);
-        file.u32(mp4Type("mdat"));
-        file.bytes(data.data());
+        fragment.u32(data.size() + 8);
+        fragment.u32(mp4Type("mdat"));
+        file = std::move(file) + fragment.data() + data.data();
     }
-    return file.release();
+    return file;
 }
 
 bool isFragmented(const FileDescriptor& file) {
@@ -344,35 +320,30 @@ bool isFragmented(const FileDescriptor& file) {
     return movie && movie->isFragmented;
 }
 
-TEST(Mp4Test, fragmentsAreReadAndMadeOneOrdinaryFile) {
-    const auto all = samples(75);
+TEST(Mp4Test, FragmentsAreReadAndMadeOneOrdinaryFile) {
+    const auto all = samples(71);
     const Bytes whole = fragmented(all, 300);
     const auto rest = std::span(all).first(70);
     // Cut off in the last fragment's data or header; zeros that were never written; half of a new header behind.
-    Bytes cut(whole.begin(), whole.end() - 1);
-    Bytes zeros = whole;
-    zeros.resize(zeros.size() + 5000);
-    Bytes half = whole;
+    const auto boxIn = [](const Bytes& file, std::string_view name) {
+        return std::find_end(file.begin(), file.end(), name.begin(), name.end()) - 4;
+    };
     const Bytes other = ordinary(all, 300);
-    const std::string_view movie = "moov";
-    half.insert(half.end(), std::search(other.begin(), other.end(), movie.begin(), movie.end()) - 4, other.end() - 9);
-    const std::string_view fragment = "moof";
-    const auto header = std::find_end(whole.begin(), whole.end(), fragment.begin(), fragment.end());
     const std::pair<Bytes, std::span<const Mp4Sample>> files[] = {
-        {whole, all}, {cut, rest}, {Bytes(whole.begin(), header + 9), rest}, {zeros, all}, {half, all}};
+        {whole, all},
+        {Bytes(whole.begin(), whole.end() - 1), rest},
+        {Bytes(whole.begin(), boxIn(whole, "moof") + 13), rest},
+        {whole + Bytes(5000), all},
+        {whole + Bytes(boxIn(other, "moov"), other.end() - 9), all}};
     for (const auto& [bytes, packets] : files) {
         SCOPED_TRACE(bytes.size());
         const FileDescriptor file = memoryFile(bytes);
-        const double seconds = static_cast<double>(durationOf(packets) - 300) / kRate;
         expectPackets(file, packets, 300);
-        EXPECT_EQ(headerDuration(file.get()), seconds);
         EXPECT_FALSE(Mp4PacketReader::open(file.get()));
         ASSERT_TRUE(finalizeMp4(file.get()));
         EXPECT_FALSE(isFragmented(file));
         expectPackets(file, packets, 300);
-        EXPECT_EQ(headerDuration(file.get()), seconds);
         EXPECT_TRUE(Mp4PacketReader::open(file.get()));
-        EXPECT_EQ(Mp4Movie::read(file.get())->readUserData(file.get()), kUserData);
         // Once more changes nothing.
         const Bytes finished = contents(file);
         EXPECT_TRUE(finalizeMp4(file.get()));
@@ -380,12 +351,13 @@ TEST(Mp4Test, fragmentsAreReadAndMadeOneOrdinaryFile) {
     }
 }
 
-TEST(Mp4Test, makingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
-    const auto all = samples(75);
+TEST(Mp4Test, MakingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
+    const auto all = samples(25);
+    const Bytes before = fragmented(all);
     bool isDone = false;
     for (int failing = 0; !isDone; ++failing) {
         SCOPED_TRACE(failing);
-        const FileDescriptor file = memoryFile(fragmented(all));
+        const FileDescriptor file = memoryFile(before);
         int calls = 0;
         const auto result = finalizeMp4(file.get(), [&](int fd, const void* data, std::size_t size, off_t offset) {
             errno = ENOSPC;
@@ -394,6 +366,7 @@ TEST(Mp4Test, makingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
         EXPECT_EQ(result.has_value(), failing >= calls);
         EXPECT_TRUE(result || result.error().text == "The disk is full.");
         EXPECT_EQ(isFragmented(file), !result);
+        EXPECT_TRUE(failing > 1 || contents(file) == before);
         expectPackets(file, all);
         EXPECT_TRUE(finalizeMp4(file.get()));
         EXPECT_FALSE(isFragmented(file));
@@ -403,28 +376,22 @@ TEST(Mp4Test, makingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
     }
 }
 
-TEST(Mp4Test, recordingsBeyondFourGigabytesAreMadeOrdinary) {
+TEST(Mp4Test, RecordingsBeyondFourGigabytesAreMadeOrdinary) {
     const auto all = samples(40);
     const Bytes bytes = fragmented(all);
-    // A hole of 5 GiB, as a box to be skipped, between the first fragment and the others.
+    // A hole of 5 GiB, as a box to be skipped, before the last fragment.
     const std::string_view name = "moof";
-    const auto second = std::search(std::search(bytes.begin(), bytes.end(), name.begin(), name.end()) + 4, bytes.end(),
-                                    name.begin(), name.end()) -
-                        4;
-    const std::int64_t hole = std::int64_t{5} << 30;
-    const Bytes skipped = {0, 0, 0, 1, 'f', 'r', 'e', 'e', 0, 0, 0, 1, 0x40, 0, 0, 0};
-    Bytes start(bytes.begin(), second);
-    start.insert(start.end(), skipped.begin(), skipped.end());
-    const Bytes rest(second, bytes.end());
-    const FileDescriptor file = memoryFile(start);
-    const std::int64_t behind = second - bytes.begin() + hole;
+    const auto last = std::find_end(bytes.begin(), bytes.end(), name.begin(), name.end()) - 4;
+    const FileDescriptor file = memoryFile(Bytes(bytes.begin(), last) + "\0\0\0\1free\0\0\0\1\x40\0\0\0"_bytes);
+    const Bytes rest(last, bytes.end());
+    const std::int64_t behind = last - bytes.begin() + (std::int64_t{5} << 30);
     ASSERT_EQ(writeFully(systemPwrite(), file.get(), rest.data(), rest.size(), behind).error, 0);
     ASSERT_TRUE(finalizeMp4(file.get()));
     EXPECT_FALSE(isFragmented(file));
     expectPackets(file, all);
 }
 
-TEST(Mp4Test, fragmentsThatMakeNoSenseAreLeftAsTheyAre) {
+TEST(Mp4Test, FragmentsThatMakeNoSenseAreLeftAsTheyAre) {
     const Bytes whole = fragmented(samples(30));
     const std::pair<const char*, Bytes> files[] = {
         {"no MP4 file", Bytes(100)},
