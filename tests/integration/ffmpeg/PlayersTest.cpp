@@ -1,6 +1,5 @@
 #include <cstdlib>
 
-#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "files/PathText.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 
@@ -36,16 +35,11 @@ protected:
     static constexpr int kFrames = 12001;
 
     std::filesystem::path cut(const std::filesystem::path& source, AssetFileType type) {
-        const std::filesystem::path path = folder() / "cut";
+        const auto path = folder() / "cut";
         std::filesystem::remove(path);
-        auto session = m_assets.exportSession(m_assets.assetWithURL(source), AssetExportPreset::Passthrough);
-        EXPECT_TRUE(session);
-        (*session)->setOutputURL(path);
-        (*session)->setOutputFileType(type);
-        (*session)->setTimeRange({{100, 8000}, {kFrames - 2000, 8000}});
-        (*session)->exportAsynchronously([] {});
-        (*session)->waitUntilFinished();
-        EXPECT_EQ((*session)->status(), AssetExportStatus::Completed);
+        const auto session = this->session(source, path, type);
+        session->setTimeRange({{100, 8000}, {kFrames - 2000, 8000}});
+        EXPECT_EQ(run(*session), AssetExportStatus::Completed);
         return path;
     }
 
@@ -96,8 +90,6 @@ protected:
                        players.lost);
         }
     }
-
-    FfmpegAssets m_assets;
 };
 
 TEST_F(PlayersTest, OthersPlayAllThatIsRecordedCutAndLeftByAKilledProgram) {

@@ -12,6 +12,7 @@
 #include <numbers>
 #include <vector>
 
+#include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "files/FileDescriptor.h"
@@ -49,6 +50,26 @@ struct Quality {
 };
 
 inline constexpr std::array<Quality, 3> kQualities{{{8000, 1, 0}, {16000, 2, 64}, {44100, 2, 127}}};
+
+inline std::vector<std::pair<Type, Quality>> allKinds() {
+    std::vector<std::pair<Type, Quality>> all;
+    for (const Type& type : kTypes) {
+        for (const Quality& quality : kQualities) {
+            all.emplace_back(type, quality);
+        }
+    }
+    return all;
+}
+
+/// The largest difference between a stretch of a and all of b, as far as both go.
+template <class T>
+double difference(const std::vector<T>& a, std::size_t from, const std::vector<T>& b, std::size_t bFrom) {
+    double largest = 0;
+    for (std::size_t i = 0; bFrom + i < b.size() && from + i < a.size(); ++i) {
+        largest = std::max(largest, std::abs(static_cast<double>(a[from + i]) - static_cast<double>(b[bFrom + i])));
+    }
+    return std::is_integral_v<T> ? largest / 32768 : largest;
+}
 
 /// How many frames a file has to which so many are written: a WAV file gets an even number of bytes.
 inline std::int64_t storedFrames(const Type& type, const Quality& quality, std::int64_t frames) {
@@ -155,10 +176,28 @@ protected:
         return target;
     }
 
+    std::unique_ptr<AssetExportSession> session(const std::filesystem::path& from, const std::filesystem::path& to,
+                                                AssetFileType type,
+                                                AssetExportPreset preset = AssetExportPreset::Passthrough) {
+        auto session = m_assets.exportSession(m_assets.assetWithURL(from), preset);
+        if (session) {
+            (*session)->setOutputURL(to);
+            (*session)->setOutputFileType(type);
+        }
+        return session ? std::move(*session) : nullptr;
+    }
+
+    static AssetExportStatus run(AssetExportSession& session) {
+        session.exportAsynchronously([] {});
+        session.waitUntilFinished();
+        return session.status();
+    }
+
     static constexpr AudioInputFormat kStereo{48000, 2};
 
     QTemporaryDir m_folder;
     FfmpegAudioDuration m_durations;
+    FfmpegAssets m_assets;
 };
 
 }  // namespace tavi::test

@@ -6,37 +6,24 @@ namespace tavi::test {
 
 namespace {
 
-struct Input {
-    const char* name;
-    AudioInputFormat format;
-    bool leftOnly;
-};
-
-constexpr std::array<Input, 3> kInputs{
-    {{"stereo", {48000, 2}, false}, {"left", {48000, 2}, true}, {"mono", {44100, 1}, false}}};
-
-class RecordingTest : public RecordingFixture {};
+using RecordingTest = RecordingFixture;
 
 TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
-    std::vector<std::pair<Type, Quality>> all = {
-        {{"wav", kAudioFormatLinearPCM, "pcm_s16le", "wav", 1, 0, 0.1, 16}, {11025, 1, 127}}};
-    for (const Type& type : kTypes) {
-        for (const Quality& quality : kQualities) {
-            all.emplace_back(type, quality);
-        }
-    }
+    auto all = allKinds();
+    all.push_back({{"wav", kAudioFormatLinearPCM, "pcm_s16le", "wav", 1, 0, 0.1, 16}, {11025, 1, 127}});
     for (const auto& [type, quality] : all) {
-        for (const Input& input : kInputs) {
-            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << input.name);
-            const auto frames = static_cast<std::size_t>(input.format.sampleRate * 33 / 10 + 17);
-            const auto path = record(type, quality, tone(input.format, frames, input.leftOnly), input.format);
+        for (const auto& [input, leftOnly] : {std::pair(kStereo, false), {kStereo, true}, {{44100, 1}, false}}) {
+            SCOPED_TRACE(testing::Message()
+                         << type.extension << " " << quality.rate << " " << input.channels << leftOnly);
+            const auto frames = static_cast<std::size_t>(input.sampleRate * 33 / 10 + 17);
+            const auto path = record(type, quality, tone(input, frames, leftOnly), input);
             const auto sound = decodeSound(path);
             ASSERT_TRUE(sound);
             EXPECT_EQ(sound->codec, type.codec);
             EXPECT_EQ(sound->container, type.container);
             EXPECT_EQ(sound->rate, quality.rate);
             EXPECT_EQ(sound->channels, quality.channels);
-            const double written = static_cast<double>(frames) * quality.rate / input.format.sampleRate;
+            const double written = static_cast<double>(frames) * quality.rate / input.sampleRate;
             const double decoded = static_cast<double>(sound->frames()) - type.priming;
             EXPECT_GT(decoded, written - 1);
             EXPECT_LT(decoded, written + type.packet + 1);
@@ -45,10 +32,14 @@ TEST_F(RecordingTest, EveryTypeAndQualityKeepsLengthPitchLevelAndSides) {
             const double told = isExact ? stored : static_cast<double>(sound->frames());
             EXPECT_NEAR(m_durations.durationOfFile(path) * quality.rate, told, 0.01);
 
-            const double level = -9.03 - (input.leftOnly && sound->channels == 1 ? 6.02 : 0);
+            // What fills the last packet is silent.
+            const auto heard = static_cast<std::size_t>(std::ceil(written));
+            EXPECT_TRUE(type.packet != 64 || levelOf(std::span(sound->planes[0]).subspan(heard + 16)) < -30);
+
+            const double level = -9.03 - (leftOnly && sound->channels == 1 ? 6.02 : 0);
             EXPECT_NEAR(levelOf(middleOf(sound->planes[0])), level, type.decibels);
             EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 1000, 1);
-            if (sound->channels == 2 && input.leftOnly) {
+            if (sound->channels == 2 && leftOnly) {
                 EXPECT_LT(levelOf(middleOf(sound->planes[1])), -60);
             } else if (sound->channels == 2) {
                 EXPECT_NEAR(levelOf(middleOf(sound->planes[1])), level, type.decibels);
@@ -95,8 +86,8 @@ TEST_F(RecordingTest, ContainerFollowsTheFormatWhateverTheExtensionAndBadSamples
     std::vector<float> samples = tone(kStereo, 48000);
     samples[300] = NAN;
     samples[3001] = INFINITY;
-    const auto sound =
-        decodeSound(record({"xyz", kAudioFormatMPEG4AAC, "aac", "", 1024, 0, 0.5}, kQualities[2], samples));
+    const Type odd{"xyz", kAudioFormatMPEG4AAC, "aac", "", 1024, 0, 0.5};
+    const auto sound = decodeSound(record(odd, kQualities[2], samples));
     ASSERT_TRUE(sound);
     EXPECT_EQ(sound->container, kTypes[3].container);
     EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 1000, 1);
