@@ -10,10 +10,7 @@ namespace tavi::test {
 namespace {
 
 template <class Converters>
-class AudioConverterContract : public ::testing::Test {
-protected:
-    Converters m_converters;
-};
+class AudioConverterContract : public ::testing::Test {};
 
 using Both = ::testing::Types<FakeAudioConverters, FfmpegAudioConverters>;
 TYPED_TEST_SUITE(AudioConverterContract, Both);
@@ -22,7 +19,7 @@ TYPED_TEST(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
     const auto input = clientFormat(44100, 2, true);
     const auto output = clientFormat(44100, 2);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(this->m_converters.create(input, output, converter), kAudioNoError);
+    ASSERT_EQ(TypeParam().create(input, output, converter), kAudioNoError);
     // Blocks of 7 frames, whatever is asked for; 70 frames in all.
     ClientBuffers block(input, 7);
     float next = 0;
@@ -54,7 +51,7 @@ TYPED_TEST(AudioConverterContract, TakesInputAsItComesAndEndsWithIt) {
 TYPED_TEST(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
     const auto format = clientFormat(44100, 1);
     std::unique_ptr<AudioConverter> converter;
-    ASSERT_EQ(this->m_converters.create(format, format, converter), kAudioNoError);
+    ASSERT_EQ(TypeParam().create(format, format, converter), kAudioNoError);
     ClientBuffers buffers(format, 10);
     std::uint32_t packets = 10;
     EXPECT_EQ(converter->fillComplexBuffer([](auto&, auto&) { return kAudioFilePermissionsError; }, packets,
@@ -64,7 +61,7 @@ TYPED_TEST(AudioConverterContract, PassesAFailureOnAndRefusesWhatIsNotLinear) {
 
     AudioStreamBasicDescription compressed;
     compressed.formatID = kAudioFormatMPEG4AAC;
-    EXPECT_EQ(this->m_converters.create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
+    EXPECT_EQ(TypeParam().create(compressed, format, converter), kAudioFileUnsupportedDataFormatError);
     EXPECT_FALSE(converter);
 }
 
@@ -72,19 +69,20 @@ TEST(FfmpegAudioConvertersTest, SamplesOfEverySizeKeepTheirLevel) {
     FfmpegAudioConverters converters;
     const auto floats = clientFormat(8000, 1);
     const std::vector<float> values = {0, 0.25F, -0.5F, -1, 1.5F, -7};
-    const std::vector<float> clipped = {0, 0.25F, -0.5F, -1, 1, -1};
+    // No more is taken than the input's buffer holds, whatever is asked for.
+    const std::vector<float> clipped = {0, 0.25F, -0.5F, -1, 1, -1, 0, 0.25F, -0.5F};
     for (const std::uint32_t bits : {8U, 16U, 24U, 32U}) {
         auto format = clientFormat(8000, 1, true, false);
         format.bitsPerChannel = bits;
         format.bytesPerFrame = format.bytesPerPacket = bits / 8;
         ClientBuffers input(floats, 6);
-        ClientBuffers stored(format, 6);
-        ClientBuffers result(floats, 6);
+        ClientBuffers stored(format, 9);
+        ClientBuffers result(floats, 9);
         std::memcpy(input.list().buffers[0].data, values.data(), 24);
         const auto convert = [&](auto& from, ClientBuffers& source, auto& to, ClientBuffers& target) {
             std::unique_ptr<AudioConverter> converter;
             ASSERT_EQ(converters.create(from, to, converter), kAudioNoError);
-            std::uint32_t packets = 6;
+            std::uint32_t packets = 9;
             const auto procedure = [&](auto&, auto& data) { return data = &source.list(), kAudioNoError; };
             ASSERT_EQ(converter->fillComplexBuffer(procedure, packets, target.list(), nullptr), kAudioNoError);
         };
@@ -101,18 +99,22 @@ TEST(FfmpegAudioConvertersTest, CodecsTellTheirPackets) {
     AudioStreamBasicDescription unknown = clientFormat(8000, 1);
     unknown.formatID = fourCharacterCode("none");
     EXPECT_EQ(converters.formatInfo(unknown), kAudioFileUnsupportedDataFormatError);
-    const auto packet = [&](std::uint32_t codec, double rate, std::uint32_t frames = 0) {
-        AudioStreamBasicDescription format;
-        format.formatID = codec;
-        format.sampleRate = rate;
-        format.channelsPerFrame = 1;
-        format.framesPerPacket = frames;
-        EXPECT_EQ(converters.formatInfo(format), kAudioNoError);
-        return std::pair(format.framesPerPacket, format.bytesPerPacket);
+    struct Codec {
+        std::uint32_t id;
+        double rate;
+        std::uint32_t asked;
+        std::pair<std::uint32_t, std::uint32_t> packet;
     };
-    EXPECT_EQ(packet(kAudioFormatMPEG4AAC, 44100), std::pair(1024U, 0U));
-    EXPECT_EQ(packet(kAudioFormatiLBC, 8000), std::pair(240U, 50U));
-    EXPECT_EQ(packet(kAudioFormatiLBC, 8000, 160), std::pair(160U, 38U));
+    for (const auto& [id, rate, asked, packet] : {Codec{kAudioFormatMPEG4AAC, 44100, 0, {1024, 0}},
+                                                  {kAudioFormatiLBC, 8000, 0, {240, 50}},
+                                                  {kAudioFormatiLBC, 8000, 160, {160, 38}},
+                                                  {kAudioFormatAppleIMA4, 44100, 0, {64, 34}}}) {
+        AudioStreamBasicDescription format = clientFormat(rate, 1);
+        format.formatID = id;
+        format.framesPerPacket = asked;
+        EXPECT_EQ(converters.formatInfo(format), kAudioNoError);
+        EXPECT_EQ(std::pair(format.framesPerPacket, format.bytesPerPacket), packet);
+    }
 }
 
 }  // namespace

@@ -13,13 +13,15 @@ namespace {
 
 constexpr int kRate = 8000;
 
+using Planes = std::vector<std::vector<float>>;
+
 struct FakeFilesWorld {
-    std::string add(const char* name, const std::vector<std::vector<float>>& planes) {
+    std::string add(const Planes& planes) {
         auto sound = std::make_shared<FakeSound>();
         sound->rate = kRate;
         sound->planes = planes;
-        files.sounds[name] = sound;
-        return name;
+        files.sounds["sound"] = sound;
+        return "sound";
     }
 
     FakeExtAudioFiles files;
@@ -27,17 +29,17 @@ struct FakeFilesWorld {
 
 /// WAV files of 32-bit floats, which hold samples as they are.
 struct FfmpegFilesWorld {
-    std::string add(const char* name, const std::vector<std::vector<float>>& planes) {
+    std::string add(const Planes& planes) {
         QByteArray data;
         for (std::size_t i = 0; !planes.empty() && i < planes.front().size(); ++i) {
             for (const auto& plane : planes) {
                 data.append(reinterpret_cast<const char*>(&plane[i]), sizeof(float));
             }
         }
-        QFile file(folder.filePath(QString::fromLatin1(name)));
+        QFile file(folder.filePath(QStringLiteral("sound")));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(planes.empty() ? "text" : wavFile(static_cast<int>(planes.size()), kRate, 32, data));
-        return QFile::encodeName(file.fileName()).toStdString();
+        return file.fileName().toStdString();
     }
 
     QTemporaryDir folder;
@@ -49,18 +51,16 @@ class ExtAudioFileContract : public ::testing::Test {
 protected:
     static constexpr std::size_t kFrames = 5003;
 
-    static std::vector<std::vector<float>> planes(std::size_t channels) {
-        std::vector<std::vector<float>> result(channels);
-        for (std::size_t channel = 0; channel < channels; ++channel) {
-            for (std::size_t i = 0; i < kFrames; ++i) {
-                result[channel].push_back(0.5F * std::sin(0.01F * static_cast<float>((channel + 1) * i)));
-            }
+    static Planes planes(std::size_t channels) {
+        Planes result(channels);
+        for (std::size_t i = 0; i < channels * kFrames; ++i) {
+            result[i % channels].push_back(0.5F * std::sin(0.01F * static_cast<float>(i * (i % channels + 1))));
         }
         return result;
     }
     std::unique_ptr<ExtAudioFile> opened(std::size_t channels) {
         std::unique_ptr<ExtAudioFile> file;
-        EXPECT_EQ(m_world.files.open(m_world.add("sound", planes(channels)), file), kAudioNoError);
+        EXPECT_EQ(m_world.files.open(m_world.add(planes(channels)), file), kAudioNoError);
         return file;
     }
     static std::int64_t position(const ExtAudioFile& file) {
@@ -75,22 +75,13 @@ protected:
 using Worlds = ::testing::Types<FakeFilesWorld, FfmpegFilesWorld>;
 TYPED_TEST_SUITE(ExtAudioFileContract, Worlds);
 
-TYPED_TEST(ExtAudioFileContract, TellsWhyAFileCannotBeOpened) {
-    auto file = this->opened(1);
-    EXPECT_EQ(this->m_world.files.open("missing", file), kAudioFileFileNotFoundError);
-    EXPECT_FALSE(file);
-    EXPECT_EQ(this->m_world.files.open(this->m_world.add("text", {}), file), kAudioFileUnsupportedFileTypeError);
-}
-
 TYPED_TEST(ExtAudioFileContract, ReadsEverythingOnceAndThenNothing) {
-    const auto file = this->opened(2);
+    auto file = this->opened(2);
     AudioStreamBasicDescription format;
     std::int64_t length = 0;
     file->fileDataFormat(format);
     file->fileLengthFrames(length);
-    EXPECT_EQ(format.sampleRate, kRate);
-    EXPECT_EQ(format.channelsPerFrame, 2U);
-    EXPECT_EQ(length, static_cast<std::int64_t>(this->kFrames));
+    EXPECT_EQ(std::tuple(format.sampleRate, format.channelsPerFrame, length), std::tuple(kRate, 2, this->kFrames));
 
     auto client = clientFormat(kRate, 2);
     ClientBuffers buffers(client, 1000);
@@ -101,10 +92,13 @@ TYPED_TEST(ExtAudioFileContract, ReadsEverythingOnceAndThenNothing) {
     EXPECT_EQ(readPlanes(*file, client), this->planes(2));
     count = 1000;
     EXPECT_EQ(file->read(count, buffers.list()), kAudioNoError);
-    EXPECT_EQ(count, 0U);
-    EXPECT_EQ(buffers.list().buffers[1].dataByteSize, 0U);
+    EXPECT_EQ(count + buffers.list().buffers[1].dataByteSize, 0U);
     client.formatID = kAudioFormatMPEG4AAC;
     EXPECT_EQ(file->setClientDataFormat(client), kAudioFileUnsupportedDataFormatError);
+
+    EXPECT_EQ(this->m_world.files.open("missing", file), kAudioFileFileNotFoundError);
+    EXPECT_FALSE(file);
+    EXPECT_EQ(this->m_world.files.open(this->m_world.add({}), file), kAudioFileUnsupportedFileTypeError);
 }
 
 TYPED_TEST(ExtAudioFileContract, SeeksToAFrameAtAnyRateAndNoFurtherThanTheEnd) {
