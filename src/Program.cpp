@@ -127,8 +127,7 @@ struct Screens {
                         .settings = platform.settings.store,
                         .notices = platform.notices,
                         .runLoop = platform.runLoop,
-                        .waveforms = waveforms,
-                        .refreshes = platform.refreshes}};
+                        .waveforms = waveforms}};
     WaveformLoader trimmerWaveforms{waveformServices};
     AudioTrimmerStage trimmers{
         {.exports = platform.media,
@@ -146,7 +145,8 @@ struct Screens {
                          .lister = lister,
                          .shapes = shapes,
                          .remoteControl = platform.remoteControl,
-                         .trimmers = trimmers},
+                         .trimmers = trimmers,
+                         .notices = platform.notices},
                         player};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,

@@ -4,6 +4,7 @@
 #include "library/RecordingLister.h"
 #include "library/RecordingShapes.h"
 #include "platform/AppContainer.h"
+#include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
 #include "trimming/AudioTrimmerStage.h"
@@ -19,6 +20,7 @@ struct LibraryServices {
     RecordingShapes& shapes;
     RemoteControl& remoteControl;
     AudioTrimmerStage& trimmers;
+    Notices& notices;
 };
 
 }  // namespace tavi

@@ -3,7 +3,6 @@
 #include <QCryptographicHash>
 #include <QPointer>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -28,12 +27,7 @@ const auto kAccent = QStringLiteral("#c8252c");
 
 }  // namespace
 
-PlayerPanel::PlayerPanel(const Services& services, QObject* parent)
-    : QObject(parent), m_services(services), m_audioPlot(EZAudioPlot::init(services.refreshes)) {
-    m_audioPlot->setShouldOptimizeForRealtimePlot(false);
-    m_audioPlot->setShouldFill(true);
-    m_audioPlot->setShouldMirror(true);
-    m_audioPlot->setColor(kAccent);
+PlayerPanel::PlayerPanel(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     m_lblSongMinTime.text = kNoTime;
     m_lblSongMaxTime.text = kNoTime;
     m_btnPlay.image = m_btnplaypuas.image = kPlayImage;
@@ -96,23 +90,29 @@ void PlayerPanel::initAudioWithUrl(const std::filesystem::path& path) {
 }
 
 void PlayerPanel::showWaveform() {
-    // As many points as a waveform has: the line of few ends before the plot does.
-    constexpr quint32 kFlat = 1024;
-    constexpr float kNearlyFull = 0.95F;
-    constexpr std::array<float, kFlat> kSilence{};
-    m_audioPlot->updateBuffer(kSilence.data(), kFlat);
+    setWaveform({});
     if (!m_avPlayer) {
         m_services.waveforms.cancel();
         return;
     }
     m_services.waveforms.load(m_urlPath, [self = QPointer(this)](const std::vector<float>& points) {
-        if (self && !points.empty()) {
-            // Voices are far below full scale; the loudest place nearly fills the slider.
-            const float loudest = *std::max_element(points.begin(), points.end());
-            self->m_audioPlot->setGain(loudest > 0.0F ? kNearlyFull / loudest : 1.0F);
-            self->m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
+        if (self) {
+            self->setWaveform(points);
         }
     });
+}
+
+void PlayerPanel::setWaveform(const std::vector<float>& points) {
+    const float gain = fittingGain(points);
+    m_waveform.clear();
+    for (const float point : points) {
+        m_waveform.append(static_cast<qreal>(std::min(point * gain, 1.0F)));
+    }
+    Q_EMIT waveformChanged();
+}
+
+QString PlayerPanel::timeText(double seconds) const {
+    return playerrules::timeText(std::clamp(seconds, 0.0, m_slider_player.maximumValue));
 }
 
 void PlayerPanel::playOrPause(bool wasSelected) {
@@ -143,6 +143,7 @@ void PlayerPanel::drop() {
     m_urlPath.clear();
     Q_EMIT urlPathChanged();
     m_services.waveforms.cancel();
+    setWaveform({});
     m_services.remoteControl.endReceivingRemoteControlEvents();
     announceProgress();
     changed();

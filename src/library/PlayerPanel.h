@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <filesystem>
 #include <memory>
@@ -25,7 +26,8 @@ class PlayerPanel : public QObject, private AudioPlayerDelegate {
     Q_PROPERTY(tavi::ButtonOutlet btnMedium READ btnMedium NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnFastPlay READ btnFastPlay NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet speakerButton READ speakerButton NOTIFY outletsChanged)
-    Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
+    Q_PROPERTY(QList<qreal> waveform READ waveform NOTIFY waveformChanged)
+    Q_PROPERTY(double rate READ rate NOTIFY outletsChanged)
     Q_PROPERTY(bool hasPlayer READ hasPlayer NOTIFY outletsChanged)
     Q_PROPERTY(bool isPlayerPlaying READ isPlayerPlaying NOTIFY outletsChanged)
     Q_PROPERTY(bool ishandset READ ishandset NOTIFY outletsChanged)
@@ -47,8 +49,10 @@ public:
     ButtonOutlet btnMedium() const { return m_btnMedium; }
     ButtonOutlet btnFastPlay() const { return m_btnFastPlay; }
     ButtonOutlet speakerButton() const { return m_speakerButton; }
-    /// The waveform of what is loaded, which appears when it is there.
-    EZAudioPlot* audioPlot() const { return m_audioPlot.get(); }
+    /// How loud what is loaded is from place to place, from 0 to 1; empty until it is known.
+    const QList<qreal>& waveform() const { return m_waveform; }
+    /// How fast it plays, whether or not a speed button is chosen.
+    double rate() const { return m_avPlayer ? static_cast<double>(m_avPlayer->rate()) : 1.0; }
     /// False also where a file was loaded that cannot be played.
     bool hasPlayer() const { return m_avPlayer != nullptr; }
     bool isPlayerPlaying() const { return m_avPlayer != nullptr && m_avPlayer->isPlaying(); }
@@ -92,6 +96,8 @@ public Q_SLOTS:
     void playerSpeaker();
     /// The session has taken the sound away from the earpiece.
     void earpieceWasLeft();
+    /// A moment as the elapsed time shows it.
+    QString timeText(double seconds) const;
     /// Whether the current route's name says headphones or headset; false when it cannot be read.
     bool isHeadsetPluggedIn() const;
 
@@ -100,6 +106,7 @@ Q_SIGNALS:
     /// The slider has moved by as much as can be seen.
     void progressChanged();
     void timesChanged();
+    void waveformChanged();
     /// A file has been loaded, or let go of.
     void urlPathChanged();
     /// The recording has come to its end.
@@ -115,12 +122,13 @@ private:
     void toggleSpeed(ButtonOutlet& button, float rate);
     void applyRate(float rate);
     void showWaveform();
+    void setWaveform(const std::vector<float>& points);
     void runTick();
     void changed();
 
     Services m_services;
     std::unique_ptr<AudioPlayer> m_avPlayer;
-    std::unique_ptr<EZAudioPlot> m_audioPlot;
+    QList<qreal> m_waveform;
     std::filesystem::path m_urlPath;
     int m_updateTimers = 0;
     std::shared_ptr<Timer> m_tick;

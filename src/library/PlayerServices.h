@@ -6,7 +6,6 @@
 #include "platform/Notices.h"
 #include "platform/RemoteControl.h"
 #include "platform/RunLoop.h"
-#include "trimming/waves/EZAudioPlot.h"
 #include "trimming/waves/WaveformLoader.h"
 
 namespace tavi {
@@ -20,7 +19,6 @@ struct PlayerServices {
     Notices& notices;
     RunLoop& runLoop;
     WaveformLoader& waveforms;
-    DisplayRefreshes& refreshes;
 };
 
 }  // namespace tavi

@@ -3,11 +3,13 @@
 #include <QDebug>
 #include <QPointer>
 #include <algorithm>
+#include <utility>
 
 #include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/RecordingOrder.h"
 #include "library/utility/Notifications.h"
+#include "trimming/AudioTrimmerViewController.h"
 
 namespace tavi {
 
@@ -84,6 +86,9 @@ void VoiceMemoVC::setSearchText(const QString& text) {
 
 void VoiceMemoVC::reloadTable() {
     m_tableView.setEntries(m_arrRecordings);
+    if (const int row = m_newName.empty() ? -1 : rowOf(m_newName); row != std::exchange(m_newRow, row)) {
+        Q_EMIT selectionChanged();
+    }
 }
 
 void VoiceMemoVC::setDefaultSortingButton() {
@@ -144,12 +149,19 @@ void VoiceMemoVC::follow(const std::filesystem::path& name) {
     if (name.empty() || expandedName() == name) {
         return;
     }
+    m_selectedIndex = rowOf(name);
+    m_selectRow = m_selectedIndex >= 0 ? m_selectedIndex : kNoRow;
+    Q_EMIT selectionChanged();
+}
+
+int VoiceMemoVC::rowOf(const std::filesystem::path& name) const {
     const auto found = std::find_if(m_arrRecordings.begin(), m_arrRecordings.end(),
                                     [&name](const RecordingEntry& entry) { return entry.nativeName() == name; });
-    const bool isThere = found != m_arrRecordings.end();
-    m_selectedIndex = isThere ? static_cast<int>(found - m_arrRecordings.begin()) : -1;
-    m_selectRow = isThere ? m_selectedIndex : kNoRow;
-    Q_EMIT selectionChanged();
+    return found != m_arrRecordings.end() ? static_cast<int>(found - m_arrRecordings.begin()) : -1;
+}
+
+int VoiceMemoVC::shownIndex(int row) const {
+    return m_filter.mapFromSource(m_tableView.index(row)).row();
 }
 
 void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
@@ -157,6 +169,8 @@ void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
         return;
     }
     m_section = QString::number(section);
+    m_newName.clear();
+    m_newRow = -1;
     viewAnimation();
     if (row != m_selectedIndex) {
         m_selectRow = row;
@@ -196,6 +210,11 @@ std::filesystem::path VoiceMemoVC::pathOf(bool inCloud, int row) const {
 
 QString VoiceMemoVC::playingName() const {
     return pathText(m_player.urlPath().filename());
+}
+
+QString VoiceMemoVC::playingDetail() const {
+    const int row = m_player.urlPath().empty() ? -1 : rowOf(m_player.urlPath().filename());
+    return m_tableView.index(row).data(RecordingListModel::DetailTextRole).toString();
 }
 
 /// Closes what is open in the player.
@@ -317,12 +336,34 @@ void VoiceMemoVC::handleUpdatedData() {
     viewWillAppear();
 }
 
-void VoiceMemoVC::notificationPosted(const QString& name) {
+void VoiceMemoVC::notificationPosted(const QString& name, const QVariant& object) {
     if (name == kDataUpdatedNotification) {
         handleUpdatedData();
+        if (const auto* trimmer = qobject_cast<AudioTrimmerViewController*>(object.value<QObject*>())) {
+            showTrimmed(trimmer->strTrimmedAudioURL());
+        }
     } else if (name == kOutputReturnedNotification) {
         m_player.earpieceWasLeft();
     }
+}
+
+void VoiceMemoVC::showTrimmed(const std::filesystem::path& path) {
+    // A trimmer tells of its file more than once.
+    const int row = path.empty() || path.filename() == m_announcedName ? -1 : rowOf(path.filename());
+    if (row < 0) {
+        return;
+    }
+    m_newName = m_announcedName = path.filename();
+    m_newRow = row;
+    setSearchText({});
+    Q_EMIT selectionChanged();
+    Q_EMIT rowRevealed(row);
+    m_services.notices.postNotice({qtTrId("library_trimmed").arg(pathText(m_newName)), qtTrId("library_play"),
+                                   [self = QPointer(this), name = m_newName] {
+                                       if (const int made = self ? self->rowOf(name) : -1; made >= 0) {
+                                           self->didSelectRowAtIndexPath(0, made);
+                                       }
+                                   }});
 }
 
 }  // namespace tavi

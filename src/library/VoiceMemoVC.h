@@ -29,6 +29,8 @@ class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_PROPERTY(int selectRow READ selectRow NOTIFY selectionChanged)
     Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY selectionChanged)
     Q_PROPERTY(QString playingName READ playingName NOTIFY selectionChanged)
+    Q_PROPERTY(QString playingDetail READ playingDetail NOTIFY selectionChanged)
+    Q_PROPERTY(int newRow READ newRow NOTIFY selectionChanged)
     Q_PROPERTY(bool isPanelShown READ isPanelShown NOTIFY selectionChanged)
 
 public:
@@ -64,6 +66,10 @@ public:
     bool isPlaying() const { return m_isPlaying; }
     /// Name of the file in the player, to show.
     QString playingName() const;
+    /// Row of the recording that has just been made here, until another one is chosen; -1 for none.
+    int newRow() const { return m_newRow; }
+    /// What is known of that file, as its row says it; empty where it is in no row.
+    QString playingDetail() const;
     bool isPanelShown() const { return m_isPanelShown; }
     /// The local recordings in the order shown, and those of the cloud's folder.
     const std::vector<RecordingEntry>& arrRecordings() const { return m_arrRecordings; }
@@ -95,6 +101,8 @@ public Q_SLOTS:
     void spacePressed(int row);
     /// Opens the trimmer with a row's recording; what plays is stopped. The list hears of a new file by "DataUpdated".
     void trimRow(int row);
+    /// Where the search shows a row of the table; -1 where it does not.
+    int shownIndex(int row) const;
     void stopAudio();
     void playerClose();
     /// Slides the player's panel in and out.
@@ -113,12 +121,14 @@ public:
 Q_SIGNALS:
     void outletsChanged();
     void selectionChanged();
+    /// A row is to come into view.
+    void rowRevealed(int row);
     /// The desktop asks for the window, or for the program's end.
     void raiseRequested();
     void quitRequested();
 
 private Q_SLOTS:
-    void notificationPosted(const QString& name);
+    void notificationPosted(const QString& name, const QVariant& object);
     void audioPlayerDidFinishPlaying();
 
 private:
@@ -134,6 +144,8 @@ private:
     std::filesystem::path expandedName() const;
     void follow(const std::filesystem::path& name);
     void reloadTable();
+    int rowOf(const std::filesystem::path& name) const;
+    void showTrimmed(const std::filesystem::path& path);
 
     Services m_services;
     QString m_title;
@@ -150,6 +162,10 @@ private:
     QString m_section;
     int m_selectedIndex = -1;
     int m_selectRow = kNoRow;
+    int m_newRow = -1;
+    std::filesystem::path m_newName;
+    /// The trimmed recording that a notice has told of last.
+    std::filesystem::path m_announcedName;
     bool m_isPlaying = false;
     bool m_isPanelShown = false;
 };

@@ -1,6 +1,7 @@
 #include "trimming/AudioTrimmerViewController.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <utility>
 
 #include "files/FileNames.h"
@@ -126,9 +127,20 @@ void AudioTrimmerViewController::didLoadWaveform(const std::vector<float>& point
     m_isLoading = false;
     m_waveform = points;
     if (!points.empty()) {
+        m_audioPlot->setGain(fittingGain(points));
         m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
     }
+    Q_EMIT waveformChanged();
     Q_EMIT outletsChanged();
+}
+
+QList<qreal> AudioTrimmerViewController::waveform() const {
+    const float gain = fittingGain(m_waveform);
+    QList<qreal> levels;
+    for (const float point : m_waveform) {
+        levels.append(static_cast<qreal>(std::min(point * gain, 1.0F)));
+    }
+    return levels;
 }
 
 void AudioTrimmerViewController::resetAudioPlayer() {

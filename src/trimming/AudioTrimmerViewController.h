@@ -9,6 +9,7 @@
 #include "trimming/TrimExport.h"
 #include "trimming/TrimPlayer.h"
 #include "trimming/TrimSelection.h"
+#include "trimming/TrimZoom.h"
 #include "trimming/TrimmerInput.h"
 
 namespace tavi {
@@ -20,6 +21,8 @@ class AudioTrimmerViewController : public QObject {
     Q_OBJECT
     Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
     Q_PROPERTY(tavi::TrimSelection* selection READ selection CONSTANT)
+    Q_PROPERTY(tavi::TrimZoom* zoom READ zoom CONSTANT)
+    Q_PROPERTY(QList<qreal> waveform READ waveform NOTIFY waveformChanged)
     Q_PROPERTY(tavi::TrimPlayer* player READ player CONSTANT)
     Q_PROPERTY(tavi::TrimExport* exporter READ exporter CONSTANT)
     Q_PROPERTY(QString fileText READ fileText CONSTANT)
@@ -52,6 +55,9 @@ public:
 
     EZAudioPlot* audioPlot() { return m_audioPlot.get(); }
     TrimSelection* selection() { return &m_selection; }
+    TrimZoom* zoom() { return &m_zoom; }
+    /// How loud the recording is from place to place, from 0 to 1; empty until it is known.
+    QList<qreal> waveform() const;
     TrimPlayer* player() { return &m_player; }
     TrimExport* exporter() { return &m_export; }
     QString fileText() const;
@@ -90,6 +96,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void outletsChanged();
+    void waveformChanged();
     /// The screen is to leave; comes again with every further closing.
     void dismissed();
     void busyChanged();
@@ -113,6 +120,7 @@ private:
     Input m_input;
     std::unique_ptr<EZAudioPlot> m_audioPlot;
     TrimSelection m_selection;
+    TrimZoom m_zoom{m_selection};
     TrimPlayer m_player;
     TrimExport m_export;
     ScratchRecorder m_recorder;

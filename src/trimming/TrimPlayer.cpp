@@ -16,7 +16,14 @@ constexpr double kDisplayInterval = 0.1;
 
 TrimPlayer::TrimPlayer(const Services& services, std::filesystem::path path, const TrimSelection& selection,
                        QObject* parent)
-    : QObject(parent), m_services(services), m_path(std::move(path)), m_selection(selection) {}
+    : QObject(parent), m_services(services), m_path(std::move(path)), m_selection(selection) {
+    // A container that becomes wider takes the play head along.
+    connect(&m_selection, &TrimSelection::thumbsChanged, this, [this] {
+        if (!m_isIndicatorHidden) {
+            showIndicator();
+        }
+    });
+}
 
 TrimPlayer::~TrimPlayer() {
     stopAudioTimerToDisplay();
@@ -85,15 +92,26 @@ void TrimPlayer::stopAudioTimerToDisplay() {
     }
 }
 
+void TrimPlayer::moveTo(double x) {
+    if (m_isPlaying && m_selection.audioDuration() > 0.0) {
+        m_audioPlayer->setCurrentTime(x * m_selection.audioDuration() / m_selection.containerWidth());
+        displayTimerFired();
+    }
+}
+
 void TrimPlayer::displayTimerFired() {
+    showIndicator();
+    if (m_audioPlayer->currentTime() >= m_selection.times().end) {
+        stopAudioPlayer();
+    }
+}
+
+void TrimPlayer::showIndicator() {
     const double time = m_audioPlayer->currentTime();
     // What has no length known has no place to show.
     m_isIndicatorHidden = !(m_selection.audioDuration() > 0.0);
     m_indicatorX = m_isIndicatorHidden ? 0.0 : m_selection.containerWidth() * time / m_selection.audioDuration();
     Q_EMIT indicatorChanged();
-    if (time >= m_selection.times().end) {
-        stopAudioPlayer();
-    }
 }
 
 void TrimPlayer::pauseAudioPlayer() {

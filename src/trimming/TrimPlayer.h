@@ -42,6 +42,8 @@ public:
     bool prepareToPlayAudio();
     /// Plays from the start of the stretch, or pauses.
     void playOrPause();
+    /// While it plays, goes on from that place of the plot's container.
+    Q_INVOKABLE void moveTo(double x);
     void pauseAudioPlayer();
     void stopAudioPlayer();
     /// Stops and lets go of the file.
@@ -59,6 +61,7 @@ private:
     void startAudioTimerToDisplay();
     void stopAudioTimerToDisplay();
     void displayTimerFired();
+    void showIndicator();
     void leavePlaying();
 
     Services m_services;

@@ -1,5 +1,6 @@
 #include "trimming/TrimRules.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 
@@ -64,6 +65,17 @@ QString timeFormatted(double seconds, bool isWithMinutes) {
     const QString text =
         twoDigits(milliseconds / kMillisecondsPerSecond % kSecondsPerMinute) + QLatin1Char('.') + twoDigits(hundredths);
     return isWithMinutes ? twoDigits(milliseconds / kMillisecondsPerMinute) + QLatin1Char(':') + text : text;
+}
+
+QString rangeText(const TrimTimes& times) {
+    const auto exact = [](double seconds) {
+        constexpr quint64 kHundredthsPerMinute = 6000;
+        constexpr double kHundredths = 100.0;
+        const auto all = static_cast<quint64>(std::clamp(seconds * kHundredths, 0.0, 1e17));
+        return QString::number(all / kHundredthsPerMinute) + QLatin1Char(':') +
+               twoDigits(all % kHundredthsPerMinute / 100) + QLatin1Char('.') + twoDigits(all % 100);
+    };
+    return qtTrId("trimmer_range").arg(exact(times.start), exact(times.end), QString::number(times.length(), 'f', 1));
 }
 
 std::string pathExtension(const std::filesystem::path& name) {

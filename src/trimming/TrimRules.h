@@ -52,6 +52,9 @@ double firstStep(TrimThumb thumb, const TrimTimes& times, double translation, do
 /// and hundredths are the first two digits of the milliseconds, so that 5 ms and 50 ms read 05 and 50.
 QString timeFormatted(double seconds, bool isWithMinutes);
 
+/// The whole truth of a stretch, such as "1:15.50 – 2:03.20 · 47.7 s".
+QString rangeText(const TrimTimes& times);
+
 /// What follows the last point of a file's name; empty where there is none, or nothing before it.
 std::string pathExtension(const std::filesystem::path& name);
 

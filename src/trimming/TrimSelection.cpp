@@ -24,9 +24,12 @@ void TrimSelection::setContainerWidth(double width) {
     }
     const double scale = width / m_containerWidth;
     m_containerWidth = width;
-    m_thumbs = {m_thumbs.left * scale, m_thumbs.right * scale};
+    for (TrimThumbs* places : {&m_thumbs, &m_labelled}) {
+        *places = {places->left * scale, places->right * scale};
+    }
     Q_EMIT thumbsChanged();
-    calculateAudioTrimTime();
+    // The times are what they were, without another rounding; their labels move.
+    Q_EMIT timesChanged();
 }
 
 void TrimSelection::putThumbsAtTheEnds() {

@@ -35,6 +35,7 @@ class TrimSelection : public QObject {
     /// The two times with minutes, as they are spoken.
     Q_PROPERTY(QString spokenStart READ spokenStart NOTIFY timesChanged)
     Q_PROPERTY(QString spokenEnd READ spokenEnd NOTIFY timesChanged)
+    Q_PROPERTY(QString rangeText READ rangeText NOTIFY timesChanged)
 
 public:
     explicit TrimSelection(QObject* parent = nullptr) : QObject(parent) {}
@@ -62,6 +63,8 @@ public:
     static double labelWidth() { return kLabelWidth; }
     QString spokenStart() const { return trimrules::timeFormatted(m_times.start, true); }
     QString spokenEnd() const { return trimrules::timeFormatted(m_times.end, true); }
+
+    QString rangeText() const { return trimrules::rangeText(m_times); }
 
     /// Reads the stretch from the thumbs.
     void calculateAudioTrimTime();

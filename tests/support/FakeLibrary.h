@@ -17,15 +17,15 @@ struct FakeLibrary {
                   .settings = fakes.settings,
                   .notices = notices,
                   .runLoop = fakes.runLoop,
-                  .waveforms = waveforms,
-                  .refreshes = fakes.refreshes}),
+                  .waveforms = waveforms}),
           vc({.settings = fakes.settings,
               .container = fakes.container,
               .notifications = fakes.notifications,
               .lister = lister,
               .shapes = shapes,
               .remoteControl = fakes.remote,
-              .trimmers = fakes.trimmers},
+              .trimmers = fakes.trimmers,
+              .notices = notices},
              player) {}
 
     RecordingLister lister;

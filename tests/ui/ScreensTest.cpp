@@ -208,9 +208,10 @@ INSTANTIATE_TEST_SUITE_P(All, Screens, ::testing::ValuesIn(kStates),
 TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
     FakeServices fakes;
     FakePresenter presenter;
+    FakeNotices notices;
     fakes.settings.setCloudSyncOn(true);
     AudioTrim screen(
-        {fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter, fakes.runLoop},
+        {fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter, notices, fakes.runLoop},
         addTalk(fakes), QStringLiteral("1"));
     screen.viewDidLoad();
     UserWindow shown;

@@ -2,19 +2,24 @@ import QtQuick
 import Tavi.Library
 import Tavi.Ui
 
-/// The library tab: the recordings, and the buttons that sort them.
+/// The library tab: the recordings, and the player below or beside them.
 FocusScope {
     id: root
 
     required property VoiceMemoVC screen
-
-    /// Room for list and player side by side.
-    readonly property bool wide: root.Window.width >= Theme.wideWidth
+    /// Room for list and player beside each other: large windows, and phones that lie on their side.
+    readonly property bool beside: root.Window.width >= Theme.wideWidth
+                                   || root.Window.height < 480 && root.Window.width > root.Window.height
+    /// Too low for list and player at once, which then is one line until it is unfolded.
+    readonly property bool low: !beside && root.Window.height < 640
+    property bool unfolded: false
     readonly property PlayerPanel player: screen.player
 
-    function find() {
-        search.forceActiveFocus(Qt.ShortcutFocusReason)
-        search.selectAll()
+    /// The keyboard goes to the list, where it never gets lost.
+    function leavePlayer(isByKey) {
+        if (view.activeFocus || mini.activeFocus)
+            list.forceActiveFocus(Qt.OtherFocusReason)
+        list.isByKey = isByKey
     }
 
     Keys.onPressed: event => {
@@ -22,8 +27,6 @@ FocusScope {
         event.accepted = true
         if (event.key === Qt.Key_Space && !event.isAutoRepeat && (loaded || list.currentItem))
             root.screen.spacePressed(list.currentItem ? list.currentItem.row : -1)
-        else if (event.key === Qt.Key_T && list.activeFocus && list.currentItem)
-            root.screen.trimRow(list.currentItem.row)
         else if (event.key === Qt.Key_J && loaded)
             root.player.backSkip()
         else if (event.key === Qt.Key_L && loaded)
@@ -37,173 +40,67 @@ FocusScope {
         else
             event.accepted = false
     }
+    onActiveFocusChanged: if (!activeFocus) list.isByKey = false
 
     Shortcut {
         sequence: "Ctrl+F"
         enabled: root.visible && root.activeFocus
-        onActivated: root.find()
+        onActivated: chrome.find()
+    }
+
+    Connections {
+        target: root.screen
+
+        function onSelectionChanged() {
+            if (!root.screen.isPanelShown) {
+                root.leavePlayer(view.activeFocus || mini.activeFocus ? false : list.isByKey)
+                root.unfolded = false
+            }
+        }
     }
 
     Item {
         id: page
 
-        width: root.wide ? Math.round(root.width * 0.48) : parent.width
-        height: parent.height - (root.wide ? 0 : panel.shownHeight)
+        width: root.beside ? Math.min(Math.max(360, Math.min(Math.round(root.Window.width * 0.34), 480)), Math.round(root.width * 0.52))
+                           : parent.width
+        height: parent.height - (root.beside ? 0 : panel.shownHeight)
         clip: true
 
-        TitleBar {
-            id: bar
-
-            width: parent.width
-            text: root.screen.title
-        }
-
-        IconButton {
-            anchors.right: parent.right
-            anchors.rightMargin: 8
-            y: 4
-            objectName: "speakerButton"
-            imageName: root.player.speakerButton.image
-            tint: root.player.speakerButton.tintColor || Theme.label
-            name: root.player.ishandset ? qsTrId("a11y_to_speaker") : qsTrId("a11y_to_earpiece")
-            onClicked: root.player.playerSpeaker()
-        }
-
-        SearchField {
-            id: search
-
-            x: Theme.margin
-            y: bar.height
-            width: Math.min(parent.width - 2 * x, 560)
-            objectName: "search"
-            placeholderText: qsTrId("library_search")
-            visible: list.count > 0 || text !== ""
-            onTextChanged: root.screen.searchText = text
-            onLeave: list.forceActiveFocus(Qt.OtherFocusReason)
-        }
-
-        Row {
-            id: sorting
-
-            x: Theme.margin - 8
-            y: search.y + (search.visible ? search.height : 0)
-            width: Math.min(parent.width - 2 * x, 480)
-            height: 48
-
-            TButton {
-                width: parent.width / 3
-                height: 46
-                objectName: "btnSortName"
-                text: root.screen.btnSortName.title
-                tint: root.screen.btnSortName.tintColor || Theme.label
-                imageName: root.screen.btnSortName.image
-                enabled: root.screen.btnSortName.enabled
-                Accessible.description: qsTrId("a11y_sort")
-                onClicked: root.screen.sortByName(this)
-            }
-
-            TButton {
-                width: parent.width / 3
-                height: 46
-                objectName: "btnSortDate"
-                text: root.screen.btnSortDate.title
-                tint: root.screen.btnSortDate.tintColor || Theme.label
-                imageName: root.screen.btnSortDate.image
-                enabled: root.screen.btnSortDate.enabled
-                Accessible.description: qsTrId("a11y_sort")
-                onClicked: root.screen.sortByDate(this)
-            }
-
-            TButton {
-                width: parent.width / 3
-                height: 46
-                objectName: "btnSortSize"
-                text: root.screen.btnSortSize.title
-                tint: root.screen.btnSortSize.tintColor || Theme.label
-                imageName: root.screen.btnSortSize.image
-                enabled: root.screen.btnSortSize.enabled
-                Accessible.description: qsTrId("a11y_sort")
-                onClicked: root.screen.sortBySize(this)
-            }
-        }
-
-        SectionHeader {
-            id: section
-
-            y: sorting.y + sorting.height
-            width: parent.width
-            text: root.screen.headerText
-        }
-
-        ListView {
+        RecordingList {
             id: list
 
-            objectName: "tableView"
-            y: section.y + section.height
-            width: parent.width
-            height: parent.height - y
-            clip: true
-            focus: true
-            activeFocusOnTab: true
-            reuseItems: true
-            boundsBehavior: Flickable.StopAtBounds
-            // The mark of the current row jumps: nothing here moves by itself.
-            highlightMoveDuration: 0
-            highlightResizeDuration: 0
-            keyNavigationEnabled: true
-            model: root.screen.tableView
-            footer: SectionHeader {
-                width: list.width
-                height: visible ? implicitHeight : 0
-                visible: text !== ""
-                text: root.screen.cloudHeaderText
-            }
-            delegate: RecordingRow {
-                screen: root.screen
-            }
-            // What has just been opened stays in sight as the player comes in.
-            onHeightChanged: if (root.screen.isPanelShown) positionViewAtIndex(currentIndex, ListView.Contain)
-            Keys.onReturnPressed: if (currentItem) root.screen.didSelectRowAtIndexPath(0, currentItem.row)
-            Keys.onEnterPressed: if (currentItem) root.screen.didSelectRowAtIndexPath(0, currentItem.row)
-            Accessible.role: Accessible.List
-            Accessible.name: root.screen.headerText
+            anchors.fill: parent
+            screen: root.screen
+            chromeHeight: chrome.implicitHeight
+            stayingHeight: chrome.implicitHeight + chrome.y
         }
 
         ScrollMark {
             flickable: list
+            covered: chrome.y + chrome.height
         }
 
-        Column {
-            anchors.centerIn: list
-            width: Math.min(list.width - 4 * Theme.margin, 360)
+        LibraryChrome {
+            id: chrome
+
+            // The title scrolls away; what follows stays.
+            y: finding ? 0 : -Math.max(0, Math.min(list.scrolled, titleHeight))
+            width: parent.width
+            height: implicitHeight
+            screen: root.screen
+            isEmpty: list.count === 0
+            onLeave: list.forceActiveFocus(Qt.OtherFocusReason)
+        }
+
+        EmptyState {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: Math.max(chrome.height + 8, (parent.height + chrome.height - height) / 2)
+            width: Math.min(parent.width - 4 * Theme.margin, 360)
             visible: list.count === 0
-            spacing: 12
-
-            Icon {
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: 64
-                height: 64
-                name: "voicememo.png"
-                color: "#4a4a4c"
-            }
-
-            Label {
-                width: parent.width
-                text: search.text ? qsTrId("library_search_none") : qsTrId("library_empty_title")
-                color: Theme.lightGrey
-                font.pixelSize: 18
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-            }
-
-            Label {
-                width: parent.width
-                visible: search.text === ""
-                text: qsTrId("library_empty")
-                lineHeight: 1.15
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-            }
+            imageName: root.screen.searchText ? "search.png" : "voicememo.png"
+            title: root.screen.searchText ? qsTrId("library_search_none") : qsTrId("library_empty_title")
+            hint: root.screen.searchText ? "" : qsTrId("library_empty")
         }
     }
 
@@ -211,24 +108,24 @@ FocusScope {
         x: page.width
         width: 1
         height: parent.height
-        visible: root.wide
-        color: Theme.hairline
+        visible: root.beside
+        color: Theme.line
     }
 
-    Rectangle {
+    Item {
         id: panel
 
         /// How far it has slid in.
         property real shown: root.screen.isPanelShown ? 1 : 0
         /// How much of the list it covers.
-        readonly property real shownHeight: root.wide ? 0 : Math.round(height * shown)
+        readonly property real shownHeight: root.beside ? 0 : Math.round(height * shown)
 
-        x: root.wide ? page.width + 1 : 0
-        y: root.wide ? 0 : parent.height - shownHeight
+        x: root.beside ? page.width + 1 : 0
+        y: root.beside ? 0 : parent.height - shownHeight
         width: parent.width - x
-        height: root.wide ? parent.height : view.implicitHeight
-        color: root.wide ? Theme.ground : Theme.panel
-        visible: root.wide || shownHeight > 0
+        height: root.beside ? parent.height : mini.visible ? mini.implicitHeight : view.implicitHeight
+        visible: root.beside || shownHeight > 0
+        clip: !root.beside
 
         Behavior on shown {
             SequentialAnimation {
@@ -243,45 +140,49 @@ FocusScope {
             }
         }
 
+        Rectangle {
+            width: parent.width
+            height: parent.height + radius
+            visible: !root.beside
+            radius: mini.visible ? 0 : 16
+            color: Theme.panel
+        }
+
         PlayerView {
             id: view
 
             anchors.fill: parent
             screen: root.screen
-            tall: root.wide
-            visible: root.screen.isPanelShown || !root.wide
+            beside: root.beside
+            foldable: root.low
+            visible: !mini.visible && (root.screen.isPanelShown || !root.beside)
             enabled: root.screen.isPanelShown
+            onFolded: {
+                root.unfolded = false
+                mini.forceActiveFocus(Qt.OtherFocusReason)
+            }
         }
 
-        Column {
+        MiniPlayer {
+            id: mini
+
+            anchors.fill: parent
+            screen: root.screen
+            visible: root.low && !root.unfolded
+            enabled: root.screen.isPanelShown
+            onUnfolded: {
+                root.unfolded = true
+                view.forceActiveFocus(Qt.OtherFocusReason)
+            }
+        }
+
+        EmptyState {
             anchors.centerIn: parent
             width: Math.min(parent.width - 4 * Theme.margin, 320)
-            visible: root.wide && !root.screen.isPanelShown
-            spacing: 12
-
-            Icon {
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: 64
-                height: 64
-                name: "play_player.png"
-                color: "#3a3a3c"
-            }
-
-            Label {
-                width: parent.width
-                text: qsTrId("player_nothing")
-                color: Theme.lightGrey
-                font.pixelSize: 18
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-            }
-
-            Label {
-                width: parent.width
-                text: qsTrId("player_nothing_hint")
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
-            }
+            visible: root.beside && !root.screen.isPanelShown
+            imageName: "play_player.png"
+            title: qsTrId("player_nothing")
+            hint: qsTrId("player_nothing_hint")
         }
     }
 }

@@ -8,9 +8,17 @@ FocusScope {
 
     required property VoiceMemoVC screen
     readonly property PlayerPanel player: screen.player
-    readonly property string title: screen.playingName
-    /// With room to spare, as beside the list.
-    property bool tall: false
+    /// Beside the list rather than below it.
+    property bool beside: false
+    /// It can be made small again.
+    property bool foldable: false
+    /// Beside the list in a large window.
+    readonly property bool spacious: beside && Window.height >= 480
+    /// All controls in one row.
+    readonly property bool oneRow: beside && column.width >= 560
+    readonly property string detail: screen.playingDetail
+
+    signal folded()
 
     implicitHeight: column.implicitHeight + 12
 
@@ -18,24 +26,38 @@ FocusScope {
         id: column
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: root.tall ? Math.max(24, (root.height - column.implicitHeight) / 2) : 6
-        width: Math.min(parent.width - 2 * Theme.margin, 560)
-        spacing: root.tall ? 16 : 2
+        y: root.beside ? Math.max(0, (root.height - implicitHeight) / 2) : 4
+        width: Math.min(parent.width - 2 * (root.spacious && parent.width > 560 ? 40 : Theme.margin), root.beside ? 960 : 560)
+        spacing: 0
 
         Item {
             width: parent.width
-            height: Theme.touch
+            height: root.spacious ? 68 : Theme.touch
 
             Label {
-                anchors.left: parent.left
-                anchors.right: close.left
-                height: parent.height
-                text: root.title
-                color: Theme.lightGrey
-                font.pixelSize: root.tall ? 18 : 15
+                width: (close.visible ? close.x : parent.width) - 4
+                height: root.spacious ? 32 : parent.height
+                text: root.screen.playingName
+                color: Theme.text
+                font.pixelSize: root.spacious ? 22 : 16
+                font.weight: root.spacious ? Font.Normal : Font.Medium
                 elide: Text.ElideMiddle
                 maximumLineCount: 1
+                horizontalAlignment: Text.AlignLeft
                 Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            Label {
+                y: 32
+                width: parent.width
+                height: 20
+                visible: root.spacious
+                text: root.detail
+                elide: Text.ElideLeft
+                maximumLineCount: 1
+                horizontalAlignment: Text.AlignLeft
+                Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
 
@@ -43,62 +65,89 @@ FocusScope {
                 id: close
 
                 anchors.right: parent.right
-                anchors.rightMargin: -10
+                anchors.rightMargin: -12
                 objectName: "playerClose"
+                visible: !root.beside && !root.foldable
                 imageName: "close.png"
-                imageSize: 20
-                tint: Theme.label
+                imageSize: 22
+                tint: Theme.light
                 name: qsTrId("a11y_close_player")
                 onClicked: root.screen.playerClose()
+            }
+
+            IconButton {
+                anchors.right: parent.right
+                anchors.rightMargin: -12
+                objectName: "fold"
+                visible: root.foldable
+                imageName: "chevron-up"
+                rotation: 180
+                imageSize: 24
+                tint: Theme.light
+                name: qsTrId("a11y_fold_player")
+                onClicked: root.folded()
             }
         }
 
         PositionSlider {
+            id: wave
+
             width: parent.width
-            height: root.tall ? 160 : 64
+            height: root.spacious ? Math.max(120, Math.min(Math.round(root.Window.height * 0.28), 260)) : 72
+            barWidth: root.spacious ? 3 : 2
             player: root.player
             visible: root.player.hasPlayer
         }
 
         Label {
             width: parent.width
-            height: root.tall ? 160 : 64
+            height: wave.height
             visible: !root.player.hasPlayer
             text: qsTrId("player_unplayable")
             color: Theme.warning
+            wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         Item {
             width: parent.width
-            height: 18
+            height: 24
 
             Label {
+                height: parent.height
                 objectName: "lblSongMinTime"
                 text: root.player.lblSongMinTime.text
+                color: Theme.text
                 font.pixelSize: 13
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
 
             Label {
                 anchors.right: parent.right
+                height: parent.height
                 objectName: "lblSongMaxTime"
                 text: root.player.lblSongMaxTime.text
                 font.pixelSize: 13
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
 
         Item {
             width: parent.width
-            height: 64
+            height: root.oneRow ? 88 : 136
 
             Row {
-                anchors.centerIn: parent
-                spacing: root.width < 380 ? 8 : 16
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: root.oneRow ? 20 : 4
+                spacing: 20
 
                 IconButton {
-                    anchors.verticalCenter: parent.verticalCenter
                     width: 64
-                    height: 60
+                    height: 64
                     objectName: "backSkip"
                     imageName: "skip_back.png"
                     caption: root.player.lblBackwardSec.text
@@ -108,12 +157,11 @@ FocusScope {
                 }
 
                 IconButton {
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: 60
-                    height: 60
+                    width: 64
+                    height: 64
                     objectName: "btnplaypuas"
                     imageName: root.player.btnplaypuas.image
-                    imageSize: 30
+                    imageSize: 32
                     fill: Theme.accent
                     name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
                     enabled: root.player.hasPlayer
@@ -122,9 +170,8 @@ FocusScope {
                 }
 
                 IconButton {
-                    anchors.verticalCenter: parent.verticalCenter
                     width: 64
-                    height: 60
+                    height: 64
                     objectName: "forwardSkip"
                     imageName: "skip_forward.png"
                     caption: root.player.lblForwardSec.text
@@ -133,49 +180,18 @@ FocusScope {
                     onClicked: root.player.forwardSkip()
                 }
             }
-        }
 
-        Row {
-            anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 8
+            SpeedControl {
+                id: speeds
 
-            SpeedButton {
-                objectName: "btnSlow"
-                text: "½×"
-                selected: root.player.btnSlow.selected
-                name: qsTrId("a11y_slow")
-                enabled: root.player.hasPlayer
-                onClicked: root.player.slowAudio(this)
+                y: root.oneRow ? 30 : 80
+                player: root.player
             }
 
-            SpeedButton {
-                objectName: "btnMedium"
-                text: "1×"
-                selected: root.player.btnMedium.selected
-                name: qsTrId("a11y_normal")
-                enabled: root.player.hasPlayer
-                onClicked: root.player.mediumAudio(this)
-            }
-
-            SpeedButton {
-                objectName: "btnFastPlay"
-                text: "2×"
-                selected: root.player.btnFastPlay.selected
-                name: qsTrId("a11y_fast")
-                enabled: root.player.hasPlayer
-                onClicked: root.player.fastAudio(this)
-            }
-
-            IconButton {
-                objectName: "stopAudio"
-                width: 64
-                imageName: "stop_Play.png"
-                imageSize: 24
-                radius: 10
-                fill: Theme.control
-                tint: Theme.lightGrey
-                name: qsTrId("a11y_stop_playing")
-                onClicked: root.screen.stopAudio()
+            StopButton {
+                anchors.right: parent.right
+                y: speeds.y
+                screen: root.screen
             }
         }
     }

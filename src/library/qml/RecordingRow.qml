@@ -1,22 +1,26 @@
 import QtQuick
 import Tavi.Library
 import Tavi.Ui
+import Tavi.Waves
 
-/// One recording: its name, and what is known of it; beside each other where there is room.
+/// One recording: the shape of its sound, its name, and what is known of it.
 Item {
     id: root
 
     required property int index
     required property string nameText
     required property string detailText
+    required property var shape
     /// The row of the table, which a search may show elsewhere.
     required property int row
     required property VoiceMemoVC screen
     readonly property bool expanded: screen.selectedIndex === row
-    readonly property bool wide: width >= 640
+    /// In the player, or made just now.
+    readonly property bool chosen: expanded || screen.newRow === row
+    readonly property bool narrow: width < 360
 
     width: ListView.view.width
-    height: wide ? 56 : 68
+    height: narrow ? 60 : 64
     // A row that waits to be used again is nowhere.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
@@ -24,91 +28,103 @@ Item {
     Accessible.name: nameText
     Accessible.description: expanded ? detailText + " | " + (screen.player.isPlayerPlaying ? qsTrId("a11y_row_playing") : qsTrId("a11y_row_paused"))
                                      : detailText
+    Accessible.selectable: true
+    Accessible.selected: chosen
     Accessible.onPressAction: screen.didSelectRowAtIndexPath(0, row)
 
     Rectangle {
         anchors.fill: parent
         anchors.bottomMargin: 1
-        readonly property bool marked: root.ListView.isCurrentItem && root.ListView.view.activeFocus
-
-        visible: marked || root.expanded || tap.pressed
-        color: tap.pressed ? Theme.control : Theme.header
-        border.color: Theme.focus
-        border.width: marked ? 2 : 0
-        radius: marked ? 8 : 0
+        visible: root.chosen || tap.pressed || hover.hovered
+        color: root.chosen ? Theme.panel : tap.pressed ? Theme.panel : Theme.hoveredRow
     }
 
     Rectangle {
         width: 3
         height: root.height - 1
-        visible: root.expanded
+        visible: root.chosen
         color: Theme.accent
+    }
+
+    HoverHandler {
+        id: hover
     }
 
     TapHandler {
         id: tap
 
         onTapped: {
-            root.ListView.view.currentIndex = root.index
-            root.ListView.view.forceActiveFocus(Qt.MouseFocusReason)
-            root.screen.didSelectRowAtIndexPath(0, root.row)
+            root.ListView.view.take(root.index)
+            // The second tap of two means the same as the first.
+            if (tapCount === 1 || !root.expanded)
+                root.screen.didSelectRowAtIndexPath(0, root.row)
         }
     }
 
-    Icon {
-        id: icon
+    Rectangle {
+        id: tile
 
         x: Theme.margin
-        anchors.verticalCenter: parent.verticalCenter
-        width: 40
-        height: 40
-        name: "music.png"
-        color: root.screen.selectRow === root.row ? Theme.text : Theme.accent
+        y: 10
+        width: 44
+        height: 44
+        visible: !root.narrow
+        radius: 8
+        color: Theme.header
+
+        BarsItem {
+            anchors.centerIn: parent
+            width: 30
+            height: 28
+            barWidth: 2
+            gap: 2
+            levels: root.narrow ? [] : root.shape
+            color: root.chosen ? Theme.tint : Theme.faint
+        }
+    }
+
+    Label {
+        id: name
+
+        x: root.narrow ? Theme.margin : tile.x + tile.width + 12
+        y: root.narrow ? 8 : 10
+        width: trim.x - x
+        height: 23
+        text: root.nameText
+        font.pixelSize: 16
+        font.weight: Font.Medium
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        // As the rows are aligned, whatever the name's own direction.
+        horizontalAlignment: Text.AlignLeft
+    }
+
+    Label {
+        x: name.x
+        y: name.y + name.height
+        width: name.width
+        height: 19
+        text: root.detailText
+        font.pixelSize: 13
+        // The times stay, the size goes first.
+        elide: Text.ElideLeft
+        maximumLineCount: 1
+        horizontalAlignment: Text.AlignLeft
     }
 
     IconButton {
         id: trim
 
         anchors.right: parent.right
-        anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         objectName: "trim"
         imageName: "trim.png"
-        imageSize: 22
-        tint: Theme.label
+        imageSize: 20
+        tint: Theme.light
         name: qsTrId("a11y_trim").arg(root.nameText)
         // The list is one stop of the Tab key; T trims the current row.
         focusPolicy: Qt.NoFocus
         onClicked: root.screen.trimRow(root.row)
-    }
-
-    Label {
-        id: name
-
-        x: icon.x + icon.width + 12
-        y: root.wide ? 0 : 13
-        width: (root.wide ? detail.x - 24 : trim.x - 4) - x
-        height: root.wide ? root.height : 22
-        text: root.nameText
-        color: Theme.lightGrey
-        font.pixelSize: 15
-        elide: Text.ElideMiddle
-        maximumLineCount: 1
-        horizontalAlignment: Text.AlignLeft
-    }
-
-    Label {
-        id: detail
-
-        x: root.wide ? trim.x - width - 12 : name.x
-        y: root.wide ? 0 : 36
-        width: root.wide ? 300 : name.width
-        height: root.wide ? root.height : 18
-        text: root.detailText
-        font.pixelSize: 13
-        elide: Text.ElideRight
-        maximumLineCount: 1
-        horizontalAlignment: root.wide ? Text.AlignRight : Text.AlignLeft
     }
 
     Rectangle {
@@ -116,6 +132,16 @@ Item {
         y: root.height - 1
         width: root.width - x
         height: 1
-        color: Theme.hairline
+        color: Theme.line
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 1
+        visible: root.ListView.isCurrentItem && root.ListView.view.isFrameShown
+        color: "transparent"
+        border.color: Theme.focus
+        border.width: 2
+        radius: 8
     }
 }

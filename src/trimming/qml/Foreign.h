@@ -28,6 +28,13 @@ struct TrimSelectionForeign {
     QML_UNCREATABLE("Trimmers have one.")
 };
 
+struct TrimZoomForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::TrimZoom)
+    QML_NAMED_ELEMENT(TrimZoom)
+    QML_UNCREATABLE("Trimmers have one.")
+};
+
 struct TrimPlayerForeign {
     Q_GADGET
     QML_FOREIGN(tavi::TrimPlayer)

@@ -4,6 +4,13 @@
 
 namespace tavi {
 
+EZAudioPlotItem::EZAudioPlotItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    connect(this, &EZAudioPlotItem::viewChanged, this, [this] {
+        adoptSize();
+        update();
+    });
+}
+
 void EZAudioPlotItem::setPlot(EZAudioPlot* plot) {
     if (plot == m_plot) {
         return;
@@ -23,7 +30,11 @@ void EZAudioPlotItem::setPlot(EZAudioPlot* plot) {
 void EZAudioPlotItem::adoptSize() {
     // An empty size is a layout still in the making.
     if (m_plot && !size().isEmpty()) {
-        m_plot->setFrameSize(size());
+        const QSizeF whole(m_contentWidth > 0.0 ? m_contentWidth : width(), height());
+        // Each new size computes the path anew.
+        if (whole != m_plot->bounds().size()) {
+            m_plot->setFrameSize(whole);
+        }
     }
 }
 
@@ -36,7 +47,9 @@ void EZAudioPlotItem::geometryChange(const QRectF& newGeometry, const QRectF& ol
 
 void EZAudioPlotItem::paint(QPainter* painter) {
     if (m_plot) {
-        paintPlot(*painter, *m_plot);
+        painter->translate(-m_contentX, 0.0);
+        paintPlot(*painter, *m_plot, QRectF(m_contentX, 0.0, width(), height()),
+                  m_tint.alpha() > 0 ? m_tint : QColor());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QtQml/qqml.h>
 
+#include <QColor>
 #include <QPointer>
 #include <QQuickPaintedItem>
 
@@ -9,14 +10,20 @@
 
 namespace tavi {
 
-/// Paints an EZAudioPlot and tells it the size of its area. A path that comes with an animation appears at once.
+/// Paints an EZAudioPlot, or a stretch of it, and tells it the size of its area. A path that comes with an animation
+/// appears at once.
 class EZAudioPlotItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tavi::EZAudioPlot* plot READ plot WRITE setPlot NOTIFY plotChanged REQUIRED)
+    /// How wide the whole plot is, and which of its places is at the left edge; 0 wide is as wide as the item.
+    Q_PROPERTY(qreal contentWidth MEMBER m_contentWidth NOTIFY viewChanged)
+    Q_PROPERTY(qreal contentX MEMBER m_contentX NOTIFY viewChanged)
+    /// In the place of the plot's colour, where it is not transparent.
+    Q_PROPERTY(QColor tint MEMBER m_tint NOTIFY viewChanged)
 
 public:
-    explicit EZAudioPlotItem(QQuickItem* parent = nullptr) : QQuickPaintedItem(parent) {}
+    explicit EZAudioPlotItem(QQuickItem* parent = nullptr);
 
     EZAudioPlot* plot() const { return m_plot; }
     void setPlot(EZAudioPlot* plot);
@@ -24,6 +31,7 @@ public:
 
 Q_SIGNALS:
     void plotChanged();
+    void viewChanged();
 
 protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
@@ -32,6 +40,9 @@ private:
     void adoptSize();
 
     QPointer<EZAudioPlot> m_plot;
+    qreal m_contentWidth = 0.0;
+    qreal m_contentX = 0.0;
+    QColor m_tint = Qt::transparent;
 };
 
 /// Names the plot for QML, which is handed one and makes none.

@@ -100,10 +100,10 @@ void addArea(QPainterPath& area, QPolygonF line, double axis) {
 /// Paints a layer part by part. Lines run from left to right, and start and end on the axis.
 class LayerPainter {
 public:
-    explicit LayerPainter(const EZAudioPlotWaveformLayer& layer)
-        : m_layer(layer), m_stroke(layer.strokeColor.isEmpty() ? QColor(Qt::transparent) : QColor(layer.strokeColor)) {
+    LayerPainter(const EZAudioPlotWaveformLayer& layer, const QColor& tint)
+        : m_layer(layer), m_stroke(colorOf(layer.strokeColor, tint)), m_fill(colorOf(layer.fillColor, tint)) {
         // Of a stroke in the colour of the area only the outer half is seen, and the area can take it in.
-        const bool merges = layer.fillColor == layer.strokeColor && m_stroke.alpha() == 255;
+        const bool merges = m_fill == m_stroke && m_stroke.alpha() == 255;
         for (const Polyline& line : layer.path().polylines) {
             m_sides.push_back(merges ? sideOf(line, !m_sides.empty()) : Side::Both);
         }
@@ -123,13 +123,13 @@ public:
                 addArea(area, outerEdge(points, m_sides[i], 0.5 * m_layer.lineWidth), axis);
                 continue;
             }
-            if (!m_layer.fillColor.isEmpty()) {
+            if (m_fill.alpha() > 0) {
                 addArea(area, points, axis);
             }
             lines.push_back(std::move(points));
         }
         if (!area.isEmpty()) {
-            painter.fillPath(area, QColor(m_layer.fillColor));
+            painter.fillPath(area, m_fill);
         }
         if (m_stroke.alpha() > 0) {
             painter.setPen(QPen(m_stroke, m_layer.lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
@@ -145,24 +145,29 @@ public:
     }
 
 private:
+    static QColor colorOf(const QString& name, const QColor& tint) {
+        return name.isEmpty() ? QColor(Qt::transparent) : tint.isValid() ? tint : QColor(name);
+    }
+
     const EZAudioPlotWaveformLayer& m_layer;
     QColor m_stroke;
+    QColor m_fill;
     /// Where each line may be merged into the area; Both where it may not.
     std::vector<Side> m_sides;
 };
 
 }  // namespace
 
-void paintPlot(QPainter& painter, const EZAudioPlot& plot) {
+void paintPlot(QPainter& painter, const EZAudioPlot& plot, const QRectF& visible, const QColor& tint) {
     const EZAudioPlotWaveformLayer& layer = plot.waveformLayer();
-    const QRectF bounds = plot.bounds();
+    const QRectF bounds = visible.isNull() ? plot.bounds() : plot.bounds() & visible;
     if (!plot.backgroundColor().isEmpty()) {
         painter.fillRect(bounds, QColor(plot.backgroundColor()));
     }
     if (layer.path().isEmpty() || bounds.isEmpty()) {
         return;
     }
-    const LayerPainter layerPainter(layer);
+    const LayerPainter layerPainter(layer, tint);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform& transform = painter.deviceTransform();

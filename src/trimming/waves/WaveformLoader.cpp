@@ -62,6 +62,13 @@ private:
 
 }  // namespace
 
+float fittingGain(const std::vector<float>& points) {
+    constexpr float kNearlyFull = 0.92F;
+    constexpr float kMost = 8.0F;
+    const auto loudest = std::max_element(points.begin(), points.end());
+    return loudest == points.end() || !(*loudest > 0.0F) ? 1.0F : std::min(kMost, kNearlyFull / *loudest);
+}
+
 struct WaveformLoader::Job {
     explicit Job(ExtAudioFiles& openedBy) : files(openedBy) {}
 

@@ -11,6 +11,10 @@
 
 namespace tavi {
 
+/// The factor that lets the loudest of the points nearly reach the edge of a plot; at most 8, as the noise of a silent
+/// room is to look like that. The same for any part of them that is shown.
+float fittingGain(const std::vector<float>& points);
+
 /// Reduces sound files to points of loudness in the background, one at a time. Main thread only.
 ///
 /// The last few results are remembered for as long as their files stay as they are. A reduction that nobody waits for

@@ -4,12 +4,15 @@ import Tavi.Ui
 /// Shows beside a Flickable that there is more than fits, and where one is.
 Rectangle {
     required property Flickable flickable
+    /// How much of the Flickable's top is covered.
+    property real covered: 0
+    readonly property real room: flickable.height - covered
 
     visible: flickable.contentHeight > flickable.height
     x: flickable.x + flickable.width - width - 2
-    y: flickable.y + flickable.visibleArea.yPosition * flickable.height
+    y: flickable.y + covered + flickable.visibleArea.yPosition * room
     width: 3
-    height: Math.max(24, flickable.visibleArea.heightRatio * flickable.height)
+    height: Math.max(24, flickable.visibleArea.heightRatio * room)
     radius: 1.5
     color: "#5a5a5c"
 }

@@ -4,6 +4,7 @@ import Tavi.Ui
 /// The strip above a section of a table.
 Rectangle {
     property alias text: label.text
+    property alias textColor: label.color
 
     implicitHeight: 35
     color: Theme.header

@@ -359,7 +359,15 @@
     </message>
     <message id="a11y_sort">
         <source></source>
-        <translation>Sortiert die Aufnahmen; noch einmal kehrt die Reihenfolge um</translation>
+        <translation>Nach %1 sortieren</translation>
+    </message>
+    <message id="a11y_sort_ascending">
+        <source></source>
+        <translation>Nach %1 sortiert, aufsteigend</translation>
+    </message>
+    <message id="a11y_sort_descending">
+        <source></source>
+        <translation>Nach %1 sortiert, absteigend</translation>
     </message>
     <message id="library_search">
         <source></source>
@@ -368,6 +376,34 @@
     <message id="library_search_none">
         <source></source>
         <translation>Keine Aufnahme hat das in ihrem Namen</translation>
+    </message>
+    <message id="library_trimmed">
+        <source></source>
+        <translation>Gespeichert als %1</translation>
+    </message>
+    <message id="library_play">
+        <source></source>
+        <translation>Abspielen</translation>
+    </message>
+    <message id="player_times">
+        <source></source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message id="player_stop">
+        <source></source>
+        <translation>Stopp</translation>
+    </message>
+    <message id="a11y_speed">
+        <source></source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="a11y_fold_player">
+        <source></source>
+        <translation>Spieler verkleinern</translation>
+    </message>
+    <message id="a11y_unfold_player">
+        <source></source>
+        <translation>Ganzen Spieler zeigen</translation>
     </message>
     <message id="player_nothing">
         <source></source>
@@ -476,6 +512,10 @@
     <message id="trimmer_unreadable">
         <source></source>
         <translation>Diese Aufnahme kann nicht gelesen werden.</translation>
+    </message>
+    <message id="trimmer_range">
+        <source></source>
+        <translation>%1 – %2 · %3 s</translation>
     </message>
     <message id="trimmer_total">
         <source></source>

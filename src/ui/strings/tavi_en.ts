@@ -358,7 +358,15 @@
     </message>
     <message id="a11y_sort">
         <source></source>
-        <translation>Sorts the recordings; again turns the order round</translation>
+        <translation>Sort by %1</translation>
+    </message>
+    <message id="a11y_sort_ascending">
+        <source></source>
+        <translation>Sorted by %1, ascending</translation>
+    </message>
+    <message id="a11y_sort_descending">
+        <source></source>
+        <translation>Sorted by %1, descending</translation>
     </message>
     <message id="library_search">
         <source></source>
@@ -367,6 +375,34 @@
     <message id="library_search_none">
         <source></source>
         <translation>No recording has this in its name</translation>
+    </message>
+    <message id="library_trimmed">
+        <source></source>
+        <translation>Saved as %1</translation>
+    </message>
+    <message id="library_play">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="player_times">
+        <source></source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message id="player_stop">
+        <source></source>
+        <translation>Stop</translation>
+    </message>
+    <message id="a11y_speed">
+        <source></source>
+        <translation>Speed</translation>
+    </message>
+    <message id="a11y_fold_player">
+        <source></source>
+        <translation>Show a smaller player</translation>
+    </message>
+    <message id="a11y_unfold_player">
+        <source></source>
+        <translation>Show the whole player</translation>
     </message>
     <message id="player_nothing">
         <source></source>
@@ -475,6 +511,10 @@
     <message id="trimmer_unreadable">
         <source></source>
         <translation>This recording cannot be read.</translation>
+    </message>
+    <message id="trimmer_range">
+        <source></source>
+        <translation>%1 – %2 · %3 s</translation>
     </message>
     <message id="trimmer_total">
         <source></source>

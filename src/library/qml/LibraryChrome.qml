@@ -1,0 +1,122 @@
+import QtQuick
+import Tavi.Library
+import Tavi.Ui
+
+/// What stands above the recordings: the title, which a search takes the place of, the order, and the section's name.
+FocusScope {
+    id: root
+
+    required property VoiceMemoVC screen
+    required property bool isEmpty
+    readonly property PlayerPanel player: screen.player
+    readonly property int titleHeight: 44
+    /// The search has been unfolded, or still hides recordings.
+    readonly property bool finding: search.visible
+    readonly property alias searchText: search.text
+
+    signal leave()
+
+    function find() {
+        search.open = true
+        search.forceActiveFocus(Qt.ShortcutFocusReason)
+        search.selectAll()
+    }
+
+    implicitHeight: titleHeight + 44 + section.implicitHeight
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    Label {
+        x: Theme.margin
+        width: parent.width - x - 2 * Theme.touch
+        height: root.titleHeight
+        visible: !root.finding
+        text: root.screen.title
+        font.pixelSize: 22
+        font.weight: Font.Light
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    IconButton {
+        anchors.right: speaker.left
+        objectName: "find"
+        visible: !root.finding && !root.isEmpty
+        imageName: "search.png"
+        imageSize: 24
+        tint: Theme.light
+        name: qsTrId("library_search")
+        onClicked: root.find()
+    }
+
+    IconButton {
+        id: speaker
+
+        anchors.right: parent.right
+        objectName: "speakerButton"
+        imageName: root.player.speakerButton.image
+        imageSize: 24
+        tint: root.player.speakerButton.tintColor || Theme.light
+        name: root.player.ishandset ? qsTrId("a11y_to_speaker") : qsTrId("a11y_to_earpiece")
+        onClicked: root.player.playerSpeaker()
+    }
+
+    SearchField {
+        id: search
+
+        property bool open: false
+
+        x: 8
+        width: speaker.x - x
+        height: root.titleHeight
+        objectName: "search"
+        visible: open || root.screen.searchText !== ""
+        placeholderText: qsTrId("library_search")
+        text: root.screen.searchText
+        onTextEdited: root.screen.searchText = text
+        onActiveFocusChanged: if (!activeFocus && text === "") open = false
+        onLeave: root.leave()
+    }
+
+    Row {
+        x: 8
+        y: root.titleHeight
+
+        SortButton {
+            objectName: "btnSortName"
+            title: root.screen.btnSortName.title
+            image: root.screen.btnSortName.image
+            ascending: root.screen.btnSortName.selected
+            onClicked: root.screen.sortByName(this)
+        }
+
+        SortButton {
+            objectName: "btnSortDate"
+            title: root.screen.btnSortDate.title
+            image: root.screen.btnSortDate.image
+            ascending: root.screen.btnSortDate.selected
+            onClicked: root.screen.sortByDate(this)
+        }
+
+        SortButton {
+            objectName: "btnSortSize"
+            title: root.screen.btnSortSize.title
+            image: root.screen.btnSortSize.image
+            ascending: root.screen.btnSortSize.selected
+            onClicked: root.screen.sortBySize(this)
+        }
+    }
+
+    SectionHeader {
+        id: section
+
+        y: root.titleHeight + 44
+        width: parent.width
+        text: root.screen.headerText
+        textColor: Theme.light
+    }
+}

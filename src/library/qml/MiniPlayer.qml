@@ -1,0 +1,111 @@
+import QtQuick
+import Tavi.Library
+import Tavi.Ui
+
+/// The player in one line, for windows that are too low for all of it.
+FocusScope {
+    id: root
+
+    required property VoiceMemoVC screen
+    readonly property PlayerPanel player: screen.player
+
+    signal unfolded()
+
+    implicitHeight: 60
+
+    // Anywhere beside the buttons.
+    TapHandler {
+        onTapped: root.unfolded()
+    }
+
+    Rectangle {
+        width: parent.width
+        height: 3
+        color: Theme.track
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: qsTrId("a11y_position")
+
+        Rectangle {
+            width: Math.round(parent.width * root.player.slider_player.value / Math.max(root.player.slider_player.maximumValue, 0.001))
+            height: parent.height
+            color: Theme.accent
+        }
+    }
+
+    IconButton {
+        id: play
+
+        x: 8
+        y: 9
+        objectName: "btnplaypuas"
+        imageName: root.player.btnplaypuas.image
+        imageSize: 22
+        fill: Theme.accent
+        name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
+        enabled: root.player.hasPlayer
+        focus: true
+        onClicked: root.screen.playAudio(root.screen.selectedIndex, root.player.btnplaypuas.selected)
+    }
+
+    Label {
+        id: name
+
+        x: play.x + play.width + 8
+        y: 10
+        width: stop.x - x - 4
+        height: 22
+        text: root.screen.playingName
+        color: Theme.text
+        font.pixelSize: 15
+        font.weight: Font.Medium
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        horizontalAlignment: Text.AlignLeft
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Label {
+        readonly property string times: qsTrId("player_times").arg(root.player.lblSongMinTime.text).arg(root.player.lblSongMaxTime.text)
+
+        x: name.x
+        y: 32
+        width: name.width
+        height: 18
+        objectName: "times"
+        text: !root.player.hasPlayer ? qsTrId("player_unplayable")
+                                     : times + " · " + (root.player.rate === 0.5 ? "½" : root.player.rate) + "×"
+        color: root.player.hasPlayer ? Theme.label : Theme.warning
+        font.pixelSize: 13
+        elide: Text.ElideRight
+        maximumLineCount: 1
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    IconButton {
+        id: stop
+
+        anchors.right: unfold.left
+        y: 9
+        objectName: "stopAudio"
+        imageName: "stop_Play.png"
+        imageSize: 22
+        name: qsTrId("a11y_stop_playing")
+        onClicked: root.screen.stopAudio()
+    }
+
+    IconButton {
+        id: unfold
+
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        y: 9
+        objectName: "unfold"
+        imageName: "chevron-up"
+        imageSize: 24
+        tint: Theme.light
+        name: qsTrId("a11y_unfold_player")
+        onClicked: root.unfolded()
+    }
+}

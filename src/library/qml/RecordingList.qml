@@ -1,0 +1,96 @@
+import QtQuick
+import Tavi.Library
+import Tavi.Ui
+
+/// The recordings that a search leaves, below a chrome that the list leaves room for.
+ListView {
+    id: list
+
+    required property VoiceMemoVC screen
+    /// How much of the top is for the chrome, and how much of that always stays.
+    required property real chromeHeight
+    required property real stayingHeight
+    /// How far the list has been scrolled from its top.
+    readonly property real scrolled: contentY - originY
+    /// The last thing that chose a row was a key.
+    property bool isByKey: false
+    readonly property bool isFrameShown: activeFocus && isByKey
+
+    /// A tap has chosen a row.
+    function take(index) {
+        isByKey = false
+        currentIndex = index
+        forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    /// Goes by that many rows, as far as there are some.
+    function go(rows) {
+        currentIndex = Math.max(0, Math.min(currentIndex + rows, count - 1))
+    }
+
+    function play() {
+        if (currentItem)
+            screen.didSelectRowAtIndexPath(0, currentItem.row)
+    }
+
+    objectName: "tableView"
+    focus: true
+    activeFocusOnTab: true
+    reuseItems: true
+    boundsBehavior: Flickable.StopAtBounds
+    // The mark of the current row jumps: nothing here moves by itself.
+    highlightMoveDuration: 0
+    highlightResizeDuration: 0
+    highlightRangeMode: ListView.ApplyRange
+    preferredHighlightBegin: stayingHeight
+    preferredHighlightEnd: height
+    keyNavigationEnabled: true
+    model: screen.tableView
+    header: Item {
+        width: list.width
+        height: list.chromeHeight
+    }
+    footer: SectionHeader {
+        width: list.width
+        height: visible ? implicitHeight : 0
+        visible: text !== ""
+        text: list.screen.cloudHeaderText
+        textColor: Theme.light
+    }
+    delegate: RecordingRow {
+        screen: list.screen
+    }
+    onActiveFocusChanged: if (!activeFocus) isByKey = true
+    // What has just been opened stays in sight as the player comes in.
+    onHeightChanged: if (screen.isPanelShown) positionViewAtIndex(currentIndex, ListView.Contain)
+    Keys.onReturnPressed: play()
+    Keys.onEnterPressed: play()
+    Keys.onPressed: event => {
+        const page = Math.max(1, Math.floor((height - stayingHeight) / 64) - 1)
+        isByKey = true
+        event.accepted = true
+        if (event.key === Qt.Key_Home)
+            go(-count)
+        else if (event.key === Qt.Key_End)
+            go(count)
+        else if (event.key === Qt.Key_PageUp)
+            go(-page)
+        else if (event.key === Qt.Key_PageDown)
+            go(page)
+        else if (event.key === Qt.Key_T && currentItem)
+            screen.trimRow(currentItem.row)
+        else
+            event.accepted = false
+    }
+    Accessible.role: Accessible.List
+    Accessible.name: screen.headerText
+
+    Connections {
+        target: list.screen
+
+        function onRowRevealed(row) {
+            list.currentIndex = list.screen.shownIndex(row)
+            list.positionViewAtIndex(list.currentIndex, ListView.Center)
+        }
+    }
+}

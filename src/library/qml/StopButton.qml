@@ -1,0 +1,14 @@
+import QtQuick
+import Tavi.Library
+import Tavi.Ui
+
+/// Ends playing. Stands apart from the speeds, and says what it is.
+TButton {
+    required property VoiceMemoVC screen
+
+    objectName: "stopAudio"
+    text: qsTrId("player_stop")
+    fill: Theme.control
+    Accessible.name: qsTrId("a11y_stop_playing")
+    onClicked: screen.stopAudio()
+}
