@@ -60,8 +60,8 @@ protected:
         EXPECT_TRUE(spinUntil([&pending] { return pending.isFinished(); }));
         return pending.reply();
     }
-    QVariant property(const char* name) {
-        const QDBusMessage reply = ask(kProperties, "Get", {kPlayer, QString::fromLatin1(name)});
+    QVariant property(const char* name, const QString& interface = kPlayer) {
+        const QDBusMessage reply = ask(kProperties, "Get", {interface, QString::fromLatin1(name)});
         return reply.arguments().value(0).value<QDBusVariant>().variant();
     }
     QVariant metadata(const char* key) {
@@ -142,6 +142,9 @@ TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
     EXPECT_TRUE(comesToBus());
     EXPECT_EQ(property("PlaybackStatus"), QStringLiteral("Stopped"));
     EXPECT_EQ(property("CanPlay"), false);
+    EXPECT_EQ(property("DesktopEntry", kRoot), QStringLiteral("com.quillfen.voicerecorder"));
+    EXPECT_TRUE(property("CanRaise", kRoot) == true && property("CanQuit", kRoot) == true);
+    EXPECT_TRUE(property("MinimumRate") == 0.5 && property("MaximumRate") == 2.0);
 
     SignalEar ear;
     m_desktop.connect(kName, kPath, kProperties, QStringLiteral("PropertiesChanged"), &ear,
@@ -159,6 +162,7 @@ TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
     EXPECT_EQ(property("Position"), qlonglong{12500000});
 
     m_info.playbackRate = 0.5;
+    m_info.playbackState = NowPlayingInfo::PlaybackState::Paused;
     m_control->setNowPlayingInfo(m_info);
     m_control->setNowPlayingInfo(m_info);
     m_time = 3.0;
@@ -166,7 +170,8 @@ TEST_P(RemoteControlOnBus, ShowsWhatIsPlayed) {
     ASSERT_TRUE(spinUntil([&ear] { return !ear.jumps.isEmpty(); }));
     EXPECT_EQ(ear.jumps, QList<qlonglong>{3000000});
     ASSERT_EQ(ear.changes.size(), 2);
-    EXPECT_EQ(ear.changes[1], (QVariantMap{{QStringLiteral("Rate"), 0.5}}));
+    EXPECT_EQ(ear.changes[1], (QVariantMap{{QStringLiteral("Rate"), 0.5},
+                                           {QStringLiteral("PlaybackStatus"), QStringLiteral("Paused")}}));
 
     // Another recording's, one outside the recording, and rates that it does not have.
     const QVariant other = QVariant::fromValue(QDBusObjectPath(QStringLiteral("/other")));

@@ -31,13 +31,14 @@ protected:
     }
 
     /// A player of as many seconds of a tone.
-    std::unique_ptr<AudioPlayer> made(double seconds) {
+    std::unique_ptr<AudioPlayer> made(double seconds, int rate = kRate, std::size_t channels = 1) {
         m_sound = std::make_shared<FakeSound>();
-        m_sound->rate = kRate;
-        std::vector<float>& samples = m_sound->planes.emplace_back();
-        for (double i = 0.0; i < seconds * kRate; ++i) {
-            samples.push_back(static_cast<float>(0.5 * std::sin(2.0 * std::numbers::pi * kTone * i / kRate)));
+        m_sound->rate = rate;
+        std::vector<float> samples;
+        for (double i = 0.0; i < seconds * rate; ++i) {
+            samples.push_back(static_cast<float>(0.5 * std::sin(2.0 * std::numbers::pi * kTone * i / rate)));
         }
+        m_sound->planes.assign(channels, samples);
         m_files.sounds["recording"] = m_sound;
         auto player = std::move(m_players.playerWithContentsOfURL("recording").value());
         player->setDelegate(this);
@@ -124,6 +125,12 @@ TEST_F(PlayerTest, KeepsThePitchAndGoesOnInPlaceWithoutAClickWhereTheRateChanges
             ASSERT_LT(std::abs(samples[i] - samples[i - 1]), 2.0 * kToneStep) << i - first;
         }
     }
+    // More frames and channels than servers take.
+    const auto large = made(0.5, 8 * kRate, 3);
+    EXPECT_EQ(large->duration(), 0.5);
+    m_ends.clear();
+    ASSERT_TRUE(large->play());
+    EXPECT_TRUE(spinUntil([&] { return m_ends == QStringList{QStringLiteral("whole")}; }));
 }
 
 TEST_F(PlayerTest, GoesOnElsewhereAndEndsWhenTheServerOrTheFileGivesUp) {

@@ -179,8 +179,14 @@ TEST_F(AudioTrimmerTest, DoneExportsTwiceAndClosesEachTimeAndKeepsTheFirstCutWhe
         ASSERT_EQ(assets.sessions.size(), 1U) << "a second tap waits";
         const auto& first = *assets.sessions[0];
         EXPECT_EQ(first.preset, AssetExportPreset::Passthrough);
+        EXPECT_EQ(first.outputFileType, AssetFileType::Wave);
+        int changes = 0;
+        QObject::connect(screen.exporter(), &TrimExport::changed, [&changes] { ++changes; });
+        assets.sessions[0]->progress = 0.25F;
+        runLoop.advance(0.5);
+        EXPECT_TRUE(screen.exporter()->progress() == 0.25 && changes == 5);
         EXPECT_EQ(first.timeRange, (AssetTimeRange{{10 * 44100, 44100}, {30 * 44100, 44100}}));
-        runLoop.manualClock().advance(9.0);
+        runLoop.advance(8.5);
         endExport();
         ASSERT_EQ(assets.sessions.size(), 2U);
         EXPECT_EQ(assets.sessions[1]->outputURL, first.outputURL);

@@ -10,17 +10,13 @@ namespace {
 
 TEST(UtilityTest, sizesTurnIntoMegabytesAtExactlyOne) {
     const TemporaryContainer container;
-    const struct {
-        int bytes;
-        const char* text;
-        const char* size;
-    } rows[] = {{512, "0 KB", "0.000488"}, {1048575, "1024 KB", "0.999999"}, {1048576, "1.0 MB", "1.000000"}};
-    for (const auto& row : rows) {
-        const auto path = container.addDocument("a", {});
-        std::filesystem::resize_file(path, row.bytes);
+    const auto path = container.addDocument("a", {});
+    for (const auto& [bytes, texts] :
+         {std::pair{512, "0 KB 0.000488"}, {1048575, "1024 KB 0.999999"}, {1048576, "1.0 MB 1.000000"}}) {
+        std::filesystem::resize_file(path, bytes);
         const double megabytes = Utility::getFileSize(path);
-        EXPECT_EQ(Utility::displaySize(megabytes), QLatin1String(row.text)) << row.bytes;
-        EXPECT_EQ(Utility::fixed(megabytes, 6), QLatin1String(row.size)) << row.bytes;
+        EXPECT_EQ(Utility::displaySize(megabytes) + QLatin1Char(' ') + Utility::fixed(megabytes, 6),
+                  QLatin1String(texts));
     }
     EXPECT_EQ(Utility::getFileSize(container.root() / "none"), 0.0);
     EXPECT_FALSE(Utility::getFileModificationDate(container.root() / "none").isValid());
