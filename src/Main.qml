@@ -106,7 +106,10 @@ Window {
     FocusScope {
         id: page
 
+        property bool covered: window.covered
+
         anchors.fill: parent
+        Accessible.role: Accessible.Grouping
         focus: true
         // What is behind the trimmer is out of the keyboard's reach.
         enabled: !trimmer.shown

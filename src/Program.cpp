@@ -16,6 +16,7 @@
 #include "Output.h"
 #include "Screens.h"
 #include "SettingsFiles.h"
+#include "adapters/dbus/AtSpiAnnouncer.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/MprisRemoteControl.h"
@@ -39,7 +40,9 @@
 #include "recording/AudioRecordVC.h"
 #include "trimming/AudioTrimmerStage.h"
 #include "trimming/waves/WaveformLoader.h"
+#include "ui/AccessibleItem.h"
 #include "ui/AlertPresenter.h"
+#include "ui/Announcements.h"
 #include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
@@ -93,12 +96,20 @@ struct Platform {
     NotificationCenter notifications;
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
+    AtSpiAnnouncer announcer;
+    Announcements announcements{announcer};
     TabBarController tabBar;
 };
 
 /// The screens, and what only they share. Wired by the members' names.
 struct Screens {
-    explicit Screens(Platform& services) : platform(services) {}
+    explicit Screens(Platform& services) : platform(services) {
+        platform.announcements.follow(platform.notices, &NoticeLine::noticeChanged,
+                                      [this] { return platform.notices.text(); });
+        platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
+            return recording.lblRecording().hidden ? QString() : recording.lblRecording().text;
+        });
+    }
 
     Platform& platform;
     EZAudioFile::Services waveformServices{
@@ -179,6 +190,7 @@ void describe(QGuiApplication& application) {
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillfen.voicerecorder"));
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
     installTexts(application);
+    installAccessibleItems();
 }
 
 /// Builds the window; null where it cannot be built. The engine owns it.

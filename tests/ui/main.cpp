@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 
 #include "Screens.h"
+#include "ui/AccessibleItem.h"
 #include "ui/Texts.h"
 
 namespace {
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
     tavi::installTexts(application);
+    tavi::installAccessibleItems();
     // As with a screen reader on the desktop.
     QAccessible::setActive(true);
     qInstallMessageHandler(failOnWarning);
