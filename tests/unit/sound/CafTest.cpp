@@ -73,25 +73,25 @@ struct Caf {
 
 Bytes cafFile(const Caf& caf, const Bytes& packets) {
     ByteWriter writer;
-    writer.code(fourCharacterCode("caff"));
-    writer.u32(0x10000);
-    writer.code(fourCharacterCode("desc"));
-    writer.u64(32);
+    const auto begin = [&writer](const char* type, std::int64_t bytes) {
+        writer.bytes(Bytes(type, type + 4));
+        writer.u64(static_cast<std::uint64_t>(bytes));
+    };
+    writer.bytes("caff\0\1\0\0"_bytes);
+    begin("desc", 32);
     writer.u64(std::bit_cast<std::uint64_t>(caf.rate));
-    writer.code(fourCharacterCode("ima4"));
-    for (const std::uint32_t value : {0U, caf.packetBytes, caf.packetFrames, caf.channels, 0U}) {
+    for (const std::uint32_t value :
+         {std::uint32_t{kAudioFormatAppleIMA4}, 0U, caf.packetBytes, caf.packetFrames, caf.channels, 0U}) {
         writer.u32(value);
     }
     if (caf.validFrames >= 0) {
-        writer.code(fourCharacterCode("pakt"));
-        writer.u64(24);
+        begin("pakt", 24);
         writer.u64(0);
         writer.u64(static_cast<std::uint64_t>(caf.validFrames));
         writer.u32(caf.priming);
         writer.u32(0);
     }
-    writer.code(fourCharacterCode("data"));
-    writer.u64(static_cast<std::uint64_t>(caf.dataBytes.value_or(std::ssize(packets) + 4)));
+    begin("data", caf.dataBytes.value_or(std::ssize(packets) + 4));
     writer.u32(0);
     writer.bytes(packets);
     return writer.release();

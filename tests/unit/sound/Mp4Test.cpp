@@ -18,11 +18,21 @@ const Bytes kUserData =
     "\0\0\0\x10"
     "udtaa remark"_bytes;
 
-/// The box "stsd" of sound in Apple Lossless.
+Bytes words(std::initializer_list<std::uint64_t> values) {
+    ByteWriter writer;
+    for (const std::uint64_t value : values) {
+        writer.u32(value);
+    }
+    return writer.release();
+}
+
+Bytes box(const char* type, const Bytes& body) {
+    return words({body.size() + 8}) + Bytes(type, type + 4) + body;
+}
+
+/// A description of sound in Apple Lossless.
 Bytes lossless() {
-    return "\0\0\0\x58stsd\0\0\0\0\0\0\0\1\0\0\0\x48"
-           "alac\0\0\0\0\0\0\0\1"_bytes +
-           Bytes(8) + "\0\2\0\x10\0\0\0\0\x1f\x40\0\0"_bytes + losslessBox(2);
+    return box("stsd", words({0, 1}) + box("alac", words({0, 1, 0, 0, 0x20010, 0, kRate << 16}) + losslessBox(2)));
 }
 
 /// Packets of many sizes; the last one is shorter.
@@ -84,20 +94,13 @@ Bytes inserted(Bytes file, const Bytes& box, std::initializer_list<std::string_v
     return file;
 }
 
-/// A box "edts" with stretches of the media: their durations in the movie's time scale, and where they start.
-Bytes edits(std::initializer_list<std::pair<std::uint32_t, std::uint32_t>> stretches) {
-    Mp4BoxWriter writer;
-    writer.begin(mp4Type("edts"));
-    writer.beginFull(mp4Type("elst"));
-    writer.u32(stretches.size());
+/// The same file with stretches of the media as its edits: their durations in the movie's time scale and their starts.
+Bytes edited(Bytes file, std::initializer_list<std::pair<std::uint32_t, std::uint32_t>> stretches) {
+    Bytes list = words({0, stretches.size()});
     for (const auto& [duration, start] : stretches) {
-        writer.u32(duration);
-        writer.u32(start);
-        writer.u32(0x10000);
+        list = std::move(list) + words({duration, start, 0x10000});
     }
-    writer.end();
-    writer.end();
-    return writer.release();
+    return inserted(std::move(file), box("edts", box("elst", list)), {"moov", "trak"});
 }
 
 void expectPackets(const FileDescriptor& file, std::span<const Mp4Sample> all, std::int64_t start = 0) {
@@ -176,24 +179,22 @@ TEST(Mp4Test, PacketsOfALongFileAreHandedOutFromAnyTime) {
 TEST(Mp4Test, LengthsAreThoseOfWhatPlays) {
     const auto all = samples(20);
     const double media = static_cast<double>(durationOf(all)) / kRate;
-    const Bytes edited = ordinary(all, 1000);
+    const Bytes whole = ordinary(all, 1000);
     const auto with = [](Bytes bytes, std::uint64_t movieScale, std::uint64_t duration) {
         return changed(changed(std::move(bytes), "mvhd", 16, movieScale), "elst", 12, duration);
     };
     const std::pair<Bytes, double> files[] = {
-        {edited, media - 0.125},
-        {changed(edited, "edts", 0, mp4Type("free")), media},
+        {whole, media - 0.125},
+        {changed(whole, "edts", 0, mp4Type("free")), media},
         // A coarse scale: the rest of the media as near as it can be said, and less than that.
-        {with(edited, 1000, 2371), media - 0.125},
-        {with(edited, 10, 23), media - 0.125},
-        {with(edited, 10, 20), 2.0},
-        {with(edited, 10, 0), media},
+        {with(whole, 1000, 2371), media - 0.125},
+        {with(whole, 10, 23), media - 0.125},
+        {with(whole, 10, 20), 2.0},
+        {with(whole, 10, 0), media},
         // Silence, though longer than any file, plays nothing of the sound.
-        {changed(with(edited, 10, 0xffffffff), "elst", 16, 0xffffffff), media},
-        {inserted(changed(with(edited, 10, 0), "edts", 0, mp4Type("free")), edits({{12, 0}, {10, 2000}}),
-                  {"moov", "trak"}),
-         2.2},
-        {changed(edited, "hdlr", 12, mp4Type("vide")), -1},
+        {changed(with(whole, 10, 0xffffffff), "elst", 16, 0xffffffff), media},
+        {edited(changed(with(whole, 10, 0), "edts", 0, mp4Type("free")), {{12, 0}, {10, 2000}}), 2.2},
+        {changed(whole, "hdlr", 12, mp4Type("vide")), -1},
         // Beyond what 32 bits hold.
         {ordinary(samples(600, 1 << 23), 1000), ((599.5 * (1 << 23)) - 1000) / kRate},
     };
@@ -215,8 +216,7 @@ TEST(Mp4Test, WhatIsUnusualOrDamagedIsLeftToOthers) {
         {"another rate", changed(file, "alac", 28, 44100)},
         {"many channels", changed(file, "alac", 17, 3, 1)},
         {"two descriptions", changed(file, "stsd", 8, 2)},
-        {"two edits",
-         inserted(changed(file, "edts", 0, mp4Type("free")), edits({{100, 0}, {200, 500}}), {"moov", "trak"})},
+        {"two edits", edited(changed(file, "edts", 0, mp4Type("free")), {{100, 0}, {200, 500}})},
         {"edits that are not there", changed(file, "elst", 8, 2)},
         {"at half speed", changed(file, "elst", 20, 0x8000)},
         {"from before its start", changed(file, "elst", 16, 0x80000000)},
@@ -235,11 +235,7 @@ TEST(Mp4Test, WhatIsUnusualOrDamagedIsLeftToOthers) {
         {"a table that is unknown", changed(file, "stts", 0, mp4Type("ctts"))},
         {"no time scale", changed(file, "mdhd", 16, 0)},
         // Across the pieces in which boxes are searched.
-        {"a remark on what is not heard", inserted(file,
-                                                   "\0\0\x40\x14"
-                                                   "free"_bytes +
-                                                       Bytes(16380) + "iTunSMPB"_bytes + Bytes(0),
-                                                   {"moov"})},
+        {"a remark on what is not heard", inserted(file, box("free", Bytes(16380) + "iTunSMPB"_bytes), {"moov"})},
     };
     for (const auto& [name, bytes] : files) {
         EXPECT_FALSE(Mp4PacketReader::open(memoryFile(bytes).get())) << name;
@@ -269,48 +265,31 @@ TEST(Mp4Test, OnlyAacThatIsWhatItSaysHasAFormat) {
 /// place, and tells how long its packets are only once; one of a single packet tells all only once.
 Bytes fragmented(const std::vector<Mp4Sample>& all, std::uint32_t start = 0) {
     // An edit of no length, as the length is not known yet.
-    Bytes file = inserted(ordinary({}), edits({{0, start}}), {"moov", "trak"});
-    file = inserted(file, "\0\0\0\x28mvex\0\0\0\x20trex\0\0\0\0\0\0\0\1\0\0\0\1\0\0\4\0\0\0\0\x0a\0\0\0\0"_bytes,
-                    {"moov"});
+    Bytes file =
+        inserted(edited(ordinary({}), {{0, start}}), box("mvex", box("trex", words({0, 1, 1, 1024, 10, 0}))), {"moov"});
     for (std::size_t first = 0; first < all.size(); first += 10) {
         const std::size_t count = std::min<std::size_t>(10, all.size() - first);
-        const bool isFirst = first == 0;
-        const bool isSingle = count == 1;
-        Mp4BoxWriter fragment;
-        fragment.begin(mp4Type("moof"));
-        fragment.begin(mp4Type("traf"));
+        const Mp4Sample& sample = all[first];
         // Places count from the fragment, or from a place that it names.
-        fragment.beginFull(mp4Type("tfhd"), false, isFirst ? 0x9 : isSingle ? 0x20018 : 0x20000);
-        fragment.u32(1);
-        if (isFirst) {
-            fragment.u64(file.size());
-        }
-        if (isFirst || isSingle) {
-            fragment.u32(all[first].duration);
-        }
-        if (isSingle) {
-            fragment.u32(all[first].size);
-        }
-        fragment.end();
-        fragment.beginFull(mp4Type("trun"), false, isSingle ? 0x1 : isFirst ? 0x201 : 0x301);
-        fragment.u32(count);
-        fragment.u32(fragment.size() + 12 + count * (isSingle ? 0 : isFirst ? 4 : 8));
-        ByteWriter data;
+        Bytes head = words({0x20000, 1});
+        Bytes packets;
+        Bytes data;
         for (std::size_t i = first; i < first + count; ++i) {
-            if (!isFirst && !isSingle) {
-                fragment.u32(all[i].duration);
-            }
-            if (!isSingle) {
-                fragment.u32(all[i].size);
-            }
-            data.bytes(contentsOf(i, all[i].size));
+            packets = packets + (first == 0 ? words({all[i].size}) : words({all[i].duration, all[i].size}));
+            data = data + contentsOf(i, all[i].size);
         }
-        for (int open = 3; open > 0; --open) {
-            fragment.end();
+        std::uint32_t flags = 0x301;
+        if (first == 0) {
+            flags = 0x201;
+            head = words({0x9, 1, 0, file.size(), sample.duration});
+        } else if (count == 1) {
+            flags = 0x1;
+            head = words({0x20018, 1, sample.duration, sample.size});
+            packets.clear();
         }
-        fragment.u32(data.size() + 8);
-        fragment.u32(mp4Type("mdat"));
-        file = std::move(file) + fragment.data() + data.data();
+        const std::size_t place = 52 + head.size() + packets.size();
+        const Bytes run = box("trun", words({flags, count, place}) + packets);
+        file = std::move(file) + box("moof", box("traf", box("tfhd", head) + run)) + box("mdat", data);
     }
     return file;
 }
