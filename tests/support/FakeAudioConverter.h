@@ -16,28 +16,25 @@ public:
     AudioStatus fillComplexBuffer(const InputProcedure& input, std::uint32_t& packets, AudioBufferList& output,
                                   AudioStreamPacketDescription*) override {
         const std::uint32_t wanted = std::exchange(packets, 0);
-        while (packets < wanted) {
+        AudioStatus status = kAudioNoError;
+        for (; packets < wanted; ++packets, ++m_used) {
             if (m_used == m_available) {
                 m_available = wanted - packets;
                 m_used = 0;
-                if (const AudioStatus status = input(m_available, m_data); status != kAudioNoError) {
-                    return status;
-                }
-                if (m_available == 0) {
+                status = input(m_available, m_data);
+                if (status != kAudioNoError || m_available == 0) {
+                    m_available = 0;
                     break;
                 }
             }
             for (std::uint32_t channel = 0; channel < m_input.channelsPerFrame; ++channel) {
-                sample(output, m_output, packets, channel) =
-                    sample(const_cast<AudioBufferList&>(*m_data), m_input, m_used, channel);
+                *sample(output, m_output, packets, channel) = *sample(*m_data, m_input, m_used, channel);
             }
-            ++m_used;
-            ++packets;
         }
         for (std::uint32_t i = 0; i < output.numberBuffers; ++i) {
             output.buffers[i].dataByteSize = packets * m_output.bytesPerFrame;
         }
-        return kAudioNoError;
+        return status;
     }
     AudioStatus maximumOutputPacketSize(std::uint32_t& bytes) const override {
         bytes = m_output.bytesPerPacket;
@@ -45,11 +42,11 @@ public:
     }
 
 private:
-    static float& sample(AudioBufferList& list, const AudioStreamBasicDescription& format, std::uint32_t frame,
+    static float* sample(const AudioBufferList& list, const AudioStreamBasicDescription& format, std::uint32_t frame,
                          std::uint32_t channel) {
         const bool isPlanar = (format.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
         auto* samples = static_cast<float*>(list.buffers[isPlanar ? channel : 0].data);
-        return samples[isPlanar ? frame : frame * format.channelsPerFrame + channel];
+        return samples + (isPlanar ? frame : frame * format.channelsPerFrame + channel);
     }
 
     AudioStreamBasicDescription m_input;

@@ -23,7 +23,7 @@ protected:
                             const PwriteFunction& pwrite = systemPwrite()) {
         SCOPED_TRACE(type.extension);
         std::filesystem::remove(pathFor(type));
-        const auto writer = begin(pathFor(type), settingsFor(type, {44100, channels, 127}), pwrite);
+        const auto writer = begin(pathFor(type), settingsFor(type, {44100, channels, 127}), kStereo, pwrite);
         ASSERT_TRUE(writer);
         const std::vector<float> second = tone(kStereo, 48000);
         int written = 0;

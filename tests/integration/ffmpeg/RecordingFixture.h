@@ -112,39 +112,32 @@ protected:
         return samples;
     }
 
-    /// Hands samples over in blocks of odd sizes; stops at the first failure.
-    static Result<void> writeBlocks(AudioFileWriter& writer, const std::vector<float>& samples, int channels) {
-        constexpr std::array<std::size_t, 6> kBlocks = {1, 479, 4801, 7, 1024, 9999};
-        const std::size_t frames = samples.size() / static_cast<std::size_t>(channels);
-        for (std::size_t at = 0, block = 0; at < frames; ++block) {
-            const std::size_t count = std::min(kBlocks[block % kBlocks.size()], frames - at);
-            const float* start = samples.data() + at * static_cast<std::size_t>(channels);
-            if (Result<void> result = writer.write(start, count); !result) {
-                return result;
-            }
-            at += count;
-        }
-        return {};
-    }
-
-    std::unique_ptr<AudioFileWriter> begin(const std::filesystem::path& path, const AudioRecordSettings& settings,
-                                           PwriteFunction pwrite = systemPwrite()) {
+    static std::unique_ptr<AudioFileWriter> begin(const std::filesystem::path& path,
+                                                  const AudioRecordSettings& settings,
+                                                  const AudioInputFormat& input = kStereo,
+                                                  PwriteFunction pwrite = systemPwrite()) {
         auto writer = FfmpegAudioFileWriters(std::move(pwrite)).create(path, settings);
-        if (!writer || !(*writer)->setInputFormat(kStereo)) {
-            ADD_FAILURE() << "cannot record to " << path;
-            return nullptr;
-        }
-        return std::move(*writer);
+        const bool isReady = writer && (*writer)->setInputFormat(input);
+        EXPECT_TRUE(isReady) << path;
+        return isReady ? std::move(*writer) : nullptr;
     }
 
-    /// Records samples over what is there; as a killed program would leave it where it is not finished.
+    /// Records samples over what is there, in blocks of odd sizes; as a killed program would leave it where it is not
+    /// finished.
     std::filesystem::path record(const Type& type, const Quality& quality, const std::vector<float>& samples,
                                  const AudioInputFormat& input = kStereo, bool isFinished = true) {
-        const auto path = pathFor(type);
+        constexpr std::array<std::size_t, 6> kBlocks = {1, 479, 4801, 7, 1024, 9999};
+        auto path = pathFor(type);
         std::filesystem::remove(path);
-        auto writer = FfmpegAudioFileWriters().create(path, settingsFor(type, quality));
-        EXPECT_TRUE(writer && (*writer)->setInputFormat(input) && writeBlocks(**writer, samples, input.channels) &&
-                    (!isFinished || (*writer)->finish()));
+        const auto writer = begin(path, settingsFor(type, quality), input);
+        const auto channels = static_cast<std::size_t>(input.channels);
+        for (std::size_t at = 0, block = 0; writer && at < samples.size(); ++block) {
+            const std::size_t count =
+                std::min(kBlocks[block % kBlocks.size()], samples.size() / channels - at / channels);
+            EXPECT_TRUE(writer->write(samples.data() + at, count));
+            at += count * channels;
+        }
+        EXPECT_TRUE(!isFinished || writer->finish());
         return path;
     }
 
