@@ -14,16 +14,8 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SOUND_SCRIPT = ROOT / "packaging/demo/private-pulse.pa"
+BUS_CONFIGURATION = ROOT / "packaging/demo/private-bus.conf"
 PHONE = (390, 844)
-
-BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:path={path}</listen>
-  <policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
-</busconfig>
-"""
 
 
 class Trouble(Exception):
@@ -132,10 +124,10 @@ class PrivateDesktop:
         runtime.mkdir(mode=0o700)
         self.environment["XDG_RUNTIME_DIR"] = str(runtime)
         path = runtime / "bus"
-        configuration = self.folder / "bus.conf"
-        configuration.write_text(BUS_CONFIGURATION.format(path=path))
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={path}"
-        self.spawn("dbus-daemon", "--nofork", "--nopidfile", f"--config-file={configuration}", log=self.folder / "bus.log")
+        address = f"unix:path={path}"
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.spawn("dbus-daemon", "--nofork", "--nopidfile", f"--config-file={BUS_CONFIGURATION}", f"--address={address}",
+                   log=self.folder / "bus.log")
         wait_for(path.exists, "the session bus")
 
     def _start_display(self):

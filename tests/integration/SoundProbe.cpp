@@ -110,30 +110,6 @@ double frequencyOf(std::span<const float> samples, int rate) {
     return crossings > 1 ? static_cast<double>(crossings - 1) * rate / (last - first) : 0;
 }
 
-std::span<const float> steadyPartOf(std::span<const float> samples, int rate) {
-    constexpr double kHole = 1;
-    const auto block = static_cast<std::size_t>(rate / 100);
-    std::vector<double> levels;
-    for (std::size_t at = 0; at + block <= samples.size(); at += block) {
-        levels.push_back(levelOf(samples.subspan(at, block)));
-    }
-    std::vector<double> sorted = levels;
-    std::sort(sorted.begin(), sorted.end());
-    std::size_t best = 0;
-    std::size_t bestEnd = 0;
-    for (std::size_t i = 0, start = 0; i < levels.size(); ++i) {
-        if (levels[i] < sorted[sorted.size() / 2] - kHole) {
-            start = i + 1;
-        } else if (i + 1 - start > bestEnd - best) {
-            best = start;
-            bestEnd = i + 1;
-        }
-    }
-    // The blocks at both ends may hold the edge of a hole.
-    return bestEnd - best > 2 ? samples.subspan((best + 1) * block, (bestEnd - best - 2) * block)
-                              : std::span<const float>();
-}
-
 std::span<const float> middleOf(const std::vector<float>& samples) {
     const std::size_t tenth = samples.size() / 10;
     return std::span<const float>(samples).subspan(tenth, samples.size() - 2 * tenth);

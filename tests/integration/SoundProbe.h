@@ -31,9 +31,6 @@ double levelOf(std::span<const float> samples);
 /// Hertz of the tone in the samples, from its upward zero crossings; 0 where there are less than two.
 double frequencyOf(std::span<const float> samples, int rate);
 
-/// The longest stretch without a hole of a tone that a busy machine may have played with holes.
-std::span<const float> steadyPartOf(std::span<const float> samples, int rate);
-
 /// The middle of a channel, without the tenths at both ends.
 std::span<const float> middleOf(const std::vector<float>& samples);
 

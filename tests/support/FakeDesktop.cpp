@@ -32,22 +32,14 @@ void FakeDesktop::own(const QString& name) {
     }
 }
 
-void FakeDesktop::disown(const QString& name) {
-    m_bus.unregisterService(name);
-}
-
 bool FakeDesktop::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-    bool known = true;
-    const QVariantList results = answer(message, known);
-    if (!known) {
+    const std::optional<QVariantList> results = answer(message);
+    if (!results) {
         return false;
     }
-    connection.send(message.createReply(results));
-    if (message.member() == QLatin1String("ComposeEmail")) {
-        m_mailRequest = results.at(0).value<QDBusObjectPath>().path();
-        if (!namesRequestsItself) {
-            respondToMail();
-        }
+    connection.send(message.createReply(*results));
+    if (message.member() == QLatin1String("ComposeEmail") && !holdsMail) {
+        respondToMail();
     }
     return true;
 }
@@ -55,68 +47,69 @@ bool FakeDesktop::handleMessage(const QDBusMessage& message, const QDBusConnecti
 void FakeDesktop::respondToMail() {
     const QString interface = QStringLiteral("org.freedesktop.portal.Request");
     QDBusMessage response = QDBusMessage::createSignal(m_mailRequest, interface, QStringLiteral("Response"));
-    response << mailResponse << QVariantMap();
-    m_bus.send(response);
+    m_bus.send(response << mailResponse << QVariantMap());
 }
 
-QVariantList FakeDesktop::answer(const QDBusMessage& message, bool& known) {
+std::optional<QVariantList> FakeDesktop::answer(const QDBusMessage& message) {
     const QString call = message.interface() + QLatin1Char('.') + message.member();
+    const auto is = [&call](const char* name) {
+        return call == QLatin1String("org.freedesktop.") + QLatin1String(name);
+    };
+    const auto path = [](const QString& name) { return QVariant::fromValue(QDBusObjectPath(name)); };
+    const auto property = [](const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); };
     const QVariantList in = message.arguments();
-    if (call == QLatin1String("org.freedesktop.portal.Inhibit.Inhibit")) {
+    if (is("portal.Inhibit.Inhibit")) {
         const auto options = qdbus_cast<QVariantMap>(in.at(2));
-        const QString path = requestPath(message, options);
+        const QString request = requestPath(message, options);
         inhibitFlags = in.at(1).toUInt();
         inhibitReason = options.value(QStringLiteral("reason")).toString();
-        inhibitions.insert(path);
-        return {QVariant::fromValue(QDBusObjectPath(path))};
+        inhibitions.insert(request);
+        return QVariantList{path(request)};
     }
-    if (call == QLatin1String("org.freedesktop.portal.Request.Close")) {
+    if (is("portal.Request.Close")) {
         inhibitions.remove(message.path());
-        return {};
+        return QVariantList();
     }
-    if (call == QLatin1String("org.freedesktop.ScreenSaver.Inhibit")) {
+    if (is("ScreenSaver.Inhibit")) {
         inhibitReason = in.at(1).toString();
-        inhibitions.insert(QString::number(++m_lastCookie));
-        return {m_lastCookie};
+        inhibitions.insert(QString::number(++m_lastNumber));
+        return QVariantList{m_lastNumber};
     }
-    if (call == QLatin1String("org.freedesktop.ScreenSaver.UnInhibit")) {
+    if (is("ScreenSaver.UnInhibit")) {
         inhibitions.remove(in.at(0).toString());
-        return {};
+        return QVariantList();
     }
-    if (call == QLatin1String("org.freedesktop.ScreenSaver.GetActive")) {
-        return {m_screenSaverActive};
+    if (is("ScreenSaver.GetActive")) {
+        return QVariantList{m_screenSaverActive};
     }
-    if (call == QLatin1String("org.freedesktop.login1.Manager.GetSession")) {
-        return {QVariant::fromValue(QDBusObjectPath(kSessionPath))};
+    if (is("login1.Manager.GetSession")) {
+        return QVariantList{path(kSessionPath)};
     }
-    if (call == QLatin1String("org.freedesktop.DBus.Properties.Get") && in.at(0) == kSession) {
+    if (is("DBus.Properties.Get") && in.at(0) == kSession) {
         isWatched = true;
-        return {QVariant::fromValue(QDBusVariant(m_lockedHint))};
+        return QVariantList{property(m_lockedHint)};
     }
-    if (call == QLatin1String("org.freedesktop.DBus.Properties.Get") && mailVersion > 0) {
-        return {QVariant::fromValue(QDBusVariant(mailVersion))};
+    if (is("DBus.Properties.Get") && mailVersion > 0) {
+        return QVariantList{property(mailVersion)};
     }
-    if (call == QLatin1String("org.freedesktop.portal.Email.ComposeEmail") && !refusesMail) {
+    if (is("portal.Email.ComposeEmail") && !refusesMail) {
         takeMail(message);
-        return {QVariant::fromValue(QDBusObjectPath(requestPath(message, mail)))};
+        return QVariantList{path(m_mailRequest)};
     }
-    known = false;
-    return {};
+    return std::nullopt;
 }
 
 QString FakeDesktop::requestPath(const QDBusMessage& message, const QVariantMap& options) {
-    if (namesRequestsItself) {
-        return QStringLiteral("/org/freedesktop/portal/desktop/own/%1").arg(++m_lastRequest);
-    }
-    const QString token =
-        options.value(QStringLiteral("handle_token"), QStringLiteral("t%1").arg(inhibitions.size())).toString();
-    QString sender = message.service().mid(1);
-    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    return QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
+    const QString own = QStringLiteral("own%1").arg(++m_lastNumber);
+    const QString token = options.value(QStringLiteral("handle_token"), own).toString();
+    const QString sender = message.service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+    return QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+        .arg(sender, namesRequestsItself ? own : token);
 }
 
 void FakeDesktop::takeMail(const QDBusMessage& message) {
     mail = qdbus_cast<QVariantMap>(message.arguments().at(1));
+    m_mailRequest = requestPath(message, mail);
     mailAttachments.clear();
     const auto files = qdbus_cast<QList<QDBusUnixFileDescriptor>>(mail.value(QStringLiteral("attachment_fds")));
     for (const QDBusUnixFileDescriptor& descriptor : files) {

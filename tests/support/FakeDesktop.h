@@ -17,12 +17,12 @@ public:
     static QString screenSaver() { return QStringLiteral("org.freedesktop.ScreenSaver"); }
     static QString login() { return QStringLiteral("org.freedesktop.login1"); }
 
-    FakeDesktop(const QDBusConnection& bus, const QStringList& names);
+    explicit FakeDesktop(const QDBusConnection& bus, const QStringList& names = {});
     ~FakeDesktop() override;
 
     /// Comes (back) with that name, or goes.
     void own(const QString& name);
-    void disown(const QString& name);
+    void disown(const QString& name) { m_bus.unregisterService(name); }
 
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
@@ -43,15 +43,18 @@ public:
     quint32 mailResponse = 0;
     quint32 mailVersion = 4;
     bool refusesMail = false;
-    /// As portals of old did. Their response is then the test's to send, by respondToMail().
-    bool namesRequestsItself = false;
+    /// Whether the response to a mail is the test's to send, by respondToMail(). It goes to the last mail.
+    bool holdsMail = false;
     void respondToMail();
+    /// As portals of old did.
+    bool namesRequestsItself = false;
     /// The last mail: its options, and the contents of its attachments.
     QVariantMap mail;
     QList<QByteArray> mailAttachments;
 
 private:
-    QVariantList answer(const QDBusMessage& message, bool& known);
+    /// The results of a call, or nothing where it is not known.
+    std::optional<QVariantList> answer(const QDBusMessage& message);
     QString requestPath(const QDBusMessage& message, const QVariantMap& options);
     void takeMail(const QDBusMessage& message);
 
@@ -59,8 +62,8 @@ private:
     QString m_mailRequest;
     bool m_screenSaverActive = false;
     bool m_lockedHint = false;
-    quint32 m_lastCookie = 0;
-    int m_lastRequest = 0;
+    /// Of what was asked for; cookies and paths are made of it.
+    quint32 m_lastNumber = 0;
 };
 
 }  // namespace tavi::test

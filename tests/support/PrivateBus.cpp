@@ -1,36 +1,13 @@
 #include "support/PrivateBus.h"
 
-#include <QFile>
-
 namespace tavi::test {
 
-namespace {
-
-constexpr const char* kConfiguration = R"(<busconfig>
-  <type>session</type>
-  <listen>unix:dir=%1</listen>
-  <auth>EXTERNAL</auth>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-)";
-
-}  // namespace
-
 PrivateBus::PrivateBus() {
-    QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
-    if (!configuration.open(QIODevice::WriteOnly) ||
-        configuration.write(QString::fromLatin1(kConfiguration).arg(m_folder.path()).toUtf8()) < 0) {
-        qFatal("cannot write the configuration of the bus");
-    }
-    configuration.close();
     m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                    QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--print-address=1")});
+    m_daemon.start(
+        QStringLiteral("dbus-daemon"),
+        {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"), QStringLiteral("--print-address=1"),
+         QStringLiteral("--config-file=" TAVI_PRIVATE_BUS), QStringLiteral("--address=unix:dir=") + m_folder.path()});
     while (!m_daemon.canReadLine()) {
         if (!m_daemon.waitForReadyRead()) {
             qFatal("dbus-daemon does not start: %s", qPrintable(m_daemon.errorString()));

@@ -67,8 +67,8 @@ protected:
     }
 
     /// Hands over from a second participant on the bus while the first one's event loop runs; "ok" or the error.
-    QString handedOver(const ActivationRequest& request,
-                       std::chrono::milliseconds patience = std::chrono::seconds(20)) {
+    std::string handedOver(const ActivationRequest& request,
+                           std::chrono::milliseconds patience = std::chrono::seconds(20)) {
         const QDBusConnection second = m_bus.connect();
         std::atomic<bool> done = false;
         Result<void> result;
@@ -78,7 +78,7 @@ protected:
         });
         EXPECT_TRUE(spinUntil([&done] { return done.load(); }));
         caller.join();
-        return result ? QStringLiteral("ok") : result.error().text;
+        return result ? "ok" : result.error().text.toStdString();
     }
 
     /// Waits until the delegate has been told exactly this, all in all since the last time.
@@ -100,16 +100,19 @@ protected:
     DBusApplication m_application{m_bus.connect(), m_bus.connect(), m_name};
 };
 
-TEST_F(DBusApplicationTest, SecondStartHandsOverToTheFirst) {
+TEST_F(DBusApplicationTest, ASecondStartHandsOverToTheFirst) {
+    EXPECT_THAT(handedOver({}, std::chrono::milliseconds(1)),
+                ::testing::StartsWith("The instance that is already running did not take"));
     ASSERT_EQ(m_application.claim(), DBusApplication::Claim::First);
-    DBusApplication second(m_bus.connect(), PrivateBus::none(), m_name);
-    EXPECT_EQ(second.claim(), DBusApplication::Claim::AlreadyRunning);
+    EXPECT_EQ(DBusApplication(m_bus.connect(), PrivateBus::none(), m_name).claim(),
+              DBusApplication::Claim::AlreadyRunning);
+    EXPECT_EQ(DBusApplication(PrivateBus::none(), PrivateBus::none(), m_name).claim(), DBusApplication::Claim::NoBus);
     QRasterWindow window;
     m_application.setWindow(&window);
 
     // Before the launch has finished, calls are taken and wait.
-    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("RECORD")}), QStringLiteral("ok"));
-    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("TaviRecordStart:")}, {}}), QStringLiteral("ok"));
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("RECORD")}), "ok");
+    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("TaviRecordStart:")}, {}}), "ok");
     EXPECT_TRUE(m_delegate.calls.isEmpty());
     window.show();
     ASSERT_TRUE(spinUntil([&window] { return window.isExposed(); }));
@@ -117,14 +120,13 @@ TEST_F(DBusApplicationTest, SecondStartHandsOverToTheFirst) {
     m_application.launchFinished();
     expectCalls("shortcut Record, open tavirecordstart:, active");
 
-    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("library")}), QStringLiteral("ok"));
-    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("Stop")}), QStringLiteral("ok"));
-    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")}, {}}),
-              QStringLiteral("ok"));
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("library")}), "ok");
+    EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("Stop")}), "ok");
+    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")}, {}}), "ok");
     expectCalls("shortcut Recordings, open tavirecordstop:, open file:///tmp/a b%25.wav, open file:///x.wav");
 
-    EXPECT_TRUE(handedOver({Kind::Action, {}, QStringLiteral("dance")}).contains(QStringLiteral("no action “dance”")));
-    EXPECT_TRUE(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}).contains(QStringLiteral("“a.wav”")));
+    EXPECT_THAT(handedOver({Kind::Action, {}, QStringLiteral("dance")}), ::testing::HasSubstr("no action “dance”"));
+    EXPECT_THAT(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}), ::testing::HasSubstr("“a.wav”"));
     EXPECT_TRUE(m_delegate.calls.isEmpty());
 }
 
@@ -143,7 +145,7 @@ TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {
         {{}, "foreground, active"}};
     bool isMinimised = false;
     for (const auto& [request, calls] : cases) {
-        EXPECT_EQ(handedOver(request), QStringLiteral("ok"));
+        EXPECT_EQ(handedOver(request), "ok");
         EXPECT_TRUE(window.isVisible() && !window.windowStates().testFlag(Qt::WindowMinimized));
         expectCalls(calls);
         isMinimised = !isMinimised;
@@ -167,19 +169,12 @@ TEST_F(DBusApplicationTest, TheDesktopsTokensGoWithTheRequest) {
         {{Kind::Open, {QStringLiteral("x:y")}, {}}, "Open asa{sv}"},
         {{Kind::Action, {}, QStringLiteral("a")}, "ActivateAction sava{sv}"}};
     for (const auto& [request, call] : cases) {
-        EXPECT_EQ(handedOver(request), QStringLiteral("ok"));
+        EXPECT_EQ(handedOver(request), "ok");
         EXPECT_EQ(callee.last.member() + QLatin1Char(' ') + callee.last.signature(), QLatin1String(call));
         EXPECT_EQ(qdbus_cast<QVariantMap>(callee.last.arguments().last()).toStdMap(), tokens);
     }
     qunsetenv("XDG_ACTIVATION_TOKEN");
     qunsetenv("DESKTOP_STARTUP_ID");
-}
-
-TEST_F(DBusApplicationTest, AnInstanceThatIsGoneIsAnError) {
-    EXPECT_TRUE(handedOver({}, std::chrono::milliseconds(1))
-                    .startsWith(QLatin1String("The instance that is already running did not take")));
-    DBusApplication busless(PrivateBus::none(), PrivateBus::none(), m_name);
-    EXPECT_EQ(busless.claim(), DBusApplication::Claim::NoBus);
 }
 
 TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
@@ -215,27 +210,27 @@ TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
     expectCalls("terminate");
 }
 
-TEST_F(DBusApplicationTest, ALockedSessionIsKnownFromTheStart) {
-    for (const bool isHint : {true, false}) {
+TEST_F(DBusApplicationTest, ALockIsKnownFromTheStartAndAMereRequestEndsWhenTheUserIsBack) {
+    const auto becomes = [](const SessionLock& lock, bool isLocked) {
+        return spinUntil([&] { return lock.isLocked() == isLocked; });
+    };
+    for (const bool isHint : {false, true}) {
         m_desktop.setLockedHint(isHint);
         m_desktop.setScreenSaverActive(!isHint);
-        const SessionLock lock(m_bus.connect(), m_bus.connect());
+        SessionLock lock(m_bus.connect(), m_bus.connect());
         EXPECT_FALSE(lock.isLocked());
-        EXPECT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
+        EXPECT_TRUE(becomes(lock, true));
+        lock.userIsBack();
+        EXPECT_TRUE(lock.isLocked());
     }
-}
-
-TEST_F(DBusApplicationTest, ARequestToLockEndsWhenTheUserIsBack) {
+    m_desktop.setLockedHint(false);
+    m_desktop.isWatched = false;
     SessionLock lock(PrivateBus::none(), m_bus.connect());
     ASSERT_TRUE(spinUntil([this] { return m_desktop.isWatched; }));
     m_desktop.emitSessionSignal(QStringLiteral("Lock"));
-    ASSERT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
+    ASSERT_TRUE(becomes(lock, true));
     lock.userIsBack();
     EXPECT_FALSE(lock.isLocked());
-    m_desktop.setLockedHint(true);
-    ASSERT_TRUE(spinUntil([&lock] { return lock.isLocked(); }));
-    lock.userIsBack();
-    EXPECT_TRUE(lock.isLocked());
 }
 
 TEST(BusName, IsOneForEachFolder) {
@@ -251,23 +246,19 @@ TEST(BusName, IsOneForEachFolder) {
 TEST(InstanceLock, KeepsASecondOneOutUntilItIsGone) {
     const QTemporaryDir folder;
     const std::filesystem::path path = folder.path().toStdString();
+    const QByteArray process = QByteArray::number(QCoreApplication::applicationPid());
     QFile file(folder.filePath(QStringLiteral("instance.lock")));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write("12345678901234\n") > 0 && file.flush());
-    auto first = InstanceLock::take(path);
-    ASSERT_TRUE(first.has_value());
-    file.seek(0);
-    EXPECT_EQ(file.readAll(), QByteArray::number(QCoreApplication::applicationPid()) + '\n');
-    const auto second = InstanceLock::take(path);
-    ASSERT_FALSE(second.has_value());
-    EXPECT_TRUE(second.error().isHeld);
-    EXPECT_TRUE(second.error().error.text.contains(QString::number(QCoreApplication::applicationPid())));
-    InstanceLock moved = std::move(*first);
-    EXPECT_FALSE(InstanceLock::take(path).has_value());
-    { const InstanceLock gone = std::move(moved); }
-    EXPECT_TRUE(InstanceLock::take(path).has_value());
+    for (int round = 0; round < 2; ++round) {
+        const InstanceLock first = InstanceLock::take(path).value();
+        file.seek(0);
+        EXPECT_EQ(file.readAll(), process + '\n');
+        const auto second = InstanceLock::take(path);
+        ASSERT_TRUE(!second && second.error().isHeld);
+        EXPECT_TRUE(second.error().error.text.contains(QString::fromLatin1(process)));
+    }
     const auto lost = InstanceLock::take(path / "absent");
-    ASSERT_FALSE(lost.has_value());
-    EXPECT_FALSE(lost.error().isHeld);
+    ASSERT_TRUE(!lost && !lost.error().isHeld);
     EXPECT_TRUE(lost.error().error.text.endsWith(QStringLiteral("/absent/instance.lock”: No such file or directory.")));
 }
 

@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <fstream>
 
+#include "adapters/qt/QtAppContainer.h"
 #include "adapters/qt/QtUserDefaults.h"
 #include "adapters/qt/TerminationSignals.h"
 #include "support/EventLoop.h"
@@ -27,7 +29,6 @@ protected:
         QFile::remove(m_path);
         ASSERT_TRUE(file.rename(m_path));
     }
-
     QByteArray text() const {
         QFile file(m_path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -38,35 +39,75 @@ protected:
     QString m_path = m_folder.filePath(QStringLiteral("settings.ini"));
 };
 
+TEST_F(SettingsFile, KeepsKeysAndValuesOfEveryKindApart) {
+    const std::pair<const char*, QVariant> rows[] = {
+        {"", QStringLiteral("")},
+        {"a/b", QStringLiteral("a, b")},
+        {"a//b", QStringLiteral("@Invalid()")},
+        {"a\\b", QStringLiteral("\"q\"")},
+        {"A", QStringLiteral("l\nm")},
+        {"a", QStringLiteral("; no comment")},
+        {"%", QStringLiteral(" blank ")},
+        {"%25", QStringLiteral("100 %")},
+        {"General/x", QStringLiteral("\\x41")},
+        {"x", QStringLiteral("Grüße 🎤")},
+        {"é = ü;\n[ä]", QStringLiteral("true")},
+        {"int", -7},
+        {"no", false},
+        {"double", 0.1},
+        {"float", 12.5F},
+    };
+    const QString path = m_folder.filePath(QStringLiteral("new/settings.ini"));
+    QtUserDefaults defaults(path.toStdString());
+    defaults.setObject(true, QStringLiteral("gone"));
+    defaults.setObject(1, QStringLiteral("int"));
+    EXPECT_TRUE(defaults.synchronize());
+    defaults.removeObjectForKey(QStringLiteral("gone"));
+    for (const auto& [key, value] : rows) {
+        defaults.setObject(value, QString::fromUtf8(key));
+    }
+    EXPECT_TRUE(defaults.synchronize());
+    // A copy of the file, since objects for one file share its contents within a process.
+    const QString copy = m_folder.filePath(QStringLiteral("copy.ini"));
+    ASSERT_TRUE(QFile::copy(path, copy));
+    QtUserDefaults read(copy.toStdString());
+    for (const auto& [key, value] : rows) {
+        EXPECT_TRUE(read.objectForKey(QString::fromUtf8(key)).isValid()) << key;
+        EXPECT_EQ(read.stringForKey(QString::fromUtf8(key)), value.toString()) << key;
+        read.removeObjectForKey(QString::fromUtf8(key));
+        EXPECT_FALSE(read.objectForKey(QString::fromUtf8(key)).isValid()) << key;
+    }
+    EXPECT_EQ(defaults.integerForKey(QStringLiteral("int")), -7);
+    EXPECT_EQ(defaults.floatForKey(QStringLiteral("double")), 0.1);
+    EXPECT_FALSE(defaults.boolForKey(QStringLiteral("no")));
+    EXPECT_FALSE(defaults.objectForKey(QStringLiteral("gone")).isValid());
+}
+
 TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
     QtUserDefaults defaults(m_path.toStdString());
     defaults.setObject(1, QStringLiteral("mine"));
     ASSERT_TRUE(defaults.synchronize());
-    writeAsOther("[General]\nmine=1\ntheirs=true\nlist=a, b\n");
-    EXPECT_TRUE(defaults.boolForKey(QStringLiteral("theirs")));
-    EXPECT_EQ(defaults.stringForKey(QStringLiteral("list")), QStringLiteral("a, b"));
-    // As long as the last.
-    for (const char* list : {"b, c", "d, e"}) {
+    // All are as long as the last, and a list is a text that somebody typed without quotes.
+    for (const char* list : {"a, b", "b, c", "d, e"}) {
         writeAsOther(QByteArray("[General]\nmine=1\ntheirs=true\nlist=") + list + '\n');
+        EXPECT_TRUE(defaults.boolForKey(QStringLiteral("theirs")));
         EXPECT_EQ(defaults.stringForKey(QStringLiteral("list")), QLatin1String(list));
     }
     writeAsOther("[General]\nmine=1\ntheirs=false\nmore=9\n");
     defaults.setObject(2, QStringLiteral("mine"));
     ASSERT_TRUE(defaults.synchronize());
-    EXPECT_FALSE(defaults.boolForKey(QStringLiteral("theirs")));
     EXPECT_EQ(text(), "[General]\nmine=2\nmore=9\ntheirs=false\n");
 }
 
-TEST_F(SettingsFile, SurvivesDamage) {
+TEST_F(SettingsFile, SurvivesDamageAndRecoversFromWhatIsInTheWay) {
     writeAsOther(QByteArray("[General]\nSort=3\nno equals sign\n[broken\n\xff\xfe") + QByteArray(64, '\0'));
-    QtUserDefaults defaults(m_path.toStdString());
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("Sort")), 3);
-    defaults.setObject(4, QStringLiteral("Sort"));
-    EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("Sort")), 4);
-}
+    QtUserDefaults damaged(m_path.toStdString());
+    EXPECT_EQ(damaged.integerForKey(QStringLiteral("Sort")), 3);
+    damaged.setObject(4, QStringLiteral("Sort"));
+    EXPECT_TRUE(damaged.synchronize());
+    EXPECT_EQ(damaged.integerForKey(QStringLiteral("Sort")), 4);
 
-TEST_F(SettingsFile, SaysThatItCannotBeWrittenAndRecovers) {
+    m_path += QLatin1String(".other");
     ASSERT_TRUE(QDir().mkpath(m_path + QLatin1String("/in the way")));
     QtUserDefaults defaults(m_path.toStdString());
     EXPECT_FALSE(defaults.objectForKey(QStringLiteral("Sort")).isValid());
@@ -76,6 +117,41 @@ TEST_F(SettingsFile, SaysThatItCannotBeWrittenAndRecovers) {
     ASSERT_TRUE(QDir(m_path).removeRecursively());
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(text(), "[General]\nSort=4\n");
+}
+
+TEST(Container, HasItsFoldersWherePeopleLookForThemOrBelowOne) {
+    const QTemporaryDir home;
+    const std::filesystem::path folder = home.path().toStdString();
+    ASSERT_TRUE(QDir::setCurrent(home.path()));
+    qputenv("HOME", home.path().toUtf8());
+    for (const char* name : {"CACHE", "CONFIG", "DATA"}) {
+        qputenv((QByteArray("XDG_") + name + "_HOME"), (folder / name).c_str());
+    }
+    const QString group = QStringLiteral("group.One");
+    const auto foldersOf = [&group](const char* path) {
+        const auto container = std::move(QtAppContainer::create(path).value());
+        return std::vector{container->documentsPath(), container->cachesPath(), container->temporaryPath(),
+                           container->preferencesPath(), container->groupContainerPath(group)};
+    };
+    const std::string id = "com.quillfen.voicerecorder";
+    EXPECT_EQ(foldersOf(""),
+              (std::vector{folder / "Music/Voice Recordings", folder / "CACHE" / id, folder / "CACHE" / id / "tmp",
+                           folder / "CONFIG" / id, folder / "DATA" / id / "Groups/group.One"}));
+    const auto own = foldersOf("./other/../mine/");
+    const std::filesystem::path mine = folder / "mine";
+    EXPECT_EQ(own, (std::vector{mine / "Documents", mine / "Caches", mine / "tmp", mine / "Preferences",
+                                mine / "Groups/group.One"}));
+    for (const auto& path : own) {
+        // Others may look at the recordings only.
+        const bool isShared = path == own.front();
+        const auto permissions = std::filesystem::status(path).permissions();
+        EXPECT_EQ(permissions,
+                  isShared ? std::filesystem::status(mine).permissions() : std::filesystem::perms::owner_all);
+        EXPECT_TRUE(std::ofstream(path / "probe"));
+    }
+    const auto impossible = QtAppContainer::create("mine/Documents/probe/below");
+    ASSERT_FALSE(impossible);
+    EXPECT_TRUE(impossible.error().text.contains(home.path() + QLatin1String("/mine/Documents/probe/below")));
 }
 
 TEST(TerminationSignals, ArriveOnTheMainThreadAndAreRestored) {

@@ -1,0 +1,215 @@
+#include <gmock/gmock.h>
+
+#include <QDBusPendingCallWatcher>
+#include <QFile>
+
+#include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/desktop/DesktopMailComposer.h"
+#include "support/EventLoop.h"
+#include "support/FakeDesktop.h"
+#include "support/PrivateBus.h"
+
+namespace tavi::test {
+
+namespace {
+
+const QString kPortal = FakeDesktop::portal();
+const QString kScreenSaver = FakeDesktop::screenSaver();
+
+/// A private bus with a desktop on it that has nothing yet.
+class DesktopTest : public ::testing::Test {
+protected:
+    /// Waits until everything sent so far has been dealt with on both sides.
+    void settle() {
+        const QDBusMessage ping =
+            QDBusMessage::createMethodCall(m_service.baseService(), QStringLiteral("/"),
+                                           QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+        for (int round = 0; round < 3; ++round) {
+            // The watcher is told in the order in which messages are; the call itself knows before.
+            bool isAnswered = false;
+            const QDBusPendingCallWatcher watcher(m_client.asyncCall(ping));
+            QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, [&isAnswered] { isAnswered = true; });
+            ASSERT_TRUE(spinUntil([&isAnswered] { return isAnswered; }));
+        }
+    }
+    void own(const QString& name) {
+        m_desktop.own(name);
+        settle();
+    }
+    void disown(const QString& name) {
+        m_desktop.disown(name);
+        settle();
+    }
+
+    PrivateBus m_bus;
+    QDBusConnection m_service = m_bus.connect();
+    QDBusConnection m_client = m_bus.connect();
+    FakeDesktop m_desktop{m_service};
+};
+
+TEST_F(DesktopTest, TheScreenIsKeptOnAsLongAsThatIsWanted) {
+    for (const QStringList& names : {QStringList{kPortal, kScreenSaver}, {kScreenSaver}, {}}) {
+        SCOPED_TRACE(names.size());
+        m_desktop.inhibitFlags = 0;
+        auto timer = std::make_unique<DBusIdleTimer>(m_client, QStringLiteral("Recording"));
+        std::for_each(names.begin(), names.end(), [this](const QString& name) { own(name); });
+        const auto expectKept = [&](bool isKept) {
+            settle();
+            EXPECT_EQ(m_desktop.inhibitions.size(), isKept && !names.isEmpty() ? 1 : 0);
+        };
+        // The last wish counts, before the answers come too.
+        for (const std::string wishes : {"++", "-", "+-", "+-+", "-", "+"}) {
+            for (const char wish : wishes) {
+                timer->setIdleTimerDisabled(wish == '+');
+                EXPECT_EQ(timer->isIdleTimerDisabled(), wish == '+');
+            }
+            expectKept(wishes.back() == '+');
+        }
+        if (!names.isEmpty()) {
+            EXPECT_EQ(m_desktop.inhibitReason, QStringLiteral("Recording"));
+            EXPECT_EQ(m_desktop.inhibitFlags, names.size() == 2 ? 8U : 0U);
+        }
+        // What goes takes with it what it granted; what comes back is asked again, unless another holds or nobody
+        // wants.
+        for (const bool isWanted : {true, false}) {
+            timer->setIdleTimerDisabled(isWanted);
+            for (const QString& name : names) {
+                disown(name);
+                if (name == names.first()) {
+                    m_desktop.inhibitions.clear();
+                }
+                own(name);
+                expectKept(isWanted);
+            }
+        }
+        timer->setIdleTimerDisabled(true);
+        expectKept(true);
+        timer.reset();
+        expectKept(false);
+        std::for_each(names.begin(), names.end(), [this](const QString& name) { disown(name); });
+    }
+}
+
+class MailTest : public DesktopTest {
+protected:
+    MailTest() {
+        qputenv("PATH", m_programs.path().toUtf8());
+        write(m_attachment, "sound");
+    }
+    ~MailTest() override { qputenv("PATH", m_path); }
+
+    static void write(const QString& path, const char* text) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+    }
+    /// Composes; the mail's outcome follows those before, "ok" or the text of the error.
+    void compose(MailComposer& composer) {
+        composer.compose(m_mail, [this](const Result<void>& result) {
+            m_outcomes << (result ? QStringLiteral("ok") : result.error().text);
+        });
+    }
+    std::string outcomeOf(MailComposer& composer) {
+        m_outcomes.clear();
+        compose(composer);
+        EXPECT_TRUE(spinUntil([this] { return !m_outcomes.isEmpty(); }));
+        return m_outcomes.join(QLatin1Char(' ')).toStdString();
+    }
+
+    QByteArray m_path = qgetenv("PATH");
+    QTemporaryDir m_programs;
+    QString m_attachment = m_programs.filePath(QStringLiteral("-a 'b' \"c\" $(touch x);\n.m4a"));
+    MailMessage m_mail{QStringLiteral("a@example.org"),
+                       QStringLiteral("Tone; $(rm -rf /)"),
+                       QStringLiteral("Body"),
+                       {{m_attachment.toStdString(), QStringLiteral("audio/m4a"), QStringLiteral("a.m4a")}}};
+    QStringList m_outcomes;
+};
+
+TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
+    DesktopMailComposer composer(m_client);
+    EXPECT_FALSE(composer.canSendMail());
+    EXPECT_EQ(outcomeOf(composer), "There is no mail program.");
+    for (const quint32 version : {4, 2}) {
+        m_desktop.mailVersion = version;
+        own(kPortal);
+        EXPECT_TRUE(composer.canSendMail());
+        EXPECT_EQ(outcomeOf(composer), "ok");
+        EXPECT_THAT(m_desktop.mailAttachments, ::testing::ElementsAre("sound"));
+        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("subject")), m_mail.subject);
+        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("body")), m_mail.body);
+        EXPECT_EQ(m_desktop.mail.contains(QStringLiteral("address")), version == 2);
+        EXPECT_EQ(m_desktop.mail.value(QLatin1String(version == 2 ? "address" : "addresses")).toStringList(),
+                  QStringList{m_mail.recipient});
+        disown(kPortal);
+        EXPECT_FALSE(composer.canSendMail());
+    }
+    own(kPortal);
+    const std::tuple<quint32, bool, const char*> answers[] = {
+        {1, false, "ok"},
+        {2, false, "The desktop's mail program did not take the mail."},
+        {0, true, "There is no mail program."}};
+    for (const auto& [response, isRefused, outcome] : answers) {
+        m_desktop.mailResponse = response;
+        m_desktop.refusesMail = isRefused;
+        EXPECT_EQ(outcomeOf(composer), outcome);
+    }
+    m_mail.attachments.front().path = "/nowhere/a.m4a";
+    EXPECT_EQ(outcomeOf(composer), "There is no file “/nowhere/a.m4a” to attach.");
+    disown(kPortal);
+    m_desktop.mailVersion = 0;
+    own(kPortal);
+    EXPECT_FALSE(composer.canSendMail());
+}
+
+TEST_F(MailTest, EachOfTwoOpenMailsHasItsOwnOutcome) {
+    m_desktop.holdsMail = true;
+    DesktopMailComposer composer(m_client);
+    for (const bool isNamedByPortal : {false, true}) {
+        m_desktop.namesRequestsItself = isNamedByPortal;
+        own(kPortal);
+        m_outcomes.clear();
+        compose(composer);
+        compose(composer);
+        settle();
+        EXPECT_EQ(m_outcomes, QStringList());
+        m_desktop.respondToMail();
+        settle();
+        EXPECT_EQ(m_outcomes, QStringList{QStringLiteral("ok")});
+        disown(kPortal);
+        EXPECT_EQ(m_outcomes.mid(1), QStringList{QStringLiteral("The desktop's mail program did not take the mail.")});
+    }
+}
+
+TEST_F(MailTest, WithoutAPortalAProgramTakesTheMailOrTheReasonIsSaid) {
+    // In the place of the user's whole mail program; it writes down its call.
+    const QString script = m_programs.filePath(QStringLiteral("xdg-email"));
+    write(script, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"${0%/*}/call\"\nexit \"$(/bin/cat \"${0%/*}/exit\")\"\n");
+    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    DesktopMailComposer composer(m_client);
+    EXPECT_TRUE(composer.canSendMail());
+    const std::string failed = "The mail could not be handed over: ";
+    const std::pair<const char*, std::string> exits[] = {{"0", "ok"},
+                                                         {"2", failed + "a file is missing."},
+                                                         {"3", failed + "no mail program was found."},
+                                                         {"4", failed + "xdg-email ended with 4."}};
+    for (const auto& [exit, outcome] : exits) {
+        write(m_programs.filePath(QStringLiteral("exit")), exit);
+        EXPECT_EQ(outcomeOf(composer), outcome);
+        QFile call(m_programs.filePath(QStringLiteral("call")));
+        ASSERT_TRUE(call.open(QIODevice::ReadOnly));
+        EXPECT_EQ(QString::fromUtf8(call.readAll()),
+                  QStringLiteral("--utf8\n--subject\nTone; $(rm -rf /)\n--body\nBody\n--attach\n") + m_attachment +
+                      QStringLiteral("\na@example.org\n"));
+    }
+    QFile::remove(script);
+    EXPECT_THAT(outcomeOf(composer), ::testing::StartsWith("xdg-email could not be started"));
+    MailMessage hostile{{}, {}, {}, {}};
+    for (const char* recipient : {"--attach=/etc/passwd@", "MAILTO:a@b?attach=/etc/passwd", "nobody", ""}) {
+        hostile.recipient = QString::fromLatin1(recipient);
+        EXPECT_EQ(XdgEmail::arguments(hostile), QStringList{QStringLiteral("--utf8")}) << recipient;
+    }
+}
+
+}  // namespace
+
+}  // namespace tavi::test
