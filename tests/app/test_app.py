@@ -54,6 +54,11 @@ class AppTest(unittest.TestCase):
     def tavi(self, *arguments, check=True):
         return self.desktop.run(PROGRAM, "--container", self.container, *arguments, check=check)
 
+    def assert_fails(self, why, *arguments, status=1):
+        done = self.tavi(*arguments, check=False)
+        self.assertEqual((done.returncode, done.stdout), (status, ""))
+        self.assertRegex(done.stderr, why)
+
     def activate(self, action):
         name = re.search(rf"{re.escape(NAME)}[\w.]*", self.bus_names()).group()
         self.desktop.run("gdbus", "call", "--session", "--dest", name, "--object-path", "/" + NAME.replace(".", "/"),
@@ -65,6 +70,14 @@ class AppTest(unittest.TestCase):
         except Exception as error:
             said = self.log.read_text() if self.log.exists() else ""
             self.fail(f"{error}\nthe program said:\n{said}")
+
+    def wait_shown(self):
+        self.wait(lambda: self.desktop.colours() > 8, "the first screen")
+        return self.desktop.picture()
+
+    def wait_change(self, before, what, points=0):
+        """Waits until more than that many points of the picture differ; the picture then."""
+        return self.wait(lambda: sum(map(int.__ne__, now := self.desktop.picture(), before)) > points and now, what)
 
     def wait_capturing(self, running):
         self.wait(lambda: self.desktop.captures() == [running], f"the state of recording to be {running}")
@@ -108,8 +121,7 @@ class Recording(AppTest):
                 before = set(self.recordings())
                 self.tavi("record")
                 self.play_while_recording()
-                refused = self.tavi("set", "AudioFileType", "mp4", check=False)
-                self.assertEqual((refused.returncode, refused.stderr.count("recording")), (1, 1))
+                self.assert_fails("recording", "set", "AudioFileType", "mp4")
                 self.tavi("stop")
                 self.wait_saved(count)
                 saved, = set(self.recordings()) - before
@@ -119,13 +131,14 @@ class Recording(AppTest):
                 self.assertEqual({key: found[key] for key in expected}, expected)
                 self.assert_holds_tone(saved, tolerance=tolerance)
 
-    def test_keys_and_the_bus_record_pause_resume_and_stop(self):
+    def test_keys_the_bus_and_urls_record_pause_resume_and_stop(self):
         first = write_tone(self.desktop.folder / "first.wav", 500, 1.0)
         left_out = write_tone(self.desktop.folder / "left_out.wav", 3000, 1.0)
         app = self.start()
-        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
+        shown = self.wait_shown()
         for count, record, stop in ((1, lambda: self.desktop.keys("space"), lambda: self.desktop.keys("ctrl+s")),
-                                    (2, lambda: self.activate("record"), lambda: self.activate("stop"))):
+                                    (2, lambda: self.activate("record"), lambda: self.activate("stop")),
+                                    (3, lambda: self.tavi("tavirecordstart://"), lambda: self.tavi("TAVIRECORDSTOP:"))):
             for sound in (first, left_out, self.tone):
                 record()
                 self.wait_capturing(sound != left_out)
@@ -137,29 +150,17 @@ class Recording(AppTest):
             self.assertAlmostEqual(saved.tone_seconds(500), 1.0, delta=0.1)
             self.assertAlmostEqual(saved.tone_seconds(1000), 2.0, delta=0.1)
             self.assertLess(saved.tone_seconds(3000), 0.1)
-        shown = self.desktop.picture()
         for key in ("ctrl+2", "ctrl+3", "ctrl+1"):
             self.desktop.keys(key)
-            before = shown
-            shown = self.wait(lambda: (now := self.desktop.picture()) != before and now, f"the screen after {key}")
-        self.assertEqual(self.desktop.stop(app), 0)
-
-    def test_urls_in_any_case_start_the_program_and_stop_the_recording(self):
-        self.start("TaviRecordStart:")
-        for stop, start in (("TaviRecordStop:", "tavirecordstart://"), ("TAVIRECORDSTOP://", None)):
-            before = len(self.recordings())
-            self.play_while_recording()
-            self.tavi(stop)
-            self.assert_holds_tone(self.wait_saved(before + 1))
-            if start:
-                self.tavi(start)
+            shown = self.wait_change(shown, f"the screen after {key}")
         # Another start only shows the window that is there.
         self.assertEqual(self.tavi().returncode, 0)
         windows = self.desktop.run("xdotool", "search", "--onlyvisible", "--class", ".", check=False).stdout.split()
         self.assertEqual(len(windows), 1)
+        self.assertEqual(self.desktop.stop(app), 0)
 
     def test_termination_saves_the_recording(self):
-        app = self.start("record")
+        app = self.start("TaviRecordStart:")
         self.play_while_recording()
         self.assertEqual(self.desktop.stop(app, signal.SIGTERM), 0)
         self.assert_holds_tone(self.wait_saved())
@@ -184,57 +185,37 @@ class Recording(AppTest):
 class Playing(AppTest):
     PLAYER = "org.mpris.MediaPlayer2.Player"
 
-    def setUp(self):
-        super().setUp()
-        self.documents.mkdir(parents=True)
-        write_tone(self.documents / "memo.wav", 1000, 40.0)
-        self.tavi("set", "RewindSong", "5")
-        self.tavi("set", "ForwardSong", "15")
-        self.start("library")
-
-    def call(self, method, *arguments, interface=PLAYER, check=True):
-        return self.desktop.run("gdbus", "call", "--session", "--dest", "org.mpris.MediaPlayer2.tavi", "--object-path",
-                                "/org/mpris/MediaPlayer2", "--method", f"{interface}.{method}", *arguments,
-                                check=check).stdout
-
-    def player(self, name):
-        said = self.call("Get", self.PLAYER, name, interface="org.freedesktop.DBus.Properties", check=False)
+    def player(self, name, interface="org.freedesktop.DBus.Properties", method="Get"):
+        """A property of the desktop's player; none where there is no player."""
+        said = self.desktop.run("gdbus", "call", "--session", "--dest", "org.mpris.MediaPlayer2.tavi", "--object-path",
+                                "/org/mpris/MediaPlayer2", "--method", f"{interface}.{method}",
+                                *([self.PLAYER, name] if method == "Get" else []), check=False).stdout
         value = re.search(r"<(?:\w+ )?'?([^'>]+)'?>", said)
         return value and value.group(1)
 
-    def position(self):
-        return int(self.player("Position")) / 1e6
-
-    def wait_status(self, status):
-        self.wait(lambda: self.player("PlaybackStatus") == status, f"the player to be {status}")
-
     def test_keys_and_the_desktops_controls_play_a_recording(self):
-        self.wait(lambda: self.desktop.colours() > 8, "the library")
+        self.documents.mkdir(parents=True)
+        write_tone(self.documents / "memo.wav", 1000, 40.0)
+        self.tavi("set", "ForwardSong", "15")
+        self.start("library")
+        self.wait_shown()
         self.assertIsNone(self.player("PlaybackStatus"))
-        self.desktop.keys("Down")
-        self.desktop.keys("Return")
-        self.wait_status("Playing")
-        self.wait(lambda: self.position() > 0.5, "the sound to go on")
-        self.desktop.keys("space")
-        self.wait_status("Paused")
-        start = self.position()
+        for does, name, wanted in ((lambda: self.desktop.keys("Down", "Return"), "PlaybackStatus", "Playing"),
+                                   (lambda: self.desktop.keys("space"), "PlaybackStatus", "Paused"),
+                                   (lambda: self.desktop.keys("greater"), "Rate", "2.0"),
+                                   (lambda: self.player("", self.PLAYER, "PlayPause"), "PlaybackStatus", "Playing")):
+            does()
+            self.wait(lambda: self.player(name) == wanted, f"{name} to be {wanted}")
+        self.player("", self.PLAYER, "PlayPause")
+        self.wait(lambda: self.player("PlaybackStatus") == "Paused", "a pause")
+        position = lambda: int(self.player("Position")) / 1e6
+        start = position()
         self.desktop.keys("l")
-        self.wait(lambda: self.position() > start, "the skip forward")
-        self.assertAlmostEqual(self.position(), start + 15.0, delta=0.01)
-        self.call("Previous")
-        self.assertAlmostEqual(self.position(), start + 10.0, delta=0.01)
-        # Behind the end a skip does nothing.
-        self.call("Seek", "20000000")
-        self.call("Next")
-        self.assertAlmostEqual(self.position(), start + 30.0, delta=0.01)
-        self.desktop.keys("greater")
-        self.wait(lambda: float(self.player("Rate")) == 2.0, "double speed")
-        self.call("PlayPause")
-        self.wait_status("Playing")
+        self.wait(lambda: position() > start, "the skip forward")
+        self.assertAlmostEqual(position(), start + 15.0, delta=0.01)
         # Deleted behind the program's back, it harms nothing.
         (self.documents / "memo.wav").unlink()
-        self.call("Seek", "1000000")
-        self.desktop.keys("Escape")
+        self.desktop.keys("space", "Escape")
         self.wait(lambda: self.player("PlaybackStatus") is None, "the player to go")
 
 
@@ -244,10 +225,9 @@ class Trimming(AppTest):
         memo = write_tone(self.documents / "memo.wav", 1000, 20.0)
         before = memo.read_bytes()
         self.start("library")
-        self.wait(lambda: self.desktop.colours() > 8, "the library")
-        shown = self.desktop.picture()
+        shown = self.wait_shown()
         self.desktop.keys("Down", "t")
-        self.wait(lambda: sum(map(int.__ne__, self.desktop.picture(), shown)) > 20_000, "the trimmer")
+        self.wait_change(shown, "the trimmer", 20_000)
         # Past the buttons below and above to the first thumb, and back to the last of these buttons.
         self.desktop.keys(*["Tab"] * 6, *["shift+Right"] * 3, "shift+Tab", "Return")
         made = self.wait(lambda: next(self.documents.glob("Trim_*.wav"), None), "the cut")
@@ -268,24 +248,17 @@ class CommandLine(AppTest):
         self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
         made = pathlib.Path(self.tavi("trim", self.tone, "--from", "0.5", "--to", "2.25").stdout.strip())
         self.assertEqual(probe(made)["duration"], 1.75)
-        before = made.read_bytes()
-        refused = self.tavi("trim", made, "--from", "0", "--to", "1", "--out", made, check=False)
-        self.assertEqual((refused.returncode, refused.stdout, made.read_bytes()), (1, "", before))
+        self.assert_fails("exists", "trim", made, "--from", "0", "--to", "1", "--out", made)
+        self.assertEqual(probe(made)["duration"], 1.75)
         self.assertEqual(self.tavi("get", "Sort").stdout, "1\n")
         listed, = json.loads(self.tavi("list", "--json").stdout)
         self.assertEqual((listed["filename"], listed["duration"]), (made.name, "00:01"))
 
     def test_mistakes_are_told_on_standard_error(self):
         for status, *arguments in ((2, "fly"), (1, "get", "NoSuchKey"), (1, "waveform", "/etc/passwd"), (1, "waveform", "/etc")):
-            done = self.tavi(*arguments, check=False)
-            self.assertEqual((done.returncode, done.stdout), (status, ""))
-            self.assertRegex(done.stderr, r"^tavi: .+\n$")
-
-    def test_a_lock_that_cannot_be_made_is_no_other_program(self):
-        (self.container / "Caches/instance.lock").mkdir(parents=True)
-        done = self.tavi("record", check=False)
-        self.assertEqual(done.returncode, 1)
-        self.assertRegex(done.stderr, r"^tavi: Cannot make the lock file “.*/instance\.lock”: .*\n$")
+            self.assert_fails(r"^tavi: .+\n$", *arguments, status=status)
+        (self.container / "Caches/instance.lock").mkdir()
+        self.assert_fails(r"^tavi: Cannot make the lock file “.*/instance\.lock”: .*\n$", "record")
 
 
 class WithoutServices(AppTest):
@@ -295,22 +268,17 @@ class WithoutServices(AppTest):
 
     def test_what_is_missing_is_said_and_the_rest_works(self):
         app = self.start()
-        self.wait(lambda: self.desktop.colours() > 8, "the record screen")
-        before = self.desktop.picture()
+        before = self.wait_shown()
         self.desktop.keys("space")
-        self.wait(lambda: sum(map(int.__ne__, self.desktop.picture(), before)) > 20_000, "the alert")
+        self.wait_change(before, "the alert", 20_000)
         self.assertEqual(self.recordings(), [])
-        second = self.tavi("stop", check=False)
-        self.assertEqual(second.returncode, 1)
-        self.assertRegex(second.stderr, rf"^tavi: The recorder is already running as process {app.pid} .* cannot be told\.\n$")
+        self.assert_fails(rf"^tavi: The recorder is already running as process {app.pid} .* cannot be told\.\n$", "stop")
         self.assertEqual(self.desktop.stop(app), 0)
         self.assertRegex(self.log.read_text(), r"^There is no session bus.*\n$")
 
     def test_without_a_display_the_program_says_so_and_ends(self):
         del self.desktop.environment["DISPLAY"]
-        done = self.tavi(check=False)
-        self.assertEqual(done.returncode, 1)
-        self.assertRegex(done.stderr, r"^tavi: no window can be shown: .*\n$")
+        self.assert_fails(r"^tavi: no window can be shown: .*\n$")
 
 
 if __name__ == "__main__":

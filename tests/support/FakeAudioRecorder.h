@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFile>
+#include <QPointer>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -11,32 +12,23 @@
 namespace tavi::test {
 
 /// A recorder that makes a small file at once and captures what a test says.
-class FakeAudioRecorder : public AudioRecorder {
+class FakeAudioRecorder : public QObject, public AudioRecorder {
 public:
-    FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop, std::shared_ptr<FakeAudioRecorder*> self)
-        : m_runLoop(runLoop), m_self(std::move(self)) {
-        *m_self = this;
+    FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop) : m_runLoop(runLoop) {
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("sound") != 5) {
             qFatal("cannot write %s", path.c_str());
         }
     }
-    ~FakeAudioRecorder() override { *m_self = nullptr; }
-    FakeAudioRecorder(const FakeAudioRecorder&) = delete;
-    FakeAudioRecorder& operator=(const FakeAudioRecorder&) = delete;
 
     void setDelegate(AudioRecorderDelegate* delegate) override { m_delegate = delegate; }
     bool prepareToRecord() override { return true; }
     void setMeteringEnabled(bool enabled) override { m_isMetering = enabled; }
-    bool record() override {
-        m_isRunning = !m_isStopped && !m_isFinished;
-        return m_isRunning;
-    }
+    bool record() override { return m_isRunning = !m_isStopped; }
     void pause() override { m_isRunning = false; }
     void stop() override {
-        if (!std::exchange(m_isStopped, true)) {
-            m_isRunning = false;
-            finishLater(std::nullopt);
+        if (!m_isStopped) {
+            endLater(std::nullopt);
         }
     }
     void waitUntilFinished() override {
@@ -45,11 +37,7 @@ public:
     }
     bool isRecording() const override { return m_isRunning; }
     std::int64_t framesRecorded() const override { return m_frames; }
-    void updateMeters() override {
-        if (m_isMetering && m_arrived) {
-            m_power = *std::exchange(m_arrived, std::nullopt);
-        }
-    }
+    void updateMeters() override { m_power = m_isMetering ? m_arrived : m_power; }
     float averagePowerForChannel(int channel) const override { return channel == 0 ? m_power : -160.0F; }
 
     /// Sound arrives: it is recorded, and metered at the next update, if the recorder runs.
@@ -60,17 +48,15 @@ public:
         }
     }
     /// The input or the disk gives up.
-    void fail(const Error& error) {
-        m_isRunning = false;
-        m_isStopped = true;
-        finishLater(error);
-    }
+    void fail(const Error& error) { endLater(error); }
 
 private:
-    void finishLater(const std::optional<Error>& error) {
-        m_runLoop.dispatchMain([self = m_self, error] {
-            if (*self != nullptr) {
-                (*self)->finish(error);
+    void endLater(const std::optional<Error>& error) {
+        m_isRunning = false;
+        m_isStopped = true;
+        m_runLoop.dispatchMain([self = QPointer(this), error] {
+            if (self) {
+                self->finish(error);
             }
         });
     }
@@ -81,14 +67,13 @@ private:
     }
 
     RunLoop& m_runLoop;
-    std::shared_ptr<FakeAudioRecorder*> m_self;
     AudioRecorderDelegate* m_delegate = nullptr;
     bool m_isRunning = false;
     bool m_isStopped = false;
     bool m_isFinished = false;
     bool m_isMetering = false;
     std::int64_t m_frames = 0;
-    std::optional<float> m_arrived;
+    float m_arrived = -160.0F;
     float m_power = -160.0F;
 };
 
@@ -101,18 +86,16 @@ public:
                                                             const AudioRecordSettings& settings) override {
         lastPath = path;
         lastSettings = settings;
-        if (!creation) {
-            return tl::unexpected(creation.error());
+        if (!creation || std::filesystem::exists(path)) {
+            return failure(creation ? QStringLiteral("The file exists.") : creation.error().text);
         }
-        if (std::filesystem::exists(path)) {
-            return failure(QStringLiteral("The file exists."));
-        }
-        m_last = std::make_shared<FakeAudioRecorder*>(nullptr);
-        return std::make_unique<FakeAudioRecorder>(path, m_runLoop, m_last);
+        auto recorder = std::make_unique<FakeAudioRecorder>(path, m_runLoop);
+        m_last = recorder.get();
+        return recorder;
     }
 
     /// The recorder made last; null when it is gone.
-    FakeAudioRecorder* last() const { return m_last == nullptr ? nullptr : *m_last; }
+    FakeAudioRecorder* last() const { return m_last; }
 
     /// What making a recorder answers; an error here makes it fail.
     Result<void> creation;
@@ -121,7 +104,7 @@ public:
 
 private:
     RunLoop& m_runLoop;
-    std::shared_ptr<FakeAudioRecorder*> m_last;
+    QPointer<FakeAudioRecorder> m_last;
 };
 
 }  // namespace tavi::test

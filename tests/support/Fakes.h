@@ -63,14 +63,13 @@ public:
 
 class FakeTabBar : public TabBar {
 public:
-    int selectedIndex() const override { return m_index; }
-    void setSelectedIndex(int index) override { m_index = index; }
-    bool isUserInteractionEnabled() const override { return m_enabled; }
-    void setUserInteractionEnabled(bool enabled) override { m_enabled = enabled; }
+    int selectedIndex() const override { return index; }
+    void setSelectedIndex(int newIndex) override { index = newIndex; }
+    bool isUserInteractionEnabled() const override { return isEnabled; }
+    void setUserInteractionEnabled(bool enabled) override { isEnabled = enabled; }
 
-private:
-    int m_index = 0;
-    bool m_enabled = true;
+    int index = 0;
+    bool isEnabled = true;
 };
 
 /// A sound system that answers as it is told.
@@ -113,11 +112,10 @@ public:
 
 class FakeIdleTimer : public IdleTimer {
 public:
-    void setIdleTimerDisabled(bool disabled) override { m_disabled = disabled; }
-    bool isIdleTimerDisabled() const override { return m_disabled; }
+    void setIdleTimerDisabled(bool disabled) override { isDisabled = disabled; }
+    bool isIdleTimerDisabled() const override { return isDisabled; }
 
-private:
-    bool m_disabled = false;
+    bool isDisabled = false;
 };
 
 class FakeMailComposer : public MailComposer {
@@ -134,14 +132,11 @@ public:
 
 class FakeApplication : public Application {
 public:
-    void setDelegate(ApplicationDelegate* newDelegate) override { delegate = newDelegate; }
-    QList<ShortcutItem> shortcutItems() const override { return m_items; }
-    void setShortcutItems(const QList<ShortcutItem>& items) override { m_items = items; }
+    void setDelegate(ApplicationDelegate*) override {}
+    QList<ShortcutItem> shortcutItems() const override { return items; }
+    void setShortcutItems(const QList<ShortcutItem>& newItems) override { items = newItems; }
 
-    ApplicationDelegate* delegate = nullptr;
-
-private:
-    QList<ShortcutItem> m_items;
+    QList<ShortcutItem> items;
 };
 
 /// Keeps what the desktop would show; a test sends what a user would press there.

@@ -16,39 +16,33 @@
 namespace tavi::test {
 namespace {
 
-class FakeRecorderWorld {
-public:
-    AudioRecorders& recorders() { return m_recorders; }
-    void hear() { m_recorders.last()->capture(4800, -17.5F); }
-    void removeMicrophone() { m_recorders.last()->fail({QStringLiteral("gone")}); }
+struct FakeRecorderWorld {
+    void hear() { recorders.last()->capture(4800, -17.5F); }
+    void removeMicrophone() { recorders.last()->fail({QStringLiteral("gone")}); }
     template <class Condition>
     bool wait(Condition condition) {
-        m_runLoop.advance(2.0);
+        runLoop.advance(2.0);
         return condition();
     }
 
-private:
-    ManualRunLoop m_runLoop;
-    FakeAudioRecorders m_recorders{m_runLoop};
+    ManualRunLoop runLoop;
+    FakeAudioRecorders recorders{runLoop};
 };
 
-class RealRecorderWorld {
-public:
-    AudioRecorders& recorders() { return m_recorders; }
+struct RealRecorderWorld {
     void hear() {}
-    void removeMicrophone() { m_server.kill(); }
+    void removeMicrophone() { server.kill(); }
     template <class Condition>
     bool wait(Condition condition) {
         return spinUntil(condition);
     }
 
-private:
-    PrivatePulse m_server;
-    ProcessHandle m_player = m_server.play(QByteArray(48000 * 4 * 60, 0x11), 48000, 2);
-    QtRunLoop m_runLoop;
-    PulseAudioInputs m_inputs{std::make_shared<PulseConnection>()};
-    FfmpegAudioFileWriters m_writers;
-    CaptureRecorders m_recorders{m_inputs, m_writers, m_runLoop};
+    PrivatePulse server;
+    ProcessHandle player = server.play(QByteArray(48000 * 4 * 60, 0x11), 48000, 2);
+    QtRunLoop runLoop;
+    PulseAudioInputs inputs{std::make_shared<PulseConnection>()};
+    FfmpegAudioFileWriters writers;
+    CaptureRecorders recorders{inputs, writers, runLoop};
 };
 
 template <class World>
@@ -58,7 +52,7 @@ protected:
         m_ends.push_back(error ? error->text : QString());
     }
     std::unique_ptr<AudioRecorder> made() {
-        auto recorder = std::move(m_world.recorders().recorderWithPath(m_path, {}).value());
+        auto recorder = std::move(m_world.recorders.recorderWithPath(m_path, {}).value());
         recorder->setDelegate(this);
         recorder->setMeteringEnabled(true);
         recorder->prepareToRecord();
@@ -124,7 +118,7 @@ TYPED_TEST(AudioRecorderContract, WaitingEndsTheRecordingWhichNoOtherReplacesAnd
     recorder->waitUntilFinished();
     EXPECT_EQ(this->m_ends.size(), 1U);
     recorder.reset();
-    EXPECT_FALSE(this->m_world.recorders().recorderWithPath(this->m_path, {}));
+    EXPECT_FALSE(this->m_world.recorders.recorderWithPath(this->m_path, {}));
     ASSERT_TRUE(std::filesystem::remove(this->m_path));
     recorder = this->made();
     ASSERT_TRUE(recorder->record());

@@ -12,38 +12,30 @@ namespace {
 
 using ::testing::ElementsAre;
 
-struct Manual {
-    std::unique_ptr<ManualRunLoop> loop = std::make_unique<ManualRunLoop>();
-
-    template <class Condition>
-    bool passUntil(Condition condition) {
-        for (int step = 0; step < 10'000 && !condition(); ++step) {
-            loop->advance(0.001);
-        }
-        return condition();
+template <class Condition>
+bool passUntil(ManualRunLoop& loop, Condition condition) {
+    for (int step = 0; step < 10'000 && !condition(); ++step) {
+        loop.advance(0.001);
     }
-};
+    return condition();
+}
 
-struct Real {
-    std::unique_ptr<QtRunLoop> loop = std::make_unique<QtRunLoop>();
+template <class Condition>
+bool passUntil(QtRunLoop&, Condition condition) {
+    return spinUntil(condition);
+}
 
-    template <class Condition>
-    bool passUntil(Condition condition) {
-        return spinUntil(condition);
-    }
-};
-
-template <class Driver>
+template <class Loop>
 class RunLoopContract : public ::testing::Test {
 protected:
-    Driver m_driver;
+    std::unique_ptr<Loop> m_loop = std::make_unique<Loop>();
 };
 
-using Drivers = ::testing::Types<Manual, Real>;
-TYPED_TEST_SUITE(RunLoopContract, Drivers);
+using Loops = ::testing::Types<ManualRunLoop, QtRunLoop>;
+TYPED_TEST_SUITE(RunLoopContract, Loops);
 
 TYPED_TEST(RunLoopContract, DispatchesToTheMainThreadInOrderAndLater) {
-    auto& loop = *this->m_driver.loop;
+    auto& loop = *this->m_loop;
     std::vector<int> order;
     std::thread::id thread;
     for (int i = 0; i < 3; ++i) {
@@ -56,26 +48,26 @@ TYPED_TEST(RunLoopContract, DispatchesToTheMainThreadInOrderAndLater) {
         }
         loop.dispatchMain([&thread] { thread = std::this_thread::get_id(); });
     });
-    ASSERT_TRUE(this->m_driver.passUntil([&thread] { return thread != std::thread::id(); }));
+    ASSERT_TRUE(passUntil(loop, [&thread] { return thread != std::thread::id(); }));
     EXPECT_EQ(thread, std::this_thread::get_id());
     EXPECT_EQ(order.size(), 100U);
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
 }
 
 TYPED_TEST(RunLoopContract, CallsWhatIsDueInItsOrder) {
-    auto& loop = *this->m_driver.loop;
+    auto& loop = *this->m_loop;
     std::vector<std::string> order;
     const auto late = loop.scheduledTimer(0.09, false, [&order] { order.emplace_back("late"); });
     loop.dispatchAfter(0.05, [&order] { order.emplace_back("after"); });
     loop.scheduledTimer(0.01, false, [&order] { order.emplace_back("early"); });
     loop.dispatchMain([&order] { order.emplace_back("now"); });
-    ASSERT_TRUE(this->m_driver.passUntil([&order] { return order.size() == 4; }));
+    ASSERT_TRUE(passUntil(loop, [&order] { return order.size() == 4; }));
     EXPECT_THAT(order, ElementsAre("now", "early", "after", "late"));
     EXPECT_FALSE(late->isValid());
 }
 
 TYPED_TEST(RunLoopContract, RepeatsUntilInvalidatedWhoeverHoldsTheHandle) {
-    auto& loop = *this->m_driver.loop;
+    auto& loop = *this->m_loop;
     int dropped = 0;
     int stopped = 0;
     loop.scheduledTimer(0.002, true, [&dropped] { ++dropped; });
@@ -89,7 +81,7 @@ TYPED_TEST(RunLoopContract, RepeatsUntilInvalidatedWhoeverHoldsTheHandle) {
         EXPECT_GT(token.use_count(), 1);
     });
     EXPECT_TRUE(handle->isValid());
-    ASSERT_TRUE(this->m_driver.passUntil([&dropped] { return dropped >= 5; }));
+    ASSERT_TRUE(passUntil(loop, [&dropped] { return dropped >= 5; }));
     EXPECT_EQ(stopped, 1);
     EXPECT_FALSE(handle->isValid());
     handle->invalidate();
@@ -99,10 +91,10 @@ TYPED_TEST(RunLoopContract, DropsWhatIsPendingWhenItGoes) {
     const auto token = std::make_shared<int>();
     auto calls = std::make_shared<int>(0);
     const auto call = [token, calls] { ++*calls; };
-    const auto timer = this->m_driver.loop->scheduledTimer(0.0, true, call);
-    this->m_driver.loop->dispatchMain(call);
-    this->m_driver.loop->dispatchAfter(0.0, call);
-    this->m_driver.loop.reset();
+    const auto timer = this->m_loop->scheduledTimer(0.0, true, call);
+    this->m_loop->dispatchMain(call);
+    this->m_loop->dispatchAfter(0.0, call);
+    this->m_loop.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(*calls, 0);
     timer->invalidate();

@@ -68,19 +68,16 @@ TEST_F(Pulse, RecordsInTheShapeOfTheDevice) {
         CollectingListener listener;
         const auto input = opened(listener);
         input->resume();
-        ASSERT_TRUE(listener.waitFor([](const CollectingListener::Heard& heard) {
-            return std::any_of(heard.samples.begin(), heard.samples.end(), [](float value) { return value != 0; });
-        }));
+        const auto isHeard = [level = loudness](const CollectingListener::Heard& heard) {
+            return std::count_if(heard.samples.begin(), heard.samples.end(), [=](float x) { return x >= level; }) > 100;
+        };
+        EXPECT_TRUE(listener.waitFor(isHeard)) << channels;
         const CollectingListener::Heard heard = listener.heard();
         EXPECT_EQ(heard.format.sampleRate, rate);
         ASSERT_EQ(heard.format.channels, std::min(channels, 2));
-        float peaks[2] = {};
-        for (std::size_t i = 0; i < heard.samples.size(); ++i) {
-            float& peak = peaks[i % static_cast<std::size_t>(heard.format.channels)];
-            peak = std::max(peak, std::abs(heard.samples[i]));
+        for (std::size_t i = 1; channels > 1 && i < heard.samples.size(); i += 2) {
+            ASSERT_EQ(heard.samples[i], 0.0F) << "on the second channel of " << channels;
         }
-        EXPECT_GE(peaks[0], loudness) << channels;
-        EXPECT_EQ(peaks[1], 0.0F) << channels;
     }
 }
 
@@ -136,24 +133,21 @@ TEST_F(Pulse, PausesAtTheFrameThatIsInTheDevice) {
     m_server.pactl("set-default-source device");
     CollectingListener listener;
     const auto input = opened(listener);
-    std::vector<double> ran;
+    std::vector<double> misses;
     QElapsedTimer clock;
-    for (unsigned long i = 0; i < 8; ++i) {
+    for (int i = 0; i < 8; ++i) {
+        const std::size_t before = listener.heard().frames();
         clock.start();
         input->resume();
-        QThread::msleep(120 + 17 * i);
+        QThread::msleep(120 + 17 * static_cast<unsigned long>(i));
         input->pause();
-        ran.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e9);
-        ASSERT_TRUE(listener.waitForEvents("pause", static_cast<int>(i) + 1));
+        const double ran = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+        ASSERT_TRUE(listener.waitForEvents("pause", i + 1));
+        misses.push_back(std::abs(static_cast<double>(listener.heard().frames() - before) / 48000 - ran));
     }
     // This kind of device keeps its very first block to itself for the case of a rewind.
-    const std::vector<std::size_t> pausedAt = listener.heard().pausedAt;
-    std::vector<double> misses;
-    for (std::size_t i = 1; i < ran.size(); ++i) {
-        misses.push_back(std::abs(static_cast<double>(pausedAt[i] - pausedAt[i - 1]) / 48000 - ran[i]));
-    }
-    std::nth_element(misses.begin(), misses.begin() + 3, misses.end());
-    EXPECT_LT(misses[3], 0.01);
+    std::sort(misses.begin() + 1, misses.end());
+    EXPECT_LT(misses[4], 0.01);
 }
 
 TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
@@ -284,22 +278,20 @@ TEST_F(Pulse, ThePauseOfAFrozenServerEnds) {
 
 TEST_F(Pulse, InputsGoAwayInEveryState) {
     CollectingListener listener;
-    for (unsigned long microseconds = 0; microseconds < 12'000; microseconds += 400) {
-        for (const bool isPausing : {false, true}) {
-            auto input = opened(listener);
-            input->resume();
-            QThread::usleep(microseconds);
-            if (isPausing) {
-                input->pause();
-            }
-            input.reset();
-            const auto before = listener.heard().events;
-            QThread::usleep(200);
-            EXPECT_EQ(listener.heard().events, before);
+    for (unsigned long microseconds = 0; microseconds < 12'000; microseconds += 200) {
+        auto input = opened(listener);
+        input->resume();
+        QThread::usleep(microseconds);
+        if (microseconds % 400 == 0) {
+            input->pause();
         }
+        input.reset();
+        const auto before = listener.heard().events;
+        QThread::usleep(200);
+        EXPECT_EQ(listener.heard().events, before);
     }
-    const auto forgotten = opened(listener);
-    m_connection.reset();
+    const auto lastUser = PulseAudioInputs(std::make_shared<PulseConnection>()).open(listener);
+    EXPECT_TRUE(lastUser);
 }
 
 }  // namespace

