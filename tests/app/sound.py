@@ -36,38 +36,16 @@ def probe(path):
             "duration": float(found["format"]["duration"])}
 
 
-class Sound:
-    """The first channel of a decoded file, in blocks of 20 ms."""
-
-    def __init__(self, path):
-        raw = subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-i", str(path), "-af", "pan=mono|c0=c0", "-ar", str(RATE),
-                              "-f", "s16le", "-"], capture_output=True, check=True).stdout
-        samples = array.array("h", raw)
-        step = RATE // 50
-        self.blocks = [samples[i:i + step] for i in range(0, len(samples) - step + 1, step)]
-
-    def loud(self):
-        """The blocks above -40 dBFS."""
-        return [block for block in self.blocks if level(block) > -40.0]
-
-    def tone_seconds(self, hertz):
-        """For how long a tone is the greatest part of what sounds."""
-        return sum(1 for block in self.loud() if _power(block, hertz) > 0.5 * _mean_square(block)) / 50
+def levels(path, filters="anull"):
+    """RMS in dBFS of each 20 ms of a file's first channel, behind FFmpeg's filters."""
+    raw = subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-i", str(path), "-af", f"pan=mono|c0=c0,{filters}", "-ar",
+                          str(RATE), "-f", "s16le", "-"], capture_output=True, check=True).stdout
+    samples = array.array("h", raw)
+    step = RATE // 50
+    blocks = (samples[i:i + step] for i in range(0, len(samples) - step + 1, step))
+    return [10 * math.log10(max(sum(value * value for value in block) / step / 32768.0 ** 2, 1e-16)) for block in blocks]
 
 
-def level(block):
-    """RMS in dBFS."""
-    return 10 * math.log10(max(_mean_square(block), 1e-16))
-
-
-def _mean_square(block):
-    return sum(value * value for value in block) / len(block) / 32768.0 ** 2
-
-
-def _power(block, hertz):
-    """Mean square of one frequency's part of a block, by Goertzel's algorithm."""
-    factor = 2 * math.cos(2 * math.pi * hertz / RATE)
-    before = last = 0.0
-    for value in block:
-        before, last = last, value / 32768.0 + factor * last - before
-    return 2 * (before * before + last * last - factor * before * last) / len(block) ** 2
+def tone_seconds(path, hertz):
+    """For how long a tone sounds that is as loud as those of write_tone()."""
+    return sum(level > -20.0 for level in levels(path, f"bandpass=f={hertz}:width_type=h:w=100")) / 50

@@ -10,15 +10,11 @@ namespace tavi::test {
 
 namespace {
 
-/// Words of a command line are divided by "|".
-QList<QByteArray> words(const QByteArray& line) {
-    return line.isEmpty() ? QList<QByteArray>() : line.split('|');
-}
-
-/// What stands for the line: "[container] " where there is one, and the quick action and URLs that the program is asked
-/// for, the text that is printed, "prints" for a command that prints, or "! " and what is wrong.
-std::string meaning(const char* line) {
-    const auto parsed = parseCommandLine(words(line));
+/// What stands for the line, whose words are divided by "|": "[container] " where there is one, and the quick action
+/// and URLs that the program is asked for, the text that is printed, "prints" for a command that prints, or "! " and
+/// what is wrong.
+std::string meaning(const QByteArray& line) {
+    const auto parsed = parseCommandLine(line.isEmpty() ? QList<QByteArray>() : line.split('|'));
     if (!parsed) {
         return "! " + parsed.error().text.toStdString();
     }
@@ -31,8 +27,8 @@ std::string meaning(const char* line) {
     return where + (text != nullptr ? text->toStdString() : "prints");
 }
 
-QString helpOf(const char* line) {
-    return QString::fromStdString(meaning(line));
+QString helpOf(const QString& command) {
+    return QString::fromStdString(meaning(command.toUtf8() + "--help"));
 }
 
 QStringList allMatches(const QString& text, const char* expression) {
@@ -93,13 +89,13 @@ TEST(CommandLine, HelpAndManualPageTellTheSame) {
     QFile file(QStringLiteral(TAVI_MANUAL));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QString manual = QString::fromUtf8(file.readAll()).remove(QLatin1Char('\\'));
-    const QString help = helpOf("--help");
+    const QString help = helpOf({});
     const QStringList commands = allMatches(help.section(QLatin1String("\nCommands"), 1), "^  ([a-z]+)  ");
     ASSERT_EQ(commands.size(), 8);
     const QString described = manual.section(QLatin1String(".SS"), 1).section(QLatin1String(".SH"), 0, 0);
     EXPECT_EQ(allMatches(described, "^\\.TP\n\\.BR?I? \"?([a-z]+)"), commands);
     for (const QString& command : commands) {
-        QStringList options = allMatches(helpOf((command + QLatin1String("|--help")).toUtf8()), "(--[a-z]+)");
+        QStringList options = allMatches(helpOf(command + QLatin1Char('|')), "(--[a-z]+)");
         options.removeAll(QLatin1String("--help"));
         const QString from = described.section(QRegularExpression(QStringLiteral("\\.BR?I? ") + command), 1);
         const QStringList told = allMatches(from.section(QLatin1String(".TP"), 0, 0), "(--[a-z]+)");
