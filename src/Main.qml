@@ -175,8 +175,8 @@ Window {
     NoticeBar {
         objectName: "notice"
         x: content.x + Math.round((content.width - width) / 2)
-        y: content.height - height - 8
-        width: Math.min(implicitWidth, content.width - 2 * Theme.margin)
+        y: content.height - height - 12
+        width: Math.min(implicitWidth, content.width - 24, 480)
         notices: window.notices
     }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tavi {
@@ -14,6 +15,8 @@ struct AlertAction {
     Style style = Style::Default;
     /// Called on the main thread once the alert is gone; may be empty.
     std::function<void()> handler = {};
+    /// For one of several choices of which one holds at present: whether it is this one.
+    std::optional<bool> isChosen = {};
 };
 
 /// A text with buttons, in the middle of the window or as a sheet at its lower edge.

@@ -24,6 +24,8 @@ QVariantList AlertPresenter::actions() const {
                 {QStringLiteral("title"), action.title},
                 {QStringLiteral("cancel"), action.style == AlertAction::Style::Cancel},
                 {QStringLiteral("destructive"), action.style == AlertAction::Style::Destructive},
+                {QStringLiteral("choice"), action.isChosen.has_value()},
+                {QStringLiteral("chosen"), action.isChosen.value_or(false)},
             });
         }
     }

@@ -20,7 +20,7 @@ class AlertPresenter : public QObject, public Presenter {
     Q_PROPERTY(bool sheet READ isSheet NOTIFY frontChanged)
     Q_PROPERTY(QString title READ title NOTIFY frontChanged)
     Q_PROPERTY(QString message READ message NOTIFY frontChanged)
-    /// One map an action: "title", and whether it is "cancel" or "destructive".
+    /// One map an action: "title", and whether it is "cancel" or "destructive", a "choice", and "chosen" at present.
     Q_PROPERTY(QVariantList actions READ actions NOTIFY frontChanged)
     /// The action that Enter chooses at once: the first harmless one; -1 for none.
     Q_PROPERTY(int defaultAction READ defaultAction NOTIFY frontChanged)

@@ -5,8 +5,50 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace tavi {
+
+namespace {
+
+/// Images that screens know by another name than the drawing's own.
+constexpr std::array<std::pair<QLatin1StringView, QLatin1StringView>, 21> kDrawings{{
+    {QLatin1StringView("voicememo"), QLatin1StringView("recordings")},
+    {QLatin1StringView("setting"), QLatin1StringView("settings")},
+    {QLatin1StringView("play_player"), QLatin1StringView("play")},
+    {QLatin1StringView("pause_Player"), QLatin1StringView("pause")},
+    {QLatin1StringView("stop_Play"), QLatin1StringView("stop")},
+    {QLatin1StringView("skip_back"), QLatin1StringView("skip-back")},
+    {QLatin1StringView("skip_forward"), QLatin1StringView("skip-forward")},
+    {QLatin1StringView("sorting_arrow_up"), QLatin1StringView("arrow-up")},
+    {QLatin1StringView("sorting_arrow_down"), QLatin1StringView("arrow-down")},
+    {QLatin1StringView("wp_white"), QLatin1StringView("logo")},
+    // Rows of the settings, from the first to the last.
+    {QLatin1StringView("8"), QLatin1StringView("container")},
+    {QLatin1StringView("9"), QLatin1StringView("quality")},
+    {QLatin1StringView("10"), QLatin1StringView("skip-back")},
+    {QLatin1StringView("11"), QLatin1StringView("skip-forward")},
+    {QLatin1StringView("12"), QLatin1StringView("cloud")},
+    {QLatin1StringView("13"), QLatin1StringView("mail")},
+    {QLatin1StringView("14"), QLatin1StringView("lock")},
+    {QLatin1StringView("15"), QLatin1StringView("rate")},
+    {QLatin1StringView("16"), QLatin1StringView("apps")},
+    {QLatin1StringView("17"), QLatin1StringView("report")},
+    {QLatin1StringView("trim_knob"), QLatin1StringView("thumb_active")},
+}};
+
+QString drawingOf(QString image) {
+    if (image.endsWith(QLatin1String(".png"))) {
+        image.chop(4);
+    }
+    const auto* const found =
+        std::find_if(kDrawings.begin(), kDrawings.end(), [&image](const auto& entry) { return entry.first == image; });
+    return found == kDrawings.end() ? image : QString(found->second);
+}
+
+}  // namespace
 
 Icon::Icon(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
@@ -49,12 +91,8 @@ void Icon::itemChange(ItemChange change, const ItemChangeData& data) {
 }
 
 QImage Icon::rendered() const {
-    QString base = m_name;
-    if (base.endsWith(QLatin1String(".png"))) {
-        base.chop(4);
-    }
-    QFile file(QStringLiteral(":/images/%1.svg").arg(base));
-    if (base.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    QFile file(QStringLiteral(":/images/%1.svg").arg(drawingOf(m_name)));
+    if (m_name.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
     QSvgRenderer drawing(file.readAll().replace("currentColor", m_color.name().toLatin1()));

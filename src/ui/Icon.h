@@ -9,8 +9,8 @@ namespace tavi {
 
 /// One of the shell's images, drawn sharp at any size and density.
 ///
-/// Screens name images by file, such as "rec_normal.png"; the drawings are "rec_normal.svg" and so on. Parts drawn in
-/// currentColor take the item's color.
+/// Screens name images by file, such as "rec_normal.png"; the drawings are "rec_normal.svg" and so on, and some images
+/// share one. Parts drawn in currentColor take the item's color.
 class Icon : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

@@ -7,16 +7,17 @@ namespace tavi {
 NoticeLine::NoticeLine(RunLoop& runLoop, QObject* parent) : QObject(parent), m_runLoop(runLoop) {}
 
 NoticeLine::~NoticeLine() {
-    if (m_timer) {
-        m_timer->invalidate();
-    }
+    stopTimer();
 }
 
 void NoticeLine::postNotice(Notice notice) {
     // The line goes before it comes again: that is what a screen reader reads anew.
     clear();
     m_notice = std::move(notice);
-    m_timer = m_runLoop.scheduledTimer(kShown, false, [this] { clear(); });
+    m_isActive = true;
+    if (!m_isHeld) {
+        startTimer();
+    }
     Q_EMIT noticeChanged();
 }
 
@@ -28,12 +29,35 @@ void NoticeLine::act() {
     }
 }
 
+void NoticeLine::setHeld(bool held) {
+    if (held == m_isHeld) {
+        return;
+    }
+    m_isHeld = held;
+    stopTimer();
+    if (m_isActive && !held) {
+        startTimer();
+    }
+}
+
 void NoticeLine::clear() {
+    stopTimer();
+    if (m_isActive) {
+        m_isActive = false;
+        m_notice = {};
+        Q_EMIT noticeChanged();
+    }
+}
+
+void NoticeLine::startTimer() {
+    m_timer = m_runLoop.scheduledTimer(m_notice.actionTitle.isEmpty() ? kShown : kShownWithAction, false,
+                                       [this] { clear(); });
+}
+
+void NoticeLine::stopTimer() {
     if (m_timer) {
         m_timer->invalidate();
         m_timer.reset();
-        m_notice = {};
-        Q_EMIT noticeChanged();
     }
 }
 

@@ -19,10 +19,13 @@ class NoticeLine : public QObject, public Notices {
     Q_PROPERTY(QString text READ text NOTIFY noticeChanged)
     /// Empty where there is nothing to do.
     Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY noticeChanged)
+    /// Whether the user is about to read or use it: it does not go by itself before its whole time has passed anew.
+    Q_PROPERTY(bool held MEMBER m_isHeld WRITE setHeld)
 
 public:
-    /// How long a notice is shown, in seconds.
-    static constexpr double kShown = 6.0;
+    /// How long a notice is shown, in seconds, and how long one that can be acted on.
+    static constexpr double kShown = 5.0;
+    static constexpr double kShownWithAction = 10.0;
 
     /// The run loop must outlive the line.
     explicit NoticeLine(RunLoop& runLoop, QObject* parent = nullptr);
@@ -30,9 +33,10 @@ public:
 
     void postNotice(Notice notice) override;
 
-    bool isActive() const { return m_timer != nullptr; }
+    bool isActive() const { return m_isActive; }
     QString text() const { return m_notice.text; }
     QString actionTitle() const { return m_notice.actionTitle; }
+    void setHeld(bool held);
 
 public Q_SLOTS:
     /// Takes the notice away and does what it offers.
@@ -43,10 +47,14 @@ Q_SIGNALS:
 
 private:
     void clear();
+    void startTimer();
+    void stopTimer();
 
     RunLoop& m_runLoop;
     Notice m_notice;
-    /// Runs while a notice is shown.
+    bool m_isActive = false;
+    bool m_isHeld = false;
+    /// Runs while a notice is shown and not held.
     std::shared_ptr<Timer> m_timer;
 };
 

@@ -36,7 +36,7 @@ FocusScope {
                 text: root.screen.headerTexts[0] ?? ""
             }
 
-            ChoiceRow {
+            SettingsRow {
                 objectName: "extention"
                 width: parent.width
                 focus: true
@@ -51,7 +51,7 @@ FocusScope {
                 text: root.screen.headerTexts[1] ?? ""
             }
 
-            ChoiceRow {
+            SettingsRow {
                 objectName: "quality"
                 width: parent.width
                 text: root.screen.qualityText
@@ -77,7 +77,7 @@ FocusScope {
                 x: Theme.margin
                 width: parent.width - x
                 height: 1
-                color: Theme.hairline
+                color: Theme.line
             }
 
             SkipRow {

@@ -40,7 +40,7 @@ FocusScope {
         objectName: "btnplaypuas"
         imageName: root.player.btnplaypuas.image
         imageSize: 22
-        fill: Theme.accent
+        filled: true
         name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
         enabled: root.player.hasPlayer
         focus: true
@@ -75,7 +75,7 @@ FocusScope {
         objectName: "times"
         text: !root.player.hasPlayer ? qsTrId("player_unplayable")
                                      : times + " · " + (root.player.rate === 0.5 ? "½" : root.player.rate) + "×"
-        color: root.player.hasPlayer ? Theme.label : Theme.warning
+        color: root.player.hasPlayer ? Theme.label : Theme.tint
         font.pixelSize: 13
         elide: Text.ElideRight
         maximumLineCount: 1

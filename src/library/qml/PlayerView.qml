@@ -104,7 +104,7 @@ FocusScope {
             height: wave.height
             visible: !root.player.hasPlayer
             text: qsTrId("player_unplayable")
-            color: Theme.warning
+            color: Theme.tint
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
@@ -162,7 +162,7 @@ FocusScope {
                     objectName: "btnplaypuas"
                     imageName: root.player.btnplaypuas.image
                     imageSize: 32
-                    fill: Theme.accent
+                    filled: true
                     name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
                     enabled: root.player.hasPlayer
                     focus: true

@@ -61,9 +61,7 @@ T.Slider {
         }
 
         FocusFrame {
-            anchors.fill: parent
-            anchors.margins: -4
-            radius: parent.radius + 4
+            around: parent.radius
             control: control
         }
     }

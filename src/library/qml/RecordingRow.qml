@@ -36,7 +36,7 @@ Item {
         anchors.fill: parent
         anchors.bottomMargin: 1
         visible: root.chosen || tap.pressed || hover.hovered
-        color: root.chosen ? Theme.panel : tap.pressed ? Theme.panel : Theme.hoveredRow
+        color: root.chosen ? Theme.panel : tap.pressed ? Theme.panel : Theme.rowHover
     }
 
     Rectangle {

@@ -8,7 +8,10 @@ TButton {
 
     objectName: "stopAudio"
     text: qsTrId("player_stop")
-    fill: Theme.control
+    kind: TButton.Quiet
+    imageName: "stop_Play.png"
+    imageFirst: true
+    radius: height / 2
     Accessible.name: qsTrId("a11y_stop_playing")
     onClicked: screen.stopAudio()
 }

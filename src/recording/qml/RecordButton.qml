@@ -32,9 +32,7 @@ T.AbstractButton {
 
     background: Item {
         FocusFrame {
-            anchors.fill: parent
-            anchors.margins: -5
-            radius: width / 2
+            around: width / 2
             control: button
         }
     }

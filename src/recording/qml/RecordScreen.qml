@@ -36,7 +36,7 @@ FocusScope {
                 x: Theme.margin
                 height: parent.height
                 text: root.screen.lblDate.text
-                color: root.screen.lblDate.textColor || Theme.lightGrey
+                color: root.screen.lblDate.textColor || Theme.light
             }
 
             Label {
@@ -116,7 +116,7 @@ FocusScope {
             radius: 5
             color: Theme.well
             // Half a point wide: where that is less than a pixel, a pixel of half the brightness.
-            border.color: Screen.devicePixelRatio < 2 ? "#6a6a6a" : Theme.lightGrey
+            border.color: Screen.devicePixelRatio < 2 ? "#6a6a6a" : Theme.light
             border.width: Math.max(1, Math.round(0.5 * Screen.devicePixelRatio)) / Screen.devicePixelRatio
 
             WaveViewItem {
@@ -124,7 +124,7 @@ FocusScope {
                 anchors.margins: 3
                 wave: root.screen.waveViewMirror
                 ground: Theme.well
-                centreLine: Theme.hairline
+                centreLine: Theme.line
                 barColor: Theme.accent
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTrId("a11y_level")
@@ -154,7 +154,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 objectName: "btnStop"
                 diameter: 56
-                picture: root.screen.btnStop.image || "stop.png"
+                picture: root.screen.btnStop.image || "record_stop"
                 text: qsTrId("a11y_stop")
                 enabled: root.screen.btnStop.enabled
                 onClicked: root.screen.stopAndSaveRecording(this)

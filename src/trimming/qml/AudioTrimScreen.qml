@@ -131,7 +131,7 @@ FocusScope {
                     height: 60
                     objectName: "btnPlay"
                     imageName: root.screen.btnPlay.selected ? "pause_Player.png" : "play_player.png"
-                    fill: Theme.accent
+                    filled: true
                     name: root.screen.btnPlay.selected ? qsTrId("a11y_pause") : qsTrId("a11y_play")
                     enabled: root.screen.btnPlay.enabled
                     focus: true
@@ -143,7 +143,6 @@ FocusScope {
                     height: 60
                     objectName: "btnStop"
                     imageName: "stop_Play.png"
-                    fill: Theme.control
                     name: qsTrId("a11y_stop_playing")
                     enabled: root.screen.btnStop.enabled
                     onClicked: root.screen.stopAudio()
@@ -162,7 +161,8 @@ FocusScope {
                     width: buttons.each
                     objectName: "playTrimmed"
                     text: qsTrId("trim_play_trimmed")
-                    fill: Theme.control
+                    kind: TButton.Quiet
+                    horizontalPadding: 8
                     enabled: root.screen.btnPlay.enabled
                     onClicked: root.screen.playTrimmedAudio()
                 }
@@ -171,8 +171,8 @@ FocusScope {
                     width: buttons.each
                     objectName: "btnTrim"
                     text: root.screen.btnTrim.title
-                    fill: Theme.accent
-                    pressedFill: Theme.switchTint
+                    kind: TButton.Filled
+                    horizontalPadding: 8
                     enabled: root.screen.btnTrim.enabled
                     onClicked: root.screen.trimAudio()
                 }
@@ -181,7 +181,8 @@ FocusScope {
                     width: buttons.each
                     objectName: "btnSave"
                     text: qsTrId("trim_save")
-                    fill: Theme.control
+                    kind: TButton.Quiet
+                    horizontalPadding: 8
                     enabled: root.screen.btnSave.enabled
                 }
             }

@@ -43,7 +43,8 @@ T.Slider {
     }
 
     FocusFrame {
-        anchors.fill: parent
+        around: 8
+        inside: true
         control: control
     }
 }

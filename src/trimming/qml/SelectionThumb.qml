@@ -85,9 +85,7 @@ T.Slider {
         }
 
         FocusFrame {
-            anchors.fill: parent
-            anchors.margins: -5
-            radius: 12
+            around: 8
             control: control
         }
     }

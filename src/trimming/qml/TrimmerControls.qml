@@ -19,7 +19,7 @@ FocusScope {
         objectName: "btnPlayPause"
         imageName: root.screen.player.isPlaying ? "pause_Player.png" : "play_player.png"
         imageSize: 32
-        fill: Theme.accent
+        filled: true
         name: root.screen.player.isPlaying ? qsTrId("a11y_pause") : qsTrId("trimmer_play")
         enabled: root.screen.problem === ""
         focus: true
@@ -37,8 +37,8 @@ FocusScope {
             width: Math.min(140, (root.width - 2 * Theme.margin - 16) / 3)
             objectName: "btnReset"
             text: qsTrId("trimmer_reset")
-            fill: Theme.control
-            pressedFill: Theme.pressed
+            kind: TButton.Quiet
+            horizontalPadding: 8
             onClicked: root.screen.btnResetTapped()
         }
 
@@ -46,8 +46,8 @@ FocusScope {
             width: Math.min(140, (root.width - 2 * Theme.margin - 16) / 3)
             objectName: "btnResetAudio"
             text: qsTrId("trimmer_rerecord")
-            fill: Theme.control
-            pressedFill: Theme.pressed
+            kind: TButton.Quiet
+            horizontalPadding: 8
             onClicked: root.screen.btnResetAudioTapped()
         }
 
@@ -55,8 +55,8 @@ FocusScope {
             width: Math.min(140, (root.width - 2 * Theme.margin - 16) / 3)
             objectName: "btnEditTrimmedVideo"
             text: root.screen.btnEditTrimmedVideo.title
-            fill: Theme.control
-            pressedFill: Theme.pressed
+            kind: TButton.Quiet
+            horizontalPadding: 8
             enabled: root.screen.canExport
             Accessible.checkable: true
             Accessible.checked: root.screen.btnEditTrimmedVideo.selected

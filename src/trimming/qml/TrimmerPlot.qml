@@ -32,7 +32,7 @@ Item {
             objectName: "problem"
             text: root.screen.problem || (root.screen.isLoading ? qsTrId("trimmer_loading") : "")
             visible: text !== ""
-            color: root.screen.problem ? Theme.warning : Theme.label
+            color: root.screen.problem ? Theme.tint : Theme.label
             elide: Text.ElideRight
             maximumLineCount: 1
             Accessible.role: Accessible.StaticText

@@ -54,8 +54,7 @@ Rectangle {
             width: 140
             objectName: "btnCancelExport"
             text: qsTrId("Cancel")
-            fill: Theme.control
-            pressedFill: Theme.pressed
+            kind: TButton.Quiet
             focus: true
             onClicked: root.cancelled()
         }

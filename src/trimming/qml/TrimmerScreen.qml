@@ -80,9 +80,7 @@ FocusScope {
                 objectName: "btnUpload"
                 visible: !root.screen.isDoneHidden
                 text: qsTrId("trimmer_done")
-                fill: Theme.accent
-                pressedFill: Theme.switchTint
-                font.weight: Font.Medium
+                kind: TButton.Filled
                 enabled: root.screen.canExport
                 onClicked: root.screen.btnUploadTapped()
             }

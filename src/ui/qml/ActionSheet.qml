@@ -2,63 +2,57 @@ import QtQuick
 import Tavi.Ui
 
 /// A sheet of choices at the lower edge, or in the middle of a wide window; the cancelling choice stands apart.
-Item {
+Rectangle {
     id: sheet
 
     required property AlertPresenter presenter
     readonly property alias buttons: buttons
     readonly property bool wide: parent ? parent.width >= Theme.wideWidth : false
-    readonly property int rowHeight: 52
+    readonly property int rowHeight: 48
     readonly property int cancelIndex: presenter.actions.findIndex(action => action.cancel)
-    readonly property int gap: cancelIndex >= 0 ? 8 : 0
+    readonly property int foot: cancelIndex >= 0 ? Theme.touch + 2 * Theme.gapWide : Theme.gap
 
     anchors.horizontalCenter: parent.horizontalCenter
-    y: wide ? (parent.height - height) / 2 : parent.height - height - 10
-    width: Math.min(parent.width - 20, 400)
-    height: Math.min(heading.height + buttons.count * rowHeight + gap, parent.height - 20)
+    y: wide ? (parent.height - height) / 2 : parent.height - height + radius
+    width: Math.min(parent.width, wide ? 400 : 480)
+    height: Math.min(heading.height + choices.contentHeight + foot + (wide ? 0 : radius), parent.height - 2 * Theme.gapWide)
+    radius: Theme.radiusSheet
+    color: Theme.panel
+    border.color: Theme.control
     Accessible.role: Accessible.PopupMenu
     Accessible.name: presenter.title
 
-    Rectangle {
-        width: parent.width
-        height: parent.height - (sheet.cancelIndex >= 0 ? sheet.rowHeight + sheet.gap : 0)
-        radius: 14
-        color: Theme.panel
-
-        // A tap between the choices is not one beside the sheet.
-        MouseArea {
-            anchors.fill: parent
-        }
+    // A tap between the choices is not one beside the sheet.
+    MouseArea {
+        anchors.fill: parent
     }
 
     Column {
         id: heading
 
         width: parent.width
-        topPadding: sheet.presenter.title !== "" || sheet.presenter.message !== "" ? 14 : 0
-        bottomPadding: topPadding
+        topPadding: Theme.margin
+        bottomPadding: Theme.gap
         spacing: 4
 
-        Label {
-            x: Theme.margin
-            width: parent.width - 2 * x
-            visible: text !== ""
-            text: sheet.presenter.title
-            font.pixelSize: 13
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
+        Repeater {
+            model: [sheet.presenter.title, sheet.presenter.message]
 
-        Label {
-            x: Theme.margin
-            width: parent.width - 2 * x
-            visible: text !== ""
-            text: sheet.presenter.message
-            font.pixelSize: 13
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
+            Label {
+                required property string modelData
+                required property int index
+
+                x: Theme.margin
+                width: parent.width - 2 * x
+                visible: text !== ""
+                text: modelData
+                color: index === 0 ? Theme.light : Theme.label
+                font.weight: index === 0 ? Font.Medium : Font.Normal
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: index === 0 ? Accessible.Heading : Accessible.StaticText
+                Accessible.name: text
+            }
         }
     }
 
@@ -67,8 +61,8 @@ Item {
 
         y: heading.height
         width: parent.width
-        height: parent.height - y
-        contentHeight: buttons.count * sheet.rowHeight + sheet.gap
+        height: parent.height - y - sheet.foot - (sheet.wide ? 0 : sheet.radius)
+        contentHeight: (buttons.count - (sheet.cancelIndex >= 0 ? 1 : 0)) * sheet.rowHeight
         clip: true
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -78,35 +72,21 @@ Item {
 
             model: sheet.presenter.actions
 
-            TButton {
-                id: button
-
+            SheetAction {
                 required property int index
-                required property var modelData
-                readonly property int place: modelData.cancel ? buttons.count - 1
-                        : sheet.cancelIndex >= 0 && index > sheet.cancelIndex ? index - 1 : index
+                readonly property int place: sheet.cancelIndex >= 0 && index > sheet.cancelIndex ? index - 1 : index
 
-                y: place * sheet.rowHeight + (modelData.cancel ? sheet.gap : 0)
-                width: choices.width
-                height: sheet.rowHeight
+                // The cancelling choice does not scroll with the others.
+                parent: modelData.cancel ? sheet : choices.contentItem
+                x: modelData.cancel ? Theme.margin : 0
+                y: modelData.cancel ? choices.y + choices.height + Theme.gapWide : place * sheet.rowHeight
+                width: sheet.width - 2 * x
+                height: modelData.cancel ? Theme.touch : sheet.rowHeight
                 objectName: "action" + index
-                text: modelData.title
-                tint: modelData.destructive ? Theme.warning : Theme.lightGrey
-                fill: modelData.cancel ? Theme.panel : "transparent"
-                font.pixelSize: 17
-                font.weight: modelData.cancel ? Font.Medium : Font.Normal
                 onClicked: sheet.presenter.choose(index)
                 onActiveFocusChanged: {
-                    if (activeFocus) {
+                    if (activeFocus && !modelData.cancel)
                         choices.contentY = Math.max(Math.min(choices.contentY, y), y + height - choices.height)
-                    }
-                }
-
-                Rectangle {
-                    visible: !button.modelData.cancel && (button.place > 0 || heading.height > 0)
-                    width: parent.width
-                    height: 1
-                    color: Theme.control
                 }
             }
         }

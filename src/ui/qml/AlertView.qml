@@ -21,7 +21,7 @@ Rectangle {
     anchors.centerIn: parent
     width: Math.min(parent.width - 2 * Theme.margin, 340)
     height: words.height + grid.height + 2 * 20 + (words.height > 0 ? 20 : 0)
-    radius: 14
+    radius: Theme.radiusSheet
     color: Theme.panel
     border.color: Theme.control
     border.width: 1
@@ -55,7 +55,7 @@ Rectangle {
                 visible: text !== ""
                 text: view.presenter.title
                 color: Theme.text
-                font.pixelSize: 17
+                font.pixelSize: Theme.textDialog
                 font.weight: Font.Medium
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
@@ -67,7 +67,7 @@ Rectangle {
                 width: parent.width
                 visible: text !== ""
                 text: view.presenter.message
-                color: "#c4c4c4"
+                color: Theme.light
                 lineHeight: 1.1
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
@@ -89,7 +89,7 @@ Rectangle {
         y: parent.height - height - 20
         width: parent.width - 2 * x
         columns: view.beside ? 2 : 1
-        spacing: 10
+        spacing: Theme.gapWide
 
         Repeater {
             id: buttons
@@ -102,13 +102,11 @@ Rectangle {
                 readonly property bool isDefault: index === view.presenter.defaultAction
 
                 width: view.beside ? (grid.width - grid.spacing) / 2 : grid.width
-                height: 46
+                height: Theme.touch
                 objectName: "action" + index
                 text: modelData.title
-                font.weight: Font.Medium
-                tint: modelData.destructive ? Theme.warning : Theme.text
-                fill: isDefault && !modelData.cancel ? Theme.accent : Theme.control
-                pressedFill: isDefault && !modelData.cancel ? Theme.switchTint : Theme.pressed
+                kind: isDefault && !modelData.cancel ? TButton.Filled : TButton.Quiet
+                tint: modelData.destructive ? Theme.tint : Theme.text
                 onClicked: view.presenter.choose(index)
             }
         }

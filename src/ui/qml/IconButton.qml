@@ -2,21 +2,25 @@ import QtQuick
 import Tavi.Ui
 import QtQuick.Templates as T
 
-/// A button that is one image, with a caption under it where it has one.
+/// A round button that is one image, with a caption under it where it has one.
 T.Button {
     id: control
 
     required property string imageName
-    /// What the button is called where it cannot be seen.
+    /// What the button is called where it cannot be seen, and by its tip.
     required property string name
     property string caption
-    property real imageSize: 28
+    /// The key that does the same, as the user reads it.
+    property string shortcut
+    property real imageSize: 24
     property real radius: Math.min(width, height) / 2
     property color tint: Theme.text
-    property color fill: "transparent"
+    /// Filled in the accent: a screen's main act.
+    property bool filled: false
 
     implicitWidth: Math.max(Theme.touch, captionLabel.implicitWidth + 8)
     implicitHeight: Theme.touch
+    hoverEnabled: true
     focusPolicy: Qt.TabFocus
     opacity: enabled ? 1.0 : Theme.disabledOpacity
     Accessible.role: Accessible.Button
@@ -42,18 +46,31 @@ T.Button {
             y: (parent.height + control.imageSize - height) / 2
             visible: text !== ""
             text: control.caption
-            font.pixelSize: 12
+            font.pixelSize: Theme.textCaption
         }
     }
 
     background: Rectangle {
         radius: control.radius
-        color: control.down ? Theme.pressed : control.fill
+        color: control.filled ? (control.down ? Theme.accentPressed : control.hovered ? Theme.accentHover : Theme.accent)
+                              : (control.down ? Theme.controlPressed : control.hovered ? Theme.control : "transparent")
+
+        Behavior on color {
+            ColorAnimation {
+                duration: control.down ? Theme.pressIn : Theme.fade
+            }
+        }
 
         FocusFrame {
-            anchors.fill: parent
-            radius: parent.radius
             control: control
+            around: parent.radius
+            inside: !control.filled
         }
+    }
+
+    Tip {
+        control: control
+        text: control.name
+        shortcut: control.shortcut
     }
 }

@@ -5,7 +5,7 @@ import Tavi.Ui
 Text {
     color: Theme.label
     font.family: Theme.family
-    font.pixelSize: Theme.textSize
+    font.pixelSize: Theme.textBody
     textFormat: Text.PlainText
     verticalAlignment: Text.AlignVCenter
 }

@@ -1,7 +1,8 @@
 import QtQuick
 import Tavi.Ui
 
-/// Says in passing what the shell has to say. Takes no focus, and taps beside its button go through.
+/// Says in passing what the shell has to say. Takes no focus, and taps beside its button go through. It stays while it is
+/// pointed at, or its button has the keyboard. What does not fit in a line is told in up to three.
 Rectangle {
     id: root
 
@@ -9,13 +10,35 @@ Rectangle {
     readonly property real actionWidth: action.visible ? action.implicitWidth : 0
 
     implicitWidth: words.implicitWidth + 2 * Theme.margin + actionWidth
-    implicitHeight: Math.max(Theme.touch, words.implicitHeight + 16)
+    implicitHeight: Math.max(48, words.implicitHeight + 20)
     visible: notices.active
-    radius: 10
+    radius: Theme.radiusControl
     color: Theme.control
-    border.color: Theme.pressed
+    border.color: Theme.edge
     Accessible.role: Accessible.AlertMessage
     Accessible.name: notices.text
+    onVisibleChanged: if (visible) entrance.restart()
+
+    NumberAnimation {
+        id: entrance
+
+        target: root
+        property: "opacity"
+        // Not from nothing: what cannot be seen at all is not read aloud.
+        from: 0.1
+        to: 1
+        duration: Theme.noticeIn
+    }
+
+    HoverHandler {
+        id: pointer
+    }
+
+    Binding {
+        target: root.notices
+        property: "held"
+        value: pointer.hovered || action.activeFocus
+    }
 
     Label {
         id: words
@@ -26,6 +49,8 @@ Rectangle {
         text: root.notices.text
         color: Theme.text
         wrapMode: Text.Wrap
+        maximumLineCount: 3
+        elide: Text.ElideRight
         Accessible.ignored: true
     }
 
@@ -33,10 +58,11 @@ Rectangle {
         id: action
 
         anchors.right: parent.right
-        anchors.rightMargin: 4
+        anchors.rightMargin: 2
         anchors.verticalCenter: parent.verticalCenter
         objectName: "noticeAction"
         visible: text !== ""
+        kind: TButton.Tint
         text: root.notices.actionTitle
         onClicked: root.notices.act()
     }

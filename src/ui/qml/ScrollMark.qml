@@ -14,5 +14,5 @@ Rectangle {
     width: 3
     height: Math.max(24, flickable.visibleArea.heightRatio * room)
     radius: 1.5
-    color: "#5a5a5c"
+    color: Theme.track
 }

@@ -16,7 +16,7 @@ T.TextField {
     selectionColor: Theme.accent
     selectedTextColor: Theme.text
     font.family: Theme.family
-    font.pixelSize: 15
+    font.pixelSize: Theme.textControl
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
     inputMethodHints: Qt.ImhNoPredictiveText
@@ -65,9 +65,9 @@ T.TextField {
         y: 3
         width: parent.width
         height: parent.height - 6
-        radius: 10
+        radius: Theme.radiusControl
         color: Theme.panel
-        border.width: field.activeFocus ? 2 : 0
-        border.color: Theme.focus
+        border.width: field.activeFocus ? 2 : 1
+        border.color: field.activeFocus ? Theme.focus : Theme.edge
     }
 }

@@ -2,27 +2,28 @@ import QtQuick
 import Tavi.Ui
 import QtQuick.Templates as T
 
-/// A row with a text and a switch at its end; the whole row turns it.
+/// A row of settings with a switch at its end; the whole row turns it.
 T.Switch {
     id: control
 
     /// What the switch stands for; a turn of the user's that the owner does not adopt springs back.
     required property bool on
+    property string imageName
     signal turned(bool on)
 
     implicitHeight: 45
-    leftPadding: Theme.margin
+    leftPadding: imageName === "" ? Theme.margin : 48
     rightPadding: Theme.margin
+    hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    opacity: enabled ? 1.0 : Theme.disabledOpacity
     font.family: Theme.family
-    font.pixelSize: Theme.textSize
+    font.pixelSize: Theme.textBody
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: turned(!on)
-    Accessible.onToggleAction: turned(!on)
+    Accessible.onPressAction: if (enabled) turned(!on)
+    Accessible.onToggleAction: if (enabled) turned(!on)
     Keys.onReturnPressed: turned(!on)
     Keys.onEnterPressed: turned(!on)
     checked: on
@@ -36,6 +37,7 @@ T.Switch {
         font: control.font
         elide: Text.ElideRight
         rightPadding: indicator.width + 12
+        opacity: control.enabled ? 1.0 : Theme.disabledOpacity
     }
 
     indicator: Rectangle {
@@ -43,28 +45,47 @@ T.Switch {
 
         x: control.width - width - control.rightPadding
         y: (control.height - height) / 2
-        width: 50
+        width: 52
         height: 30
         radius: height / 2
-        color: control.checked ? Theme.switchTint : "#39393d"
+        opacity: control.enabled ? 1.0 : Theme.disabledOpacity
+        color: !control.checked ? (control.down ? Theme.controlPressed : control.hovered ? Theme.controlHover : Theme.control)
+                                : control.down ? Theme.switchPressed : Theme.switchOn
+        border.width: control.checked ? 0 : 1
+        border.color: Theme.edge
 
         Rectangle {
-            x: control.checked ? parent.width - width - 2 : 2
-            y: 2
-            width: 26
-            height: 26
-            radius: 13
+            x: control.checked ? parent.width - width - 3 : 3
+            y: 3
+            width: 24
+            height: 24
+            radius: 12
             color: Theme.text
+
+            Behavior on x {
+                enabled: !Theme.reducedMotion
+
+                NumberAnimation {
+                    duration: Theme.select
+                    easing.type: Easing.OutCubic
+                }
+            }
         }
     }
 
-    background: Rectangle {
-        color: control.down ? Theme.header : "transparent"
+    background: RowGround {
+        hovered: control.hovered
+        pressed: control.down
+        focused: control.visualFocus
 
-        FocusFrame {
-            anchors.fill: parent
-            control: control
-            radius: 0
+        Icon {
+            x: Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+            width: 20
+            height: 20
+            opacity: control.enabled ? 1.0 : Theme.disabledOpacity
+            name: control.imageName
+            color: Theme.label
         }
     }
 }

@@ -2,15 +2,17 @@ import QtQuick
 import Tavi.Ui
 import QtQuick.Templates as T
 
-/// The bar of tabs at the lower edge, or a rail at the left of a wide window.
+/// The bar of tabs at the lower edge, or a rail at the left of a window that is wide or low.
 Rectangle {
     id: bar
 
     required property TabBarController controller
     property bool vertical: false
+    /// A phone on its side: a narrower rail, its items in the middle.
+    property bool low: false
 
-    implicitWidth: vertical ? 96 : 360
-    implicitHeight: 56
+    implicitWidth: vertical ? (low ? 76 : 88) : 360
+    implicitHeight: 60
     color: Theme.ground
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTrId("a11y_tabs")
@@ -19,14 +21,14 @@ Rectangle {
         anchors.right: parent.right
         width: bar.vertical ? 1 : parent.width
         height: bar.vertical ? parent.height : 1
-        color: Theme.hairline
+        color: Theme.lineStrong
     }
 
     Grid {
-        anchors.fill: parent
-        anchors.topMargin: bar.vertical ? Theme.margin : 1
-        anchors.rightMargin: bar.vertical ? 1 : 0
+        y: !bar.vertical ? 0 : bar.low ? Math.round((bar.height - height) / 2) : Theme.margin
+        width: parent.width
         columns: bar.vertical ? 1 : 3
+        spacing: bar.vertical ? Theme.gap : 0
 
         Repeater {
             model: [
@@ -41,14 +43,14 @@ Rectangle {
                 required property int index
                 required property var modelData
                 readonly property bool selected: bar.controller.selectedIndex === index
-                readonly property color tint: selected ? Theme.accent : Theme.label
 
-                width: bar.vertical ? parent.width : parent.width / 3
-                height: bar.vertical ? 72 : 55
+                width: bar.vertical ? bar.width : bar.width / 3
+                height: bar.vertical ? 64 : 60
                 objectName: "tab" + index
                 text: modelData.title
                 enabled: bar.controller.userInteractionEnabled
                 opacity: enabled ? 1.0 : Theme.disabledOpacity
+                hoverEnabled: true
                 focusPolicy: Qt.TabFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
@@ -60,36 +62,48 @@ Rectangle {
                 Keys.onEnterPressed: clicked()
 
                 contentItem: Item {
-                    Column {
-                        anchors.centerIn: parent
-                        width: parent.width
-                        spacing: 3
+                    Rectangle {
+                        id: pill
+
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        y: bar.vertical ? 9 : 7
+                        width: 60
+                        height: 28
+                        radius: 14
+                        color: tab.selected ? Theme.tonal : tab.down ? Theme.controlPressed : tab.hovered ? Theme.control : "transparent"
+                        border.width: tab.selected ? 1 : 0
+                        border.color: Theme.accent
+
+                        Behavior on color {
+                            ColorAnimation {
+                                duration: Theme.select
+                            }
+                        }
 
                         Icon {
-                            anchors.horizontalCenter: parent.horizontalCenter
-                            width: 24
-                            height: 24
+                            anchors.centerIn: parent
+                            width: 22
+                            height: 22
                             name: tab.modelData.image
-                            color: tab.tint
+                            color: tab.selected ? Theme.tint : Theme.light
                         }
 
-                        Label {
-                            width: parent.width
-                            horizontalAlignment: Text.AlignHCenter
-                            text: tab.text
-                            color: tab.tint
-                            elide: Text.ElideRight
-                            font.pixelSize: 12
-                            font.weight: tab.selected ? Font.Bold : Font.Normal
+                        FocusFrame {
+                            anchors.margins: -3
+                            control: tab
+                            around: 13
                         }
                     }
-                }
 
-                background: Item {
-                    FocusFrame {
-                        anchors.fill: parent
-                        anchors.margins: 2
-                        control: tab
+                    Label {
+                        y: pill.y + pill.height + 4
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        text: tab.text
+                        color: tab.selected ? Theme.accent : Theme.label
+                        elide: Text.ElideRight
+                        font.pixelSize: Theme.textCaption
+                        font.weight: tab.selected ? Font.Medium : Font.Normal
                     }
                 }
             }

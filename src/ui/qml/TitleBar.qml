@@ -5,7 +5,7 @@ import Tavi.Ui
 Item {
     property alias text: label.text
 
-    implicitHeight: 52
+    implicitHeight: 44
 
     Label {
         id: label
@@ -13,8 +13,7 @@ Item {
         anchors.fill: parent
         anchors.leftMargin: Theme.margin
         anchors.rightMargin: Theme.margin
-        horizontalAlignment: Text.AlignHCenter
-        font.pixelSize: 22
+        font.pixelSize: Theme.textTitle
         font.weight: Font.Light
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading

@@ -1,0 +1,60 @@
+import QtQuick
+import Tavi.Ui
+import QtQuick.Templates as T
+
+/// One choice of an ActionSheet: a row, marked where it is what holds now; the cancelling one is a quiet button.
+T.Button {
+    id: control
+
+    required property var modelData
+    readonly property color tint: modelData.destructive ? Theme.tint : Theme.text
+
+    text: modelData.title
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: modelData.choice ? Accessible.RadioButton : Accessible.Button
+    Accessible.name: text
+    Accessible.checkable: modelData.choice
+    Accessible.checked: modelData.chosen
+    Accessible.onPressAction: clicked()
+    Accessible.onToggleAction: clicked()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    contentItem: Item {
+        Icon {
+            x: 20
+            anchors.verticalCenter: parent.verticalCenter
+            width: 20
+            height: 20
+            visible: control.modelData.chosen
+            name: "check"
+            color: Theme.tint
+        }
+
+        Label {
+            x: control.modelData.cancel ? Theme.gap : 56
+            width: parent.width - x - (control.modelData.cancel ? Theme.gap : Theme.margin)
+            height: parent.height
+            text: control.text
+            color: control.tint
+            font.pixelSize: Theme.textControl
+            font.weight: control.modelData.cancel || control.modelData.chosen ? Font.Medium : Font.Normal
+            horizontalAlignment: control.modelData.cancel ? Text.AlignHCenter : Text.AlignLeft
+            elide: Text.ElideRight
+        }
+    }
+
+    background: Rectangle {
+        radius: control.modelData.cancel ? Theme.radiusControl : 0
+        border.width: control.modelData.cancel ? 1 : 0
+        border.color: Theme.edge
+        color: control.down ? Theme.controlPressed : control.hovered ? (control.modelData.cancel ? Theme.controlHover : Theme.control)
+             : control.modelData.cancel ? Theme.control : "transparent"
+
+        FocusFrame {
+            control: control
+            inside: !control.modelData.cancel
+        }
+    }
+}
