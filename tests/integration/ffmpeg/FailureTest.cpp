@@ -53,21 +53,38 @@ protected:
     }
 };
 
-TEST_F(FailureTest, AFullDiskLosesNothingThatWasWrittenBefore) {
-    for (const Type& type : kTypes) {
-        int calls = 0;
-        bool wasFull = false;
-        recordUntilItFails(type, 2, "The disk is full.", 0,
-                           [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
-                               // An interruption, a short write, and then, once, a full disk.
-                               ++calls;
-                               if (calls == 2 || (offset > 60000 && !wasFull)) {
-                                   wasFull = offset > 60000;
-                                   errno = wasFull ? ENOSPC : EINTR;
-                                   return -1;
-                               }
-                               return ::pwrite(fd, data, calls == 3 ? 1 : size, offset);
-                           });
+TEST_F(FailureTest, AFileThatMayNotGrowKeepsWhatFitted) {
+    struct Failure {
+        int error;
+        off_t room;
+        /// What the reserve of a full disk still gives.
+        off_t more;
+        /// Seconds that may be missing: the packets of a fragment.
+        double lost;
+        const char* text;
+    };
+    for (const auto& [error, room, more, lost, text] :
+         {Failure{EFBIG, 200001, 0, 1, "The recording could not be written: "},
+          {ENOSPC, 200001, 1000, 1, "The disk is full."},
+          {ENOSPC, 60001, 1 << 30, 0, "The disk is full."}}) {
+        for (const Type& type : kTypes) {
+            int calls = 0;
+            off_t end = room;
+            // An interruption and a short write before.
+            const auto pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
+                ++calls;
+                if (calls == 2 || offset >= end) {
+                    errno = calls == 2 ? EINTR : error;
+                    end = calls == 2 ? end : room + more;
+                    return -1;
+                }
+                return ::pwrite(fd, data, calls == 3 ? 1 : std::min(size, static_cast<std::size_t>(end - offset)),
+                                offset);
+            };
+            recordUntilItFails(type, 1, text, lost, pwrite);
+            EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || lost == 0 ||
+                        QFile(pathFor(type)).size() == 200000 + more);
+        }
     }
 }
 
@@ -83,27 +100,6 @@ TEST_F(FailureTest, ARealFullDiskLeavesAWholeFile) {
         EXPECT_TRUE(std::filesystem::remove(pathFor(type)));
     }
     ::umount2(disk.constData(), MNT_DETACH);
-}
-
-TEST_F(FailureTest, AFileThatMayNotGrowKeepsWhatFitted) {
-    // All that fits, and what the reserve of a full disk still gives, which is another thousand bytes here. What is
-    // lost are the packets of a fragment.
-    for (const auto& [error, more, text] :
-         {std::tuple(EFBIG, 0, "The recording could not be written: "), {ENOSPC, 1000, "The disk is full."}}) {
-        for (const Type& type : kTypes) {
-            off_t room = 200001;
-            const auto pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
-                if (offset >= room) {
-                    room = 200001 + more;
-                    errno = error;
-                    return -1;
-                }
-                return ::pwrite(fd, data, std::min(size, static_cast<std::size_t>(room - offset)), offset);
-            };
-            recordUntilItFails(type, 1, text, 1, pwrite);
-            EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || QFile(pathFor(type)).size() == 200000 + more);
-        }
-    }
 }
 
 TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {

@@ -9,9 +9,9 @@ namespace {
 
 /// What the programs of others make of a type that we write.
 struct Played {
-    /// MediaInfo's names of the container, and of the codec.
-    const char* name;
     AssetFileType cut;
+    /// MediaInfo's names of the container, and of the codec; and those of a cut.
+    const char* name;
     const char* cutName;
     /// Frames that GStreamer leaves out at the end: of AAC at low rates it drops the last packet, whoever wrote the
     /// file. Negative where it has no reader for the container.
@@ -21,11 +21,11 @@ struct Played {
 };
 
 constexpr std::array<Played, kTypes.size()> kPlayed{{
-    {"MPEG-4 ALAC", AssetFileType::AppleM4A, "MPEG-4 ALAC", 0, 4096},
-    {"Wave PCM", AssetFileType::Wave, "Wave PCM", 0, 0},
-    {"CAF ADPCM", AssetFileType::CoreAudioFormat, "CAF ADPCM", -1, 127},
-    {"MPEG-4 AAC", AssetFileType::AppleM4A, "MPEG-4 AAC", 1024, 2048},
-    {"ADTS AAC", AssetFileType::AppleM4A, "MPEG-4 AAC", 1024, 2048},
+    {AssetFileType::AppleM4A, "MPEG-4 ALAC", "MPEG-4 ALAC", 0, 4096},
+    {AssetFileType::Wave, "Wave PCM", "Wave PCM", 0, 0},
+    {AssetFileType::CoreAudioFormat, "CAF ADPCM", "CAF ADPCM", -1, 127},
+    {AssetFileType::AppleM4A, "MPEG-4 AAC", "MPEG-4 AAC", 1024, 2048},
+    {AssetFileType::AppleM4A, "ADTS AAC", "MPEG-4 AAC", 1024, 2048},
 }};
 
 /// Files that GStreamer, mpv and MediaInfo are to read, as they are on people's desktops.
@@ -51,17 +51,6 @@ protected:
         return contents(output);
     }
 
-    /// The first channel of what a player makes of a file.
-    std::vector<float> played(const char* command, const std::filesystem::path& source, int channels) const {
-        const QByteArray bytes = outputOf(command, source);
-        std::vector<float> samples;
-        for (qsizetype at = 0; at < bytes.size(); at += static_cast<qsizetype>(sizeof(float)) * channels) {
-            samples.emplace_back();
-            std::memcpy(&samples.back(), bytes.constData() + at, sizeof(float));
-        }
-        return samples;
-    }
-
     void expectPlayed(const std::filesystem::path& path, const Type& type, const Quality& quality, const char* name,
                       const Played& players) {
         const QByteArray told = outputOf(
@@ -73,20 +62,25 @@ protected:
         EXPECT_TRUE(told.simplified().startsWith(start) && told.simplified().endsWith(end)) << told.constData();
         const double rate = quality.rate;
         const auto frames = static_cast<std::size_t>(std::llround(m_durations.durationOfFile(path) * rate));
-        const auto expectTone = [&](const std::vector<float>& samples, int lost) {
+        const auto expectTone = [&](const QByteArray& played, int lost) {
+            // The first channel.
+            std::vector<float> samples;
+            for (qsizetype at = 0; at < played.size(); at += qsizetype{4} * quality.channels) {
+                std::memcpy(&samples.emplace_back(), played.constData() + at, sizeof(float));
+            }
             EXPECT_GE(samples.size() + static_cast<std::size_t>(lost), frames);
             EXPECT_LE(samples.size(), frames + static_cast<std::size_t>(players.more));
             EXPECT_NEAR(levelOf(middleOf(samples)), -9.03, type.decibels);
             EXPECT_NEAR(frequencyOf(middleOf(samples), static_cast<int>(rate)), 1000, 2);
         };
-        expectTone(played("mpv --no-config --really-quiet --no-video --ao=pcm --audio-format=float "
-                          "--ao-pcm-waveheader=no --ao-pcm-file='%1' '%2'",
-                          path, quality.channels),
+        expectTone(outputOf("mpv --no-config --really-quiet --no-video --ao=pcm --audio-format=float "
+                            "--ao-pcm-waveheader=no --ao-pcm-file='%1' '%2'",
+                            path),
                    0);
         if (players.lost >= 0) {
-            expectTone(played("gst-launch-1.0 -q filesrc location='%2' ! decodebin ! audioconvert ! "
-                              "audio/x-raw,format=F32LE,layout=interleaved ! filesink location='%1'",
-                              path, quality.channels),
+            expectTone(outputOf("gst-launch-1.0 -q filesrc location='%2' ! decodebin ! audioconvert ! "
+                                "audio/x-raw,format=F32LE,layout=interleaved ! filesink location='%1'",
+                                path),
                        players.lost);
         }
     }
