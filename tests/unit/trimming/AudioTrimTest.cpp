@@ -19,15 +19,8 @@ protected:
     }
 
     std::unique_ptr<AudioTrim> open(const char* section, const char* name = "talk.wav") {
-        auto screen = std::make_unique<AudioTrim>(AudioTrim::Services{.exports = assets,
-                                                                      .readers = assets,
-                                                                      .players = players,
-                                                                      .settings = settings,
-                                                                      .container = container,
-                                                                      .presenter = presenter,
-                                                                      .notices = notices,
-                                                                      .runLoop = runLoop},
-                                                  container.documentsPath() / name, QLatin1String(section));
+        const AudioTrim::Services services{assets, assets, players, settings, container, presenter, notices, runLoop};
+        auto screen = std::make_unique<AudioTrim>(services, container.documentsPath() / name, QLatin1String(section));
         screen->setTrimDelegate([this] { ++reloads; });
         screen->setSaveToCloud([this](const std::filesystem::path& path, const QString& file) {
             EXPECT_EQ(path.filename(), file.toStdString());

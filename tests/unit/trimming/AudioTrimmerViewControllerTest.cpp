@@ -317,29 +317,26 @@ TEST_F(AudioTrimmerTest, ARecordingOfNothingLeavesAllAsItWas) {
     drag(screen, true, 60.0);
     assets.files["originalRecording.wav"] = {};
     const auto before = documents();
-    const auto nothing = [] {};
-    const struct {
-        const char* what;
-        std::function<void()> prepare, record;
-    } cases[] = {
-        {"no sound system", [this] { session.categoryResult = failure(QStringLiteral("no server")); }, nothing},
-        {"no recorder", [this] { recorders.creation = failure(QStringLiteral("no microphone")); }, nothing},
-        {"nothing is heard", nothing, [&screen] { screen.btnStopRecordingTapped(); }},
-        {"it breaks down", nothing, [this] { recorders.last()->fail({QStringLiteral("gone")}); }},
-    };
-    for (const auto& [what, prepare, record] : cases) {
+    for (const std::string_view what : {"no sound system", "no recorder", "nothing is heard", "it breaks down"}) {
         SCOPED_TRACE(what);
-        session.categoryResult = recorders.creation = {};
-        prepare();
+        if (what == "no sound system") {
+            session.categoryResult = failure(QStringLiteral("no server"));
+        } else if (what == "no recorder") {
+            recorders.creation = failure(QStringLiteral("no microphone"));
+        }
         screen.btnStartRecordingTapped();
-        record();
+        session.categoryResult = recorders.creation = {};
+        if (what == "nothing is heard") {
+            screen.btnStopRecordingTapped();
+        } else if (what == "it breaks down") {
+            recorders.last()->fail({QStringLiteral("gone")});
+        }
         runLoop.drain();
         EXPECT_EQ(screen.selection()->times(), (TrimTimes{1.0, 5.0}));
         EXPECT_FALSE(screen.isDoneHidden() || screen.isEditingViewHidden());
         EXPECT_EQ(documents(), before);
     }
     // Sound that was captured, but cannot be read, is kept.
-    session.categoryResult = recorders.creation = {};
     screen.btnStartRecordingTapped();
     recorders.last()->capture(100, -20.0F);
     recorders.last()->fail({QStringLiteral("gone")});
