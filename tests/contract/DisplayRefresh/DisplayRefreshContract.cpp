@@ -11,37 +11,33 @@ namespace tavi::test {
 namespace {
 
 struct Fake {
-    FakeDisplayRefreshes refreshes;
-
     bool showFrames(int count) {
         for (int i = 0; i < count; ++i) {
             refreshes.showFrame();
         }
         return true;
     }
+
+    FakeDisplayRefreshes refreshes;
 };
 
 struct Real {
-    QQuickWindow window;
-    QuickDisplayRefreshes refreshes;
-
     Real() {
         refreshes.setWindow(&window);
         window.resize(40, 40);
         window.show();
     }
-
     bool showFrames(int count) {
         int shown = 0;
         QObject context;
-        QObject::connect(&window, &QQuickWindow::frameSwapped, &context, [this, &shown, count] {
-            if (++shown < count) {
-                window.update();
-            }
-        });
+        QObject::connect(&window, &QQuickWindow::frameSwapped, &context,
+                         [&] { ++shown < count ? window.update() : void(); });
         window.update();
         return spinUntil([&shown, count] { return shown >= count; });
     }
+
+    QQuickWindow window;
+    QuickDisplayRefreshes refreshes;
 };
 
 template <class Display>

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <functional>
 #include <set>
-#include <sstream>
 
 #include "library/PlayerRules.h"
 #include "library/utility/Notifications.h"
@@ -140,20 +139,18 @@ TEST_F(VoiceMemoVCTest, theSearchLeavesWhatHoldsItsTextAndEachRowItsPlace) {
     }
     defaults.setObject(2, settingskey::kSort);
     vc.viewDidLoad();
-    const std::pair<const char*, std::string> searches[] = {{"t", "0 Talk 1,2 talk 2,"},
-                                                            {"TALK 2", "2 talk 2,"},
-                                                            {"TALK 2x", ""},
-                                                            {"\xC3\xBC", "3 \xC3\x9C,"},
-                                                            {".*", ""},
-                                                            {"", "0 Talk 1,1 memo,2 talk 2,3 \xC3\x9C,"}};
-    for (const auto& [typed, expected] : searches) {
+    for (const auto& [typed, expected] : {std::pair{"t", "0 Talk 1,2 talk 2,"},
+                                          {"TALK 2", "2 talk 2,"},
+                                          {"TALK 2x", ""},
+                                          {"\xC3\xBC", "3 \xC3\x9C,"},
+                                          {".*", ""},
+                                          {"", "0 Talk 1,1 memo,2 talk 2,3 \xC3\x9C,"}}) {
         vc.setSearchText(QString::fromUtf8(typed));
-        const auto shown = texts(vc);
-        std::ostringstream found;
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            found << texts(vc, RecordingFilterModel::RowRole)[i] << ' ' << shown[i] << ',';
+        std::string found;
+        for (std::size_t i = 0; i < texts(vc).size(); ++i) {
+            found += texts(vc, RecordingFilterModel::RowRole)[i] + ' ' + texts(vc)[i] + ',';
         }
-        EXPECT_EQ(found.str(), expected) << typed;
+        EXPECT_EQ(found, expected) << typed;
         EXPECT_EQ(vc.numberOfRowsInSection(0), 4);
     }
 }
