@@ -101,6 +101,17 @@ void PrivatePulse::setMicrophone(int sampleRate, int channels) const {
     pactl("set-default-source microphone");
 }
 
+void PrivatePulse::describeSpeaker(const QByteArray& description) const {
+    const QByteArray path = m_folder.filePath(QStringLiteral("commands")).toLocal8Bit();
+    pactl("load-module module-cli-protocol-unix socket=" + path);
+    // pactl has no word for it.
+    if (!runs("python3 -c \"import socket; s = socket.socket(socket.AF_UNIX); s.connect('" + path +
+              "'); s.sendall(b'update-sink-proplist speaker device.description=" + description +
+              "\\n'); s.shutdown(socket.SHUT_WR); s.makefile().read()\"")) {
+        qFatal("The sound server takes no commands.");
+    }
+}
+
 void PrivatePulse::moveRecording(const QByteArray& source) const {
     // The remapped microphones are recordings too; ours carries the program's name.
     pactl(

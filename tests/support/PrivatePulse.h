@@ -51,6 +51,8 @@ public:
     /// Replaces the microphone by one of that shape.
     void setMicrophone(int sampleRate, int channels) const;
     void removeMicrophones() const { pactl("unload-module module-remap-source"); }
+    /// Gives the default sink another description, of one word.
+    void describeSpeaker(const QByteArray& description) const;
     /// Puts the one recording stream on another source.
     void moveRecording(const QByteArray& source) const;
     /// Plays raw 16-bit samples of the native byte order into the microphone, until the handle goes away.
