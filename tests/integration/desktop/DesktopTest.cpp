@@ -91,13 +91,14 @@ TEST_F(DesktopTest, TheScreenIsKeptOnAsLongAsThatIsWanted) {
 }
 
 class MailTest : public DesktopTest {
-protected:
+public:
     MailTest() {
         qputenv("PATH", m_programs.path().toUtf8());
         write(m_attachment, "sound");
     }
     ~MailTest() override { qputenv("PATH", m_path); }
 
+protected:
     static void write(const QString& path, const char* text) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
