@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 
 #include "adapters/ffmpeg/converting/FfmpegAudioTempo.h"
@@ -19,46 +20,35 @@ namespace {
 
 constexpr double kSeconds = 4.0;
 
-class FakePlayerWorld {
-public:
-    FakePlayerWorld() { m_players.seconds["recording"] = kSeconds; }
-    AudioPlayers& players() { return m_players; }
-    void removeServer() { m_players.last()->fail({QStringLiteral("gone")}); }
-    template <class Condition>
-    bool wait(Condition condition) {
+struct FakePlayerWorld {
+    FakePlayerWorld() { players.seconds["recording"] = kSeconds; }
+    void removeServer() { players.last()->fail({QStringLiteral("gone")}); }
+    bool wait(const std::function<bool()>& condition) {
         for (int tick = 0; tick < 1000 && !condition(); ++tick) {
-            m_runLoop.advance(0.01);
+            runLoop.advance(0.01);
         }
         return condition();
     }
 
-private:
-    ManualRunLoop m_runLoop;
-    FakeAudioPlayers m_players{m_runLoop};
+    ManualRunLoop runLoop;
+    FakeAudioPlayers players{runLoop};
 };
 
-class RealPlayerWorld {
-public:
+struct RealPlayerWorld {
     RealPlayerWorld() {
         const auto sound = std::make_shared<FakeSound>();
-        sound->rate = 44100.0;
-        sound->planes.assign(2, std::vector<float>(static_cast<std::size_t>(kSeconds * 44100.0), 0.1F));
-        m_files.sounds["recording"] = sound;
+        sound->planes.assign(2, std::vector<float>(static_cast<std::size_t>(kSeconds * sound->rate), 0.1F));
+        files.sounds["recording"] = sound;
     }
-    AudioPlayers& players() { return m_players; }
-    void removeServer() { m_server.kill(); }
-    template <class Condition>
-    bool wait(Condition condition) {
-        return spinUntil(condition);
-    }
+    void removeServer() { server.kill(); }
+    static bool wait(const std::function<bool()>& condition) { return spinUntil(condition); }
 
-private:
-    PrivatePulse m_server;
-    FakeExtAudioFiles m_files;
-    FfmpegAudioTempos m_tempos;
-    QtRunLoop m_runLoop;
-    PulseAudioOutputs m_outputs{std::make_shared<PulseConnection>()};
-    FilePlayers m_players{m_files, m_tempos, m_outputs, m_runLoop};
+    PrivatePulse server;
+    FakeExtAudioFiles files;
+    FfmpegAudioTempos tempos;
+    QtRunLoop runLoop;
+    PulseAudioOutputs outputs{std::make_shared<PulseConnection>()};
+    FilePlayers players{files, tempos, outputs, runLoop};
 };
 
 template <class World>
@@ -72,7 +62,7 @@ protected:
         }
     }
     void make() {
-        m_player = std::move(m_world.players().playerWithContentsOfURL("recording").value());
+        m_player = std::move(m_world.players.playerWithContentsOfURL("recording").value());
         m_player->setDelegate(this);
         m_player->setEnableRate(true);
     }
@@ -93,7 +83,7 @@ using Worlds = ::testing::Types<FakePlayerWorld, RealPlayerWorld>;
 TYPED_TEST_SUITE(AudioPlayerContract, Worlds);
 
 TYPED_TEST(AudioPlayerContract, PlaysToTheEndOnceAndFromTheBeginningAgain) {
-    EXPECT_FALSE(this->m_world.players().playerWithContentsOfURL("nowhere"));
+    EXPECT_FALSE(this->m_world.players.playerWithContentsOfURL("nowhere"));
     this->make();
     EXPECT_EQ(this->m_player->duration(), kSeconds);
     this->m_player->setCurrentTime(3.5);
