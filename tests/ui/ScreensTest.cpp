@@ -49,9 +49,26 @@ void fillLibrary(const Shell& shell) {
     }
 }
 
+/// A file of that name sounds, of one shape for each seed.
+void addSound(Shell& shell, const std::filesystem::path& name, int seed) {
+    const auto sound = std::make_shared<FakeSound>();
+    for (sound->planes.resize(1); sound->planes[0].size() < 40'960;) {
+        const auto word = static_cast<int>(sound->planes[0].size()) / 1024 + 3 * seed;
+        const double loud = 0.05 + 0.45 * std::abs(std::sin(word * 0.37) * std::sin(word * (2.1 + seed)));
+        const double place = static_cast<double>(sound->planes[0].size());
+        sound->planes[0].push_back(static_cast<float>(loud * std::abs(std::sin(place * 0.004)) * std::sin(place)));
+    }
+    shell.files.sounds[shell.container.documentsPath() / name] = sound;
+}
+
 void showLibrary(Shell& shell) {
     fillLibrary(shell);
     shell.library.viewWillAppear();
+    for (int row = 0; row < 14; ++row) {
+        addSound(shell, shell.library.arrRecordings().at(static_cast<std::size_t>(row)).nativeName(), row);
+    }
+    shell.settle();
+    shell.runLoop.advance(1.0);
 }
 
 void play(Shell& shell) {
@@ -87,7 +104,7 @@ const State kStates[] = {
     {"empty", 1, {}},
     {"list", 1, showLibrary},
     {"playing", 1, play},
-    {"unplayable", 1, [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1); }},
+    {"unplayable", 1, [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
     {"found", 1, [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
     {"notice", 1,
      [](Shell& s) {
@@ -107,6 +124,7 @@ const State kStates[] = {
     {"trimmer", 1, trim},
     {"trimmerCrowded", 1, [](Shell& s) { s.trim(addTalk(s)).selection()->nudge(true, 73.5); }},
     {"trimmerFocus", 1, [](Shell& s) { trim(s), s.item("rightThumb")->forceActiveFocus(Qt::TabFocusReason); }},
+    {"trimmerZoomed", 1, [](Shell& s) { trim(s), s.trimmers.screen()->zoom()->show(0.1, 0.5); }},
     {"trimmerPlaying", 1,
      [](Shell& s) { trim(s), s.trimmers.screen()->btnPlayPauseTapped(), s.runLoop.drain(), s.runLoop.advance(14.1); }},
     {"trimmerExporting", 1,
@@ -223,6 +241,7 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
             required property AudioTrim controller
             visible: true
             width: 390
+            height: 844
             AudioTrimScreen { anchors.fill: parent; screen: window.controller }
         })",
                {{QStringLiteral("controller"), QVariant::fromValue(&screen)}});
@@ -291,12 +310,39 @@ TEST(AssistiveTechnology, OperatesTheControls) {
     EXPECT_TRUE(shell.settings.isQuickMailOn());
 }
 
-TEST(Library, HeaderButtonsTurnTheOrderRound) {
+TEST(Library, HandsAndKeysFindTheirWay) {
     Shell shell(fillLibrary);
     shell.tabBar.setSelectedIndex(1);
     shell.settle();
+    const auto access = [&shell](const char* name) { return QAccessible::queryAccessibleInterface(shell.item(name)); };
     shell.tap("btnSortName");
     EXPECT_EQ(shell.settings.sort(), 2);
+    EXPECT_EQ(access("btnSortName")->text(QAccessible::Name), QStringLiteral("Sorted by Name, ascending"));
+    EXPECT_EQ(access("btnSortDate")->text(QAccessible::Name), QStringLiteral("Sort by Date"));
+
+    const QQuickItem* list = shell.item("tableView");
+    const double titleHeight = 44.0;
+    for (const auto& [key, row] : {std::pair{Qt::Key_End, 25}, {Qt::Key_PageUp, 15}, {Qt::Key_Home, 0}}) {
+        shell.key(key);
+        EXPECT_EQ(list->property("currentIndex").toInt(), row);
+    }
+    shell.key(Qt::Key_End);
+    EXPECT_EQ(shell.item("btnSortName")->mapToScene({0.0, 0.0}).y(), 0.0) << "the title scrolls away, the order stays";
+    shell.key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(shell.item("btnSortName")->mapToScene({0.0, 0.0}).y(), titleHeight);
+    EXPECT_TRUE(shell.item("search")->hasActiveFocus());
+    shell.key(Qt::Key_Escape);
+    EXPECT_TRUE(list->hasActiveFocus());
+
+    for (int click = 0; click < 2; ++click) {
+        shell.drag(*list->property("currentItem").value<QQuickItem*>(), 0.0);
+    }
+    EXPECT_TRUE(shell.library.isPlaying()) << "a double click plays";
+    shell.settleFor(700);
+    shell.item("stopAudio")->forceActiveFocus(Qt::TabFocusReason);
+    shell.key(Qt::Key_Return);
+    EXPECT_FALSE(shell.library.isPanelShown());
+    EXPECT_TRUE(list->hasActiveFocus()) << "the keyboard is not lost with the player";
 }
 
 }  // namespace

@@ -41,15 +41,25 @@ TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
     shell.tap("btnPlayPause");
     EXPECT_TRUE(isPlaying());
     QStringList visited;
-    for (int i = 0; i < 9; ++i) {
+    for (int i = 0; i < 10; ++i) {
         visited.append(shell.window->activeFocusItem()->objectName());
         shell.key(Qt::Key_Tab);
     }
     EXPECT_EQ(visited.join(QLatin1Char(' ')),
               QStringLiteral("btnPlayPause btnReset btnResetAudio btnEditTrimmedVideo btnCancel btnUpload leftThumb "
-                             "rightThumb btnPlayPause"))
+                             "rightThumb zoomIn btnPlayPause"))
         << "what the trimmer covers is out of reach";
+    TrimZoom& zoom = *shell.trimmers.screen()->zoom();
+    shell.key(Qt::Key_Plus);
+    shell.tap("zoomIn");
+    EXPECT_EQ(zoom.factor(), 4.0);
+    shell.tap("tavi::EZAudioPlotItem");
+    EXPECT_NEAR(player.indicatorX(), zoom.offset() + zoom.viewWidth() / 2.0, 1.0) << "a tap moves the play head";
+    shell.drag(*shell.item("overview"), 50.0);
+    EXPECT_GT(zoom.from(), 0.375);
     shell.item("leftThumb")->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_EQ(zoom.from(), 0.0) << "where the keyboard is";
+    EXPECT_EQ(shell.item("range")->property("text").toString(), QStringLiteral("0:00.00 – 1:15.00 · 75.0 s"));
     shell.key(Qt::Key_Space);
     EXPECT_FALSE(isPlaying());
     shell.tap("btnUpload");

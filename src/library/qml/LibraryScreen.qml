@@ -13,13 +13,18 @@ FocusScope {
     /// Too low for list and player at once, which then is one line until it is unfolded.
     readonly property bool low: !beside && root.Window.height < 640
     property bool unfolded: false
+    readonly property bool folded: low && !unfolded
     readonly property PlayerPanel player: screen.player
 
-    /// The keyboard goes to the list, where it never gets lost.
-    function leavePlayer(isByKey) {
-        if (view.activeFocus || mini.activeFocus)
+    /// Opens and closes the player. What disappears with the keyboard inside it first hands that to the list.
+    function follow() {
+        if (!screen.isPanelShown && (view.activeFocus || mini.activeFocus)) {
+            const isByKey = Window.activeFocusItem.visualFocus === true
             list.forceActiveFocus(Qt.OtherFocusReason)
-        list.isByKey = isByKey
+            list.isByKey = isByKey
+        }
+        panel.open = screen.isPanelShown
+        unfolded = unfolded && panel.open
     }
 
     Keys.onPressed: event => {
@@ -41,6 +46,7 @@ FocusScope {
             event.accepted = false
     }
     onActiveFocusChanged: if (!activeFocus) list.isByKey = false
+    Component.onCompleted: follow()
 
     Shortcut {
         sequence: "Ctrl+F"
@@ -52,10 +58,7 @@ FocusScope {
         target: root.screen
 
         function onSelectionChanged() {
-            if (!root.screen.isPanelShown) {
-                root.leavePlayer(view.activeFocus || mini.activeFocus ? false : list.isByKey)
-                root.unfolded = false
-            }
+            root.follow()
         }
     }
 
@@ -115,15 +118,16 @@ FocusScope {
     Item {
         id: panel
 
+        property bool open: false
         /// How far it has slid in.
-        property real shown: root.screen.isPanelShown ? 1 : 0
+        property real shown: open ? 1 : 0
         /// How much of the list it covers.
         readonly property real shownHeight: root.beside ? 0 : Math.round(height * shown)
 
         x: root.beside ? page.width + 1 : 0
         y: root.beside ? 0 : parent.height - shownHeight
         width: parent.width - x
-        height: root.beside ? parent.height : mini.visible ? mini.implicitHeight : view.implicitHeight
+        height: root.beside ? parent.height : root.folded ? mini.implicitHeight : view.implicitHeight
         visible: root.beside || shownHeight > 0
         clip: !root.beside
 
@@ -144,7 +148,7 @@ FocusScope {
             width: parent.width
             height: parent.height + radius
             visible: !root.beside
-            radius: mini.visible ? 0 : 16
+            radius: root.folded ? 0 : Theme.radiusSheet
             color: Theme.panel
         }
 
@@ -155,8 +159,8 @@ FocusScope {
             screen: root.screen
             beside: root.beside
             foldable: root.low
-            visible: !mini.visible && (root.screen.isPanelShown || !root.beside)
-            enabled: root.screen.isPanelShown
+            visible: !root.folded && (panel.open || !root.beside)
+            enabled: panel.open
             onFolded: {
                 root.unfolded = false
                 mini.forceActiveFocus(Qt.OtherFocusReason)
@@ -168,8 +172,8 @@ FocusScope {
 
             anchors.fill: parent
             screen: root.screen
-            visible: root.low && !root.unfolded
-            enabled: root.screen.isPanelShown
+            visible: root.folded
+            enabled: panel.open
             onUnfolded: {
                 root.unfolded = true
                 view.forceActiveFocus(Qt.OtherFocusReason)
@@ -179,7 +183,7 @@ FocusScope {
         EmptyState {
             anchors.centerIn: parent
             width: Math.min(parent.width - 4 * Theme.margin, 320)
-            visible: root.beside && !root.screen.isPanelShown
+            visible: root.beside && !panel.open
             imageName: "play_player.png"
             title: qsTrId("player_nothing")
             hint: qsTrId("player_nothing_hint")

@@ -52,138 +52,150 @@ FocusScope {
             Accessible.name: text
         }
 
-        Column {
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: 64
-            width: Math.min(parent.width - 2 * Theme.margin, 860)
-            spacing: 16
+        Flickable {
+            y: 52
+            width: parent.width
+            height: parent.height - y
+            contentHeight: column.height + 28
+            clip: true
+            interactive: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
 
-            Label {
-                width: parent.width
-                text: root.screen.lblFileName
-                horizontalAlignment: Text.AlignHCenter
-                elide: Text.ElideMiddle
-                maximumLineCount: 1
-            }
+            Column {
+                id: column
 
-            Item {
-                width: parent.width
-                height: 200
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 12
+                width: Math.min(parent.width - 2 * Theme.margin, 860)
+                spacing: 16
 
-                Rectangle {
-                    anchors.fill: parent
-                    anchors.leftMargin: 20
-                    anchors.rightMargin: 20
-                    anchors.topMargin: 40
-                    radius: 3
-                    color: Theme.ground
-                    border.color: root.screen.accentColor
-                    border.width: 1
+                Label {
+                    width: parent.width
+                    text: root.screen.lblFileName
+                    horizontalAlignment: Text.AlignHCenter
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                }
 
-                    SCWaveformViewItem {
+                Item {
+                    width: parent.width
+                    height: 200
+
+                    Rectangle {
                         anchors.fill: parent
-                        anchors.margins: 1
-                        view: root.screen.waveformView
+                        anchors.leftMargin: 20
+                        anchors.rightMargin: 20
+                        anchors.topMargin: 40
+                        radius: 3
+                        color: Theme.ground
+                        border.color: root.screen.accentColor
+                        border.width: 1
+
+                        SCWaveformViewItem {
+                            anchors.fill: parent
+                            anchors.margins: 1
+                            view: root.screen.waveformView
+                        }
+                    }
+
+                    RangeSliderView {
+                        y: 20
+                        width: parent.width
+                        height: 180
+                        slider: root.screen.rangeSlider
                     }
                 }
 
-                RangeSliderView {
-                    y: 20
+                Item {
                     width: parent.width
-                    height: 180
-                    slider: root.screen.rangeSlider
-                }
-            }
+                    height: 18
 
-            Item {
-                width: parent.width
-                height: 18
+                    Label {
+                        text: root.screen.lblCurrentTime
+                        font.pixelSize: 13
+                    }
 
-                Label {
-                    text: root.screen.lblCurrentTime
-                    font.pixelSize: 13
-                }
-
-                Label {
-                    anchors.right: parent.right
-                    text: root.screen.lblDuration
-                    font.pixelSize: 13
-                }
-            }
-
-            TSlider {
-                width: parent.width
-                from: 0
-                to: Math.max(root.screen.duration, 0.001)
-                stepSize: 1
-                rest: root.screen.currentTime
-                enabled: root.screen.duration > 0
-                Accessible.name: qsTrId("a11y_position")
-                onSlid: value => root.screen.playerSliderMoved(value)
-            }
-
-            Row {
-                anchors.horizontalCenter: parent.horizontalCenter
-                spacing: 16
-
-                IconButton {
-                    width: 60
-                    height: 60
-                    objectName: "btnPlay"
-                    imageName: root.screen.btnPlay.selected ? "pause_Player.png" : "play_player.png"
-                    filled: true
-                    name: root.screen.btnPlay.selected ? qsTrId("a11y_pause") : qsTrId("a11y_play")
-                    enabled: root.screen.btnPlay.enabled
-                    focus: true
-                    onClicked: root.screen.playOriginalAudio()
+                    Label {
+                        anchors.right: parent.right
+                        text: root.screen.lblDuration
+                        font.pixelSize: 13
+                    }
                 }
 
-                IconButton {
-                    width: 60
-                    height: 60
-                    objectName: "btnStop"
-                    imageName: "stop_Play.png"
-                    name: qsTrId("a11y_stop_playing")
-                    enabled: root.screen.btnStop.enabled
-                    onClicked: root.screen.stopAudio()
-                }
-            }
-
-            Row {
-                id: buttons
-
-                readonly property real each: Math.min(160, (parent.width - 2 * spacing) / 3)
-
-                anchors.horizontalCenter: parent.horizontalCenter
-                spacing: 8
-
-                TButton {
-                    width: buttons.each
-                    objectName: "playTrimmed"
-                    text: qsTrId("trim_play_trimmed")
-                    kind: TButton.Quiet
-                    horizontalPadding: 8
-                    enabled: root.screen.btnPlay.enabled
-                    onClicked: root.screen.playTrimmedAudio()
+                TSlider {
+                    width: parent.width
+                    from: 0
+                    to: Math.max(root.screen.duration, 0.001)
+                    stepSize: 1
+                    rest: root.screen.currentTime
+                    enabled: root.screen.duration > 0
+                    Accessible.name: qsTrId("a11y_position")
+                    onSlid: value => root.screen.playerSliderMoved(value)
                 }
 
-                TButton {
-                    width: buttons.each
-                    objectName: "btnTrim"
-                    text: root.screen.btnTrim.title
-                    kind: TButton.Filled
-                    horizontalPadding: 8
-                    enabled: root.screen.btnTrim.enabled
-                    onClicked: root.screen.trimAudio()
+                Row {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    spacing: 16
+
+                    IconButton {
+                        width: 60
+                        height: 60
+                        objectName: "btnPlay"
+                        imageName: root.screen.btnPlay.selected ? "pause_Player.png" : "play_player.png"
+                        filled: true
+                        name: root.screen.btnPlay.selected ? qsTrId("a11y_pause") : qsTrId("a11y_play")
+                        enabled: root.screen.btnPlay.enabled
+                        focus: true
+                        onClicked: root.screen.playOriginalAudio()
+                    }
+
+                    IconButton {
+                        width: 60
+                        height: 60
+                        objectName: "btnStop"
+                        imageName: "stop_Play.png"
+                        name: qsTrId("a11y_stop_playing")
+                        enabled: root.screen.btnStop.enabled
+                        onClicked: root.screen.stopAudio()
+                    }
                 }
 
-                TButton {
-                    width: buttons.each
-                    objectName: "btnSave"
-                    text: qsTrId("trim_save")
-                    kind: TButton.Quiet
-                    horizontalPadding: 8
-                    enabled: root.screen.btnSave.enabled
+                Row {
+                    id: buttons
+
+                    readonly property real each: Math.min(160, (parent.width - 2 * spacing) / 3)
+
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    spacing: 8
+
+                    TButton {
+                        width: buttons.each
+                        objectName: "playTrimmed"
+                        text: qsTrId("trim_play_trimmed")
+                        kind: TButton.Quiet
+                        horizontalPadding: 8
+                        enabled: root.screen.btnPlay.enabled
+                        onClicked: root.screen.playTrimmedAudio()
+                    }
+
+                    TButton {
+                        width: buttons.each
+                        objectName: "btnTrim"
+                        text: root.screen.btnTrim.title
+                        kind: TButton.Filled
+                        horizontalPadding: 8
+                        enabled: root.screen.btnTrim.enabled
+                        onClicked: root.screen.trimAudio()
+                    }
+
+                    TButton {
+                        width: buttons.each
+                        objectName: "btnSave"
+                        text: qsTrId("trim_save")
+                        kind: TButton.Quiet
+                        horizontalPadding: 8
+                        enabled: root.screen.btnSave.enabled
+                    }
                 }
             }
         }

@@ -8,19 +8,33 @@ T.Slider {
     id: control
 
     required property TrimSelection selection
+    required property TrimZoom zoom
     required property bool isLeft
-    readonly property real centre: isLeft ? selection.leftThumbX : selection.rightThumbX
+    readonly property real centre: (isLeft ? selection.leftThumbX : selection.rightThumbX) - zoom.offset
+    readonly property bool inView: centre > -1 && centre < zoom.viewWidth + 1
+    /// How far what can be grasped reaches to the inner side: not into that of the other thumb.
+    readonly property real inner: Math.max(0, Math.min(4, (selection.rightThumbX - selection.leftThumbX) / 2))
     /// Seconds; what assistive technology sets the value to is one more drag.
     readonly property real minimumValue: from
     readonly property real maximumValue: to
     readonly property real place: Math.max(from, Math.min(isLeft ? selection.startTime : selection.endTime, to))
 
-    x: Math.round(centre) - (isLeft ? width : 0)
-    y: -10
+    function nudge(seconds) {
+        selection.nudge(isLeft, seconds)
+        reveal()
+    }
+
+    function reveal() {
+        zoom.reveal(isLeft ? selection.leftThumbX : selection.rightThumbX)
+    }
+
+    x: Math.round(Math.max(0, Math.min(centre, zoom.viewWidth))) - (isLeft ? 44 : inner)
     z: isLeft === selection.isLeftThumbInFront ? 1 : 0
-    width: 44
-    height: parent.height + 20
+    width: 44 + inner
+    height: parent.height
     objectName: isLeft ? "leftThumb" : "rightThumb"
+    // One that is scrolled away keeps the keyboard, which brings it back.
+    opacity: inView ? 1 : 0
     from: 0
     to: Math.max(selection.audioDuration, 0.001)
     stepSize: 1
@@ -29,44 +43,52 @@ T.Slider {
     Accessible.role: Accessible.Slider
     Accessible.name: isLeft ? qsTrId("a11y_trim_start") : qsTrId("a11y_trim_end")
     Accessible.description: isLeft ? selection.spokenStart : selection.spokenEnd
-    Accessible.onIncreaseAction: selection.nudge(isLeft, stepSize)
-    Accessible.onDecreaseAction: selection.nudge(isLeft, -stepSize)
+    Accessible.onIncreaseAction: nudge(stepSize)
+    Accessible.onDecreaseAction: nudge(-stepSize)
+    onVisualFocusChanged: if (visualFocus) reveal()
     onValueChanged: {
         if (Math.abs(value - place) > 0.0005) {
-            selection.nudge(isLeft, value - place)
+            nudge(value - place)
             value = Qt.binding(() => control.place)
         }
     }
     Keys.onPressed: event => {
         const step = event.modifiers & Qt.ShiftModifier ? 1 : 0.01
-        if (event.key === Qt.Key_Left || event.key === Qt.Key_Down)
-            selection.nudge(isLeft, -step)
-        else if (event.key === Qt.Key_Right || event.key === Qt.Key_Up)
-            selection.nudge(isLeft, step)
-        else
-            return
         event.accepted = true
+        if (event.key === Qt.Key_Left || event.key === Qt.Key_Down)
+            nudge(-step)
+        else if (event.key === Qt.Key_Right || event.key === Qt.Key_Up)
+            nudge(step)
+        else if (event.key === Qt.Key_PageDown)
+            nudge(-10)
+        else if (event.key === Qt.Key_PageUp)
+            nudge(10)
+        else if (event.key === Qt.Key_Home)
+            nudge(from - to)
+        else if (event.key === Qt.Key_End)
+            nudge(to - from)
+        else
+            event.accepted = false
     }
 
     Rectangle {
-        id: bar
+        id: line
 
-        x: (control.isLeft ? control.width : 0) - width / 2
-        y: 10
-        width: 4
-        height: parent.height - 20
+        x: (control.isLeft ? 44 : control.inner) - width / 2
+        width: 2
+        height: parent.height
         color: Theme.text
     }
 
     Rectangle {
-        x: control.isLeft ? bar.x - width + 4 : bar.x
-        anchors.verticalCenter: parent.verticalCenter
-        width: 26
-        height: 64
-        radius: 8
-        color: area.pressed ? "#e2353d" : Theme.accent
-        border.color: Theme.text
-        border.width: 2
+        id: grip
+
+        x: control.isLeft ? line.x + line.width - width : line.x
+        y: parent.height - height - 16
+        width: 24
+        height: 44
+        radius: Theme.radiusTile
+        color: area.pressed ? Theme.light : Theme.text
 
         Row {
             anchors.centerIn: parent
@@ -77,15 +99,15 @@ T.Slider {
 
                 Rectangle {
                     width: 2
-                    height: 20
+                    height: 18
                     radius: 1
-                    color: Theme.text
+                    color: Theme.accent
                 }
             }
         }
 
         FocusFrame {
-            around: 8
+            around: grip.radius
             control: control
         }
     }
@@ -95,11 +117,13 @@ T.Slider {
 
         property real last: 0
 
+        // In the selection's container, which moves where the view is scrolled.
         function across(mouse) {
-            return mapToItem(control.parent, mouse.x, mouse.y).x
+            return mapToItem(control.parent, mouse.x, mouse.y).x + control.zoom.offset
         }
 
         anchors.fill: parent
+        enabled: control.inView || pressed
         preventStealing: true
         cursorShape: Qt.SizeHorCursor
         onPressed: mouse => {
@@ -111,6 +135,7 @@ T.Slider {
             const now = across(mouse)
             control.selection.drag(control.isLeft, now - last)
             last = now
+            control.reveal()
         }
         onReleased: control.selection.endDrag(control.isLeft)
         onCanceled: control.selection.endDrag(control.isLeft)

@@ -7,7 +7,8 @@ FocusScope {
     id: root
 
     required property AudioTrimmerViewController screen
-    readonly property bool wide: width >= Theme.wideWidth
+    readonly property bool low: height < Theme.lowHeight && width > height
+    readonly property bool wide: !low && width >= Theme.wideWidth
     readonly property bool exporting: screen.exporter.isRunning
 
     anchors.fill: parent
@@ -18,13 +19,19 @@ FocusScope {
             screen.btnPlayPauseTapped()
     }
     // No key and no touch reaches what lies below.
-    Keys.onPressed: event => event.accepted = true
+    Keys.onPressed: event => {
+        event.accepted = true
+        if (event.key === Qt.Key_Plus || event.key === Qt.Key_Equal)
+            screen.zoom.zoomIn()
+        else if (event.key === Qt.Key_Minus)
+            screen.zoom.zoomOut()
+    }
     Accessible.role: Accessible.Dialog
     Accessible.name: qsTrId("trimmer_title")
 
     Rectangle {
         anchors.fill: parent
-        color: "#4d000000"
+        color: root.wide ? Theme.scrim : "#4d000000"
     }
 
     MouseArea {
@@ -38,11 +45,11 @@ FocusScope {
         id: panel
 
         anchors.centerIn: parent
-        width: root.wide ? Math.min(parent.width - 80, 860) : parent.width
-        height: root.wide ? Math.min(parent.height - 80, 560) : parent.height
-        radius: root.wide ? 14 : 0
+        width: root.wide ? Math.min(parent.width - 80, 1040) : parent.width
+        height: root.wide ? Math.min(parent.height - 80, 640) : parent.height
+        radius: root.wide ? Theme.radiusSheet : 0
         color: Theme.ground
-        border.color: Theme.control
+        border.color: Theme.edge
         border.width: root.wide ? 1 : 0
 
         FocusScope {
@@ -53,30 +60,32 @@ FocusScope {
             TButton {
                 id: cancel
 
-                x: 4
-                y: 4
-                width: 88
+                x: 8
+                y: root.wide ? 10 : 4
                 objectName: "btnCancel"
                 text: qsTrId("Cancel")
                 onClicked: root.screen.btnCancelTapped()
             }
 
             Label {
-                anchors.horizontalCenter: parent.horizontalCenter
-                y: 4
+                id: title
+
+                x: root.low ? (parent.width - width - file.width - 12) / 2 : (parent.width - width) / 2
+                y: cancel.y
                 height: Theme.touch
                 text: qsTrId("trimmer_title")
                 color: Theme.text
-                font.pixelSize: 17
+                font.pixelSize: Theme.textDialog
                 font.weight: Font.Medium
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
 
             TButton {
-                x: parent.width - width - 8
-                y: 4
-                width: 84
+                id: done
+
+                x: parent.width - width - 12
+                y: cancel.y
                 objectName: "btnUpload"
                 visible: !root.screen.isDoneHidden
                 text: qsTrId("trimmer_done")
@@ -88,37 +97,26 @@ FocusScope {
             Label {
                 id: file
 
-                x: Theme.margin
-                y: cancel.y + cancel.height + 4
-                width: parent.width - 2 * x
+                x: root.low ? title.x + title.width + 12 : (parent.width - width) / 2
+                y: root.low ? 4 : cancel.y + 46
+                width: Math.min(implicitWidth, root.low ? parent.width - cancel.width - done.width - title.width - 80
+                                                        : parent.width - 2 * Theme.margin)
+                height: root.low ? Theme.touch : 20
                 text: root.screen.fileText
-                horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideMiddle
                 maximumLineCount: 1
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
 
-            TrimmerPlot {
-                id: plot
-
-                anchors.top: file.bottom
-                anchors.bottom: controls.top
-                anchors.bottomMargin: 8
-                width: parent.width
-                visible: !root.screen.isEditingViewHidden
-                screen: root.screen
-            }
-
-            TrimmerControls {
-                id: controls
-
-                anchors.bottom: parent.bottom
-                anchors.bottomMargin: 20
-                width: parent.width
+            TrimmerBody {
+                anchors.fill: parent
+                anchors.topMargin: root.low ? 50 : 76
                 visible: !root.screen.isEditingViewHidden
                 focus: true
                 screen: root.screen
+                low: root.low
+                wide: root.wide
             }
 
             Column {

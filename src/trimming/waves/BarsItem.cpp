@@ -8,13 +8,23 @@
 namespace tavi {
 
 BarsItem::BarsItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    connect(this, &BarsItem::looksChanged, this, [this] { update(); });
+    connect(this, &BarsItem::looksChanged, this, &BarsItem::redraw);
+}
+
+void BarsItem::redraw() {
+    m_isStale = true;
+    update();
+}
+
+void BarsItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+    redraw();
 }
 
 void BarsItem::setLevels(const QList<qreal>& levels) {
     if (levels != m_levels) {
         m_levels = levels;
-        update();
+        redraw();
         Q_EMIT levelsChanged();
     }
 }
@@ -24,14 +34,16 @@ void BarsItem::move(qreal& edge, qreal place) {
     const int now = qRound(place * width());
     if (std::exchange(edge, place) != place) {
         if (now != before) {
-            // Only what changes its colour: this comes with every tick of a player.
-            update(QRect(std::min(before, now), 0, std::abs(now - before), qCeil(height())));
+            // Only what changes its colour: this comes with every tick of a player. A part would take the place of a
+            // whole that is still to be painted.
+            update(m_isStale ? QRect() : QRect(std::min(before, now), 0, std::abs(now - before), qCeil(height())));
         }
         Q_EMIT rangeChanged();
     }
 }
 
 void BarsItem::paint(QPainter* painter) {
+    m_isStale = false;
     const int step = m_barWidth + m_gap;
     const qsizetype count = step > 0 ? (static_cast<qsizetype>(width()) + m_gap) / step : 0;
     const int litFrom = qRound(m_from * width());

@@ -35,12 +35,16 @@ public:
     void setTo(qreal to) { move(m_to, to); }
     void paint(QPainter* painter) override;
 
+protected:
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+
 Q_SIGNALS:
     void levelsChanged();
     void looksChanged();
     void rangeChanged();
 
 private:
+    void redraw();
     void move(qreal& edge, qreal place);
 
     QList<qreal> m_levels;
@@ -50,6 +54,8 @@ private:
     QColor m_restColor = Qt::gray;
     qreal m_from = 0.0;
     qreal m_to = 1.0;
+    /// Since it was last painted more has changed than the colours of some bars.
+    bool m_isStale = true;
 };
 
 }  // namespace tavi

@@ -517,6 +517,26 @@
         <source></source>
         <translation>%1 – %2 · %3 s</translation>
     </message>
+    <message id="a11y_zoom">
+        <source></source>
+        <translation>Zoom</translation>
+    </message>
+    <message id="a11y_zoom_in">
+        <source></source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message id="a11y_zoom_out">
+        <source></source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message id="a11y_overview">
+        <source></source>
+        <translation>Die ganze Aufnahme, und was davon zu sehen ist</translation>
+    </message>
+    <message id="trimmer_zoom">
+        <source></source>
+        <translation>%1×</translation>
+    </message>
     <message id="trimmer_total">
         <source></source>
         <translation>insgesamt %1</translation>

@@ -516,6 +516,26 @@
         <source></source>
         <translation>%1 – %2 · %3 s</translation>
     </message>
+    <message id="a11y_zoom">
+        <source></source>
+        <translation>Zoom</translation>
+    </message>
+    <message id="a11y_zoom_in">
+        <source></source>
+        <translation>Zoom in</translation>
+    </message>
+    <message id="a11y_zoom_out">
+        <source></source>
+        <translation>Zoom out</translation>
+    </message>
+    <message id="a11y_overview">
+        <source></source>
+        <translation>All of the recording, and what of it is shown</translation>
+    </message>
+    <message id="trimmer_zoom">
+        <source></source>
+        <translation>%1×</translation>
+    </message>
     <message id="trimmer_total">
         <source></source>
         <translation>%1 in all</translation>

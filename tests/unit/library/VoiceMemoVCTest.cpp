@@ -267,6 +267,31 @@ TEST_F(VoiceMemoVCTest, aShapeIsMadeOnceWhereItIsSeenAndAnewForAChangedFile) {
     EXPECT_EQ(files.opened, 3 + 64) << "what has been scrolled away is no longer wanted";
 }
 
+TEST_F(VoiceMemoVCTest, whatWasTrimmedIsMarkedInViewAndSaidOnce) {
+    add("talk.wav", 1000);
+    assets.files["talk.wav"] = {{60 * 44100, 44100}, 1, {}};
+    defaults.setObject(2, settingskey::kSort);
+    vc.viewDidLoad();
+    std::vector<int> revealed;
+    QObject::connect(&vc, &VoiceMemoVC::rowRevealed, &vc, [&revealed](int row) { revealed.push_back(row); });
+    vc.setSearchText(QStringLiteral("x"));
+    vc.trimRow(0);
+    runLoop.drain();
+    trimmers.screen()->btnUploadTapped();
+    runLoop.advance(1.0);
+    // The export comes twice, and so does its end.
+    EXPECT_THAT(revealed, ElementsAre(0));
+    ASSERT_EQ(notices.posted.size(), 1U);
+    EXPECT_EQ(vc.newRow(), 0);
+    EXPECT_EQ(vc.shownIndex(0), 0) << "a search does not hide it";
+    add("A.wav", 1000);
+    vc.viewWillAppear();
+    EXPECT_EQ(vc.newRow(), 1);
+    notices.posted[0].action();
+    EXPECT_EQ(vc.selectedIndex(), 1);
+    EXPECT_EQ(vc.newRow(), -1) << "another row has been chosen";
+}
+
 TEST_F(VoiceMemoVCTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppears) {
     add("a", 1);
     vc.viewDidLoad();

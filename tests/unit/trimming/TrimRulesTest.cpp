@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "support/Printers.h"
+#include "trimming/TrimZoom.h"
 
 namespace tavi::test {
 namespace {
@@ -24,6 +25,41 @@ TEST(TrimRules, WriteTimesInHundredths) {
     for (const auto& [seconds, text] : cases) {
         EXPECT_EQ(trimrules::timeFormatted(seconds, true), QLatin1String(text)) << seconds;
     }
+}
+
+TEST(TrimZoom, WhatIsHeldStaysInItsPlaceAndTheStretchTheSame) {
+    TrimSelection selection;
+    TrimZoom zoom(selection);
+    selection.setAudioDuration(60.0);
+    zoom.setViewWidth(300.0);
+    selection.nudge(true, 12.0);
+    const TrimTimes times = selection.times();
+    const struct {
+        std::function<void()> act;
+        double factor, from;
+    } steps[] = {
+        {[&] { zoom.zoomBy(2.0, 150.0); }, 2.0, 0.25},
+        {[&] { zoom.zoomBy(2.0, 0.0); }, 4.0, 0.25},
+        {[&] { zoom.scrollBy(-1.0); }, 4.0, 0.0},
+        {[&] { zoom.reveal(1200.0); }, 4.0, 0.75},
+        {[&] { zoom.reveal(600.0); }, 4.0, 0.5},
+        {[&] { zoom.setViewWidth(600.0); }, 4.0, 0.5},
+        {[&] { zoom.zoomBy(100.0, 600.0); }, 30.0, 0.75 - 1.0 / 30.0},
+        {[&] { zoom.show(0.2, 0.6); }, 2.5, 0.2},
+        {[&] { zoom.show(0.2, 0.2); }, 30.0, 0.2},
+        {[&] { zoom.zoomOut(); }, 15.0, 0.2 - 0.5 / 30.0},
+        {[&] { zoom.zoomBy(0.001, 0.0); }, 1.0, 0.0},
+    };
+    for (const auto& [act, factor, from] : steps) {
+        act();
+        EXPECT_NEAR(zoom.factor(), factor, 1e-9);
+        EXPECT_NEAR(zoom.from(), from, 1e-9) << factor;
+        EXPECT_NEAR(selection.containerWidth(), zoom.viewWidth() * factor, 1e-6);
+        EXPECT_EQ(selection.times(), times) << "not even rounded anew";
+    }
+    zoom.zoomBy(30.0, 0.0);
+    selection.setAudioDuration(4.0);
+    EXPECT_EQ(zoom.factor(), 2.0);
 }
 
 TEST(TrimRules, ChooseTheTypeByTheName) {
