@@ -37,8 +37,7 @@ std::vector<float> decoded(std::span<const std::uint8_t> packets, std::size_t ch
     return sound;
 }
 
-/// Packets as an encoder makes them: each names the rounded sample before it. Codes are chosen at random, quieter ones
-/// for the channels behind the first.
+/// Packets as an encoder makes them: each names the rounded sample before it. Codes are chosen at random.
 Bytes packets(std::size_t count, std::size_t channels, unsigned loudest) {
     std::mt19937 random(5);
     Bytes bytes(count * channels * kIma4PacketBytes);
@@ -49,9 +48,8 @@ Bytes packets(std::size_t count, std::size_t channels, unsigned loudest) {
         const auto header = static_cast<std::uint16_t>((state.sample & ~0x7f) | state.step);
         packet[0] = static_cast<std::uint8_t>(header >> 8);
         packet[1] = static_cast<std::uint8_t>(header);
-        const unsigned codes = at % channels == 0 ? loudest : std::min(loudest, 3U);
         for (std::size_t i = 2; i < kIma4PacketBytes; ++i) {
-            packet[i] = static_cast<std::uint8_t>(random() % codes | random() % codes << 4 | (random() & 0x88));
+            packet[i] = static_cast<std::uint8_t>(random() % loudest | random() % loudest << 4 | (random() & 0x88));
         }
         std::vector<float> sound;
         decodePacket(packet, state, sound);
@@ -154,7 +152,7 @@ TEST(CafTest, LengthsAreThoseOfWhatIsThere) {
 }
 
 TEST(CafTest, ACutIsHeardAsInTheWholeFromItsSecondPacketOn) {
-    for (const auto& [count, channels, loudest] : {std::tuple(2000U, 1U, 3U), {700, 2, 4}, {40, 1, 8}, {40, 2, 8}}) {
+    for (const auto& [count, channels, loudest] : {std::tuple(2000U, 1U, 3U), {700, 2, 4}, {40, 1, 8}}) {
         const std::size_t width = channels * kIma4PacketBytes;
         const Bytes whole = packets(count, channels, loudest);
         const FileDescriptor file = memoryFile(cafFile({.channels = channels}, whole));

@@ -266,7 +266,7 @@ TEST(Mp4Test, OnlyAacThatIsWhatItSaysHasAFormat) {
 Bytes fragmented(const std::vector<Mp4Sample>& all, std::uint32_t start = 0) {
     // An edit of no length, as the length is not known yet.
     Bytes file =
-        inserted(edited(ordinary({}), {{0, start}}), box("mvex", box("trex", words({0, 1, 1, 1024, 10, 0}))), {"moov"});
+        inserted(edited(ordinary({}), {{0, start}}), box("mvex", box("trex", words({0, 1, 1, 1024, 9, 0}))), {"moov"});
     for (std::size_t first = 0; first < all.size(); first += 10) {
         const std::size_t count = std::min<std::size_t>(10, all.size() - first);
         const Mp4Sample& sample = all[first];
