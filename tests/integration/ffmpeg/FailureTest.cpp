@@ -63,27 +63,26 @@ TEST_F(FailureTest, AFileThatMayNotGrowKeepsWhatFitted) {
         double lost;
         const char* text;
     };
-    for (const auto& [error, room, more, lost, text] :
-         {Failure{EFBIG, 200001, 0, 1, "The recording could not be written: "},
-          {ENOSPC, 200001, 1000, 1, "The disk is full."},
-          {ENOSPC, 60001, 1 << 30, 0, "The disk is full."}}) {
+    for (const Failure& failure : {Failure{EFBIG, 200001, 0, 1, "The recording could not be written: "},
+                                   {ENOSPC, 200001, 1000, 1, "The disk is full."},
+                                   {ENOSPC, 60001, 1 << 30, 0, "The disk is full."}}) {
         for (const Type& type : kTypes) {
             int calls = 0;
-            off_t end = room;
+            off_t end = failure.room;
             // An interruption and a short write before.
             const auto pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) -> ssize_t {
                 ++calls;
                 if (calls == 2 || offset >= end) {
-                    errno = calls == 2 ? EINTR : error;
-                    end = calls == 2 ? end : room + more;
+                    errno = calls == 2 ? EINTR : failure.error;
+                    end = calls == 2 ? end : failure.room + failure.more;
                     return -1;
                 }
                 return ::pwrite(fd, data, calls == 3 ? 1 : std::min(size, static_cast<std::size_t>(end - offset)),
                                 offset);
             };
-            recordUntilItFails(type, 1, text, lost, pwrite);
-            EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || lost == 0 ||
-                        QFile(pathFor(type)).size() == 200000 + more);
+            recordUntilItFails(type, 1, failure.text, failure.lost, pwrite);
+            EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || failure.lost == 0 ||
+                        QFile(pathFor(type)).size() == 200000 + failure.more);
         }
     }
 }

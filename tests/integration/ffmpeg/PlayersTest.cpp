@@ -35,7 +35,7 @@ protected:
     static constexpr int kFrames = 12001;
 
     std::filesystem::path cut(const std::filesystem::path& source, AssetFileType type) {
-        const auto path = folder() / "cut";
+        auto path = folder() / "cut";
         std::filesystem::remove(path);
         const auto session = this->session(source, path, type);
         session->setTimeRange({{100, 8000}, {kFrames - 2000, 8000}});

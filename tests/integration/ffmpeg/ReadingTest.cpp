@@ -75,13 +75,14 @@ protected:
     static void expectExactSeeks(const std::filesystem::path& path, float tolerance, int slack = 0) {
         const auto [status, file, format, length] = open(path);
         ASSERT_TRUE(file);
-        for (const double rate : {format.sampleRate, format.sampleRate == 44100 ? 16000.0 : 44100.0}) {
+        const double own = format.sampleRate;
+        for (const double rate : {own, own == 44100 ? 16000.0 : 44100.0}) {
             const auto client = clientFormat(rate, format.channelsPerFrame);
             ASSERT_EQ(file->setClientDataFormat(client), kAudioNoError);
             ASSERT_EQ(file->seek(0), kAudioNoError);
             const auto all = readPlanes(*file, client);
             const auto at = [&](std::int64_t frame) {
-                return static_cast<std::size_t>(std::ceil(static_cast<double>(frame) * rate / format.sampleRate));
+                return static_cast<std::size_t>(std::ceil(static_cast<double>(frame) * rate / own));
             };
             EXPECT_NEAR(static_cast<double>(all[0].size()), static_cast<double>(at(length)), slack) << rate;
             for (const std::int64_t frame : {length / 2, std::int64_t{1}, length - 5, std::int64_t{1024}, length / 3,
