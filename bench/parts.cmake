@@ -25,7 +25,7 @@ target_compile_definitions(player_bench PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYW
 
 # Beside the rings of others, whose packages only scripts/bench installs.
 pkg_check_modules(JACK QUIET IMPORTED_TARGET jack)
-find_package(Boost QUIET)
+find_package(Boost QUIET CONFIG)
 if(JACK_FOUND AND Boost_FOUND)
   add_executable(ring_bench ring_bench.cpp)
   target_link_libraries(ring_bench PRIVATE tavi_engine PkgConfig::JACK Boost::headers tavi_warnings)

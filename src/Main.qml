@@ -16,10 +16,14 @@ Window {
     required property AlertPresenter presenter
     required property NoticeLine notices
     required property AudioTrimmerStage trimmers
+    /// Fades take the place of movements.
+    property bool reducedMotion: false
     /// Something covers the screens and takes the keys.
-    readonly property bool covered: presenter.active || trimmer.shown
+    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown
 
-    readonly property bool wide: width >= Theme.wideWidth
+    /// A phone on its side.
+    readonly property bool low: height < Theme.lowHeight && width > height
+    readonly property bool railed: low || width >= Theme.wideWidth
     readonly property var screens: [recordLoader, libraryLoader, settingsLoader]
     property bool started: false
     property bool away: false
@@ -29,14 +33,25 @@ Window {
         if (!started || away)
             return
         screens[tabBar.selectedIndex].appear()
+        focusScreen()
+    }
+
+    function focusScreen() {
         if (!covered)
             screens[tabBar.selectedIndex].forceActiveFocus()
     }
 
+    /// What had the keyboard may have gone, or been disabled: its keys go to the screen that is seen.
+    function keepFocus() {
+        const at = activeFocusItem
+        if (!covered && (at === null || at === contentItem || at === page || !at.visible || !at.enabled))
+            focusScreen()
+    }
+
     width: 390
     height: 844
-    minimumWidth: 360
-    minimumHeight: 640
+    minimumWidth: 280
+    minimumHeight: 280
     visible: true
     color: Theme.ground
     title: qsTrId("app_name")
@@ -48,9 +63,17 @@ Window {
         }
         away = isHidden
     }
+    onActiveFocusItemChanged: Qt.callLater(keepFocus)
+    onCoveredChanged: focusScreen()
     Component.onCompleted: {
         started = true
         appear()
+    }
+
+    Binding {
+        target: Theme
+        property: "reducedMotion"
+        value: window.reducedMotion
     }
 
     Connections {
@@ -61,33 +84,26 @@ Window {
         }
     }
 
-    onCoveredChanged: if (!covered) screens[tabBar.selectedIndex].forceActiveFocus()
-
     Connections {
         target: window.presenter
 
         function onFrontChanged() {
-            if (!window.covered)
-                window.screens[window.tabBar.selectedIndex].forceActiveFocus()
+            window.focusScreen()
         }
     }
 
-    Shortcut {
-        sequence: "Ctrl+1"
-        enabled: !window.covered
-        onActivated: window.tabBar.select(0)
-    }
+    Repeater {
+        model: 3
 
-    Shortcut {
-        sequence: "Ctrl+2"
-        enabled: !window.covered
-        onActivated: window.tabBar.select(1)
-    }
+        Item {
+            required property int index
 
-    Shortcut {
-        sequence: "Ctrl+3"
-        enabled: !window.covered
-        onActivated: window.tabBar.select(2)
+            Shortcut {
+                sequence: "Ctrl+" + (index + 1)
+                enabled: !window.covered
+                onActivated: window.tabBar.select(index)
+            }
+        }
     }
 
     Shortcut {
@@ -103,6 +119,12 @@ Window {
         onActivated: window.close()
     }
 
+    Shortcut {
+        sequence: "F1"
+        enabled: !window.covered
+        onActivated: shortcuts.open()
+    }
+
     FocusScope {
         id: page
 
@@ -112,19 +134,36 @@ Window {
         Accessible.role: Accessible.Grouping
         focus: true
         // What is behind the trimmer is out of the keyboard's reach.
-        enabled: !trimmer.shown
+        enabled: !trimmer.shown && !shortcuts.shown
         // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
         Keys.onSpacePressed: event => {
             if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
                 window.recording.playAndPauseRecording(window)
         }
+        Keys.onPressed: event => {
+            if (event.text === "?") {
+                shortcuts.open()
+                event.accepted = true
+            }
+        }
+
+        SessionBar {
+            id: session
+
+            x: content.x
+            width: content.width
+            height: implicitHeight
+            screen: window.recording
+            tabBar: window.tabBar
+        }
 
         Item {
             id: content
 
-            x: window.wide ? bar.width : 0
+            x: window.railed ? bar.width : 0
+            y: session.height
             width: parent.width - x
-            height: parent.height - (window.wide ? 0 : bar.height)
+            height: parent.height - y - (window.railed ? 0 : bar.height)
 
             TabPage {
                 id: recordLoader
@@ -133,6 +172,7 @@ Window {
                 selectedIndex: window.tabBar.selectedIndex
                 url: "qrc:/Tavi/Recording/RecordScreen.qml"
                 controller: window.recording
+                footRoom: notice.room
             }
 
             TabPage {
@@ -142,6 +182,7 @@ Window {
                 selectedIndex: window.tabBar.selectedIndex
                 url: "qrc:/Tavi/Library/LibraryScreen.qml"
                 controller: window.library
+                footRoom: notice.room
             }
 
             TabPage {
@@ -151,6 +192,7 @@ Window {
                 selectedIndex: window.tabBar.selectedIndex
                 url: "qrc:/Tavi/Settings/SettingsScreen.qml"
                 controller: window.settings
+                footRoom: notice.room
             }
         }
 
@@ -158,10 +200,11 @@ Window {
             id: bar
 
             objectName: "tabBar"
-            y: window.wide ? 0 : parent.height - height
-            width: window.wide ? implicitWidth : parent.width
-            height: window.wide ? parent.height : implicitHeight
-            vertical: window.wide
+            y: window.railed ? 0 : parent.height - height
+            width: window.railed ? implicitWidth : parent.width
+            height: window.railed ? parent.height : implicitHeight
+            vertical: window.railed
+            low: window.low
             controller: window.tabBar
         }
     }
@@ -173,11 +216,19 @@ Window {
     }
 
     NoticeBar {
+        id: notice
+
+        readonly property real room: visible ? height + Theme.gapWide : 0
+
         objectName: "notice"
         x: content.x + Math.round((content.width - width) / 2)
-        y: content.height - height - 12
-        width: Math.min(implicitWidth, content.width - 24, 480)
+        y: content.y + content.height - height - Theme.gapWide
+        width: Math.min(content.width - 2 * Theme.gapWide, 480)
         notices: window.notices
+    }
+
+    ShortcutList {
+        id: shortcuts
     }
 
     Loader {

@@ -9,6 +9,8 @@
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickWindow>
+#include <QScreen>
+#include <memory>
 #include <optional>
 #include <thread>
 
@@ -46,6 +48,7 @@
 #include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
+#include "ui/WindowPlace.h"
 
 namespace tavi {
 
@@ -195,15 +198,41 @@ void describe(QGuiApplication& application) {
 
 /// Builds the window; null where it cannot be built. The engine owns it.
 QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
+    QList<QRect> free;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        free.append(screen->availableGeometry());
+    }
+    const QRect place = WindowPlace(screens.platform.settings.standard).place(free);
     engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&screens.recording)},
                                  {QStringLiteral("library"), QVariant::fromValue(&screens.library)},
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
                                  {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
-                                 {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)}});
+                                 {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
+                                 {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},
+                                 {QStringLiteral("x"), place.x()},
+                                 {QStringLiteral("y"), place.y()},
+                                 {QStringLiteral("width"), place.width()},
+                                 {QStringLiteral("height"), place.height()}});
     engine.load(QUrl(kWindow));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
+}
+
+/// Has the window open next time where it is left. What it is enlarged to by the desktop is not a place.
+void keepPlace(QQuickWindow* window, UserDefaults& defaults) {
+    const auto last = std::make_shared<QRect>(window->geometry());
+    const auto follow = [window, last] {
+        if (window->visibility() == QWindow::Windowed) {
+            *last = window->geometry();
+        }
+    };
+    for (const auto changed :
+         {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged}) {
+        QObject::connect(window, changed, window, follow);
+    }
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, window,
+                     [last, &defaults] { WindowPlace(defaults).keep(*last); });
 }
 
 /// What the window does for its screens, and they for it.
@@ -254,6 +283,7 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
         return reportFailure({QStringLiteral("the window cannot be built")});
     }
     connectWindow(window, *screens);
+    keepPlace(window, platform->settings.standard);
     platform->application.setDelegate(&screens->delegate);
     platform->application.setWindow(window);
     for (const QUrl& url : request.urls) {

@@ -8,6 +8,8 @@ target_link_libraries(tavi PRIVATE
   tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_player tavi_adapter_quick
   tavi_adapter_dbus tavi_adapter_desktop
   tavi_warnings)
+# Its modules are linked above; those of Qt are found at run time.
+set_target_properties(tavi PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)
 # Without it the program starts and can neither record nor tell durations.
 add_dependencies(tavi tavi_media)
 install(TARGETS tavi RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -47,6 +47,10 @@ ButtonOutlet AudioRecordVC::btnStop() const {
     return button;
 }
 
+bool AudioRecordVC::isDismissable() const {
+    return !m_services.tabBar.isUserInteractionEnabled() && (m_state == State::Idle || m_state == State::Failed);
+}
+
 LabelOutlet AudioRecordVC::lblTimer() const {
     return {clockText(isRecording() ? m_clock.secondStart() : 0), {}, false};
 }

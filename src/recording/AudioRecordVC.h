@@ -32,6 +32,7 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(tavi::WaveView* waveViewMirror READ waveViewMirror CONSTANT)
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY outletsChanged)
     Q_PROPERTY(bool isRecordingRunning READ isRecordingRunning NOTIFY outletsChanged)
+    Q_PROPERTY(bool isDismissable READ isDismissable NOTIFY outletsChanged)
 
 public:
     /// What the screen is about. All else that depends on it, but for the lock of the tab bar, is read from it.
@@ -77,6 +78,8 @@ public:
     bool isRecording() const { return m_state == State::Recording || m_state == State::Paused; }
     /// Whether it captures now.
     bool isRecordingRunning() const { return m_state == State::Recording; }
+    /// Whether the tabs are still locked though nothing is recorded or saved. The stop action unlocks them.
+    bool isDismissable() const;
     /// Whether the clock begins at 0 when it starts next.
     bool isReset() const { return !isRecording(); }
 

@@ -30,6 +30,8 @@ public:
 public Q_SLOTS:
     /// A tap or key of the user's; does nothing while user interaction is disabled.
     void select(int index);
+    /// The way back to the first tab, open even then: it is the one that the user is kept at.
+    void goBack() { setSelectedIndex(0); }
 
 Q_SIGNALS:
     void selectedIndexChanged();

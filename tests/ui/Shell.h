@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QQmlApplicationEngine>
+#include <QQmlIncubationController>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <filesystem>
@@ -38,6 +39,10 @@ public:
         for (int i = 0; i < 5; ++i) {
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            // Lists make rows ahead of time, bit by bit.
+            while (window->incubationController()->incubatingObjectCount() > 0) {
+                window->incubationController()->incubateFor(100);
+            }
         }
         return window->grabWindow();
     }
@@ -141,13 +146,16 @@ public:
         if (prepare) {
             prepare(*this);
         }
-        show("import Tavi\nMain {}", {{QStringLiteral("recording"), QVariant::fromValue(&recording)},
-                                      {QStringLiteral("library"), QVariant::fromValue(&library)},
-                                      {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
-                                      {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
-                                      {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
-                                      {QStringLiteral("notices"), QVariant::fromValue(&notices)},
-                                      {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
+        show(
+            "import QtQuick\nimport Tavi\nimport Tavi.Ui\nMain { reducedMotion: true; Component.onCompleted: "
+            "Theme.fade = 0 }",
+            {{QStringLiteral("recording"), QVariant::fromValue(&recording)},
+             {QStringLiteral("library"), QVariant::fromValue(&library)},
+             {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
+             {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
+             {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
+             {QStringLiteral("notices"), QVariant::fromValue(&notices)},
+             {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 
     void startRecording() {

@@ -6,6 +6,7 @@
 #include "support/FakeDisplayRefresh.h"
 #include "trimming/waves/EZAudioPlotItem.h"
 #include "trimming/waves/WaveViewItem.h"
+#include "ui/WindowPlace.h"
 
 namespace tavi::test {
 namespace {
@@ -59,6 +60,41 @@ TEST(Keyboard, RecordsWhereNothingElseHasTheKeys) {
     shell.presenter.presentActionSheet({QStringLiteral("Sheet"), {}, {{QStringLiteral("OK")}, {QStringLiteral("No")}}});
     press(Qt::Key_Space);
     EXPECT_FALSE(shell.recording.isRecording());
+}
+
+TEST(Session, KeepsAWayBackAndOut) {
+    Shell shell([](Shell& s) { s.session.inputAvailable = false; });
+    shell.startRecording();
+    shell.key(Qt::Key_Escape);
+    shell.tabBar.setSelectedIndex(1);
+    shell.settle();
+    shell.tap("sessionReturn");
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
+    shell.tabBar.setSelectedIndex(2);
+    shell.settle();
+    shell.tap("sessionDismiss");
+    EXPECT_TRUE(shell.tabBar.isUserInteractionEnabled());
+    shell.session.inputAvailable = true;
+    shell.startRecording();
+    shell.runLoop.advance(12.0);
+    shell.tabBar.setSelectedIndex(1);
+    shell.settle();
+    EXPECT_EQ(shell.item("session")->property("text").toString(), QStringLiteral("Recording 00:12"));
+}
+
+TEST(Keyboard, ListsWhatItDoesAndIsNeverLost) {
+    Shell shell;
+    for (const int key : {Qt::Key_Question, Qt::Key_F1}) {
+        shell.key(key, Qt::NoModifier, key == Qt::Key_Question ? QStringLiteral("?") : QString());
+        shell.key(Qt::Key_2, Qt::ControlModifier);
+        EXPECT_EQ(shell.tabBar.selectedIndex(), 0) << "the list covers the screens";
+        shell.tap("shortcutsClose");
+    }
+    shell.item("tab0")->forceActiveFocus(Qt::TabFocusReason);
+    shell.tabBar.setUserInteractionEnabled(false);
+    shell.settle();
+    shell.key(Qt::Key_Space);
+    EXPECT_EQ(shell.session.questions.size(), 1U) << "what had the keys is disabled";
 }
 
 TEST(Tabs, TellTheirScreenThatItAppears) {
@@ -206,6 +242,32 @@ TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {
     item.setSize({80.0, 100.0});
     EXPECT_EQ(redAt(40, 30), 255);
     EXPECT_EQ(redAt(40, 20), 0);
+}
+
+TEST(WindowPlace, IsWhereItWasLeftAsFarAsTheScreensLetIt) {
+    const QRect desktop(0, 0, 1366, 728);
+    const QRect beside(1366, 0, 1920, 1080);
+    const struct {
+        QRect left;
+        QList<QRect> screens;
+        QRect place;
+    } cases[] = {
+        {{}, {desktop}, {203, 44, 960, 640}},
+        {{}, {{0, 0, 390, 844}}, {0, 0, 390, 844}},
+        {{}, {{0, 0, 720, 360}}, {0, 0, 720, 360}},
+        {{1500, 100, 800, 600}, {desktop, beside}, {1500, 100, 800, 600}},
+        {{1500, 100, 800, 600}, {desktop}, {283, 64, 800, 600}},
+        {{-100, 500, 800, 600}, {desktop}, {0, 128, 800, 600}},
+        {{10, 10, 5000, 20}, {desktop}, {0, 10, 1366, 280}},
+    };
+    for (const auto& [left, screens, place] : cases) {
+        FakeUserDefaults defaults;
+        WindowPlace window(defaults);
+        if (left.isValid()) {
+            window.keep(left);
+        }
+        EXPECT_EQ(window.place(screens), place) << place.x();
+    }
 }
 
 }  // namespace

@@ -18,7 +18,6 @@ T.AbstractButton {
     height: parent.height
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    opacity: enabled ? 1.0 : Theme.disabledOpacity
     Accessible.role: Accessible.RadioButton
     Accessible.name: name
     Accessible.checkable: true
@@ -29,6 +28,7 @@ T.AbstractButton {
     Keys.onEnterPressed: clicked()
 
     contentItem: Label {
+        opacity: control.enabled ? 1.0 : Theme.disabledOpacity
         text: control.text
         color: control.chosen ? Theme.text : Theme.light
         font.pixelSize: Theme.textControl
@@ -50,7 +50,9 @@ T.AbstractButton {
                 height: parent.height
                 radius: square ? 0 : height / 2
                 visible: square || (control.first && control.last) || (modelData === 0 ? control.first : control.last)
-                color: control.chosen ? (control.down ? Theme.accentPressed : control.hovered ? Theme.accentHover : Theme.accent)
+                // The two lie over each other, so they are dimmed by their colour.
+                color: !control.enabled ? (control.chosen ? Qt.darker(Theme.accent, 1 / Theme.disabledOpacity) : "transparent")
+                     : control.chosen ? (control.down ? Theme.accentPressed : control.hovered ? Theme.accentHover : Theme.accent)
                                       : (control.down ? Theme.controlPressed : control.hovered ? Theme.controlHover : "transparent")
             }
         }

@@ -9,6 +9,8 @@ Loader {
     required property int selectedIndex
     required property url url
     required property QtObject controller
+    /// How much of the screen's foot a notice covers. Lists get that much more to scroll.
+    property real footRoom: 0
     property bool told: false
     readonly property bool selected: tab === selectedIndex
 
@@ -31,5 +33,9 @@ Loader {
     anchors.fill: parent
     visible: selected
     focus: selected
-    onLoaded: item.focus = true
+    onLoaded: {
+        item.focus = true
+        if (item.footRoom !== undefined)
+            item.footRoom = Qt.binding(() => page.footRoom)
+    }
 }

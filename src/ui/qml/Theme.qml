@@ -85,7 +85,7 @@ QtObject {
 
     // Motion: milliseconds. Whoever wants less of it sees short cross-fades in the place of movements.
     property bool reducedMotion: false
-    readonly property int fade: 80
+    property int fade: 80
     readonly property int pressIn: reducedMotion ? fade : 60
     readonly property int pressOut: reducedMotion ? fade : 160
     readonly property int select: reducedMotion ? fade : 160

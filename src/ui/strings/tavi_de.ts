@@ -601,5 +601,101 @@
         <source></source>
         <translation>%1 zuschneiden</translation>
     </message>
+    <message id="session_return">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="session_running">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session_failed">
+        <source></source>
+        <translation>Die Aufnahme hat nicht begonnen</translation>
+    </message>
+    <message id="session_dismiss">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message id="shortcuts_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="shortcut_record">
+        <source></source>
+        <translation>Aufnehmen, anhalten, fortsetzen</translation>
+    </message>
+    <message id="shortcut_stop">
+        <source></source>
+        <translation>Beenden und sichern</translation>
+    </message>
+    <message id="shortcut_tabs">
+        <source></source>
+        <translation>Aufnehmen, Aufnahmen, Einstellungen</translation>
+    </message>
+    <message id="shortcut_find">
+        <source></source>
+        <translation>Aufnahmen suchen</translation>
+    </message>
+    <message id="shortcut_open">
+        <source></source>
+        <translation>Die markierte Aufnahme öffnen</translation>
+    </message>
+    <message id="shortcut_ends">
+        <source></source>
+        <translation>Anfang, Ende, eine Seite weiter</translation>
+    </message>
+    <message id="shortcut_play">
+        <source></source>
+        <translation>Abspielen, anhalten</translation>
+    </message>
+    <message id="shortcut_skip">
+        <source></source>
+        <translation>Zurück, vor springen</translation>
+    </message>
+    <message id="shortcut_speed">
+        <source></source>
+        <translation>Langsamer, schneller</translation>
+    </message>
+    <message id="shortcut_trim">
+        <source></source>
+        <translation>Die markierte Aufnahme schneiden</translation>
+    </message>
+    <message id="shortcut_close">
+        <source></source>
+        <translation>Wiedergabe oder Auswahl schließen</translation>
+    </message>
+    <message id="shortcut_list">
+        <source></source>
+        <translation>Diese Liste</translation>
+    </message>
+    <message id="shortcut_quit">
+        <source></source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="key_space">
+        <source></source>
+        <translation>Leertaste</translation>
+    </message>
+    <message id="key_enter">
+        <source></source>
+        <translation>Eingabe</translation>
+    </message>
+    <message id="key_escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="key_ends">
+        <source></source>
+        <translation>Pos1, Ende, Bild auf, Bild ab</translation>
+    </message>
+    <message id="key_ctrl">
+        <source></source>
+        <translation>Strg+%1</translation>
+    </message>
 </context>
 </TS>

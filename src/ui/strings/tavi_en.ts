@@ -600,5 +600,101 @@
         <source></source>
         <translation>Trim %1</translation>
     </message>
+    <message id="session_return">
+        <source></source>
+        <translation>Return</translation>
+    </message>
+    <message id="session_running">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session_failed">
+        <source></source>
+        <translation>The recording did not start</translation>
+    </message>
+    <message id="session_dismiss">
+        <source></source>
+        <translation>Dismiss</translation>
+    </message>
+    <message id="shortcuts_title">
+        <source></source>
+        <translation>Keyboard Shortcuts</translation>
+    </message>
+    <message id="shortcuts_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="shortcut_record">
+        <source></source>
+        <translation>Record, pause, resume</translation>
+    </message>
+    <message id="shortcut_stop">
+        <source></source>
+        <translation>Stop and save</translation>
+    </message>
+    <message id="shortcut_tabs">
+        <source></source>
+        <translation>Record, Recordings, Settings</translation>
+    </message>
+    <message id="shortcut_find">
+        <source></source>
+        <translation>Find recordings</translation>
+    </message>
+    <message id="shortcut_open">
+        <source></source>
+        <translation>Open the marked recording</translation>
+    </message>
+    <message id="shortcut_ends">
+        <source></source>
+        <translation>First, last, a page on</translation>
+    </message>
+    <message id="shortcut_play">
+        <source></source>
+        <translation>Play, pause</translation>
+    </message>
+    <message id="shortcut_skip">
+        <source></source>
+        <translation>Skip back, forward</translation>
+    </message>
+    <message id="shortcut_speed">
+        <source></source>
+        <translation>Slower, faster</translation>
+    </message>
+    <message id="shortcut_trim">
+        <source></source>
+        <translation>Trim the marked recording</translation>
+    </message>
+    <message id="shortcut_close">
+        <source></source>
+        <translation>Close the player or a sheet</translation>
+    </message>
+    <message id="shortcut_list">
+        <source></source>
+        <translation>This list</translation>
+    </message>
+    <message id="shortcut_quit">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="key_space">
+        <source></source>
+        <translation>Space</translation>
+    </message>
+    <message id="key_enter">
+        <source></source>
+        <translation>Enter</translation>
+    </message>
+    <message id="key_escape">
+        <source></source>
+        <translation>Esc</translation>
+    </message>
+    <message id="key_ends">
+        <source></source>
+        <translation>Home, End, Page Up, Page Down</translation>
+    </message>
+    <message id="key_ctrl">
+        <source></source>
+        <translation>Ctrl+%1</translation>
+    </message>
 </context>
 </TS>
