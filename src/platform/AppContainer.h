@@ -13,7 +13,9 @@ public:
 
     /// The user's recordings, and the folders of files/FileNames.h among them.
     virtual std::filesystem::path documentsPath() const = 0;
-    /// Files that may be thrown away, and the recording in progress.
+    /// Recordings that are not among the others yet, each in a folder of its own; nobody but the program clears it.
+    virtual std::filesystem::path unsavedPath() const = 0;
+    /// Files that may be thrown away, and a second name of the recording in progress.
     virtual std::filesystem::path cachesPath() const = 0;
     virtual std::filesystem::path temporaryPath() const = 0;
     /// Where settings are stored.

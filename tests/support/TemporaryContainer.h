@@ -18,6 +18,7 @@ public:
     }
 
     std::filesystem::path documentsPath() const override { return made("Documents"); }
+    std::filesystem::path unsavedPath() const override { return made("Unsaved"); }
     std::filesystem::path cachesPath() const override { return made("Caches"); }
     std::filesystem::path temporaryPath() const override { return made("tmp"); }
     std::filesystem::path preferencesPath() const override { return made("Preferences"); }

@@ -28,6 +28,14 @@ Result<std::unique_ptr<AudioFileWriter>> MediaLibrary::create(const std::filesys
     return loaded->writers.create(path, settings);
 }
 
+Result<bool> MediaLibrary::repair(const std::filesystem::path& path) {
+    const Adapters* loaded = adapters();
+    if (loaded == nullptr) {
+        return tl::unexpected(m_error);
+    }
+    return loaded->repair.repair(path);
+}
+
 double MediaLibrary::durationOfFile(const std::filesystem::path& path) const {
     const Adapters* loaded = adapters();
     return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;

@@ -7,6 +7,7 @@
 #include "platform/AssetReader.h"
 #include "platform/AudioConverter.h"
 #include "platform/AudioDuration.h"
+#include "platform/AudioFileRepair.h"
 #include "platform/AudioFileWriter.h"
 #include "platform/AudioTempo.h"
 #include "platform/ExtAudioFile.h"
@@ -18,6 +19,7 @@ namespace tavi {
 /// What encodes and decodes brings a hundred libraries with it. Loading them takes longer than everything else from the
 /// start of the program to its first picture, so the window does not wait for them. Any thread.
 class MediaLibrary : public AudioFileWriters,
+                     public AudioFileRepair,
                      public AudioDuration,
                      public AudioTempos,
                      public ExtAudioFiles,
@@ -28,6 +30,7 @@ public:
     /// What the library says about itself: the function "taviMediaAdapters" returns it.
     struct Adapters {
         AudioFileWriters& writers;
+        AudioFileRepair& repair;
         const AudioDuration& durations;
         AudioTempos& tempos;
         ExtAudioFiles& files;
@@ -48,6 +51,8 @@ public:
     /// Fails when the library cannot be loaded.
     Result<std::unique_ptr<AudioFileWriter>> create(const std::filesystem::path& path,
                                                     const AudioRecordSettings& settings) override;
+    /// Fails when the library cannot be loaded.
+    Result<bool> repair(const std::filesystem::path& path) override;
     /// 0 when the library cannot be loaded.
     double durationOfFile(const std::filesystem::path& path) const override;
     /// Fails when the library cannot be loaded.

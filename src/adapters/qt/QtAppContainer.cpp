@@ -43,6 +43,7 @@ Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const fs::path& c
     std::unique_ptr<QtAppContainer> made(new QtAppContainer);
     if (container.empty()) {
         made->m_documents = xdg(QStandardPaths::MusicLocation) / "Voice Recordings";
+        made->m_unsaved = xdg(QStandardPaths::GenericDataLocation) / kFolder / "Unsaved";
         made->m_caches = xdg(QStandardPaths::GenericCacheLocation) / kFolder;
         made->m_temporary = made->m_caches / "tmp";
         made->m_preferences = xdg(QStandardPaths::GenericConfigLocation) / kFolder;
@@ -50,13 +51,14 @@ Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const fs::path& c
     } else {
         const fs::path root = fromRoot(container);
         made->m_documents = root / "Documents";
+        made->m_unsaved = root / "Unsaved";
         made->m_caches = root / "Caches";
         made->m_temporary = root / "tmp";
         made->m_preferences = root / "Preferences";
         made->m_groups = root / "Groups";
     }
     for (const fs::path& path :
-         {made->m_documents, made->m_caches, made->m_temporary, made->m_preferences, made->m_groups}) {
+         {made->m_documents, made->m_unsaved, made->m_caches, made->m_temporary, made->m_preferences, made->m_groups}) {
         if (!makeFolder(path, path != made->m_documents)) {
             return failure(QStringLiteral("Cannot make the folder “%1”.").arg(pathText(path)));
         }

@@ -13,6 +13,7 @@ namespace tavi {
 /// folder.
 ///
 ///     documents    the user's music folder + "Voice Recordings"       DIR/Documents
+///     unsaved      $XDG_DATA_HOME/com.quillfen.voicerecorder/Unsaved   DIR/Unsaved
 ///     caches       $XDG_CACHE_HOME/com.quillfen.voicerecorder          DIR/Caches
 ///     temporary    "tmp" in the caches folder                          DIR/tmp
 ///     preferences  $XDG_CONFIG_HOME/com.quillfen.voicerecorder         DIR/Preferences
@@ -27,6 +28,7 @@ public:
     static Result<std::unique_ptr<QtAppContainer>> create(const std::filesystem::path& container = {});
 
     std::filesystem::path documentsPath() const override { return m_documents; }
+    std::filesystem::path unsavedPath() const override { return m_unsaved; }
     std::filesystem::path cachesPath() const override { return m_caches; }
     std::filesystem::path temporaryPath() const override { return m_temporary; }
     std::filesystem::path preferencesPath() const override { return m_preferences; }
@@ -36,6 +38,7 @@ private:
     QtAppContainer() = default;
 
     std::filesystem::path m_documents;
+    std::filesystem::path m_unsaved;
     std::filesystem::path m_caches;
     std::filesystem::path m_temporary;
     std::filesystem::path m_preferences;

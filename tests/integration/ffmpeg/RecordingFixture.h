@@ -14,6 +14,7 @@
 
 #include "adapters/ffmpeg/exporting/FfmpegAssets.h"
 #include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
+#include "adapters/ffmpeg/recording/FfmpegAudioFileRepair.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"

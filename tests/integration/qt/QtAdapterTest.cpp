@@ -130,17 +130,18 @@ TEST(Container, HasItsFoldersWherePeopleLookForThemOrBelowOne) {
     const QString group = QStringLiteral("group.One");
     const auto foldersOf = [&group](const char* path) {
         const auto container = std::move(QtAppContainer::create(path).value());
-        return std::vector{container->documentsPath(), container->cachesPath(), container->temporaryPath(),
+        return std::vector{container->documentsPath(),   container->unsavedPath(),
+                           container->cachesPath(),      container->temporaryPath(),
                            container->preferencesPath(), container->groupContainerPath(group)};
     };
     const std::string id = "com.quillfen.voicerecorder";
-    EXPECT_EQ(foldersOf(""),
-              (std::vector{folder / "Music/Voice Recordings", folder / "CACHE" / id, folder / "CACHE" / id / "tmp",
-                           folder / "CONFIG" / id, folder / "DATA" / id / "Groups/group.One"}));
+    EXPECT_EQ(foldersOf(""), (std::vector{folder / "Music/Voice Recordings", folder / "DATA" / id / "Unsaved",
+                                          folder / "CACHE" / id, folder / "CACHE" / id / "tmp", folder / "CONFIG" / id,
+                                          folder / "DATA" / id / "Groups/group.One"}));
     const auto own = foldersOf("./other/../mine/");
     const std::filesystem::path mine = folder / "mine";
-    EXPECT_EQ(own, (std::vector{mine / "Documents", mine / "Caches", mine / "tmp", mine / "Preferences",
-                                mine / "Groups/group.One"}));
+    EXPECT_EQ(own, (std::vector{mine / "Documents", mine / "Unsaved", mine / "Caches", mine / "tmp",
+                                mine / "Preferences", mine / "Groups/group.One"}));
     for (const auto& path : own) {
         // Others may look at the recordings only.
         const bool isShared = path == own.front();
