@@ -161,6 +161,15 @@ QRectF sceneRect(const QQuickItem& item) {
     return item.mapRectToScene(item.boundingRect());
 }
 
+/// What is seen of an item at most: what clips it may leave less.
+QRectF shownRect(const QQuickItem& item) {
+    QRectF rect = sceneRect(item).adjusted(1, 1, -1, -1);
+    for (const QQuickItem* one = item.parentItem(); one != nullptr; one = one->parentItem()) {
+        rect = one->clip() ? rect & sceneRect(*one) : rect;
+    }
+    return rect;
+}
+
 /// Controls that can be used can be reached, hit and named; texts lie inside the window and are not cut where they
 /// should fit.
 void checkItems(const UserWindow& shown, bool isCovered) {
@@ -185,7 +194,7 @@ void checkItems(const UserWindow& shown, bool isCovered) {
         EXPECT_NE(access->role(), QAccessible::Client);
         EXPECT_TRUE(access->state().focusable);
         for (const QQuickItem* other : controls) {
-            const bool overlap = sceneRect(*other).adjusted(1, 1, -1, -1).intersects(sceneRect(*item));
+            const bool overlap = shownRect(*other).intersects(shownRect(*item));
             EXPECT_TRUE(!overlap || isCovered || scrolls(item) != scrolls(other)) << qPrintable(describe(*other));
         }
         controls.append(item);

@@ -8,6 +8,8 @@ Column {
     required property string imageName
     required property string title
     property string hint
+    /// How high it may become: the image goes first, then the hint.
+    property real room: Infinity
 
     spacing: 12
 
@@ -15,6 +17,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 56
         height: 56
+        visible: root.room >= 200
         name: root.imageName
         color: Theme.edge
     }
@@ -33,7 +36,7 @@ Column {
 
     Label {
         width: parent.width
-        visible: text !== ""
+        visible: text !== "" && root.room >= 120
         text: root.hint
         lineHeight: 1.15
         wrapMode: Text.Wrap

@@ -11,15 +11,16 @@ FocusScope {
     readonly property PlayerPanel player: screen.player
     readonly property int titleHeight: 44
     /// The search has been unfolded, or still hides recordings.
-    readonly property bool finding: search.visible
-    readonly property alias searchText: search.text
+    readonly property bool finding: field.visible
+    /// The keyboard is in the row that scrolls away.
+    readonly property bool held: find.activeFocus || speaker.activeFocus
 
     signal leave()
 
-    function find() {
-        search.open = true
-        search.forceActiveFocus(Qt.ShortcutFocusReason)
-        search.selectAll()
+    function search() {
+        field.open = true
+        field.forceActiveFocus(Qt.ShortcutFocusReason)
+        field.selectAll()
     }
 
     implicitHeight: titleHeight + 44 + section.implicitHeight
@@ -43,6 +44,8 @@ FocusScope {
     }
 
     IconButton {
+        id: find
+
         anchors.right: speaker.left
         objectName: "find"
         visible: !root.finding && !root.isEmpty
@@ -50,7 +53,7 @@ FocusScope {
         imageSize: 24
         tint: Theme.light
         name: qsTrId("library_search")
-        onClicked: root.find()
+        onClicked: root.search()
     }
 
     IconButton {
@@ -66,7 +69,7 @@ FocusScope {
     }
 
     SearchField {
-        id: search
+        id: field
 
         property bool open: false
 

@@ -8,8 +8,7 @@ FocusScope {
 
     required property VoiceMemoVC screen
     /// Room for list and player beside each other: large windows, and phones that lie on their side.
-    readonly property bool beside: root.Window.width >= Theme.wideWidth
-                                   || root.Window.height < 480 && root.Window.width > root.Window.height
+    readonly property bool beside: width >= 600 && (Window.width >= Theme.wideWidth || Window.height < Theme.lowHeight)
     /// Too low for list and player at once, which then is one line until it is unfolded.
     readonly property bool low: !beside && root.Window.height < 640
     property bool unfolded: false
@@ -51,7 +50,7 @@ FocusScope {
     Shortcut {
         sequence: "Ctrl+F"
         enabled: root.visible && root.activeFocus
-        onActivated: chrome.find()
+        onActivated: chrome.search()
     }
 
     Connections {
@@ -88,7 +87,7 @@ FocusScope {
             id: chrome
 
             // The title scrolls away; what follows stays.
-            y: finding ? 0 : -Math.max(0, Math.min(list.scrolled, titleHeight))
+            y: finding || held ? 0 : -Math.max(0, Math.min(list.scrolled, titleHeight))
             width: parent.width
             height: implicitHeight
             screen: root.screen
@@ -101,6 +100,7 @@ FocusScope {
             y: Math.max(chrome.height + 8, (parent.height + chrome.height - height) / 2)
             width: Math.min(parent.width - 4 * Theme.margin, 360)
             visible: list.count === 0
+            room: parent.height - chrome.height - 16
             imageName: root.screen.searchText ? "search.png" : "voicememo.png"
             title: root.screen.searchText ? qsTrId("library_search_none") : qsTrId("library_empty_title")
             hint: root.screen.searchText ? "" : qsTrId("library_empty")
@@ -127,7 +127,7 @@ FocusScope {
         x: root.beside ? page.width + 1 : 0
         y: root.beside ? 0 : parent.height - shownHeight
         width: parent.width - x
-        height: root.beside ? parent.height : root.folded ? mini.implicitHeight : view.implicitHeight
+        height: root.beside ? parent.height : root.folded ? mini.implicitHeight : Math.min(view.implicitHeight, parent.height)
         visible: root.beside || shownHeight > 0
         clip: !root.beside
 

@@ -22,176 +22,185 @@ FocusScope {
 
     implicitHeight: column.implicitHeight + 12
 
-    Column {
-        id: column
+    // Where even the player alone does not fit.
+    Flickable {
+        anchors.fill: parent
+        contentHeight: root.implicitHeight
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
 
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: root.beside ? Math.max(0, (root.height - implicitHeight) / 2) : 4
-        width: Math.min(parent.width - 2 * (root.spacious && parent.width > 560 ? 40 : Theme.margin), root.beside ? 960 : 560)
-        spacing: 0
+        Column {
+            id: column
 
-        Item {
-            width: parent.width
-            height: root.spacious ? 68 : Theme.touch
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: root.beside ? Math.max(4, (root.height - implicitHeight) / 2) : 4
+            width: Math.min(parent.width - 2 * (root.spacious && parent.width > 560 ? 40 : Theme.margin), root.beside ? 960 : 560)
+            spacing: 0
 
-            Label {
-                width: (close.visible ? close.x : parent.width) - 4
-                height: root.spacious ? 32 : parent.height
-                text: root.screen.playingName
-                color: Theme.text
-                font.pixelSize: root.spacious ? 22 : 16
-                font.weight: root.spacious ? Font.Normal : Font.Medium
-                elide: Text.ElideMiddle
-                maximumLineCount: 1
-                horizontalAlignment: Text.AlignLeft
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
-            }
-
-            Label {
-                y: 32
+            Item {
                 width: parent.width
-                height: 20
-                visible: root.spacious
-                text: root.detail
-                elide: Text.ElideLeft
-                maximumLineCount: 1
-                horizontalAlignment: Text.AlignLeft
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
+                height: root.spacious ? 68 : Theme.touch
 
-            IconButton {
-                id: close
+                Label {
+                    width: (close.visible ? close.x : parent.width) - 4
+                    height: root.spacious ? 32 : parent.height
+                    text: root.screen.playingName
+                    color: Theme.text
+                    font.pixelSize: root.spacious ? 22 : 16
+                    font.weight: root.spacious ? Font.Normal : Font.Medium
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                    horizontalAlignment: Text.AlignLeft
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
 
-                anchors.right: parent.right
-                anchors.rightMargin: -12
-                objectName: "playerClose"
-                visible: !root.beside && !root.foldable
-                imageName: "close.png"
-                imageSize: 22
-                tint: Theme.light
-                name: qsTrId("a11y_close_player")
-                onClicked: root.screen.playerClose()
-            }
-
-            IconButton {
-                anchors.right: parent.right
-                anchors.rightMargin: -12
-                objectName: "fold"
-                visible: root.foldable
-                imageName: "chevron-up"
-                rotation: 180
-                imageSize: 24
-                tint: Theme.light
-                name: qsTrId("a11y_fold_player")
-                onClicked: root.folded()
-            }
-        }
-
-        PositionSlider {
-            id: wave
-
-            width: parent.width
-            height: root.spacious ? Math.max(120, Math.min(Math.round(root.Window.height * 0.28), 260)) : 72
-            barWidth: root.spacious ? 3 : 2
-            player: root.player
-            visible: root.player.hasPlayer
-        }
-
-        Label {
-            width: parent.width
-            height: wave.height
-            visible: !root.player.hasPlayer
-            text: qsTrId("player_unplayable")
-            color: Theme.tint
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-
-        Item {
-            width: parent.width
-            height: 24
-
-            Label {
-                height: parent.height
-                objectName: "lblSongMinTime"
-                text: root.player.lblSongMinTime.text
-                color: Theme.text
-                font.pixelSize: 13
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-
-            Label {
-                anchors.right: parent.right
-                height: parent.height
-                objectName: "lblSongMaxTime"
-                text: root.player.lblSongMaxTime.text
-                font.pixelSize: 13
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-        }
-
-        Item {
-            width: parent.width
-            height: root.oneRow ? 88 : 136
-
-            Row {
-                anchors.horizontalCenter: parent.horizontalCenter
-                y: root.oneRow ? 20 : 4
-                spacing: 20
-
-                IconButton {
-                    width: 64
-                    height: 64
-                    objectName: "backSkip"
-                    imageName: "skip_back.png"
-                    caption: root.player.lblBackwardSec.text
-                    name: qsTrId("a11y_skip_back").arg(caption)
-                    enabled: root.player.hasPlayer
-                    onClicked: root.player.backSkip()
+                Label {
+                    y: 32
+                    width: parent.width
+                    height: 20
+                    visible: root.spacious
+                    text: root.detail
+                    elide: Text.ElideLeft
+                    maximumLineCount: 1
+                    horizontalAlignment: Text.AlignLeft
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                 }
 
                 IconButton {
-                    width: 64
-                    height: 64
-                    objectName: "btnplaypuas"
-                    imageName: root.player.btnplaypuas.image
-                    imageSize: 32
-                    filled: true
-                    name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
-                    enabled: root.player.hasPlayer
-                    focus: true
-                    onClicked: root.screen.playAudio(root.screen.selectedIndex, root.player.btnplaypuas.selected)
+                    id: close
+
+                    anchors.right: parent.right
+                    anchors.rightMargin: -12
+                    objectName: "playerClose"
+                    visible: !root.beside && !root.foldable
+                    imageName: "close.png"
+                    imageSize: 22
+                    tint: Theme.light
+                    name: qsTrId("a11y_close_player")
+                    onClicked: root.screen.playerClose()
                 }
 
                 IconButton {
-                    width: 64
-                    height: 64
-                    objectName: "forwardSkip"
-                    imageName: "skip_forward.png"
-                    caption: root.player.lblForwardSec.text
-                    name: qsTrId("a11y_skip_forward").arg(caption)
-                    enabled: root.player.hasPlayer
-                    onClicked: root.player.forwardSkip()
+                    anchors.right: parent.right
+                    anchors.rightMargin: -12
+                    objectName: "fold"
+                    visible: root.foldable
+                    imageName: "chevron-up"
+                    rotation: 180
+                    imageSize: 24
+                    tint: Theme.light
+                    name: qsTrId("a11y_fold_player")
+                    onClicked: root.folded()
                 }
             }
 
-            SpeedControl {
-                id: speeds
+            PositionSlider {
+                id: wave
 
-                y: root.oneRow ? 30 : 80
+                width: parent.width
+                height: root.spacious ? Math.max(120, Math.min(Math.round(root.Window.height * 0.28), 260)) : 72
+                barWidth: root.spacious ? 3 : 2
                 player: root.player
+                visible: root.player.hasPlayer
             }
 
-            StopButton {
-                anchors.right: parent.right
-                y: speeds.y
-                screen: root.screen
+            Label {
+                width: parent.width
+                height: wave.height
+                visible: !root.player.hasPlayer
+                text: qsTrId("player_unplayable")
+                color: Theme.tint
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            Item {
+                width: parent.width
+                height: 24
+
+                Label {
+                    height: parent.height
+                    objectName: "lblSongMinTime"
+                    text: root.player.lblSongMinTime.text
+                    color: Theme.text
+                    font.pixelSize: 13
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+
+                Label {
+                    anchors.right: parent.right
+                    height: parent.height
+                    objectName: "lblSongMaxTime"
+                    text: root.player.lblSongMaxTime.text
+                    font.pixelSize: 13
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+            }
+
+            Item {
+                width: parent.width
+                height: root.oneRow ? 88 : 136
+
+                Row {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    y: root.oneRow ? 20 : 4
+                    spacing: 20
+
+                    IconButton {
+                        width: 64
+                        height: 64
+                        objectName: "backSkip"
+                        imageName: "skip_back.png"
+                        caption: root.player.lblBackwardSec.text
+                        name: qsTrId("a11y_skip_back").arg(caption)
+                        enabled: root.player.hasPlayer
+                        onClicked: root.player.backSkip()
+                    }
+
+                    IconButton {
+                        width: 64
+                        height: 64
+                        objectName: "btnplaypuas"
+                        imageName: root.player.btnplaypuas.image
+                        imageSize: 32
+                        filled: true
+                        name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
+                        enabled: root.player.hasPlayer
+                        focus: true
+                        onClicked: root.screen.playAudio(root.screen.selectedIndex, root.player.btnplaypuas.selected)
+                    }
+
+                    IconButton {
+                        width: 64
+                        height: 64
+                        objectName: "forwardSkip"
+                        imageName: "skip_forward.png"
+                        caption: root.player.lblForwardSec.text
+                        name: qsTrId("a11y_skip_forward").arg(caption)
+                        enabled: root.player.hasPlayer
+                        onClicked: root.player.forwardSkip()
+                    }
+                }
+
+                SpeedControl {
+                    id: speeds
+
+                    y: root.oneRow ? 30 : 80
+                    player: root.player
+                }
+
+                StopButton {
+                    anchors.right: parent.right
+                    y: speeds.y
+                    screen: root.screen
+                }
             }
         }
     }

@@ -13,8 +13,11 @@ FocusScope {
     /// The texts and controls under the plot are in one row.
     readonly property bool oneRow: low || wide
     readonly property int side: plot.sideRoom
-    /// What is left for the plot, its labels with it, by everything else.
-    readonly property real free: height - (low ? 124 : wide ? 8 + 44 + 4 + 44 + 16 + 64 + 28 : 4 + 36 + 44 + 8 + 44 + 12 + 64 + 16 + 44 + 16)
+    /// What everything but the plot takes, and the least height in which all of it can be used.
+    readonly property real taken: (low ? 124 : wide ? 8 + 44 + 4 + 44 + 16 + 64 + 28 : 4 + 36 + 44 + 8 + 44 + 12 + 64 + 16 + 44 + 16)
+    readonly property real least: taken + plot.labelRoom + 96
+    /// What is left for the plot and its labels.
+    readonly property real free: height - taken
     /// Air between the groups, the same everywhere.
     readonly property real air: low ? 0 : Math.max(0, (free - plotHeight) / 4)
     readonly property real plotHeight: Math.min(free, plot.labelRoom + (low ? 400 : Math.max(140, Math.min(Math.round(Window.height * 0.36), 320))))
@@ -36,8 +39,10 @@ FocusScope {
     Label {
         id: range
 
+        x: (parent.width - width) / 2
         y: root.textTop
-        width: parent.width
+        // In the middle, without touching what stands beside it.
+        width: root.oneRow ? 2 * (zoom.x - 12) - parent.width : parent.width - 2 * Theme.gap
         height: root.oneRow ? 44 : 36
         objectName: "range"
         visible: !root.screen.areEditingControlsHidden

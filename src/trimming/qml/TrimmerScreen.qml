@@ -109,14 +109,25 @@ FocusScope {
                 Accessible.name: text
             }
 
-            TrimmerBody {
+            Flickable {
                 anchors.fill: parent
-                anchors.topMargin: root.low ? 50 : 76
+                anchors.topMargin: root.low ? 50 : file.y + 24
                 visible: !root.screen.isEditingViewHidden
-                focus: true
-                screen: root.screen
-                low: root.low
-                wide: root.wide
+                contentHeight: body.height
+                interactive: contentHeight > height
+                boundsBehavior: Flickable.StopAtBounds
+                clip: interactive
+
+                TrimmerBody {
+                    id: body
+
+                    width: parent.width
+                    height: Math.max(least, parent.parent.height)
+                    focus: true
+                    screen: root.screen
+                    low: root.low
+                    wide: root.wide
+                }
             }
 
             Column {
