@@ -210,9 +210,9 @@ private:
     static std::unique_ptr<ChildProcess> ffplay(const QString& path, double rate) {
         const QString filter = rate == 1.0 ? QStringLiteral("anull") : QStringLiteral("atempo=%1").arg(rate);
         return std::make_unique<ChildProcess>(
-            QStringList{QStringLiteral("ffplay"), QStringLiteral("-nodisp"), QStringLiteral("-loglevel"),
-                        QStringLiteral("quiet"), QStringLiteral("-af"), filter, path},
-            QMap<QByteArray, QByteArray>{{"SDL_AUDIODRIVER", "pulseaudio"}, {"PULSE_SINK", "mic_sink"}});
+            QStringList{QStringLiteral("env"), QStringLiteral("SDL_AUDIODRIVER=pulseaudio"),
+                        QStringLiteral("PULSE_SINK=mic_sink"), QStringLiteral("ffplay"), QStringLiteral("-nodisp"),
+                        QStringLiteral("-loglevel"), QStringLiteral("quiet"), QStringLiteral("-af"), filter, path});
     }
     std::unique_ptr<tavi::AudioPlayer> open(const QString& path) {
         auto player = m_players.playerWithContentsOfURL(tavi::nativePath(path));

@@ -52,6 +52,7 @@ void measure(const QSize& size) {
     QtRunLoop runLoop;
     const TemporaryContainer container;
     NotificationCenter notifications;
+    FakeNotices notices;
     FakeAssets assets(runLoop);
     FakeAudioPlayers players(runLoop);
     FakeAudioRecorders recorders(runLoop);
@@ -75,6 +76,7 @@ void measure(const QSize& size) {
                              .refreshes = refreshes,
                              .container = container,
                              .notifications = notifications,
+                             .notices = notices,
                              .runLoop = runLoop});
 
     QQmlApplicationEngine engine;
