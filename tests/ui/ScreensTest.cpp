@@ -341,11 +341,15 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     shell.key(Qt::Key_Escape);
     EXPECT_TRUE(list->hasActiveFocus());
 
+    shell.players.seconds[shell.library.arrRecordings().back().nativeName()] = 60.0;
     for (int click = 0; click < 2; ++click) {
         shell.drag(*list->property("currentItem").value<QQuickItem*>(), 0.0);
     }
     EXPECT_TRUE(shell.library.isPlaying()) << "a double click plays";
     shell.settleFor(700);
+    shell.item("slider_player")->forceActiveFocus(Qt::TabFocusReason);
+    shell.key(Qt::Key_PageUp);
+    EXPECT_NEAR(shell.player.currentTime(), 6.0, 0.1);
     shell.item("stopAudio")->forceActiveFocus(Qt::TabFocusReason);
     shell.key(Qt::Key_Return);
     EXPECT_FALSE(shell.library.isPanelShown());

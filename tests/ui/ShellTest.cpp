@@ -4,6 +4,7 @@
 
 #include "Shell.h"
 #include "support/FakeDisplayRefresh.h"
+#include "trimming/waves/BarsItem.h"
 #include "trimming/waves/EZAudioPlotItem.h"
 #include "trimming/waves/WaveViewItem.h"
 #include "ui/WindowPlace.h"
@@ -213,6 +214,27 @@ TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {
     EXPECT_EQ(bars, (std::vector<bool>{true, false, true, true, true, true, false}));
     const QPoint shown = item->mapToScene({4.5, item->height() / 4}).toPoint();
     EXPECT_GT(shell.settle().pixelColor(shown).red(), 128);
+}
+
+TEST(BarsItem, PaintsNewLevelsWholeWhateverChangesItsColourMeanwhile) {
+    QQuickWindow window;
+    window.resize(100, 100);
+    window.setColor(Qt::black);
+    BarsItem item(window.contentItem());
+    item.setSize({30.0, 20.0});
+    item.setTo(0.5);
+    window.show();
+    const auto greenAt = [&window](int x, int y) {
+        QCoreApplication::processEvents();
+        return window.grabWindow().pixelColor(x, y).green();
+    };
+    EXPECT_EQ(greenAt(0, 4), 0);
+    item.setLevels({1.0, 0.5, 0.1, 1.0});
+    item.setTo(0.6);
+    const std::pair<QPoint, int> pixels[] = {{{0, 4}, 255}, {{9, 4}, 0}, {{9, 6}, 255}, {{27, 4}, 128}};
+    for (const auto& [place, green] : pixels) {
+        EXPECT_NEAR(greenAt(place.x(), place.y()), green, 40) << place.x();
+    }
 }
 
 TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {

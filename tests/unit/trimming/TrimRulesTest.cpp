@@ -43,6 +43,7 @@ TEST(TrimZoom, WhatIsHeldStaysInItsPlaceAndTheStretchTheSame) {
         {[&] { zoom.scrollBy(-1.0); }, 4.0, 0.0},
         {[&] { zoom.reveal(1200.0); }, 4.0, 0.75},
         {[&] { zoom.reveal(600.0); }, 4.0, 0.5},
+        {[&] { zoom.reveal(720.0); }, 4.0, 0.5},
         {[&] { zoom.setViewWidth(600.0); }, 4.0, 0.5},
         {[&] { zoom.zoomBy(100.0, 600.0); }, 30.0, 0.75 - 1.0 / 30.0},
         {[&] { zoom.show(0.2, 0.6); }, 2.5, 0.2},

@@ -42,6 +42,8 @@ TEST_F(WaveformLoaderTest, GivesThePointsOfTheFirstChannel) {
     load(add("a", 0.25F));
     EXPECT_TRUE(loaded.empty()) << "never before it returns";
     runLoop.drain();
+    EXPECT_EQ(fittingGain({0.1F, 0.5F, 0.2F}), 0.92F / 0.5F);
+    EXPECT_EQ(fittingGain({0.01F}), 8.0F) << "noise stays noise";
     load(add("short", 0.25F, 700));
     runLoop.drain();
     load(container.addDocument("text", "text"));
