@@ -85,6 +85,15 @@ Window {
     }
 
     Connections {
+        target: window.recording
+
+        function onPlayRequested(fileName) {
+            window.tabBar.select(1)
+            window.library.playRecording(fileName)
+        }
+    }
+
+    Connections {
         target: window.presenter
 
         function onFrontChanged() {
@@ -225,6 +234,7 @@ Window {
         y: content.y + content.height - height - Theme.gapWide
         width: Math.min(content.width - 2 * Theme.gapWide, 480)
         notices: window.notices
+        behind: window.covered
     }
 
     ShortcutList {

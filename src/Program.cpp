@@ -123,7 +123,8 @@ struct Screens {
                              .runLoop = platform.runLoop,
                              .notifications = platform.notifications,
                              .presenter = platform.presenter,
-                             .mailComposer = platform.mailComposer}};
+                             .mailComposer = platform.mailComposer,
+                             .notices = platform.notices}};
     AudioRecordVC recording{{.audioSession = platform.audioSession,
                              .audioRecorders = platform.audioRecorders,
                              .settings = platform.settings.store,

@@ -104,7 +104,8 @@ void SettingVC::showExtentionActionsheet() {
                 self->store([self, fileType] { self->m_services.settings.setAudioFileType(fileType); });
             }
         };
-        sheet.actions.push_back({qtTrId(choice.title), AlertAction::Style::Default, choose});
+        sheet.actions.push_back(
+            {qtTrId(choice.title), AlertAction::Style::Default, choose, choice.fileType == m_fileType});
     }
     sheet.actions.push_back({qtTrId("Cancel"), AlertAction::Style::Cancel});
     m_services.presenter.presentActionSheet(std::move(sheet));
@@ -122,7 +123,7 @@ void SettingVC::showQualityActionsheet() {
                 self->store([self, key] { self->m_services.settings.setAudioQualityType(qtTrId(key)); });
             }
         };
-        sheet.actions.push_back({qtTrId(key), AlertAction::Style::Default, choose});
+        sheet.actions.push_back({qtTrId(key), AlertAction::Style::Default, choose, qtTrId(key) == m_quality});
     }
     sheet.actions.push_back({qtTrId("Cancel"), AlertAction::Style::Cancel});
     m_services.presenter.presentActionSheet(std::move(sheet));

@@ -347,6 +347,15 @@ void VoiceMemoVC::notificationPosted(const QString& name, const QVariant& object
     }
 }
 
+void VoiceMemoVC::playRecording(const QString& fileName) {
+    const int row = rowOf(nativePath(fileName));
+    if (row >= 0 && row != m_selectedIndex) {
+        setSearchText({});
+        didSelectRowAtIndexPath(0, row);
+        Q_EMIT rowRevealed(row);
+    }
+}
+
 void VoiceMemoVC::showTrimmed(const std::filesystem::path& path) {
     // A trimmer tells of its file more than once.
     const int row = path.empty() || path.filename() == m_announcedName ? -1 : rowOf(path.filename());
@@ -360,8 +369,8 @@ void VoiceMemoVC::showTrimmed(const std::filesystem::path& path) {
     Q_EMIT rowRevealed(row);
     m_services.notices.postNotice({qtTrId("library_trimmed").arg(pathText(m_newName)), qtTrId("library_play"),
                                    [self = QPointer(this), name = m_newName] {
-                                       if (const int made = self ? self->rowOf(name) : -1; made >= 0) {
-                                           self->didSelectRowAtIndexPath(0, made);
+                                       if (self) {
+                                           self->playRecording(pathText(name));
                                        }
                                    }});
 }

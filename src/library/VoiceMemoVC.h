@@ -97,6 +97,8 @@ public Q_SLOTS:
     void didSelectRowAtIndexPath(int section, int row);
     /// A press on a play button of that row and state: loads a recording if none is loaded, and plays or pauses.
     void playAudio(int tag, bool selected);
+    /// Opens and plays the recording of that file name, wherever it is in the list; nothing where it plays already.
+    void playRecording(const QString& fileName);
     /// The space bar: plays or pauses what is loaded; without, plays the recording of a row.
     void spacePressed(int row);
     /// Opens the trimmer with a row's recording; what plays is stopped. The list hears of a new file by "DataUpdated".

@@ -63,6 +63,8 @@ public:
     virtual void updateMeters() = 0;
     /// RMS in dBFS of a channel of the input at the last update, -160 (silence) to 0.
     virtual float averagePowerForChannel(int channel) const = 0;
+    /// Whether a sample at full scale was metered since the last call: the input is too loud.
+    virtual bool takeClipped() = 0;
 };
 
 /// Makes recorders.

@@ -17,6 +17,9 @@ namespace {
 Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
 
 constexpr int kRecordTab = 0;
+constexpr int kSettingsTab = 2;
+/// In dBFS. A quiet room is louder than what a muted microphone hears.
+constexpr double kNothingHeard = -60.0;
 constexpr double kLoudest = 0.0;
 constexpr double kSilence = -160.0;
 constexpr double kZeroPoint = -45.0;
@@ -25,6 +28,7 @@ constexpr double kZeroPoint = -45.0;
 
 AudioRecordVC::AudioRecordVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     connect(&m_services.sessionFile, &SessionFile::saved, this, &AudioRecordVC::didSave);
+    connect(&m_services.sessionFile, &SessionFile::playRequested, this, &AudioRecordVC::playRequested);
     connect(&m_clock, &SessionClock::updateTimer, this, &AudioRecordVC::updateTimer);
     connect(&m_clock, &SessionClock::waveViewUpdate, this, &AudioRecordVC::waveViewUpdate);
 }
@@ -174,6 +178,7 @@ void AudioRecordVC::resumeRecording() {
 void AudioRecordVC::pauseRecording() {
     m_audioRecorder->pause();
     m_clock.stopTimer();
+    forgetLevels();
     setState(State::Paused);
 }
 
@@ -239,7 +244,30 @@ void AudioRecordVC::updateTimer() {
 void AudioRecordVC::waveViewUpdate() {
     if (isRecording()) {
         m_audioRecorder->updateMeters();
-        m_waveViewMirror.startWavingWithValue(static_cast<double>(m_audioRecorder->averagePowerForChannel(0)));
+        m_level = static_cast<double>(m_audioRecorder->averagePowerForChannel(0));
+        m_waveViewMirror.startWavingWithValue(m_level);
+        m_silentReadings = m_level < kNothingHeard ? m_silentReadings + 1 : 0;
+        m_readingsSinceClip = m_audioRecorder->takeClipped() ? 0 : m_readingsSinceClip + 1;
+        Q_EMIT levelChanged();
+    }
+}
+
+void AudioRecordVC::forgetLevels() {
+    m_level = kSilence;
+    m_silentReadings = 0;
+    m_readingsSinceClip = kClipReadings;
+    Q_EMIT levelChanged();
+}
+
+void AudioRecordVC::showSettings() {
+    if (isIdle() && m_services.tabBar.isUserInteractionEnabled()) {
+        m_services.tabBar.setSelectedIndex(kSettingsTab);
+    }
+}
+
+void AudioRecordVC::playLast() {
+    if (isIdle() && !m_lastName.isEmpty()) {
+        Q_EMIT playRequested(m_lastName);
     }
 }
 
@@ -261,7 +289,9 @@ void AudioRecordVC::endSession(bool enablesTabBar) {
     }
     ++m_ends;
     m_clock.stopTimer();
+    forgetLevels();
     if (isRecording()) {
+        m_lastTime = lblTimer().text;
         m_name = fileBaseName(m_services.runLoop.clock().now(), QLocale());
         m_audioRecorder->stop();
         setState(State::Saving);
@@ -286,10 +316,11 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
         setState(State::Idle);
         return;
     }
-    m_services.sessionFile.saveFileToDoc(m_name);
+    m_services.sessionFile.saveFileToDoc(m_name, endedByItself);
 }
 
-void AudioRecordVC::didSave() {
+void AudioRecordVC::didSave(const QString& fileName) {
+    m_lastName = fileName;
     m_waveViewMirror.resetWave();
     m_audioRecorder.reset();
     if (m_state == State::Starting) {

@@ -33,6 +33,12 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY outletsChanged)
     Q_PROPERTY(bool isRecordingRunning READ isRecordingRunning NOTIFY outletsChanged)
     Q_PROPERTY(bool isDismissable READ isDismissable NOTIFY outletsChanged)
+    Q_PROPERTY(bool isIdle READ isIdle NOTIFY outletsChanged)
+    Q_PROPERTY(bool isClipping READ isClipping NOTIFY levelChanged)
+    Q_PROPERTY(bool isSilent READ isSilent NOTIFY levelChanged)
+    Q_PROPERTY(double level READ level NOTIFY levelChanged)
+    Q_PROPERTY(QString lastName READ lastName NOTIFY outletsChanged)
+    Q_PROPERTY(QString lastTime READ lastTime NOTIFY outletsChanged)
 
 public:
     /// What the screen is about. All else that depends on it, but for the lock of the tab bar, is read from it.
@@ -80,6 +86,16 @@ public:
     bool isRecordingRunning() const { return m_state == State::Recording; }
     /// Whether the tabs are still locked though nothing is recorded or saved. The stop action unlocks them.
     bool isDismissable() const;
+    bool isIdle() const { return m_state == State::Idle; }
+    /// Whether the input was too loud within the last second and a half.
+    bool isClipping() const { return m_readingsSinceClip < kClipReadings; }
+    /// Whether nothing was heard for ten seconds.
+    bool isSilent() const { return m_silentReadings >= kSilentReadings; }
+    /// The level that was read last, in dBFS.
+    double level() const { return m_level; }
+    /// The recording that was saved last since the program began, and its time on the clock; empty where there is none.
+    QString lastName() const { return m_lastName; }
+    QString lastTime() const { return m_lastTime; }
     /// Whether the clock begins at 0 when it starts next.
     bool isReset() const { return !isRecording(); }
 
@@ -95,12 +111,23 @@ public Q_SLOTS:
     void playAndPauseRecording(QObject* sender = nullptr);
     /// The stop button: ends the session and saves it.
     void stopAndSaveRecording(QObject* sender = nullptr);
+    /// The format's label: goes to the settings while there is no session.
+    void showSettings();
+    /// The label of the last recording: has it played.
+    void playLast();
 
 Q_SIGNALS:
     void outletsChanged();
     void clockChanged();
+    void levelChanged();
+    /// The user asks to hear the recording of that name.
+    void playRequested(const QString& fileName);
 
 private:
+    /// Of the ten that are taken in a second.
+    static constexpr int kClipReadings = 15;
+    static constexpr int kSilentReadings = 100;
+
     void audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) override;
 
     void permissionAnswered(bool granted);
@@ -112,7 +139,8 @@ private:
     void resumeRecording();
     void stopFromWatch();
     void endSession(bool enablesTabBar);
-    void didSave();
+    void didSave(const QString& fileName);
+    void forgetLevels();
 
     void createDirAtSharedContainerPath() const;
     void initWaveViewMirror();
@@ -135,6 +163,11 @@ private:
     /// Base name of the session that was stopped last.
     QString m_name;
 
+    double m_level = -160.0;
+    int m_silentReadings = 0;
+    int m_readingsSinceClip = kClipReadings;
+    QString m_lastName;
+    QString m_lastTime;
     QString m_lblFileType;
     QString m_lblDate;
 };

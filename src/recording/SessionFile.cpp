@@ -34,17 +34,22 @@ public:
         std::call_once(m_once, [this] {
             for (const auto& [from, to] : m_moves) {
                 if (const auto moved = moveItem(from, to); !moved) {
-                    // The user is not told, on purpose: the recording stays at the temporary path until the next one
+                    // No alert says so, on purpose: the recording stays at the temporary path until the next one
                     // starts.
                     qCWarning(lcRecording, "%s", moved.error().text.c_str());
+                } else {
+                    m_moved = to;
                 }
             }
         });
     }
+    /// Where the file has gone; empty where it is still in its place.
+    const std::filesystem::path& moved() const { return m_moved; }
 
 private:
     std::vector<std::pair<std::filesystem::path, std::filesystem::path>> m_moves;
     std::once_flag m_once;
+    std::filesystem::path m_moved;
 };
 
 SessionFile::SessionFile(const Services& services, QObject* parent) : QObject(parent), m_services(services) {}
@@ -68,7 +73,8 @@ void SessionFile::abandon() {
     m_services.formatHold.setHeld(false);
 }
 
-void SessionFile::saveFileToDoc(const QString& name) {
+void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
+    m_endedByItself = endedByItself;
     const std::filesystem::path base = m_services.container.documentsPath() / nativePath(name);
     const auto named = [&base](const std::string& extension) {
         return std::filesystem::path(base.native() + extension);
@@ -96,6 +102,7 @@ void SessionFile::saveFileToDoc(const QString& name) {
 }
 
 void SessionFile::didMove(const std::filesystem::path& path) {
+    const std::filesystem::path moved = m_moves != nullptr ? m_moves->moved() : std::filesystem::path();
     m_moves.reset();
     m_services.formatHold.setHeld(false);
     m_services.notifications.postNotification(kDataUpdatedNotification);
@@ -105,7 +112,22 @@ void SessionFile::didMove(const std::filesystem::path& path) {
             self->emailAudioFile(path);
         }
     });
-    Q_EMIT saved();
+    say(moved);
+    Q_EMIT saved(pathText(moved.filename()));
+}
+
+void SessionFile::say(const std::filesystem::path& moved) {
+    if (moved.empty()) {
+        m_services.notices.postNotice({qtTrId("record_stranded").arg(pathText(m_sessionPath))});
+        return;
+    }
+    const QString name = pathText(moved.filename());
+    m_services.notices.postNotice({qtTrId(m_endedByItself ? "record_kept" : "record_saved").arg(name),
+                                   qtTrId("library_play"), [self = QPointer(this), name] {
+                                       if (self) {
+                                           Q_EMIT self->playRequested(name);
+                                       }
+                                   }});
 }
 
 void SessionFile::finishBeforeTermination() {

@@ -8,6 +8,7 @@
 #include "app/settings/SettingsStore.h"
 #include "platform/AppContainer.h"
 #include "platform/MailComposer.h"
+#include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
@@ -30,6 +31,7 @@ public:
         NotificationCenter& notifications;
         Presenter& presenter;
         MailComposer& mailComposer;
+        Notices& notices;
     };
 
     explicit SessionFile(const Services& services, QObject* parent = nullptr);
@@ -47,18 +49,22 @@ public:
     /// Moves the whole file among the recordings, under that base name with the type that is read now, and tells who
     /// lists them; an automatic mail follows. A session's file that is no longer at recordFilePath() since somebody has
     /// edited the type is moved under its own. Returns before any of it is done; saved() tells. A file that cannot be
-    /// moved stays where it is.
-    void saveFileToDoc(const QString& name);
+    /// moved stays where it is. A notice says where the recording is, and whether it ended by itself.
+    void saveFileToDoc(const QString& name, bool endedByItself = false);
     /// Makes a move that saveFileToDoc() still owes, and waits for it. For the end of the program only.
     void finishBeforeTermination();
 
 Q_SIGNALS:
-    void saved();
+    /// The name of the file among the recordings; empty where it is not there.
+    void saved(const QString& fileName);
+    /// The user asks to hear the recording of that name.
+    void playRequested(const QString& fileName);
 
 private:
     class Moves;
 
     void didMove(const std::filesystem::path& path);
+    void say(const std::filesystem::path& moved);
     void emailAudioFile(const std::filesystem::path& path);
 
     Services m_services;
@@ -66,6 +72,7 @@ private:
     /// Where the session records, whatever has been read since.
     std::filesystem::path m_sessionPath;
     std::shared_ptr<Moves> m_moves;
+    bool m_endedByItself = false;
 };
 
 }  // namespace tavi

@@ -39,6 +39,7 @@ public:
     std::int64_t framesRecorded() const override { return m_frames; }
     void updateMeters() override { m_power = m_isMetering ? m_arrived : m_power; }
     float averagePowerForChannel(int channel) const override { return channel == 0 ? m_power : -160.0F; }
+    bool takeClipped() override { return m_power >= 0.0F; }
 
     /// Sound arrives: it is recorded, and metered at the next update, if the recorder runs.
     void capture(std::int64_t frames, float power) {

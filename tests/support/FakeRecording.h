@@ -7,14 +7,15 @@ namespace tavi::test {
 
 /// The recording screen with all that it needs beside the shell.
 struct FakeRecording {
-    FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar)
+    FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar, Notices& notices)
         : file({.settings = fakes.settings,
                 .formatHold = fakes.formatHold,
                 .container = fakes.container,
                 .runLoop = fakes.runLoop,
                 .notifications = fakes.notifications,
                 .presenter = presenter,
-                .mailComposer = mail}),
+                .mailComposer = mail,
+                .notices = notices}),
           vc({.audioSession = fakes.session,
               .audioRecorders = fakes.recorders,
               .settings = fakes.settings,

@@ -129,7 +129,7 @@ struct ShellScreens : FakeServices {
     TabBarController tabBar;
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
-    FakeRecording fakeRecording{*this, presenter, tabBar};
+    FakeRecording fakeRecording{*this, presenter, tabBar, notices};
     AudioRecordVC& recording = fakeRecording.vc;
     FakeLibrary fakeLibrary{*this, durations, notices};
     VoiceMemoVC& library = fakeLibrary.vc;

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QColor>
+#include <QQmlComponent>
+#include <cmath>
 
 #include "Shell.h"
 #include "support/FakeDisplayRefresh.h"
@@ -81,6 +84,62 @@ TEST(Session, KeepsAWayBackAndOut) {
     shell.tabBar.setSelectedIndex(1);
     shell.settle();
     EXPECT_EQ(shell.item("session")->property("text").toString(), QStringLiteral("Recording 00:12"));
+}
+
+TEST(Session, EndsWithANoticeThatPlays) {
+    Shell shell;
+    for (const char* button : {"noticeAction", "last"}) {
+        shell.tabBar.setSelectedIndex(0);
+        shell.startRecording();
+        shell.hear(-10.0F);
+        shell.tap("btnStop");
+        shell.runLoop.advance(1.0);
+        shell.settle();
+        shell.tap(button);
+        EXPECT_EQ(shell.tabBar.selectedIndex(), 1);
+        EXPECT_EQ(shell.library.playingName(), shell.recording.lastName());
+        shell.library.playerClose();
+    }
+}
+
+TEST(Theme, CanBeRead) {
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral(":/"));
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport Tavi.Ui\nQtObject { property var tokens: Theme }", {});
+    const std::unique_ptr<QObject> holder(component.create());
+    ASSERT_NE(holder, nullptr) << qPrintable(component.errorString());
+    const auto* theme = holder->property("tokens").value<QObject*>();
+    const auto luminance = [theme](const char* token) {
+        const QColor color = theme->property(token).value<QColor>();
+        EXPECT_TRUE(color.isValid()) << token;
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    // Fixed colours are exceptions: the accent as the label of the chosen tab (3.8), and as bold letters of 19 points.
+    const struct {
+        double least;
+        std::vector<const char*> tokens, grounds;
+    } cases[] = {
+        {4.5, {"text", "light", "label"}, {"ground", "well", "header", "panel", "control"}},
+        {4.5, {"text", "light"}, {"controlHover", "controlPressed"}},
+        {4.5, {"text"}, {"accent", "accentHover", "accentPressed", "switchOn"}},
+        {4.5, {"tint"}, {"ground", "well", "panel", "control", "tonal", "rowHover"}},
+        {4.5, {"faint", "amber"}, {"ground", "well", "header"}},
+        {3.0, {"edge", "focus"}, {"ground", "well", "panel", "control"}},
+        {3.0, {"track", "accent", "trimEdge", "switchOn"}, {"ground"}},
+        {3.0, {"track", "accent"}, {"panel"}},
+    };
+    for (const auto& [least, tokens, grounds] : cases) {
+        for (const char* token : tokens) {
+            for (const char* ground : grounds) {
+                const auto [dark, bright] = std::minmax({luminance(token), luminance(ground)});
+                EXPECT_GE((bright + 0.05) / (dark + 0.05), least) << token << " on " << ground;
+            }
+        }
+    }
 }
 
 TEST(Keyboard, ListsWhatItDoesAndIsNeverLost) {
@@ -209,10 +268,10 @@ TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {
     // A quarter of the way up is inside a bar of 0 dB and outside one of -40.
     std::vector<bool> bars;
     for (int x = 0; x < 7; ++x) {
-        bars.push_back(item->picture().pixelColor(x, item->picture().height() / 4).red() > 128);
+        bars.push_back(item->picture().pixelColor(4 * x + 2, item->picture().height() / 4).red() > 128);
     }
     EXPECT_EQ(bars, (std::vector<bool>{true, false, true, true, true, true, false}));
-    const QPoint shown = item->mapToScene({4.5, item->height() / 4}).toPoint();
+    const QPoint shown = item->mapToScene({18.0, item->height() / 4}).toPoint();
     EXPECT_GT(shell.settle().pixelColor(shown).red(), 128);
 }
 

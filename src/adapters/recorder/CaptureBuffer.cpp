@@ -1,6 +1,8 @@
 #include "adapters/recorder/CaptureBuffer.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstring>
 
 namespace tavi {
@@ -54,8 +56,9 @@ void CaptureBuffer::audioInputDidCapture(const float* interleaved, std::size_t f
         std::memcpy(head, interleaved, bytes);
         const auto channels = static_cast<std::size_t>(m_format.channels);
         for (std::size_t i = 0; i < frames * channels; ++i) {
-            level.sumOfSquares[i % channels] +=
-                static_cast<double>(interleaved[i]) * static_cast<double>(interleaved[i]);
+            const double sample = std::abs(static_cast<double>(interleaved[i]));
+            level.sumOfSquares[i % channels] += sample * sample;
+            level.peak = std::max(level.peak, sample);
         }
     }
     TPCircularBufferProduce(&m_sound, static_cast<std::int32_t>(bytes));
@@ -115,12 +118,13 @@ CaptureBuffer::Level CaptureBuffer::takeLevel() {
     }
     std::int32_t bytes = 0;
     const auto* levels = static_cast<const Level*>(TPCircularBufferTail(&m_levels, &bytes));
-    // Records stay aligned: they are 24 bytes, and the mirror carries one over the end of the ring.
+    // Records stay aligned: they are 32 bytes, and the mirror carries one over the end of the ring.
     const auto whole = bytes / static_cast<std::int32_t>(sizeof(Level));
     for (std::int32_t i = 0; i < whole; ++i) {
         sum.sumOfSquares[0] += levels[i].sumOfSquares[0];
         sum.sumOfSquares[1] += levels[i].sumOfSquares[1];
         sum.frames += levels[i].frames;
+        sum.peak = std::max(sum.peak, levels[i].peak);
     }
     if (whole > 0) {
         TPCircularBufferConsume(&m_levels, whole * static_cast<std::int32_t>(sizeof(Level)));

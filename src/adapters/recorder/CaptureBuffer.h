@@ -16,10 +16,11 @@ namespace tavi {
 /// of levels (the main thread); no locks.
 class CaptureBuffer : public AudioInputListener {
 public:
-    /// Sum of the squares of each channel's samples, and how many frames it was taken over.
+    /// Sum of the squares of each channel's samples, how many frames it was taken over, and the largest of them.
     struct Level {
         std::array<double, 2> sumOfSquares{};
         std::int64_t frames = 0;
+        double peak = 0.0;
     };
     /// Sound that waits to be encoded, contiguous and the consumer's to change.
     struct Waiting {

@@ -12,6 +12,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcRecorder, "tavi.recorder", QtInfoMsg)
 
+/// The largest sample of 16 bits.
+constexpr double kFullScale = 32767.0 / 32768.0;
 constexpr float kSilence = -160.0F;
 /// Half the length of the dip at a seam: short enough not to be heard as one.
 constexpr int kRampsPerSecond = 200;
@@ -118,6 +120,7 @@ void CaptureRecorder::updateMeters() {
     if (level.frames == 0) {
         return;
     }
+    m_hasClipped = m_hasClipped || level.peak >= kFullScale;
     const auto channels = static_cast<std::size_t>(m_buffer.format().channels);
     for (std::size_t channel = 0; channel < std::min(channels, m_averagePower.size()); ++channel) {
         m_averagePower[channel] = decibels(level.sumOfSquares[channel], level.frames);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <thread>
+#include <utility>
 
 #include "adapters/recorder/CaptureBuffer.h"
 #include "platform/AudioFileWriter.h"
@@ -33,6 +34,7 @@ public:
     std::int64_t framesRecorded() const override { return m_buffer.framesCaptured(); }
     void updateMeters() override;
     float averagePowerForChannel(int channel) const override;
+    bool takeClipped() override { return std::exchange(m_hasClipped, false); }
 
 private:
     // Encoder thread.
@@ -55,6 +57,7 @@ private:
     bool m_isFinished = false;
     bool m_isMetering = false;
     std::array<float, 2> m_averagePower;
+    bool m_hasClipped = false;
 
     // Encoder thread, and the main thread once it has ended.
     bool m_formatIsSet = false;

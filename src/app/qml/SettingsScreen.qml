@@ -7,29 +7,37 @@ FocusScope {
     id: root
 
     required property SettingVC screen
+    property real footRoom: 0
 
-    TitleBar {
-        id: bar
+    readonly property Item focused: root.Window.activeFocusItem
 
-        width: parent.width
-        text: root.screen.title
+    // What has the keyboard comes into view.
+    onFocusedChanged: {
+        if (focused === null || !activeFocus || focused === root)
+            return
+        const top = focused.mapToItem(rows, 0, 0).y
+        const least = top + focused.height + footRoom - table.height
+        table.contentY = Math.max(0, least, Math.min(table.contentY, top - Theme.touch))
     }
 
     Flickable {
         id: table
 
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: bar.height
-        width: Math.min(parent.width, 680)
-        height: parent.height - y
-        contentHeight: rows.height
+        anchors.fill: parent
+        contentHeight: rows.height + root.footRoom
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
         Column {
             id: rows
 
-            width: parent.width
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(table.width, 680)
+
+            TitleBar {
+                width: parent.width
+                text: root.screen.title
+            }
 
             SectionHeader {
                 width: parent.width
@@ -38,6 +46,7 @@ FocusScope {
 
             SettingsRow {
                 objectName: "extention"
+                imageName: "8.png"
                 width: parent.width
                 focus: true
                 text: root.screen.extentionText
@@ -53,6 +62,7 @@ FocusScope {
 
             SettingsRow {
                 objectName: "quality"
+                imageName: "9.png"
                 width: parent.width
                 text: root.screen.qualityText
                 detail: root.screen.quality
@@ -67,6 +77,7 @@ FocusScope {
 
             SkipRow {
                 objectName: "rewind"
+                imageName: "10.png"
                 width: parent.width
                 text: root.screen.rewindText
                 seconds: root.screen.rewindValue
@@ -74,7 +85,7 @@ FocusScope {
             }
 
             Rectangle {
-                x: Theme.margin
+                x: 52
                 width: parent.width - x
                 height: 1
                 color: Theme.line
@@ -82,6 +93,7 @@ FocusScope {
 
             SkipRow {
                 objectName: "forward"
+                imageName: "11.png"
                 width: parent.width
                 text: root.screen.forwardText
                 seconds: root.screen.forwardValue
@@ -95,6 +107,7 @@ FocusScope {
 
             TSwitch {
                 objectName: "icloud"
+                imageName: "12.png"
                 width: parent.width
                 text: root.screen.iCloundText
                 on: root.screen.isCloudSyncOn
@@ -108,6 +121,7 @@ FocusScope {
 
             TSwitch {
                 objectName: "quickMail"
+                imageName: "13.png"
                 width: parent.width
                 text: root.screen.quickMailText
                 on: root.screen.isQuickMailOn

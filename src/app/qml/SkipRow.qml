@@ -8,24 +8,35 @@ Item {
 
     required property string text
     required property real seconds
+    property string imageName
     signal slid(real value)
 
     implicitHeight: 45
 
+    Icon {
+        x: Theme.margin
+        anchors.verticalCenter: parent.verticalCenter
+        width: 20
+        height: 20
+        name: row.imageName
+        color: Theme.label
+    }
+
     Label {
         id: label
 
-        x: Theme.margin
-        width: 132
+        x: 48
+        width: 126
         height: parent.height
         text: row.text
         elide: Text.ElideRight
+        Accessible.ignored: true
     }
 
     TSlider {
         anchors.left: label.right
         anchors.right: parent.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.gapWide
         anchors.rightMargin: Theme.margin
         height: parent.height
         from: 5

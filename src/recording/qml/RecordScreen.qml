@@ -1,148 +1,205 @@
 import QtQuick
 import Tavi.Recording
+import QtQuick.Templates as T
 import Tavi.Ui
-import Tavi.Waves
 
-/// The record tab: format and date, the clock, the level wave, and the two buttons.
+/// The record tab: clock, level view, and the pair of buttons. Three groups above each other, evenly spaced; on a phone
+/// that lies on its side the level view at the left and all else in a column beside it.
 FocusScope {
     id: root
 
     required property AudioRecordVC screen
-    /// Room between the clock and the lower edge in low windows goes to the wave first.
-    readonly property bool low: height < 620
+    property real footRoom: 0
+    readonly property int windowHeight: root.Window.height
+    readonly property bool beside: windowHeight < Theme.lowHeight && root.Window.width > windowHeight && width >= 440
+    /// Low windows do without the words below the buttons, and very low ones without the date.
+    readonly property bool captioned: windowHeight >= 360
+    readonly property bool dated: windowHeight >= 320
+    readonly property int diameter: beside ? 72 : width < 320 || windowHeight < 360 ? 64 : 80
+    readonly property real boxHeight: Math.max(captioned ? 120 : 64, Math.min(windowHeight * 0.36, 320))
+    readonly property real side: beside ? 232 : Math.min(width - 2 * Theme.margin, 960)
+    readonly property real parts: clock.height + caption.height + (beside ? 0 : box.height) + pair.height
+    /// The room between the groups, and above and below them.
+    readonly property real gap: Math.max(Theme.gap, (height - parts) / (beside ? 3 : 4))
 
-    Rectangle {
-        width: parent.width
-        height: headerView.height
-        color: Theme.header
-    }
-
-    Item {
+    Flickable {
         id: page
 
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, 1000)
-        height: parent.height
+        anchors.fill: parent
+        contentHeight: Math.max(height, pair.y + pair.height + Theme.gap)
+        interactive: contentHeight > height
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
 
         Item {
-            id: headerView
-
-            width: parent.width
-            height: Theme.touch
-
-            Label {
-                id: date
-
-                x: Theme.margin
-                height: parent.height
-                text: root.screen.lblDate.text
-                color: root.screen.lblDate.textColor || Theme.light
-            }
-
-            Label {
-                anchors.right: parent.right
-                anchors.rightMargin: Theme.margin
-                width: Math.min(implicitWidth, parent.width - date.width - 3 * Theme.margin)
-                height: parent.height
-                text: root.screen.lblFileType.text
-                color: root.screen.lblFileType.textColor || Theme.accent
-                elide: Text.ElideRight
-                font.weight: Font.Medium
-            }
-        }
-
-        Text {
             id: clock
 
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: headerView.height + (root.low ? 12 : 28)
-            text: root.screen.lblTimer.text
-            color: root.screen.isRecording ? Theme.text : Theme.label
-            textFormat: Text.PlainText
-            font.family: Theme.family
-            font.pointSize: 30
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
+            x: root.beside ? caption.x : Math.round((page.width - width) / 2)
+            y: root.beside ? Math.round((page.height - height) / 2) - 12 : Math.round(root.gap)
+            width: root.side
+            height: digits.height + 32
 
-        Item {
-            id: status
+            Text {
+                id: digits
 
-            anchors.top: clock.bottom
-            anchors.topMargin: root.low ? 0 : 4
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: parent.width - 2 * Theme.margin
-            height: 28
+                width: parent.width
+                objectName: "lblTimer"
+                text: root.screen.lblTimer.text
+                color: Theme.text
+                textFormat: Text.PlainText
+                fontSizeMode: Text.HorizontalFit
+                minimumPointSize: 12
+                horizontalAlignment: Text.AlignHCenter
+                font.family: Theme.family
+                font.pointSize: 30
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
 
             Row {
-                anchors.centerIn: parent
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: digits.height
+                height: 32
                 visible: !root.screen.lblRecording.hidden
-                spacing: 8
+                spacing: Theme.gap
 
                 Rectangle {
                     anchors.verticalCenter: parent.verticalCenter
                     width: 10
                     height: 10
                     radius: 5
-                    color: root.screen.isRecordingRunning ? Theme.accent : "transparent"
-                    border.color: root.screen.isRecordingRunning ? Theme.accent : Theme.label
-                    border.width: 2
+                    visible: root.screen.isRecordingRunning
+                    color: Theme.accent
+                }
+
+                Icon {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 18
+                    height: 18
+                    visible: root.screen.isRecording && !root.screen.isRecordingRunning
+                    name: "pause"
+                    color: Theme.light
                 }
 
                 Label {
+                    height: parent.height
+                    objectName: "lblRecording"
                     text: root.screen.lblRecording.text
                     color: root.screen.lblRecording.textColor || Theme.text
-                    font.pixelSize: 15
+                    font.pixelSize: Theme.textName
                     Accessible.role: Accessible.StaticText
                     Accessible.name: text
                 }
             }
 
             Label {
-                anchors.fill: parent
+                y: digits.height
+                width: parent.width
+                height: 32
                 visible: root.screen.lblRecording.hidden
+                objectName: "hint"
                 text: root.screen.hint
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
-        }
 
-        Rectangle {
-            anchors.top: status.bottom
-            anchors.topMargin: root.low ? 8 : 20
-            anchors.bottom: buttons.top
-            x: Theme.margin
-            width: parent.width - 2 * x
-            radius: 5
-            color: Theme.well
-            // Half a point wide: where that is less than a pixel, a pixel of half the brightness.
-            border.color: Screen.devicePixelRatio < 2 ? "#6a6a6a" : Theme.light
-            border.width: Math.max(1, Math.round(0.5 * Screen.devicePixelRatio)) / Screen.devicePixelRatio
-
-            WaveViewItem {
-                anchors.fill: parent
-                anchors.margins: 3
-                wave: root.screen.waveViewMirror
-                ground: Theme.well
-                centreLine: Theme.line
-                barColor: Theme.accent
-                Accessible.role: Accessible.Graphic
-                Accessible.name: qsTrId("a11y_level")
+            TButton {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: digits.height + 32
+                objectName: "dismiss"
+                kind: TButton.Quiet
+                visible: root.screen.isDismissable
+                text: qsTrId("session_dismiss")
+                onClicked: root.screen.stopAndSaveRecording(this)
             }
         }
 
         Item {
-            id: buttons
+            id: caption
 
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: root.low ? 124 : 148
+            x: root.beside ? page.width - width - Theme.margin : Math.round((page.width - width) / 2)
+            y: root.beside ? 4 : clock.y + clock.height + Math.round(root.gap) - 8
+            width: root.side
+            height: root.dated ? Theme.touch : 0
+            visible: root.dated
+
+            Label {
+                id: date
+
+                height: parent.height
+                objectName: "lblDate"
+                text: root.screen.lblDate.text
+                color: root.screen.lblDate.textColor || Theme.light
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            T.AbstractButton {
+                id: format
+
+                x: parent.width - width
+                width: Math.min(words.implicitWidth + 8, parent.width - date.width - Theme.gap)
+                height: parent.height
+                objectName: "lblFileType"
+                text: root.screen.lblFileType.text
+                enabled: root.screen.isIdle
+                hoverEnabled: true
+                focusPolicy: Qt.TabFocus
+                Accessible.role: Accessible.Button
+                Accessible.name: qsTrId("a11y_format").arg(text)
+                Accessible.onPressAction: if (enabled) clicked()
+                Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
+                onClicked: root.screen.showSettings()
+                contentItem: Label {
+                    id: words
+
+                    text: format.text
+                    color: root.screen.lblFileType.textColor || Theme.accent
+                    font.pixelSize: Theme.textFormat
+                    font.weight: Font.Bold
+                    font.underline: format.hovered
+                    horizontalAlignment: Text.AlignRight
+                    elide: Text.ElideRight
+                }
+                background: Item {
+                    FocusFrame {
+                        control: format
+                        around: Theme.radiusTile
+                        inside: true
+                    }
+                }
+            }
+        }
+
+        LevelBox {
+            id: box
+
+            x: root.beside ? Theme.margin : Math.round((page.width - width) / 2)
+            y: root.beside ? Theme.margin : caption.y + caption.height
+            width: root.beside ? page.width - root.side - 3 * Theme.margin - 4 : root.side
+            height: root.beside ? page.height - 2 * Theme.margin : Math.round(root.boxHeight)
+            screen: root.screen
+        }
+
+        Row {
+            id: pair
+
+            x: Math.round((root.beside ? caption.x + (root.side - width) / 2 : (page.width - width) / 2))
+            y: root.beside ? page.height - height - Theme.margin : box.y + box.height + Math.round(root.gap)
+            spacing: root.beside ? 28 : 48
 
             RecordButton {
-                anchors.centerIn: parent
                 objectName: "btnRecord"
                 focus: true
+                diameter: root.diameter
+                captioned: root.captioned
                 picture: root.screen.btnRecord.image
+                tint: down ? Theme.accentPressed : hovered ? Theme.accentHover : Theme.accent
+                name: text
+                shortcut: qsTrId("key_space")
                 text: root.screen.isRecordingRunning ? qsTrId("a11y_pause")
                     : root.screen.isRecording ? qsTrId("a11y_resume") : qsTrId("a11y_record")
                 enabled: root.screen.btnRecord.enabled
@@ -150,12 +207,13 @@ FocusScope {
             }
 
             RecordButton {
-                x: parent.width / 2 + 44 + Math.min((parent.width / 2 - 44 - diameter) / 2, 64)
-                anchors.verticalCenter: parent.verticalCenter
                 objectName: "btnStop"
-                diameter: 56
+                diameter: root.diameter
+                captioned: root.captioned
                 picture: root.screen.btnStop.image || "record_stop"
-                text: qsTrId("a11y_stop")
+                name: qsTrId("a11y_stop")
+                shortcut: qsTrId("key_ctrl").arg("S")
+                text: qsTrId("record_stop")
                 enabled: root.screen.btnStop.enabled
                 onClicked: root.screen.stopAndSaveRecording(this)
             }

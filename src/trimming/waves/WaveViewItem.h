@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPointer>
 #include <QQuickPaintedItem>
+#include <vector>
 
 #include "trimming/waves/WaveView.h"
 
@@ -15,6 +16,9 @@ namespace tavi {
 ///
 /// The picture lives in an image of the item's own, in device pixels: a reading paints its strip there at once, so bars
 /// painted earlier stay, and none is missing however many readings one frame brings or however long the item is hidden.
+///
+/// One step of the wave is columnWidth wide on screen, so the wave's own width counts columns. When the mirror's strip
+/// starts again at the left, what was there stays as a ghost until the strip comes near it.
 class WaveViewItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -24,6 +28,13 @@ class WaveViewItem : public QQuickPaintedItem {
     Q_PROPERTY(QColor centreLine MEMBER m_centreLine)
     /// Colour of lines and areas; unset, those of the wave.
     Q_PROPERTY(QColor barColor MEMBER m_barColor)
+    /// Colour of the bars of an earlier pass; unset, there are none.
+    Q_PROPERTY(QColor ghostColor MEMBER m_ghostColor)
+    /// Colour of the lines at -15 and -30 dB of a mirror from 0 to -45, and of a tick a second; unset, there are none.
+    Q_PROPERTY(QColor scaleColor MEMBER m_scaleColor)
+    Q_PROPERTY(double columnWidth MEMBER m_columnWidth)
+    /// Where the strip ends.
+    Q_PROPERTY(double head READ head NOTIFY headChanged)
 
 public:
     explicit WaveViewItem(QQuickItem* parent = nullptr);
@@ -33,9 +44,11 @@ public:
     void paint(QPainter* painter) override;
     /// What is on screen, in device pixels.
     const QImage& picture() const { return m_picture; }
+    double head() const { return m_wave ? m_wave->newPoint().x() * m_columnWidth : 0.0; }
 
 Q_SIGNALS:
     void waveChanged();
+    void headChanged();
 
 protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
@@ -44,8 +57,11 @@ protected:
 private:
     void adoptSize();
     void display(const QRectF& rect);
-    void clear(QPainter& painter) const;
-    void drawMirror(QPainter& painter) const;
+    void keepPass();
+    /// Paints what lies below the strip, from the column on.
+    void drawGround(QPainter& painter, int from, int columns) const;
+    void drawMirror(QPainter& painter);
+    void drawBar(QPainter& painter, int column, float height, const QColor& color) const;
     void drawDefault(QPainter& painter) const;
     bool fitPicture();
 
@@ -54,6 +70,13 @@ private:
     QColor m_ground = Qt::black;
     QColor m_centreLine;
     QColor m_barColor;
+    QColor m_ghostColor;
+    QColor m_scaleColor;
+    double m_columnWidth = 1.0;
+    /// Half heights of the bars of this pass and of those before, by column, as parts of the wave's range; below 0 for
+    /// none.
+    std::vector<float> m_pass;
+    std::vector<float> m_ghost;
 };
 
 /// Names the view for QML, which is handed one and makes none.

@@ -7,6 +7,8 @@ Rectangle {
     id: root
 
     required property NoticeLine notices
+    /// Something stands before it: its time begins when that is gone.
+    property bool behind: false
     readonly property real actionWidth: action.visible ? action.implicitWidth : 0
 
     implicitWidth: words.implicitWidth + 2 * Theme.margin + actionWidth
@@ -37,7 +39,7 @@ Rectangle {
     Binding {
         target: root.notices
         property: "held"
-        value: pointer.hovered || action.activeFocus
+        value: pointer.hovered || action.activeFocus || root.behind
     }
 
     Label {

@@ -36,6 +36,8 @@ T.AbstractButton {
             height: parent.height
             width: (row.detail === "" ? chevron.x : value.x) - x - Theme.gap
             text: row.text
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
         }
 

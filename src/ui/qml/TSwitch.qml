@@ -35,6 +35,8 @@ T.Switch {
     contentItem: Label {
         text: control.text
         font: control.font
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         elide: Text.ElideRight
         rightPadding: indicator.width + 12
         opacity: control.enabled ? 1.0 : Theme.disabledOpacity

@@ -697,5 +697,45 @@
         <source></source>
         <translation>Strg+%1</translation>
     </message>
+    <message id="record_saved">
+        <source></source>
+        <translation>Gesichert als %1</translation>
+    </message>
+    <message id="record_kept">
+        <source></source>
+        <translation>Die Aufnahme wurde unterbrochen. Sie ist gesichert als %1</translation>
+    </message>
+    <message id="record_stranded">
+        <source></source>
+        <translation>Die Aufnahme konnte nicht zu den anderen gelegt werden. Bis zur nächsten liegt sie unter %1</translation>
+    </message>
+    <message id="record_last">
+        <source></source>
+        <translation>Zuletzt: %1 · %2</translation>
+    </message>
+    <message id="record_silent">
+        <source></source>
+        <translation>Seit zehn Sekunden ist nichts zu hören. Ist das Mikrofon an?</translation>
+    </message>
+    <message id="record_peak">
+        <source></source>
+        <translation>Zu laut</translation>
+    </message>
+    <message id="record_stop">
+        <source></source>
+        <translation>Stopp</translation>
+    </message>
+    <message id="record_level_value">
+        <source></source>
+        <translation>%1 dB</translation>
+    </message>
+    <message id="a11y_format">
+        <source></source>
+        <translation>Format: %1</translation>
+    </message>
+    <message id="a11y_play_last">
+        <source></source>
+        <translation>Die letzte Aufnahme abspielen, %1</translation>
+    </message>
 </context>
 </TS>

@@ -696,5 +696,45 @@
         <source></source>
         <translation>Ctrl+%1</translation>
     </message>
+    <message id="record_saved">
+        <source></source>
+        <translation>Saved as %1</translation>
+    </message>
+    <message id="record_kept">
+        <source></source>
+        <translation>The recording was interrupted. It is kept as %1</translation>
+    </message>
+    <message id="record_stranded">
+        <source></source>
+        <translation>The recording could not be moved to the others. Until the next one begins it is kept at %1</translation>
+    </message>
+    <message id="record_last">
+        <source></source>
+        <translation>Last: %1 · %2</translation>
+    </message>
+    <message id="record_silent">
+        <source></source>
+        <translation>Nothing has been heard for ten seconds. Is the microphone on?</translation>
+    </message>
+    <message id="record_peak">
+        <source></source>
+        <translation>Too loud</translation>
+    </message>
+    <message id="record_stop">
+        <source></source>
+        <translation>Stop</translation>
+    </message>
+    <message id="record_level_value">
+        <source></source>
+        <translation>%1 dB</translation>
+    </message>
+    <message id="a11y_format">
+        <source></source>
+        <translation>Format: %1</translation>
+    </message>
+    <message id="a11y_play_last">
+        <source></source>
+        <translation>Play the last recording, %1</translation>
+    </message>
 </context>
 </TS>

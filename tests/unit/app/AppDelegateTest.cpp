@@ -24,7 +24,7 @@ protected:
     FakeUserDefaults sharedDefaults;
     FakeTabBar tabBar;
     FakePresenter presenter;
-    FakeRecording recording{*this, presenter, tabBar};
+    FakeRecording recording{*this, presenter, tabBar, notices};
     AudioRecordVC& screen = recording.vc;
     AppDelegate delegate{{.application = application,
                           .idleTimer = idleTimer,

@@ -85,7 +85,7 @@ protected:
     } channel;
     FakePresenter presenter;
     FakeTabBar tabBar;
-    FakeRecording recording{*this, presenter, tabBar};
+    FakeRecording recording{*this, presenter, tabBar, notices};
     FakeMailComposer& mail = recording.mail;
     AudioRecordVC& screen = recording.vc;
 };
@@ -288,8 +288,28 @@ TEST_F(AudioRecordVCTest, ARecordingThatEndsByItselfIsSavedAndSaid) {
         ASSERT_EQ(presenter.alerts.size(), 1U);
         EXPECT_EQ(lastAlert(), "unplugged");
         EXPECT_EQ(documents().size(), row.saved);
+        ASSERT_EQ(notices.posted.size(), static_cast<std::size_t>(row.saved));
+        EXPECT_TRUE(row.saved == 0 || notices.posted.back().text == qtTrId(row.stops ? "record_saved" : "record_kept"));
         runLoop.advance(1.0);
     }
+}
+
+TEST_F(AudioRecordVCTest, WhatIsTooLoudOrNotHeardIsSaidForAWhile) {
+    tapRecord();
+    const auto hear = [this](int tenths, float power) {
+        recorders.last()->capture(100, power);
+        runLoop.advance(tenths * 0.1);
+        return std::pair(screen.isClipping(), screen.isSilent());
+    };
+    EXPECT_EQ(hear(1, 0.0F), std::pair(true, false));
+    EXPECT_EQ(hear(14, -30.0F), std::pair(true, false));
+    EXPECT_EQ(hear(1, -30.0F), std::pair(false, false));
+    EXPECT_EQ(hear(99, -70.0F), std::pair(false, false));
+    EXPECT_EQ(hear(1, -70.0F), std::pair(false, true));
+    EXPECT_EQ(hear(1, -30.0F), std::pair(false, false));
+    EXPECT_EQ(hear(120, -70.0F), std::pair(false, true));
+    tapRecord();
+    EXPECT_FALSE(screen.isSilent()) << "paused";
 }
 
 TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {
