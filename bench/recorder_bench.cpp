@@ -37,6 +37,8 @@ public:
         m_written += static_cast<std::int64_t>(frames);
         return result;
     }
+    tavi::Result<void> flush() override { return m_writer->flush(); }
+    tavi::Result<void> pause() override { return m_writer->pause(); }
     tavi::Result<void> finish() override { return m_writer->finish(); }
 
 private:

@@ -11,6 +11,10 @@ PwriteFunction systemPwrite() {
     return ::pwrite;
 }
 
+SyncFunction systemSync() {
+    return ::fdatasync;
+}
+
 WriteResult writeFully(const PwriteFunction& pwrite, int fd, const void* data, std::size_t size, std::int64_t offset) {
     const auto* bytes = static_cast<const unsigned char*>(data);
     WriteResult result;

@@ -14,6 +14,12 @@ using PwriteFunction = std::function<ssize_t(int fd, const void* data, std::size
 /// The system's own pwrite(2).
 PwriteFunction systemPwrite();
 
+/// fdatasync(2) or what stands in for it, with its return value and errno.
+using SyncFunction = std::function<int(int fd)>;
+
+/// The system's own fdatasync(2).
+SyncFunction systemSync();
+
 /// How far a write came, and the errno that ended it; 0 when everything was written.
 struct WriteResult {
     std::size_t written = 0;

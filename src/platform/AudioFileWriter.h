@@ -17,9 +17,15 @@ public:
 
     /// Tells what write() is given; once, before the first write.
     virtual Result<void> setInputFormat(const AudioInputFormat& format) = 0;
-    /// Appends frames in the input format. After a failure nothing more is taken, but finish() still makes a whole file
-    /// of what came before.
+    /// Appends frames in the input format. After a failure, here or in the next two, nothing more is taken, but
+    /// finish() still makes a whole file of what came before.
     virtual Result<void> write(const float* interleaved, std::size_t frames) = 0;
+    /// Brings what was written into the file, so that a kill does not lose it; but for the packet or two that the codec
+    /// has not completed. From time to time it is brought to the disk, too, which nobody waits for.
+    virtual Result<void> flush() = 0;
+    /// Sound pauses here: as flush(), with a packet of less than the usual length where the codec has such, and to the
+    /// disk in any case.
+    virtual Result<void> pause() = 0;
     /// Drains the encoder, completes the container's headers and brings the file to the disk. Once.
     virtual Result<void> finish() = 0;
 };

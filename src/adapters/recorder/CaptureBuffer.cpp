@@ -11,8 +11,10 @@ namespace {
 
 /// How long the encoder or the disk may stall before sound is lost.
 constexpr int kSecondsBuffered = 10;
-/// Seldom wake-ups save power; half a second keeps what a kill could lose small.
-constexpr int kWakesPerSecond = 2;
+/// Seldom wake-ups save power, but what waits is lost by a kill: with a packet of the codec's no more than half a
+/// second.
+constexpr std::int64_t kMillisecondsWaiting = 400;
+constexpr std::int64_t kMillisecondsAtFirst = 300;
 constexpr std::int32_t kSmallRingBytes = 4096;
 
 }  // namespace
@@ -64,10 +66,12 @@ void CaptureBuffer::audioInputDidCapture(const float* interleaved, std::size_t f
     TPCircularBufferProduce(&m_sound, static_cast<std::int32_t>(bytes));
     // A full ring of levels means that nobody reads them.
     TPCircularBufferProduceBytes(&m_levels, &level, sizeof(level));
-    const bool isFirst = m_framesCaptured.fetch_add(static_cast<std::int64_t>(frames), std::memory_order_relaxed) == 0;
-    m_framesSinceWake += frames;
-    if (isFirst || m_framesSinceWake * kWakesPerSecond >= static_cast<std::size_t>(m_format.sampleRate)) {
-        m_framesSinceWake = 0;
+    const auto count = static_cast<std::int64_t>(frames);
+    const std::int64_t captured = m_framesCaptured.fetch_add(count, std::memory_order_relaxed) + count;
+    // The next fragment is likely to be as long as this one.
+    if (captured + count > m_wakeBefore) {
+        const std::int64_t first = m_format.sampleRate * kMillisecondsAtFirst / 1000;
+        m_wakeBefore = captured < first ? first : captured + m_format.sampleRate * kMillisecondsWaiting / 1000;
         wake();
     }
 }
@@ -76,6 +80,7 @@ void CaptureBuffer::audioInputDidPause() {
     const std::int64_t seam = framesCaptured();
     if (seam != m_lastSeam && TPCircularBufferProduceBytes(&m_seams, &seam, sizeof(seam))) {
         m_lastSeam = seam;
+        wake();
     }
     // Either this sees the request, or requestEnd() sees the answer.
     const int answered = m_pausesAnswered.fetch_add(1) + 1;

@@ -53,7 +53,8 @@ public:
     std::int64_t framesCaptured() const { return m_framesCaptured.load(std::memory_order_relaxed); }
 
     // Encoder thread.
-    /// Sleeps until there is half a second of sound, or the end.
+    /// Sleeps until there is sound to write: the first of it, that of 0.3 s, then of every 0.4 s, and at a pause; or
+    /// until the end.
     void wait() { m_wake.acquire(); }
     /// Whether nothing more will come. What waits after this has been true is all there is.
     bool isEnded() const { return m_ended.load(std::memory_order_acquire); }
@@ -79,7 +80,8 @@ private:
     TPCircularBuffer m_levels;
     TPCircularBuffer m_seams;
     std::int64_t m_lastSeam = 0;
-    std::size_t m_framesSinceWake = 0;
+    /// The consumer is woken before more frames than these have been captured. Capture thread.
+    std::int64_t m_wakeBefore = 0;
     std::atomic<std::int64_t> m_framesCaptured = 0;
     std::atomic<std::int64_t> m_framesLost = 0;
     std::optional<Error> m_error;

@@ -136,7 +136,9 @@ void CaptureRecorder::encode() {
     for (bool isEnded = false; !isEnded && !m_error;) {
         m_buffer.wait();
         isEnded = m_buffer.isEnded();
-        encodeWaiting(isEnded);
+        if (const auto result = encodeWaiting(isEnded); !result) {
+            m_error = result.error();
+        }
         logLosses();
     }
     const Result<void> finish = m_writer->finish();
@@ -154,16 +156,15 @@ void CaptureRecorder::encode() {
     });
 }
 
-void CaptureRecorder::encodeWaiting(bool isLast) {
+Result<void> CaptureRecorder::encodeWaiting(bool isLast) {
     const AudioInputFormat format = m_buffer.format();
     if (format.sampleRate == 0) {
-        return;
+        return {};
     }
     if (!m_formatIsSet) {
         m_formatIsSet = true;
-        if (const auto result = m_writer->setInputFormat(format); !result) {
-            m_error = result.error();
-            return;
+        if (auto result = m_writer->setInputFormat(format); !result) {
+            return result;
         }
     }
     const int ramp = format.sampleRate / kRampsPerSecond;
@@ -171,14 +172,11 @@ void CaptureRecorder::encodeWaiting(bool isLast) {
     // A seam is known before the sound that follows it, so the ramp before a seam stays behind until what follows is
     // here.
     const std::size_t held = isLast ? 0 : static_cast<std::size_t>(ramp);
-    if (waiting.frames <= held) {
-        return;
-    }
-    if (m_framesEncoded == 0) {
+    if (m_framesEncoded == 0 && waiting.frames > held) {
         qCDebug(lcRecorder, "first-captured-frame %zu %d", waiting.frames, format.sampleRate);
     }
     const std::int64_t end = m_framesEncoded + static_cast<std::int64_t>(waiting.frames);
-    waiting.frames -= held;
+    waiting.frames -= std::min(waiting.frames, held);
     while (const auto seam = m_buffer.takeSeam()) {
         m_seams.push_back(*seam);
     }
@@ -191,11 +189,17 @@ void CaptureRecorder::encodeWaiting(bool isLast) {
             fadeSeam(waiting.interleaved, m_framesEncoded, waiting.frames, format.channels, seam, ramp);
         }
     }
-    if (const auto result = m_writer->write(waiting.interleaved, waiting.frames); !result) {
-        m_error = result.error();
-    }
+    const auto written = m_writer->write(waiting.interleaved, waiting.frames);
     m_framesEncoded += static_cast<std::int64_t>(waiting.frames);
     m_buffer.consume(waiting.frames);
+    if (!written || isLast) {
+        return written;
+    }
+    if (m_seams.empty() || m_seams.back() != end || m_pausedAt == end) {
+        return m_writer->flush();
+    }
+    m_pausedAt = end;
+    return m_writer->pause();
 }
 
 void CaptureRecorder::logLosses() {

@@ -39,7 +39,7 @@ public:
 private:
     // Encoder thread.
     void encode();
-    void encodeWaiting(bool isLast);
+    Result<void> encodeWaiting(bool isLast);
     void logLosses();
 
     void pauseInput();
@@ -64,6 +64,8 @@ private:
     std::int64_t m_framesEncoded = 0;
     std::int64_t m_lossesLogged = 0;
     std::deque<std::int64_t> m_seams;
+    /// The last seam that the writer was told of as a pause.
+    std::int64_t m_pausedAt = 0;
     std::optional<Error> m_error;
 
     /// Expires with the recorder, so that what the encoder thread posted finds out.

@@ -2,6 +2,10 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <mutex>
+#include <semaphore>
+
 #include "files/PositionedIo.h"
 #include "integration/ffmpeg/RecordingFixture.h"
 
@@ -99,6 +103,68 @@ TEST_F(FailureTest, ARealFullDiskLeavesAWholeFile) {
         EXPECT_TRUE(std::filesystem::remove(pathFor(type)));
     }
     ::umount2(disk.constData(), MNT_DETACH);
+}
+
+TEST_F(FailureTest, AKillLosesWhatTheCodecHoldsAndNothingElse) {
+    const std::vector<float> tenth = tone(kStereo, 4800);
+    for (const auto& [type, quality] : allKinds()) {
+        SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate);
+        std::filesystem::remove(pathFor(type));
+        const auto writer = begin(pathFor(type), settingsFor(type, quality));
+        const double packet = type.packet / quality.rate;
+        for (int written = 1; written <= 27; ++written) {
+            ASSERT_TRUE(writer->write(tenth.data(), 4800));
+            if (written % 4 == 3) {
+                const bool isPaused = written % 8 == 7;
+                ASSERT_TRUE(isPaused ? writer->pause() : writer->flush());
+                const auto kept = decodeSound(file("killed", contents(pathFor(type))));
+                const double seconds = kept ? (static_cast<double>(kept->frames()) - type.priming) / kept->rate : 0;
+                const double held = type.packet == 1024 ? 3 * packet : isPaused ? packet + 0.003 : 0.1;
+                EXPECT_GE(seconds, written / 10.0 - held) << written;
+            }
+        }
+        ASSERT_TRUE(writer->finish());
+        EXPECT_NEAR(m_durations.durationOfFile(pathFor(type)), 2.7, 2 * packet + 2 / quality.rate);
+        const auto sound = decodeSound(pathFor(type));
+        EXPECT_NEAR(frequencyOf(middleOf(sound->planes[0]), sound->rate), 1000, 1);
+        EXPECT_NEAR(levelOf(middleOf(sound->planes[0])), -9.03, type.decibels);
+    }
+}
+
+TEST_F(FailureTest, APowerCutLosesLessThanFiveSecondsAndASlowDiskStallsNothing) {
+    std::mutex disk;
+    std::counting_semaphore<> synced(0);
+    std::atomic<std::uintmax_t> size = 0;
+    const auto path = pathFor(kTypes[1]);
+    const auto sync = [&](int) {
+        const std::lock_guard lock(disk);
+        size = std::filesystem::file_size(path);
+        synced.release();
+        return 0;
+    };
+    const auto writer =
+        std::move(*FfmpegAudioFileWriters(systemPwrite(), sync).create(path, settingsFor(kTypes[1], kQualities[0])));
+    ASSERT_TRUE(writer->setInputFormat(kStereo));
+    const std::vector<float> sound = tone(kStereo, 19200);
+    const auto record = [&](int flushes) {
+        for (int i = 0; i < flushes; ++i) {
+            ASSERT_TRUE(writer->write(sound.data(), 19200) && writer->flush());
+        }
+    };
+    const auto syncs = [&] { return synced.try_acquire_for(std::chrono::seconds(20)); };
+    for (int round = 1; round <= 3; ++round) {
+        record(10);
+        EXPECT_TRUE(syncs());
+        EXPECT_GE(size, 28000U * round);
+    }
+    {
+        const std::lock_guard slow(disk);
+        record(30);
+    }
+    ASSERT_TRUE(writer->pause());
+    EXPECT_TRUE(syncs());
+    EXPECT_TRUE(writer->finish());
+    EXPECT_GE(size, 32000U * 6);
 }
 
 TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {

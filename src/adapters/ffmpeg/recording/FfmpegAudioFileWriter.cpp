@@ -10,6 +10,13 @@
 
 namespace tavi {
 
+namespace {
+
+/// A power cut loses at most five: these, what has not been flushed, and the time that the disk takes.
+constexpr double kSecondsUntilSync = 3.5;
+
+}  // namespace
+
 Result<std::unique_ptr<AudioFileWriter>> FfmpegAudioFileWriters::create(const std::filesystem::path& path,
                                                                         const AudioRecordSettings& settings) {
     av_log_set_level(AV_LOG_QUIET);
@@ -17,7 +24,7 @@ Result<std::unique_ptr<AudioFileWriter>> FfmpegAudioFileWriters::create(const st
     if (!format) {
         return tl::unexpected(format.error());
     }
-    Result<std::unique_ptr<RecordingFile>> file = RecordingFile::create(path, m_pwrite);
+    Result<std::unique_ptr<RecordingFile>> file = RecordingFile::create(path, m_pwrite, m_sync);
     if (!file) {
         return tl::unexpected(file.error());
     }
@@ -84,6 +91,30 @@ Result<void> FfmpegAudioFileWriter::write(const float* interleaved, std::size_t 
         if (m_file->error() != 0) {
             return fail({QString::fromStdString(writeErrorText(m_file->error()))});
         }
+    }
+    return {};
+}
+
+Result<void> FfmpegAudioFileWriter::flush() {
+    return keep(static_cast<double>(m_encoder.frames() - m_framesSynced) >= kSecondsUntilSync * m_format.sampleRate);
+}
+
+Result<void> FfmpegAudioFileWriter::pause() {
+    const Result<void> result = m_failure ? Result<void>() : m_encoder.encodeShort(*m_container);
+    return result ? keep(true) : fail(result.error());
+}
+
+Result<void> FfmpegAudioFileWriter::keep(bool isSyncDue) {
+    if (m_failure) {
+        return tl::unexpected(*m_failure);
+    }
+    m_container->flush();
+    if (m_file->error() != 0) {
+        return fail({QString::fromStdString(writeErrorText(m_file->error()))});
+    }
+    if (isSyncDue) {
+        m_framesSynced = m_encoder.frames();
+        m_file->beginSync();
     }
     return {};
 }

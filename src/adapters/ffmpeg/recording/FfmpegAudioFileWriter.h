@@ -15,7 +15,7 @@ namespace tavi {
 
 /// Converts, encodes and packs sound into one file. One thread at a time.
 ///
-/// Without finish() the file is closed as it is: readable, but without its last second and without final headers.
+/// Without finish() the file is closed as it is: readable up to the last flush, but without final headers.
 class FfmpegAudioFileWriter : public AudioFileWriter {
 public:
     /// Opens the encoder and writes the headers into the file.
@@ -27,6 +27,8 @@ public:
 
     Result<void> setInputFormat(const AudioInputFormat& format) override;
     Result<void> write(const float* interleaved, std::size_t frames) override;
+    Result<void> flush() override;
+    Result<void> pause() override;
     Result<void> finish() override;
 
 private:
@@ -34,6 +36,8 @@ private:
 
     /// So many converted frames, or a code of FFmpeg's, have come.
     Result<void> take(int frames);
+    /// What was written is in the file: brings it to the disk when that is due.
+    Result<void> keep(bool isSyncDue);
     /// Encodes what the converter and the encoder hold back.
     Result<void> drain();
     Result<void> fail(const Error& error);
@@ -46,6 +50,8 @@ private:
     std::optional<SampleConverter> m_converter;
     int m_channelsIn = 0;
     bool m_finished = false;
+    /// Encoded frames whose way to the disk has begun.
+    std::int64_t m_framesSynced = 0;
     std::optional<Error> m_failure;
 };
 

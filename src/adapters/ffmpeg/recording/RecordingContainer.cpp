@@ -87,18 +87,24 @@ Result<void> RecordingContainer::open() {
 int RecordingContainer::store(AVPacket& packet) {
     packet.stream_index = 0;
     const AVStream* stream = m_output->streams[0];
-    const std::int64_t end = packet.pts + packet.duration;
+    m_storedUntil = packet.pts + packet.duration;
     av_packet_rescale_ts(&packet, m_encoder.time_base, stream->time_base);
     const int code = av_write_frame(m_output.get(), &packet);
     av_packet_unref(&packet);
-    if (code >= 0 && end - m_flushedUntil >= m_format.sampleRate) {
-        m_flushedUntil = end;
+    if (code >= 0 && m_storedUntil - m_flushedUntil >= m_format.sampleRate) {
         flush();
     }
     return code;
 }
 
 void RecordingContainer::flush() {
+    if (m_storedUntil > m_flushedUntil) {
+        m_flushedUntil = m_storedUntil;
+        writeOut();
+    }
+}
+
+void RecordingContainer::writeOut() {
     if (m_format.isFragmented) {
         // The first of these calls writes the movie header only, and the second the fragment after it.
         for (int calls = m_hasFragments ? 1 : 2; calls > 0; --calls) {
@@ -121,7 +127,7 @@ void RecordingContainer::close() {
         avio_seek(m_io.get(), m_file.size(), SEEK_SET);
     }
     if (m_format.isFragmented && !m_hasFragments) {
-        flush();
+        writeOut();
     }
     av_write_trailer(m_output.get());
     avio_flush(m_io.get());

@@ -17,9 +17,11 @@ public:
     RecordingContainer(const RecordingContainer&) = delete;
     RecordingContainer& operator=(const RecordingContainer&) = delete;
 
-    /// Takes over a packet; what has been stored reaches the file about once a second. FFmpeg's code of what failed, or
-    /// 0.
+    /// Takes over a packet, which reaches the file with the next flush, or within a second. FFmpeg's code of what
+    /// failed, or 0.
     int store(AVPacket& packet);
+    /// Hands all packets to the file, as a fragment where the container has such.
+    void flush();
     /// Writes what is held back, and the headers that were not known before; of a file that has lost bytes for what is
     /// there.
     void close();
@@ -30,7 +32,7 @@ private:
 
     Result<void> open();
     /// Hands what libavformat holds back to the file.
-    void flush();
+    void writeOut();
 
     RecordingFile& m_file;
     RecordingFormat m_format;
@@ -39,7 +41,8 @@ private:
     AvOutput m_output;
     /// Bytes before the sound.
     std::int64_t m_dataOffset = 0;
-    /// The presentation time up to which the file holds all.
+    /// The presentation times up to which packets have come, and up to which they are in the file.
+    std::int64_t m_storedUntil = 0;
     std::int64_t m_flushedUntil = 0;
     bool m_hasFragments = false;
 };

@@ -1,18 +1,13 @@
 #include "adapters/ffmpeg/recording/RecordingEncoder.h"
 
+#include <utility>
+
 extern "C" {
 #include <libavutil/opt.h>
 #include <libavutil/samplefmt.h>
 }
 
 namespace tavi {
-
-namespace {
-
-/// Frames in one of the codec's where it takes any number. Even, as are the bytes of a WAV file.
-constexpr int kFreeFrameSize = 4096;
-
-}  // namespace
 
 Result<RecordingEncoder> RecordingEncoder::create(const RecordingFormat& format) {
     RecordingEncoder encoder(format);
@@ -43,7 +38,7 @@ Result<void> RecordingEncoder::open() {
     if (code < 0) {
         return avFailure(QStringLiteral("The encoder could not be opened"), code);
     }
-    m_frameSize = m_context->frame_size > 0 ? m_context->frame_size : kFreeFrameSize;
+    m_frameSize = m_format.packetFrames > 0 ? m_format.packetFrames : m_context->frame_size;
     m_frame->nb_samples = m_frameSize;
     m_frame->format = m_format.sampleFormat;
     m_frame->sample_rate = m_format.sampleRate;
@@ -73,14 +68,20 @@ void RecordingEncoder::silence(int frames) {
 
 Result<void> RecordingEncoder::take(int frames, RecordingContainer& container) {
     m_filled += frames;
-    if (m_filled < m_frameSize) {
-        return {};
-    }
+    return m_filled < m_frameSize ? Result<void>() : encodeFilled(container);
+}
+
+Result<void> RecordingEncoder::encodeFilled(RecordingContainer& container) {
+    m_frame->nb_samples = std::exchange(m_filled, 0);
     m_frame->pts = m_encoded;
-    m_encoded += m_filled;
-    m_filled = 0;
+    m_encoded += m_frame->nb_samples;
+    if (m_format.packetFrames > 0) {
+        // FFmpeg takes only the last frame shorter than this.
+        m_context->frame_size = m_frame->nb_samples;
+    }
     Result<void> result = encode(m_frame.get(), container);
     // The encoder may still look at the old frame.
+    m_frame->nb_samples = m_frameSize;
     if (const int code = av_frame_make_writable(m_frame.get()); code < 0) {
         return avFailure(QStringLiteral("The sound could not be encoded"), code);
     }
@@ -119,11 +120,22 @@ Result<void> RecordingEncoder::encodeLast(RecordingContainer& container) {
                         m_format.sampleFormat);
         ++m_filled;
     }
-    m_frame->nb_samples = m_filled;
-    m_frame->pts = m_encoded;
-    m_encoded += m_filled;
-    m_filled = 0;
-    return encode(m_frame.get(), container);
+    return encodeFilled(container);
+}
+
+Result<void> RecordingEncoder::encodeShort(RecordingContainer& container) {
+    // The bytes of a WAV file are always even in number.
+    const int odd = m_filled % 2;
+    if (m_format.packetFrames == 0 || m_filled == odd) {
+        return {};
+    }
+    m_filled -= odd;
+    const int last = m_filled;
+    Result<void> result = encodeFilled(container);
+    // What has been encoded stays in the frame.
+    av_samples_copy(m_frame->data, m_frame->data, 0, last, odd, m_format.channels, m_format.sampleFormat);
+    m_filled = odd;
+    return result;
 }
 
 }  // namespace tavi

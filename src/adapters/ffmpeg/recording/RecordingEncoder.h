@@ -20,6 +20,8 @@ public:
     void silence(int frames);
     /// So many have been put there. What a frame of the codec holds goes into the container.
     Result<void> take(int frames, RecordingContainer& container);
+    /// Encodes what is held back, where the codec has packets of any length: but for a last odd frame.
+    Result<void> encodeShort(RecordingContainer& container);
     /// Encodes what is held back.
     Result<void> finish(RecordingContainer& container);
 
@@ -30,6 +32,8 @@ private:
     Result<void> open();
     /// The rest, which is no whole frame.
     Result<void> encodeLast(RecordingContainer& container);
+    /// What has been put into the frame.
+    Result<void> encodeFilled(RecordingContainer& container);
     /// Null ends the sound.
     Result<void> encode(const AVFrame* frame, RecordingContainer& container);
 

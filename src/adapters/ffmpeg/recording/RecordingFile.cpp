@@ -24,18 +24,24 @@ bool isDiskFull(int error) {
 
 }  // namespace
 
-Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const std::filesystem::path& path, PwriteFunction pwrite) {
+Result<std::unique_ptr<RecordingFile>> RecordingFile::create(const std::filesystem::path& path, PwriteFunction pwrite,
+                                                             SyncFunction sync) {
     FileDescriptor file = FileDescriptor::open(path, O_RDWR | O_CREAT | O_EXCL, 0666);
     if (!file.isValid()) {
         return failure(isDiskFull(errno) ? QString::fromStdString(writeErrorText(errno))
                                          : QStringLiteral("The recording could not be created: ") +
                                                QString::fromStdString(std::generic_category().message(errno)));
     }
-    return std::unique_ptr<RecordingFile>(new RecordingFile(std::move(file), folderOf(path), std::move(pwrite)));
+    return std::unique_ptr<RecordingFile>(
+        new RecordingFile(std::move(file), folderOf(path), std::move(pwrite), std::move(sync)));
 }
 
-RecordingFile::RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite)
-    : m_file(std::move(file)), m_folder(std::move(folder)), m_pwrite(std::move(pwrite)) {
+RecordingFile::RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite,
+                             SyncFunction sync)
+    : m_file(std::move(file)),
+      m_folder(std::move(folder)),
+      m_pwrite(std::move(pwrite)),
+      m_background(std::make_unique<BackgroundSync>(m_file.get(), m_folder, std::move(sync))) {
     makeReserve();
 }
 
@@ -77,7 +83,9 @@ void RecordingFile::shorten(std::int64_t size) {
 }
 
 int RecordingFile::sync() {
-    return synchronize(m_file.get(), m_folder);
+    // The system tells a failure once: whoever asks next hears of none.
+    const int error = m_background->finish();
+    return error != 0 ? error : synchronize(m_file.get(), m_folder);
 }
 
 }  // namespace tavi

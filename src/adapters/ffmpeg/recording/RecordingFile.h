@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "files/BackgroundSync.h"
 #include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "platform/Error.h"
@@ -23,7 +24,8 @@ class RecordingFile {
 public:
     /// Makes a file that must not exist yet.
     static Result<std::unique_ptr<RecordingFile>> create(const std::filesystem::path& path,
-                                                         PwriteFunction pwrite = systemPwrite());
+                                                         PwriteFunction pwrite = systemPwrite(),
+                                                         SyncFunction sync = systemSync());
 
     /// Writes at the position and moves it on by size in any case.
     void write(const void* data, std::size_t size);
@@ -43,11 +45,13 @@ public:
     void shorten(std::int64_t size);
     /// Gives the reserve back.
     void releaseReserve() { m_reserve.close(); }
-    /// Brings the file and its entry in the folder to the disk. The errno of what failed, or 0.
+    /// Has what is in the file by now brought to the disk, on another thread.
+    void beginSync() { m_background->begin(); }
+    /// Brings the file and its entry in the folder to the disk. The errno of what failed, before, too, or 0.
     int sync();
 
 private:
-    RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite);
+    RecordingFile(FileDescriptor file, std::filesystem::path folder, PwriteFunction pwrite, SyncFunction sync);
 
     void makeReserve();
 
@@ -59,6 +63,8 @@ private:
     std::int64_t m_size = 0;
     int m_error = 0;
     bool m_broken = false;
+    /// Ends before the descriptor is closed.
+    std::unique_ptr<BackgroundSync> m_background;
 };
 
 }  // namespace tavi

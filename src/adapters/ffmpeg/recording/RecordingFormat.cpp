@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 
 #include "files/PathText.h"
@@ -32,6 +33,11 @@ const Quality& qualityFor(int value) {
     return kQualities.back();
 }
 
+/// At most a tenth of a second, which a kill may lose; and even, as are the bytes of a WAV file.
+int packetFramesAt(int sampleRate) {
+    return std::min(4096, static_cast<int>(std::bit_floor(static_cast<unsigned>(sampleRate) / 10)));
+}
+
 }  // namespace
 
 Result<RecordingFormat> recordingFormat(const std::filesystem::path& path, const AudioRecordSettings& settings) {
@@ -50,11 +56,13 @@ Result<RecordingFormat> recordingFormat(const std::filesystem::path& path, const
         case kAudioFormatAppleLossless:
             format.codec = AV_CODEC_ID_ALAC;
             format.sampleFormat = AV_SAMPLE_FMT_S16P;
+            format.packetFrames = packetFramesAt(format.sampleRate);
             format.muxer = "ipod";
             format.isFragmented = true;
             return format;
         case kAudioFormatLinearPCM:
             format.muxer = "wav";
+            format.packetFrames = packetFramesAt(format.sampleRate);
             if (settings.linearPCMIsFloat || settings.linearPCMIsBigEndian) {
                 return failure(QStringLiteral("A WAV file takes little-endian integers."));
             }

@@ -34,6 +34,8 @@ struct RecordingFormat {
     const char* muxer = nullptr;
     /// The container is MP4 or M4A.
     bool isFragmented = false;
+    /// Frames in a packet where the codec takes any number; 0 where it does not.
+    int packetFrames = 0;
     int sampleRate = 0;
     int channels = 0;
     /// 0 where the codec sets it.

@@ -34,7 +34,11 @@ public:
     std::mutex disk;
     std::vector<float> samples;
     Result<void> writeResult;
+    Result<void> flushResult;
     Result<void> finishResult;
+    /// Frames that a kill would leave, and how often the writer heard of a pause.
+    std::size_t framesKept = 0;
+    std::atomic<int> pauses = 0;
     int finishes = 0;
     std::unique_ptr<CaptureRecorder> recorder;
 
@@ -46,6 +50,15 @@ private:
             const std::lock_guard lock(recording.disk);
             recording.samples.insert(recording.samples.end(), mono, mono + frames);
             return recording.writeResult;
+        }
+        Result<void> flush() override {
+            const std::lock_guard lock(recording.disk);
+            recording.framesKept = recording.samples.size();
+            return recording.flushResult;
+        }
+        Result<void> pause() override {
+            ++recording.pauses;
+            return flush();
         }
         Result<void> finish() override {
             ++recording.finishes;
@@ -92,11 +105,11 @@ TEST_F(CaptureRecorderTest, KeepsEveryFrameOfTheRunningTimeAndJoinsPausesWithout
     deliver(1.0F, 1000);
     deliver(1.0F, 23800);
     recorder.pause();
+    // What is written at once ends within the ramp before the seam.
+    ASSERT_TRUE(becomes([&] { return recording.samples.size() == 24800 - kRamp; }));
     deliver(0.5F, 700);
     ASSERT_TRUE(recorder.record());
     deliver(-1.0F, 300);
-    // What is written at once ends within the ramp behind the seam.
-    ASSERT_TRUE(becomes([&] { return recording.samples.size() == 25100 - kRamp; }));
     deliver(-1.0F, 30000);
     recorder.pause();
     recorder.pause();
@@ -116,6 +129,22 @@ TEST_F(CaptureRecorderTest, KeepsEveryFrameOfTheRunningTimeAndJoinsPausesWithout
     // The last pause was followed by nothing, so the end is as it was captured.
     EXPECT_EQ(written.back(), -1.0F);
     EXPECT_EQ(recording.ends, std::vector<QString>{QString()});
+}
+
+TEST_F(CaptureRecorderTest, WhatAKillCouldTakeIsWrittenSoonAndAtOnceAtAPause) {
+    for (const std::size_t fragment : {2400U, 3840U, 4800U}) {
+        Recording other(inputs, runLoop);
+        other.recorder->record();
+        for (std::size_t captured = fragment; captured < 5U * kRate; captured += fragment) {
+            deliver(0.5F, fragment);
+            const std::size_t waiting = captured < kRate * 3 / 10 ? kRate * 3 / 10 : kRate * 4 / 10;
+            ASSERT_TRUE(becomes([&] { return other.framesKept + kRamp + waiting >= captured + fragment; })) << captured;
+        }
+        deliver(0.5F, 100);
+        const auto captured = static_cast<std::size_t>(other.recorder->framesRecorded());
+        other.recorder->pause();
+        EXPECT_TRUE(becomes([&] { return other.pauses == 1 && other.framesKept == captured - kRamp; }));
+    }
 }
 
 TEST_F(CaptureRecorderTest, StopTakesWhatTheInputStillOwesButWaitsNotForever) {
@@ -140,11 +169,12 @@ TEST_F(CaptureRecorderTest, StopTakesWhatTheInputStillOwesButWaitsNotForever) {
 
 TEST_F(CaptureRecorderTest, EveryEndFinishesTheFileAndIsToldOnce) {
     const Result<void> bad = failure(QStringLiteral("told"));
-    for (const std::string fault : {"open", "input", "write", "finish", "unstarted", "dropped"}) {
+    for (const std::string fault : {"open", "input", "write", "flush", "finish", "unstarted", "dropped"}) {
         SCOPED_TRACE(fault);
         Recording other(inputs, runLoop);
         inputs.openResult = fault == "open" ? bad : Result<void>{};
         other.writeResult = fault == "write" ? bad : Result<void>{};
+        other.flushResult = fault == "flush" ? bad : Result<void>{};
         other.finishResult = fault == "finish" ? bad : Result<void>{};
         const bool runs = fault != "unstarted" && other.recorder->record();
         EXPECT_EQ(runs, fault != "unstarted" && fault != "open");
@@ -155,8 +185,8 @@ TEST_F(CaptureRecorderTest, EveryEndFinishesTheFileAndIsToldOnce) {
             runLoop.drain();
             EXPECT_TRUE(other.ends.empty());
         } else {
-            // The first three end it at once, the others when it is stopped.
-            const bool isOver = fault == "open" || fault == "input" || fault == "write";
+            // The first four end it at once, the others when it is stopped.
+            const bool isOver = fault == "open" || fault == "input" || fault == "write" || fault == "flush";
             EXPECT_TRUE(!isOver || becomes([&] { return !other.ends.empty(); }));
             other.recorder->waitUntilFinished();
             other.recorder->stop();
@@ -165,7 +195,7 @@ TEST_F(CaptureRecorderTest, EveryEndFinishesTheFileAndIsToldOnce) {
             EXPECT_EQ(other.ends, std::vector<QString>{QLatin1String(fault == "unstarted" ? "" : "told")});
         }
         EXPECT_EQ(other.finishes, 1);
-        EXPECT_EQ(other.samples.size(), !runs ? 0 : fault == "write" ? 1000 - kRamp : 1000);
+        EXPECT_EQ(other.samples.size(), !runs ? 0 : fault == "write" || fault == "flush" ? 1000 - kRamp : 1000);
     }
 }
 
