@@ -20,7 +20,16 @@ public:
         state.disabled = !item()->isEnabled();
         // A scope around the one with the keyboard has not got it.
         state.focused = item()->hasActiveFocus() && item()->window()->activeFocusItem() == item();
+        if (const QVariant isChosen = item()->property("spokenChecked"); isChosen.isValid()) {
+            state.checkable = true;
+            state.checked = isChosen.toBool();
+        }
         return state;
+    }
+
+    QAccessible::Role role() const override {
+        const QVariant role = item()->property("spokenRole");
+        return role.isValid() ? static_cast<QAccessible::Role>(role.toInt()) : QAccessibleQuickItem::role();
     }
 
     int childCount() const override { return isCovered() ? 0 : QAccessibleQuickItem::childCount(); }

@@ -311,6 +311,16 @@ TEST(AssistiveTechnology, OperatesTheControls) {
     shell.tabBar.setUserInteractionEnabled(true);
     act("tab2", QAccessibleActionInterface::pressAction());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 2);
+    // What a reader that comes late finds.
+    QAccessible::setActive(false);
+    QAccessible::setActive(true);
+    const auto* tab = QAccessible::queryAccessibleInterface(shell.item("tab2"));
+    EXPECT_EQ(tab->role(), QAccessible::PageTab);
+    EXPECT_TRUE(tab->state().selected);
+    act("quality", QAccessibleActionInterface::pressAction());
+    const auto* medium = QAccessible::queryAccessibleInterface(shell.item("action1"));
+    EXPECT_TRUE(medium->role() == QAccessible::RadioButton && medium->state().checked);
+    shell.key(Qt::Key_Escape);
     act("quickMail", QAccessibleActionInterface::toggleAction());
     const QAccessible::State mail = QAccessible::queryAccessibleInterface(shell.item("quickMail"))->state();
     EXPECT_TRUE(mail.checkable && mail.checked);

@@ -10,6 +10,8 @@ T.AbstractButton {
     /// Whether this choice holds; a tap of the user's only asks for it.
     required property bool chosen
     property string shortcut
+    readonly property int spokenRole: Accessible.RadioButton
+    readonly property bool spokenChecked: chosen
     readonly property int place: Array.prototype.indexOf.call(parent.children, control)
     readonly property bool first: place === 0
     readonly property bool last: place === parent.children.length - 1
@@ -18,10 +20,8 @@ T.AbstractButton {
     height: parent.height
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.RadioButton
+    Accessible.role: spokenRole
     Accessible.name: name
-    Accessible.checkable: true
-    Accessible.checked: chosen
     Accessible.onPressAction: if (enabled) clicked()
     Accessible.onToggleAction: if (enabled) clicked()
     Keys.onReturnPressed: clicked()

@@ -7,15 +7,15 @@ T.Button {
     id: control
 
     required property var modelData
+    readonly property int spokenRole: modelData.choice ? Accessible.RadioButton : Accessible.Button
+    readonly property var spokenChecked: modelData.choice ? modelData.chosen : undefined
     readonly property color tint: modelData.destructive ? Theme.tint : Theme.text
 
     text: modelData.title
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: modelData.choice ? Accessible.RadioButton : Accessible.Button
+    Accessible.role: spokenRole
     Accessible.name: text
-    Accessible.checkable: modelData.choice
-    Accessible.checked: modelData.chosen
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()
     Keys.onReturnPressed: clicked()

@@ -52,6 +52,8 @@ Rectangle {
                 opacity: enabled ? 1.0 : Theme.disabledOpacity
                 hoverEnabled: true
                 focusPolicy: Qt.TabFocus
+                readonly property int spokenRole: Accessible.PageTab
+
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
                 Accessible.selectable: true
