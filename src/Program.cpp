@@ -40,6 +40,7 @@
 #include "library/RecordingShapes.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
+#include "recording/RecordingRescue.h"
 #include "trimming/AudioTrimmerStage.h"
 #include "trimming/waves/WaveformLoader.h"
 #include "ui/AccessibleItem.h"
@@ -117,6 +118,11 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
+    RecordingRescue rescue{{.container = platform.container,
+                            .repair = platform.media,
+                            .runLoop = platform.runLoop,
+                            .notifications = platform.notifications,
+                            .notices = platform.notices}};
     SessionFile sessionFile{{.settings = platform.settings.store,
                              .formatHold = platform.formatHold,
                              .container = platform.container,
@@ -124,7 +130,8 @@ struct Screens {
                              .notifications = platform.notifications,
                              .presenter = platform.presenter,
                              .mailComposer = platform.mailComposer,
-                             .notices = platform.notices}};
+                             .notices = platform.notices,
+                             .rescue = rescue}};
     AudioRecordVC recording{{.audioSession = platform.audioSession,
                              .audioRecorders = platform.audioRecorders,
                              .settings = platform.settings.store,
@@ -238,8 +245,9 @@ void keepPlace(QQuickWindow* window, UserDefaults& defaults) {
 
 /// What the window does for its screens, and they for it.
 void connectWindow(QQuickWindow* window, Screens& screens) {
-    const auto shown = [&platform = screens.platform] {
+    const auto shown = [&platform = screens.platform, &rescue = screens.rescue] {
         qCDebug(lcApp, "first-frame");
+        rescue.rescue();
         platform.runLoop.dispatchBackground([&media = platform.media] { media.load(); });
     };
     QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);

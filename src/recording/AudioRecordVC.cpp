@@ -206,11 +206,12 @@ void AudioRecordVC::startRecording(QObject* sender) {
     session.setActive(true);
     const AudioRecordSettings recordSetting =
         generateAudioSettings(m_services.settings.audioFileType(), m_services.settings.audioQualityType());
-    auto recorder = m_services.audioRecorders.recorderWithPath(m_services.sessionFile.recordFilePath(), recordSetting);
+    auto recorder = m_services.audioRecorders.recorderWithPath(m_services.sessionFile.sessionPath(), recordSetting);
     if (!recorder) {
         abandonStart(qtTrId("alert_title"), recorder.error().text);
         return;
     }
+    m_services.sessionFile.didCreate();
     m_audioRecorder = std::move(*recorder);
     m_audioRecorder->setDelegate(this);
     m_audioRecorder->prepareToRecord();

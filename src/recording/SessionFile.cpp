@@ -1,15 +1,22 @@
 #include "recording/SessionFile.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <mutex>
 #include <utility>
 #include <vector>
 
+#include "files/FileDescriptor.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
+#include "library/utility/DateTexts.h"
 #include "library/utility/Notifications.h"
 #include "library/utility/Utility.h"
 #include "recording/RecordingMail.h"
@@ -27,27 +34,37 @@ constexpr double kMailDelay = 2.0;
 /// Moves that are made once, by whichever thread comes first; the others wait for it.
 class SessionFile::Moves {
 public:
-    explicit Moves(std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves)
-        : m_moves(std::move(moves)) {}
+    /// The first is that of the session, whose second name is the link.
+    Moves(std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves, std::filesystem::path link)
+        : m_moves(std::move(moves)), m_link(std::move(link)) {}
 
     void make() {
         std::call_once(m_once, [this] {
+            const FileDescriptor session = FileDescriptor::open(m_moves.front().first, O_RDONLY | O_NONBLOCK);
             for (const auto& [from, to] : m_moves) {
                 if (const auto moved = moveItem(from, to); !moved) {
-                    // No alert says so, on purpose: the recording stays at the temporary path until the next one
-                    // starts.
+                    // Not for the user: the rescue finds a place, or says that there is none.
                     qCWarning(lcRecording, "%s", moved.error().text.c_str());
-                } else {
+                    m_hasFailed = true;
+                } else if (from == m_moves.front().first) {
                     m_moved = to;
                 }
             }
+            const std::filesystem::path& path = m_moves.front().first;
+            if (path != m_link && !existsAt(path)) {
+                removeIfStill(m_link, session.get());
+                ::rmdir(path.parent_path().c_str());
+            }
         });
     }
-    /// Where the file has gone; empty where it is still in its place.
+    /// Once they are made: whether any of them failed, and where the session's file has gone; empty where it has not.
+    bool hasFailed() const { return m_hasFailed; }
     const std::filesystem::path& moved() const { return m_moved; }
 
 private:
     std::vector<std::pair<std::filesystem::path, std::filesystem::path>> m_moves;
+    std::filesystem::path m_link;
+    bool m_hasFailed = false;
     std::once_flag m_once;
     std::filesystem::path m_moved;
 };
@@ -57,20 +74,51 @@ SessionFile::SessionFile(const Services& services, QObject* parent) : QObject(pa
 SessionFile::~SessionFile() = default;
 
 void SessionFile::updateRecordFilePath() {
-    m_recordFilePath = m_services.container.cachesPath() /
-                       nativePath(QStringLiteral("vexmosounds.") + m_services.settings.audioFileType());
+    std::filesystem::path name = kName;
+    name += nativePath(QLatin1Char('.') + m_services.settings.audioFileType());
+    m_recordFilePath = m_services.container.cachesPath() / name;
 }
 
 void SessionFile::begin() {
     m_services.formatHold.setHeld(true);
     // The type may have changed since the screen appeared, and the file is to be of the type that it is saved as.
     updateRecordFilePath();
-    m_sessionPath = m_recordFilePath;
-    removeAt(m_recordFilePath);
+    clearRecordFilePath();
+    m_linkPath = m_recordFilePath;
+    auto folder = UnsavedFolder::create(m_services.container.unsavedPath(),
+                                        nativePath(fileBaseName(m_services.runLoop.clock().now(), QLocale())).native());
+    m_folder = folder ? std::optional(std::move(*folder)) : std::nullopt;
+    m_sessionPath = m_folder ? m_folder->path() / m_linkPath.filename() : m_linkPath;
+    m_services.rescue.rescue();
+}
+
+void SessionFile::clearRecordFilePath() const {
+    struct stat attributes = {};
+    if (::lstat(m_recordFilePath.c_str(), &attributes) != 0) {
+        return;
+    }
+    if (S_ISREG(attributes.st_mode) && attributes.st_nlink == 1) {
+        // It has no other name, so it is sound that is nowhere else; under the new one it is rescued.
+        stepAside(m_recordFilePath);
+    } else {
+        removeAt(m_recordFilePath);
+    }
+}
+
+void SessionFile::didCreate() const {
+    ::link(m_sessionPath.c_str(), m_linkPath.c_str());
 }
 
 void SessionFile::abandon() {
+    leave(true);
+}
+
+void SessionFile::leave(bool needsRescue) {
+    m_folder.reset();
     m_services.formatHold.setHeld(false);
+    if (needsRescue) {
+        m_services.rescue.rescue();
+    }
 }
 
 void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
@@ -80,14 +128,15 @@ void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
         return std::filesystem::path(base.native() + extension);
     };
     std::filesystem::path destination = named('.' + m_services.settings.audioFileType().toStdString());
-    std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves{{m_recordFilePath, destination}};
-    if (m_sessionPath != m_recordFilePath) {
+    std::vector<std::pair<std::filesystem::path, std::filesystem::path>> moves;
+    if (m_linkPath != m_recordFilePath) {
         // Somebody has edited the type in the settings' file, and the screen has appeared since: the path is another
-        // one by now, and the session would stay where a later one removes it.
+        // one by now, and what lies there is saved as well.
+        moves.emplace_back(m_recordFilePath, destination);
         destination = named(m_sessionPath.extension());
-        moves.emplace(moves.begin(), m_sessionPath, destination);
     }
-    m_moves = std::make_shared<Moves>(std::move(moves));
+    moves.emplace(moves.begin(), m_sessionPath, destination);
+    m_moves = std::make_shared<Moves>(std::move(moves), m_linkPath);
     const QPointer<SessionFile> self(this);
     RunLoop& runLoop = m_services.runLoop;
     // Another file system takes as long as copying hours of sound takes.
@@ -102,9 +151,8 @@ void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
 }
 
 void SessionFile::didMove(const std::filesystem::path& path) {
-    const std::filesystem::path moved = m_moves != nullptr ? m_moves->moved() : std::filesystem::path();
-    m_moves.reset();
-    m_services.formatHold.setHeld(false);
+    const std::shared_ptr<Moves> moves = std::exchange(m_moves, nullptr);
+    leave(moves->hasFailed());
     m_services.notifications.postNotification(kDataUpdatedNotification);
     const QPointer<SessionFile> self(this);
     m_services.runLoop.dispatchAfter(kMailDelay, [self, path] {
@@ -112,13 +160,13 @@ void SessionFile::didMove(const std::filesystem::path& path) {
             self->emailAudioFile(path);
         }
     });
-    say(moved);
-    Q_EMIT saved(pathText(moved.filename()));
+    say(moves->moved());
+    Q_EMIT saved(pathText(moves->moved().filename()));
 }
 
 void SessionFile::say(const std::filesystem::path& moved) {
     if (moved.empty()) {
-        m_services.notices.postNotice({qtTrId("record_stranded").arg(pathText(m_sessionPath))});
+        // The rescue does, once it knows.
         return;
     }
     const QString name = pathText(moved.filename());

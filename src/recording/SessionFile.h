@@ -3,6 +3,8 @@
 #include <QObject>
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
@@ -12,16 +14,22 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
+#include "recording/RecordingRescue.h"
+#include "recording/UnsavedFolder.h"
 
 namespace tavi {
 
-/// The file of a recording session: in the caches folder while sound is written to it, among the recordings once it is
-/// saved. One session at a time, from begin() to abandon() or saved(); type and quality are held as long. Main thread
-/// only.
+/// The file of a recording session: in a folder of its own while sound is written to it, among the recordings once it
+/// is saved. Meanwhile it has a second name in the caches folder, where companions look for it; what becomes of that
+/// name harms nothing. One session at a time, from begin() to abandon() or saved(); type and quality are held as long.
+/// Main thread only.
 class SessionFile : public QObject {
     Q_OBJECT
 
 public:
+    /// The name without extension of a file that is not saved yet.
+    static constexpr std::string_view kName = "vexmosounds";
+
     /// What the file is saved with; all of it must outlive this.
     struct Services {
         SettingsStore& settings;
@@ -32,6 +40,7 @@ public:
         Presenter& presenter;
         MailComposer& mailComposer;
         Notices& notices;
+        RecordingRescue& rescue;
     };
 
     explicit SessionFile(const Services& services, QObject* parent = nullptr);
@@ -42,14 +51,20 @@ public:
     /// Reads the type from the settings again.
     void updateRecordFilePath();
 
-    /// Starts a session into the temporary file; what an earlier one left there is removed.
+    /// Starts a session. What an earlier one left at recordFilePath() is rescued, so that nothing is there.
     void begin();
-    /// The session comes to nothing.
+    /// Where the session is to record; nothing is there yet.
+    const std::filesystem::path& sessionPath() const { return m_sessionPath; }
+    /// The file is there: it gets its second name, recordFilePath(). Not on a file system of its own, where it has
+    /// none.
+    void didCreate() const;
+    /// The session comes to nothing. What there is of sound all the same is rescued.
     void abandon();
     /// Moves the whole file among the recordings, under that base name with the type that is read now, and tells who
     /// lists them; an automatic mail follows. A session's file that is no longer at recordFilePath() since somebody has
     /// edited the type is moved under its own. Returns before any of it is done; saved() tells. A file that cannot be
-    /// moved stays where it is. A notice says where the recording is, and whether it ended by itself.
+    /// moved stays where it is until it is rescued. A notice says where the recording is, and whether it ended by
+    /// itself.
     void saveFileToDoc(const QString& name, bool endedByItself = false);
     /// Makes a move that saveFileToDoc() still owes, and waits for it. For the end of the program only.
     void finishBeforeTermination();
@@ -63,14 +78,20 @@ Q_SIGNALS:
 private:
     class Moves;
 
+    void clearRecordFilePath() const;
+    /// Lets go of the session's folder.
+    void leave(bool needsRescue);
     void didMove(const std::filesystem::path& path);
     void say(const std::filesystem::path& moved);
     void emailAudioFile(const std::filesystem::path& path);
 
     Services m_services;
     std::filesystem::path m_recordFilePath;
-    /// Where the session records, whatever has been read since.
+    /// What recordFilePath() was when the session began.
+    std::filesystem::path m_linkPath;
     std::filesystem::path m_sessionPath;
+    /// None where no folder could be made; then the session records to recordFilePath() itself.
+    std::optional<UnsavedFolder> m_folder;
     std::shared_ptr<Moves> m_moves;
     bool m_endedByItself = false;
 };

@@ -161,6 +161,16 @@ class Recording(AppTest):
         # The test's bus has no desktop on it; nothing else is worth a word.
         self.assertRegex(self.log.read_text(), r"^Nothing here keeps the screen on: .*\n$")
 
+    def test_a_killed_recording_is_in_the_library_at_the_next_start(self):
+        app = self.start("record")
+        self.play_while_recording()
+        self.desktop.stop(app, signal.SIGKILL)
+        self.assertEqual(self.recordings(), [])
+        self.start()
+        saved = self.wait_saved()
+        self.assertRegex(saved.name, "^Recovered_" + FILE_NAME[1:] + "m4a")
+        self.assertGreater(tone_seconds(saved, 1000), 1.0)
+
     def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
         self.start("record")
         self.play_while_recording()

@@ -11,12 +11,11 @@
 
 namespace tavi::test {
 
-/// A recorder that makes a small file at once and captures what a test says.
+/// A recorder that makes an empty file at once and captures what a test says.
 class FakeAudioRecorder : public QObject, public AudioRecorder {
 public:
-    FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop) : m_runLoop(runLoop) {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || file.write("sound") != 5) {
+    FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop) : m_file(path), m_runLoop(runLoop) {
+        if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             qFatal("cannot write %s", path.c_str());
         }
     }
@@ -44,6 +43,9 @@ public:
     /// Sound arrives: it is recorded, and metered at the next update, if the recorder runs.
     void capture(std::int64_t frames, float power) {
         if (m_isRunning) {
+            if (frames > 0 && m_frames == 0 && !(m_file.write("sound") == 5 && m_file.flush())) {
+                qFatal("cannot write");
+            }
             m_frames += frames;
             m_arrived = power;
         }
@@ -67,6 +69,7 @@ private:
         }
     }
 
+    QFile m_file;
     RunLoop& m_runLoop;
     AudioRecorderDelegate* m_delegate = nullptr;
     bool m_isRunning = false;

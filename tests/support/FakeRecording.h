@@ -1,6 +1,7 @@
 #pragma once
 
 #include "recording/AudioRecordVC.h"
+#include "support/FakeAudioFileRepair.h"
 #include "support/FakeServices.h"
 
 namespace tavi::test {
@@ -8,14 +9,20 @@ namespace tavi::test {
 /// The recording screen with all that it needs beside the shell.
 struct FakeRecording {
     FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar, Notices& notices)
-        : file({.settings = fakes.settings,
+        : rescue({.container = fakes.container,
+                  .repair = repair,
+                  .runLoop = fakes.runLoop,
+                  .notifications = fakes.notifications,
+                  .notices = notices}),
+          file({.settings = fakes.settings,
                 .formatHold = fakes.formatHold,
                 .container = fakes.container,
                 .runLoop = fakes.runLoop,
                 .notifications = fakes.notifications,
                 .presenter = presenter,
                 .mailComposer = mail,
-                .notices = notices}),
+                .notices = notices,
+                .rescue = rescue}),
           vc({.audioSession = fakes.session,
               .audioRecorders = fakes.recorders,
               .settings = fakes.settings,
@@ -26,6 +33,8 @@ struct FakeRecording {
               .sessionFile = file}) {}
 
     FakeMailComposer mail;
+    FakeAudioFileRepair repair;
+    RecordingRescue rescue;
     SessionFile file;
     AudioRecordVC vc;
 };

@@ -40,7 +40,8 @@ public:
 private:
     std::filesystem::path made(const std::filesystem::path& name) const {
         std::filesystem::path path = root() / name;
-        std::filesystem::create_directories(path);
+        std::error_code ignored;
+        std::filesystem::create_directories(path, ignored);
         return path;
     }
 

@@ -325,6 +325,18 @@
         <source></source>
         <translation>Wird gespeichert, dann wird aufgenommen…</translation>
     </message>
+    <message id="rescue_saved">
+        <source></source>
+        <translation>Eine Aufnahme wurde gerettet: %1</translation>
+    </message>
+    <message id="rescue_saved_many">
+        <source></source>
+        <translation>%1 Aufnahmen wurden gerettet.</translation>
+    </message>
+    <message id="rescue_waits">
+        <source></source>
+        <translation>Die Aufnahme lässt sich jetzt nicht speichern. Sie bleibt erhalten und wird so bald wie möglich gespeichert.</translation>
+    </message>
     <message id="library_empty_title">
         <source></source>
         <translation>Noch keine Aufnahmen</translation>
@@ -704,10 +716,6 @@
     <message id="record_kept">
         <source></source>
         <translation>Die Aufnahme wurde unterbrochen. Sie ist gesichert als %1</translation>
-    </message>
-    <message id="record_stranded">
-        <source></source>
-        <translation>Die Aufnahme konnte nicht zu den anderen gelegt werden. Bis zur nächsten liegt sie unter %1</translation>
     </message>
     <message id="record_last">
         <source></source>

@@ -324,6 +324,18 @@
         <source></source>
         <translation>Saving, then recording…</translation>
     </message>
+    <message id="rescue_saved">
+        <source></source>
+        <translation>A recording was recovered: %1</translation>
+    </message>
+    <message id="rescue_saved_many">
+        <source></source>
+        <translation>%1 recordings were recovered.</translation>
+    </message>
+    <message id="rescue_waits">
+        <source></source>
+        <translation>The recording cannot be saved now. It is kept, and saved as soon as possible.</translation>
+    </message>
     <message id="library_empty_title">
         <source></source>
         <translation>No recordings yet</translation>
@@ -703,10 +715,6 @@
     <message id="record_kept">
         <source></source>
         <translation>The recording was interrupted. It is kept as %1</translation>
-    </message>
-    <message id="record_stranded">
-        <source></source>
-        <translation>The recording could not be moved to the others. Until the next one begins it is kept at %1</translation>
     </message>
     <message id="record_last">
         <source></source>

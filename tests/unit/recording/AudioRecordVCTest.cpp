@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QDir>
+#include <fstream>
 
 #include "recording/AudioSettings.h"
 
@@ -175,7 +176,9 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
         tapRecord();
         EXPECT_EQ(screen.lblFileType(), (LabelOutlet{QLatin1String(row.label), QStringLiteral("#c8252c"), false}));
         EXPECT_EQ(recorders.lastSettings.formatID, row.format);
-        EXPECT_EQ(recorders.lastPath, container.cachesPath() / (std::string("vexmosounds.") + row.type));
+        const std::filesystem::path link = container.cachesPath() / (std::string("vexmosounds.") + row.type);
+        EXPECT_NE(recorders.lastPath, link) << "where anybody may clear it away";
+        EXPECT_TRUE(std::filesystem::equivalent(recorders.lastPath, link));
         EXPECT_EQ(session.lastCategory, AudioSession::Category::PlayAndRecord);
         EXPECT_EQ(session.lastOption, AudioSession::CategoryOption::DefaultToSpeaker);
         EXPECT_TRUE(session.isActive);
@@ -203,7 +206,7 @@ TEST_F(AudioRecordVCTest, EachSessionHasItsClockItsLevelItsFormatAndItsName) {
         EXPECT_FALSE(documents().contains(QLatin1String(row.name))) << "moved before it was whole";
         runLoop.drain();
         EXPECT_TRUE(documents().contains(QLatin1String(row.name))) << qPrintable(documents().join(QLatin1Char(' ')));
-        EXPECT_FALSE(std::filesystem::exists(recorders.lastPath));
+        EXPECT_FALSE(std::filesystem::exists(recorders.lastPath.parent_path()) || std::filesystem::exists(link));
         EXPECT_EQ(wave.newPoint().x(), 0.0);
     }
     runLoop.advance(86400.0);
@@ -230,6 +233,7 @@ TEST_F(AudioRecordVCTest, AnEditedTypeStrandsNoRecording) {
         std::filesystem::remove(leftover);
         edit("m4a");
         tapRecord();
+        recorders.last()->capture(100, -10.0F);
         edit("wav");
         EXPECT_TRUE(!row.hasLeftover || QFile(leftover).open(QIODevice::WriteOnly));
         row.appears ? screen.viewWillAppear() : void();
@@ -333,13 +337,24 @@ TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {
     EXPECT_EQ(state() + std::to_string(tabBar.selectedIndex()), "R-0");
 }
 
-TEST_F(AudioRecordVCTest, ASecondRecordingOfTheSameSecondReplacesNothing) {
-    // Its name is taken; it stays where the next start removes it, on purpose.
-    for (const qsizetype saved : {1, 1, 2}) {
+TEST_F(AudioRecordVCTest, WhatCannotBeSavedAndWhatLiesInTheWayIsRescued) {
+    // The second recording of a second, whose name is taken; then an older one at the path that a session records to.
+    const std::filesystem::path older = container.cachesPath() / "vexmosounds.m4a";
+    for (const qsizetype saved : {1, 2, 4}) {
+        if (saved == 4) {
+            runLoop.advance(1.0);
+            std::ofstream(older) << "sound";
+        }
         tapRecord();
-        runLoop.advance(saved == 2 ? 1.0 : 0.0);
+        recorders.last()->capture(100, -10.0F);
         tapStop();
         EXPECT_EQ(documents().size(), saved);
+        EXPECT_TRUE(std::filesystem::is_empty(container.unsavedPath()));
+        EXPECT_EQ(documents().filter(QStringLiteral("Recovered_2024_Mar_05_14_03_59.m4a")).size(), saved > 1 ? 1 : 0);
+    }
+    const std::vector<std::string> expected{"record_saved", "rescue_saved", "rescue_saved", "record_saved"};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(notices.posted.at(i).text, qtTrId(expected.at(i).c_str()));
     }
 }
 

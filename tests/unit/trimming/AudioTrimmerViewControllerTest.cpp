@@ -74,6 +74,7 @@ protected:
     void reRecord(AudioTrimmerViewController& screen, std::int64_t seconds) {
         assets.files["originalRecording.wav"] = {{seconds * 11025, 11025}, 1, {}};
         screen.btnResetAudioTapped();
+        recorders.last()->capture(100, -20.0F);
         screen.btnStopRecordingTapped();
         runLoop.drain();
     }
@@ -348,6 +349,7 @@ TEST_F(AudioTrimmerTest, ARecordingOfNothingLeavesAllAsItWas) {
 TEST_F(AudioTrimmerTest, CancelledWhileItRecordsItWaitsForTheWholeFile) {
     AudioTrimmerViewController& screen = open();
     screen.btnStartRecordingTapped();
+    recorders.last()->capture(100, -20.0F);
     EXPECT_TRUE(screen.isDoneHidden() && screen.isEditingViewHidden());
     screen.btnCancelTapped();
     EXPECT_EQ(trimmers.screen(), nullptr);

@@ -1,0 +1,56 @@
+#include "recording/UnsavedFolder.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+namespace tavi {
+
+FileResult<UnsavedFolder> UnsavedFolder::create(const std::filesystem::path& unsaved, const std::string& name) {
+    ::mkdir(unsaved.c_str(), 0700);
+    for (int number = 1;; ++number) {
+        // Not numberedPath(): a month may be abbreviated with a dot, which begins no extension here.
+        const std::filesystem::path path = unsaved / (number == 1 ? name : name + '_' + std::to_string(number));
+        if (::mkdir(path.c_str(), 0700) == 0) {
+            // Whoever looks for recordings to rescue may have taken the new folder for an empty one.
+            if (auto folder = lock(path)) {
+                return std::move(*folder);
+            }
+        } else if (errno != EEXIST) {
+            return fileFailure("Cannot make the folder \"" + path.native() +
+                               "\": " + std::generic_category().message(errno));
+        }
+    }
+}
+
+std::optional<UnsavedFolder> UnsavedFolder::lock(const std::filesystem::path& path) {
+    FileDescriptor folder = FileDescriptor::open(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
+    struct stat attributes = {};
+    if (!folder.isValid() || ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0 || ::fstat(folder.get(), &attributes) != 0 ||
+        attributes.st_nlink == 0) {
+        return std::nullopt;
+    }
+    return UnsavedFolder(std::move(folder), path);
+}
+
+std::vector<std::filesystem::path> UnsavedFolder::files() const {
+    std::vector<std::filesystem::path> files;
+    std::error_code error;
+    for (std::filesystem::directory_iterator item(m_path, error), end; !error && item != end; item.increment(error)) {
+        std::error_code ignored;
+        if (item->symlink_status(ignored).type() == std::filesystem::file_type::regular) {
+            files.push_back(item->path());
+        }
+    }
+    return files;
+}
+
+void UnsavedFolder::remove() {
+    ::rmdir(m_path.c_str());
+}
+
+}  // namespace tavi

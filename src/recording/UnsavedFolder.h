@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "files/FileDescriptor.h"
+#include "files/FileError.h"
+
+namespace tavi {
+
+/// The folder of one recording that is not among the others yet, for whoever has this alone.
+///
+/// Others are kept away by a lock of the kernel's on the folder itself, which goes with this or with the process,
+/// however that ends. Waits for no lock and no disk. One thread at a time.
+class UnsavedFolder {
+public:
+    /// Makes a folder below that of all unsaved recordings, with the name or the first numbered one that is free.
+    static FileResult<UnsavedFolder> create(const std::filesystem::path& unsaved, const std::string& name);
+    /// One that is there; nothing where somebody else has it, or has just removed it.
+    static std::optional<UnsavedFolder> lock(const std::filesystem::path& path);
+
+    const std::filesystem::path& path() const { return m_path; }
+    /// The files in it. Links and folders, which the program does not make, are none.
+    std::vector<std::filesystem::path> files() const;
+    /// Removes the folder, if it is empty.
+    void remove();
+
+private:
+    UnsavedFolder(FileDescriptor lock, std::filesystem::path path) : m_lock(std::move(lock)), m_path(std::move(path)) {}
+
+    FileDescriptor m_lock;
+    std::filesystem::path m_path;
+};
+
+}  // namespace tavi
