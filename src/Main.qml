@@ -227,12 +227,14 @@ Window {
     NoticeBar {
         id: notice
 
+        readonly property rect area: window.tabBar.selectedIndex === 0 && recordLoader.item !== null ? recordLoader.item.noticeArea
+                                                                         : Qt.rect(0, 0, content.width, content.height)
         readonly property real room: visible ? height + Theme.gapWide : 0
 
         objectName: "notice"
-        x: content.x + Math.round((content.width - width) / 2)
-        y: content.y + content.height - height - Theme.gapWide
-        width: Math.min(content.width - 2 * Theme.gapWide, 480)
+        x: content.x + area.x + Math.round((area.width - width) / 2)
+        y: content.y + area.y + area.height - height - Theme.gapWide
+        width: Math.min(area.width - 2 * Theme.gapWide, 480)
         notices: window.notices
         behind: window.covered
     }

@@ -58,7 +58,7 @@ Rectangle {
             y: modelData === 0 ? 4 : Math.round(2 + (parent.height - 4) * modelData / 90 - height / 2)
             visible: !box.screen.isRecording
             text: modelData === 0 ? qsTrId("record_level_value").arg(0) : "−" + modelData
-            color: Theme.faint
+            color: Theme.label
             font.pixelSize: Theme.textCaption
         }
     }
@@ -101,12 +101,21 @@ Rectangle {
     }
 
     TButton {
+        anchors.centerIn: parent
+        objectName: "dismiss"
+        kind: TButton.Quiet
+        visible: box.screen.isDismissable
+        text: qsTrId("session_dismiss")
+        onClicked: box.screen.stopAndSaveRecording(this)
+    }
+
+    TButton {
         x: 2
         y: parent.height - height - 2
         width: Math.min(implicitWidth, parent.width - 4)
         objectName: "last"
         horizontalPadding: 10
-        visible: box.screen.isIdle && box.screen.lastName !== ""
+        visible: box.screen.isIdle && !box.screen.isDismissable && box.screen.lastName !== ""
         text: qsTrId("record_last").arg(box.screen.lastName).arg(box.screen.lastTime.replace(/^00:/, ""))
         tint: Theme.label
         font.pixelSize: Theme.textDetail

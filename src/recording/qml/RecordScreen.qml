@@ -20,7 +20,13 @@ FocusScope {
     readonly property real side: beside ? 232 : Math.min(width - 2 * Theme.margin, 960)
     readonly property real parts: clock.height + caption.height + (beside ? 0 : box.height) + pair.height
     /// The room between the groups, and above and below them.
-    readonly property real gap: Math.max(Theme.gap, (height - parts) / (beside ? 3 : 4))
+    readonly property real free: height - parts
+    /// Below the pair a notice has its place, where there is room for it.
+    readonly property int foot: 48 + 20
+    readonly property real gap: Math.max(Theme.gap, free < 4 * foot && free > foot + 48 ? (free - foot) / 3 : free / 4)
+    /// Where a notice hides no button: at the foot, or else over the level view.
+    readonly property rect noticeArea: !beside && height - pair.y - pair.height >= foot ? Qt.rect(0, 0, width, height)
+                                     : Qt.rect(box.x, box.y - page.contentY, box.width, box.height)
 
     Flickable {
         id: page
@@ -103,16 +109,6 @@ FocusScope {
                 elide: Text.ElideRight
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
-            }
-
-            TButton {
-                anchors.horizontalCenter: parent.horizontalCenter
-                y: digits.height + 32
-                objectName: "dismiss"
-                kind: TButton.Quiet
-                visible: root.screen.isDismissable
-                text: qsTrId("session_dismiss")
-                onClicked: root.screen.stopAndSaveRecording(this)
             }
         }
 

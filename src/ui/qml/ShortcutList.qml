@@ -118,11 +118,13 @@ FocusScope {
                         required property var modelData
 
                         width: column.width
-                        height: Math.max(32, keys.implicitHeight + 8)
+                        height: Math.max(32, keys.implicitHeight + 8, deed.implicitHeight + 8)
                         Accessible.role: Accessible.StaticText
                         Accessible.name: modelData[1] + ": " + modelData[0]
 
                         Label {
+                            id: deed
+
                             x: Theme.margin
                             width: keys.x - x - Theme.gap
                             height: parent.height
