@@ -11,7 +11,7 @@ Rectangle {
     property bool behind: false
     readonly property real actionWidth: action.visible ? action.implicitWidth : 0
 
-    implicitWidth: words.implicitWidth + 2 * words.x + actionWidth
+    implicitWidth: words.implicitWidth + 2 * Theme.gapWide + actionWidth
     implicitHeight: Math.max(48, words.implicitHeight + 20)
     visible: notices.active
     radius: Theme.radiusControl
@@ -45,7 +45,7 @@ Rectangle {
     Label {
         id: words
 
-        x: root.width < 320 ? Theme.gapWide : Theme.margin
+        x: Theme.gapWide
         width: root.width - 2 * x - root.actionWidth
         height: root.height
         text: root.notices.text
