@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "files/PositionedIo.h"
@@ -23,8 +24,8 @@ public:
     Fragment(const Mp4FragmentDefaults& defaults, std::int64_t fileBytes)
         : m_defaults(defaults), m_fileBytes(fileBytes), m_bytesLeft(fileBytes) {}
 
-    /// Takes the body of a box that stands at that offset; false when it makes no sense.
-    bool read(std::span<const std::uint8_t> body, std::int64_t offset);
+    /// Takes the body of a box that stands at that offset before its data; false when it makes no sense.
+    bool read(std::span<const std::uint8_t> body, std::int64_t offset, const Mp4Box& data);
 
     struct StoredRun {
         std::int64_t offset = 0;
@@ -49,13 +50,20 @@ private:
     std::vector<StoredRun> m_runs;
 };
 
-bool Fragment::read(std::span<const std::uint8_t> body, std::int64_t offset) {
+bool Fragment::read(std::span<const std::uint8_t> body, std::int64_t offset, const Mp4Box& data) {
     m_samples.clear();
     m_runs.clear();
+    const std::int64_t bytesLeft = m_bytesLeft;
     const auto children = mp4Children(body);
-    return children && std::all_of(children->begin(), children->end(), [&](const Mp4Child& child) {
-               return child.type != mp4Type("traf") || readTrack(child.body, offset);
-           });
+    const bool isRead =
+        children &&
+        std::all_of(
+            children->begin(), children->end(),
+            [&](const Mp4Child& child) { return child.type != mp4Type("traf") || readTrack(child.body, offset); }) &&
+        std::all_of(m_runs.begin(), m_runs.end(),
+                    [&](const StoredRun& run) { return run.offset >= data.body && run.end <= data.end; });
+    m_bytesLeft = isRead ? m_bytesLeft : bytesLeft;
+    return isRead;
 }
 
 bool Fragment::readTrack(std::span<const std::uint8_t> body, std::int64_t offset) {
@@ -157,11 +165,11 @@ FileResult<Mp4FragmentReader> Mp4FragmentReader::open(int fd, const Mp4Movie& mo
 }
 
 FileResult<std::int64_t> Mp4FragmentReader::forEachRun(const std::function<bool(const Mp4Run&)>& visit) const {
-    const auto damaged = fileFailure("The recording is damaged in its midst.");
     const std::int64_t size = regularFileSize(m_fd);
     FileWindow file(m_fd);
     Fragment fragment(m_defaults, size);
     std::int64_t end = m_movieEnd;
+    bool isDamaged = false;
     for (auto box = wholeBoxAt(file, end, size); box; box = wholeBoxAt(file, box->end, size)) {
         if (box->type == mp4Type("moov") && box->end == size) {
             break;
@@ -173,23 +181,21 @@ FileResult<std::int64_t> Mp4FragmentReader::forEachRun(const std::function<bool(
         if (!data) {
             break;
         }
-        const std::int64_t bytes = box->end - box->body;
+        const Mp4Box header = *std::exchange(box, data);
+        const std::int64_t bytes = header.end - header.body;
         if (data->type != mp4Type("mdat") || bytes > kMaximumHeaderBytes ||
-            !fragment.read(file.at(box->body, static_cast<std::size_t>(bytes)), box->offset)) {
-            return damaged;
+            !fragment.read(file.at(header.body, static_cast<std::size_t>(bytes)), header.offset, *data)) {
+            isDamaged = true;
+            continue;
         }
         for (const Fragment::StoredRun& run : fragment.runs()) {
-            if (run.offset < data->body || run.end > data->end) {
-                return damaged;
-            }
             if (!visit({run.offset, fragment.samplesOf(run)})) {
                 return data->end;
             }
         }
         end = data->end;
-        box = data;
     }
-    return end;
+    return isDamaged && end == m_movieEnd ? fileFailure("The recording is damaged.") : FileResult<std::int64_t>(end);
 }
 
 }  // namespace tavi

@@ -18,8 +18,8 @@ public:
     static FileResult<Mp4FragmentReader> open(int fd, const Mp4Movie& movie);
 
     /// Hands out the packets of every whole fragment in order, until visit returns false, and returns where the last
-    /// fragment it came to ends. A fragment that was cut off by the end of the file does not count; neither does a
-    /// movie header at the end. Fails when something in the midst of the file makes no sense.
+    /// fragment it came to ends. A fragment that was cut off by the end of the file, or that makes no sense, does not
+    /// count; neither does a movie header at the end. Fails when there are fragments and none makes sense.
     FileResult<std::int64_t> forEachRun(const std::function<bool(const Mp4Run&)>& visit) const;
 
 private:

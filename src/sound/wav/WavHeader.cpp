@@ -49,9 +49,9 @@ std::optional<WavHeader> readWavHeader(int fd) {
     FileWindow window(fd);
     ByteReader start(window.at(0, 12), std::endian::little);
     const std::uint32_t type = start.code();
-    start.skip(4);
-    if ((type != fourCharacterCode("RIFF") && type != fourCharacterCode("RF64")) ||
-        start.code() != fourCharacterCode("WAVE")) {
+    const bool isLong = type == fourCharacterCode("RF64");
+    const bool isFileOpen = start.u32() == kNoLength && !isLong;
+    if ((type != fourCharacterCode("RIFF") && !isLong) || start.code() != fourCharacterCode("WAVE")) {
         return std::nullopt;
     }
     WavHeader header;
@@ -72,7 +72,9 @@ std::optional<WavHeader> readWavHeader(int fd) {
         } else if (name == fourCharacterCode("data")) {
             const auto there = static_cast<std::uint64_t>(size - offset - 8);
             const bool isOpen = length == kNoLength && longDataBytes == 0;
-            length = isOpen ? there : std::min(length == kNoLength ? longDataBytes : length, there);
+            const std::uint64_t told = length == kNoLength ? longDataBytes : length;
+            header.isWhole = !isOpen && !isFileOpen && told <= there;
+            length = isOpen ? there : std::min(told, there);
             header.dataOffset = offset + 8;
             header.frames = header.frameBytes > 0 ? static_cast<std::int64_t>(length / header.frameBytes) : 0;
             return isLinear && isSampleRate(header.sampleRate) && header.frameBytes > 0 ? std::optional(header)

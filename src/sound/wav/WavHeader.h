@@ -20,6 +20,8 @@ struct WavHeader {
     std::int64_t dataOffset = 0;
     /// Whole frames. Where the length is not filled in, or goes beyond the end of the file, the frames up to that end.
     std::int64_t frames = 0;
+    /// The lengths of the sound and of the file are filled in, and the file has all of the sound.
+    bool isWhole = false;
 };
 
 /// Reads the header; nothing for files of another type or codec, and for headers that make no sense.

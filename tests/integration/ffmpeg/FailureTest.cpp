@@ -8,6 +8,7 @@
 
 #include "files/PositionedIo.h"
 #include "integration/ffmpeg/RecordingFixture.h"
+#include "sound/SoundRepair.h"
 
 namespace tavi::test {
 
@@ -43,6 +44,11 @@ protected:
         expectTone(pathFor(type), written - 1 - lost, written + 0.05);
         EXPECT_FALSE(isFragmented(pathFor(type)));
         EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || QFile(pathFor(type)).size() % 2 == 0) << "half a frame";
+    }
+
+    /// Whether it holds sound.
+    static bool repaired(const std::filesystem::path& path, const PwriteFunction& pwrite = systemPwrite()) {
+        return repairSound(FileDescriptor::open(path, O_RDWR).get(), pwrite).value_or(false);
     }
 
     void expectTone(const std::filesystem::path& path, double atLeast, double atMost) {
@@ -167,22 +173,68 @@ TEST_F(FailureTest, APowerCutLosesLessThanFiveSecondsAndASlowDiskStallsNothing) 
     EXPECT_GE(size, 32000U * 6);
 }
 
-TEST_F(FailureTest, AnInterruptedRecordingCanBeReadAndMadeWhole) {
-    for (const Type& type : kTypes) {
-        SCOPED_TRACE(type.extension);
-        const auto path = record(type, kQualities[2], tone(kStereo, std::size_t{48000} * 6), kStereo, false);
-        expectTone(path, 4.5, 6);
-        // The last fragment is cut off in the middle.
-        std::filesystem::resize_file(path, std::filesystem::file_size(path) - 99);
-        EXPECT_EQ(FfmpegAudioFileRepair().repair(path), true);
-        EXPECT_FALSE(isFragmented(path));
-        expectTone(path, 3.5, 6);
-        const QByteArray repaired = contents(path);
-        EXPECT_EQ(FfmpegAudioFileRepair().repair(path), true);
-        EXPECT_EQ(contents(path), repaired) << "a whole file is changed";
-        EXPECT_EQ(FfmpegAudioFileRepair().repair(record(type, kQualities[2], {}, kStereo, false)), false);
+TEST_F(FailureTest, WhatWasInterruptedAnywhereIsMadeWholeOnce) {
+    for (const auto& [type, quality] : allKinds()) {
+        const auto path = record(type, quality, tone(kStereo, std::size_t{48000} * 2), kStereo, false);
+        const QByteArray all = contents(path);
+        for (int step = 0; step <= 13; ++step) {
+            SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << step);
+            QByteArray bytes = all.first(all.size() * step / 13);
+            const double whole = m_durations.durationOfFile(file("cut", bytes));
+            if (step % 3 == 1) {
+                // A power cut.
+                bytes.append(5000, '\0');
+            }
+            const auto after = file("after." + std::string(type.extension), bytes);
+            const bool hasSound = repaired(after);
+            const double seconds = m_durations.durationOfFile(after);
+            const double packet = (type.packet + 64.0) / quality.rate;
+            EXPECT_EQ(hasSound, seconds * quality.rate > type.priming);
+            EXPECT_NEAR(seconds, whole, packet);
+            // FFmpeg wants a few packets to know what it is.
+            if (seconds > 0.3) {
+                const auto sound = decodeSound(after);
+                ASSERT_TRUE(sound);
+                EXPECT_NEAR(static_cast<double>(sound->frames()) / quality.rate, seconds, packet);
+                EXPECT_FALSE(isFragmented(after));
+                EXPECT_TRUE(type.formatID != kAudioFormatLinearPCM || QFile(after).size() % 2 == 0);
+            }
+            const QByteArray once = contents(after);
+            EXPECT_EQ(repaired(after), hasSound);
+            EXPECT_EQ(contents(after), once) << "a whole file is changed";
+        }
     }
     EXPECT_FALSE(FfmpegAudioFileRepair().repair(folder() / "none.wav"));
+    EXPECT_FALSE(FfmpegAudioFileRepair().repair(file("strange", QByteArray(100'000, 'x'))));
+}
+
+TEST_F(FailureTest, APowerCutThatLeavesHolesTakesWhatStandsBehindThemAtMost) {
+    for (const Type& type : kTypes) {
+        const auto path = record(type, kQualities[1], tone(kStereo, std::size_t{48000} * 8), kStereo, false);
+        const QByteArray all = contents(path);
+        constexpr qsizetype kPage = 4096;
+        for (qsizetype page = all.size() / kPage / 2; page <= all.size() / kPage; ++page) {
+            QByteArray bytes = all;
+            std::fill(bytes.begin() + page * kPage, bytes.begin() + std::min(bytes.size(), (page + 1) * kPage), '\0');
+            const auto holed = file("holed", bytes);
+            EXPECT_TRUE(repaired(holed)) << type.extension << page;
+            const double share = static_cast<double>(page * kPage) / static_cast<double>(all.size());
+            EXPECT_GE(m_durations.durationOfFile(holed), 8 * share - 0.5) << type.extension << page;
+        }
+    }
+}
+
+TEST_F(FailureTest, AWavFileOfMoreThanFourGigabytesIsCompletedAsRf64) {
+    const auto path = record(kTypes[1], kQualities[0], tone(kStereo, 48000), kStereo, false);
+    const auto header = static_cast<std::uintmax_t>(contents(path).indexOf("data") + 8);
+    std::filesystem::resize_file(path, header + (5ULL << 30));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::Append) && file.write("sound") == 5);
+    file.close();
+    EXPECT_EQ(FfmpegAudioFileRepair().repair(path), true);
+    EXPECT_EQ(std::filesystem::file_size(path), header + (5ULL << 30) + 4);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.read(4) == "RF64");
+    EXPECT_EQ(m_durations.durationOfFile(path) * 8000, (5ULL << 30) + 4);
 }
 
 }  // namespace

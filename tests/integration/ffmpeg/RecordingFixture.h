@@ -135,7 +135,7 @@ protected:
         for (std::size_t at = 0, block = 0; writer && at < samples.size(); ++block) {
             const std::size_t count =
                 std::min(kBlocks[block % kBlocks.size()], samples.size() / channels - at / channels);
-            EXPECT_TRUE(writer->write(samples.data() + at, count));
+            EXPECT_TRUE(writer->write(samples.data() + at, count) && (isFinished || writer->flush()));
             at += count * channels;
         }
         EXPECT_TRUE(!isFinished || writer->finish());

@@ -371,7 +371,7 @@ TEST(Mp4Test, RecordingsBeyondFourGigabytesAreMadeOrdinary) {
 }
 
 TEST(Mp4Test, FragmentsThatMakeNoSenseAreLeftAsTheyAre) {
-    const Bytes whole = fragmented(samples(30));
+    const Bytes whole = fragmented(samples(10));
     const std::pair<const char*, Bytes> files[] = {
         {"no MP4 file", Bytes(100)},
         {"packets beside the fragments", changed(whole, "stsz", 12, 1)},

@@ -4,11 +4,10 @@
 
 #include <cerrno>
 
-#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "files/DurableFile.h"
 #include "files/FileDescriptor.h"
 #include "files/FileNames.h"
-#include "sound/mp4/Mp4Finalizer.h"
+#include "sound/SoundRepair.h"
 
 namespace tavi {
 
@@ -25,17 +24,12 @@ Result<bool> FfmpegAudioFileRepair::repair(const std::filesystem::path& path) {
     if (!file.isValid()) {
         return failureOf(errno);
     }
-    if (!(FfmpegAudioDuration().durationOfFile(path) > 0.0)) {
-        return false;
+    const FileResult<bool> hasSound = repairSound(file.get());
+    if (!hasSound) {
+        return failure(QString::fromStdString(hasSound.error().text));
     }
-    if (path.extension() == ".m4a" || path.extension() == ".mp4") {
-        // Where the disk has no room for it the file stays in fragments, which play as well.
-        static_cast<void>(finalizeMp4(file.get()));
-    }
-    if (const int error = synchronize(file.get(), folderOf(path))) {
-        return failureOf(error);
-    }
-    return true;
+    const int error = *hasSound ? synchronize(file.get(), folderOf(path)) : 0;
+    return error != 0 ? failureOf(error) : Result<bool>(*hasSound);
 }
 
 }  // namespace tavi

@@ -4,8 +4,7 @@
 
 namespace tavi {
 
-/// Turns the fragments of MP4 and M4A files into ordinary files; the other kinds that are recorded are readable as they
-/// are.
+/// Completes files of every kind that FfmpegAudioFileWriters makes; SoundRepair.h tells how.
 class FfmpegAudioFileRepair : public AudioFileRepair {
 public:
     Result<bool> repair(const std::filesystem::path& path) override;
