@@ -77,6 +77,7 @@ int runPrinting(int& argc, char** argv, const PrintingCommand& command, const Ap
                                .files = media,
                                .converters = media,
                                .exports = media,
+                               .repair = media,
                                .refreshes = refreshes});
     return text ? print(*text) : reportFailure(text.error());
 }

@@ -6,7 +6,7 @@
 namespace tavi {
 
 /// The folders that belong to the program. Absolute paths without a trailing slash; they exist when this has been
-/// built.
+/// built, but for the documents folder, which may be gone, full or read-only at any time.
 class AppContainer {
 public:
     virtual ~AppContainer() = default;

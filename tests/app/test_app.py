@@ -164,12 +164,25 @@ class Recording(AppTest):
     def test_a_killed_recording_is_in_the_library_at_the_next_start(self):
         app = self.start("record")
         self.play_while_recording()
+        self.assertRegex(self.tavi("recover").stdout, r"^in use: .*\n$")
         self.desktop.stop(app, signal.SIGKILL)
         self.assertEqual(self.recordings(), [])
         self.start()
         saved = self.wait_saved()
         self.assertRegex(saved.name, "^Recovered_" + FILE_NAME[1:] + "m4a")
         self.assertGreater(tone_seconds(saved, 1000), 1.0)
+
+    def test_a_music_folder_that_goes_costs_nothing(self):
+        self.start("record")
+        self.play_while_recording()
+        aside = self.documents.rename(self.container / "aside")
+        self.documents.write_text("in the way")
+        self.tavi("stop")
+        self.wait(lambda: self.tavi("recover", check=False).returncode == 1, "the recording to be kept")
+        self.documents.unlink()
+        aside.rename(self.documents)
+        self.tavi("recover")
+        self.assert_holds_tone(self.wait_saved())
 
     def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
         self.start("record")

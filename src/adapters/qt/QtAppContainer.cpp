@@ -57,9 +57,12 @@ Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const fs::path& c
         made->m_preferences = root / "Preferences";
         made->m_groups = root / "Groups";
     }
+    // Nothing depends on the documents folder: the running program is to be reached without it, and what is recorded
+    // meanwhile is saved when it is back.
+    makeFolder(made->m_documents, false);
     for (const fs::path& path :
-         {made->m_documents, made->m_unsaved, made->m_caches, made->m_temporary, made->m_preferences, made->m_groups}) {
-        if (!makeFolder(path, path != made->m_documents)) {
+         {made->m_unsaved, made->m_caches, made->m_temporary, made->m_preferences, made->m_groups}) {
+        if (!makeFolder(path, true)) {
             return failure(QStringLiteral("Cannot make the folder “%1”.").arg(pathText(path)));
         }
         if (::access(path.c_str(), W_OK) != 0) {

@@ -10,6 +10,7 @@
 
 #include "app/cli/Get.h"
 #include "app/cli/List.h"
+#include "app/cli/Recover.h"
 #include "app/cli/Set.h"
 #include "app/cli/Trim.h"
 #include "app/cli/Waveform.h"
@@ -121,6 +122,7 @@ Grammar::Grammar() {
     addGet();
     addSet();
     addList();
+    addPrinting<RecoverOptions>("recover", "save the recordings that were not saved");
     addWaveform();
     addTrim();
     for (CLI::App* command : m_app.get_subcommands({})) {

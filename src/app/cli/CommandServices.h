@@ -5,6 +5,7 @@
 #include "platform/AssetExportSession.h"
 #include "platform/AudioConverter.h"
 #include "platform/AudioDuration.h"
+#include "platform/AudioFileRepair.h"
 #include "platform/DisplayRefresh.h"
 #include "platform/ExtAudioFile.h"
 #include "platform/RunLoop.h"
@@ -37,6 +38,7 @@ struct CommandServices {
     ExtAudioFiles& files;
     AudioConverters& converters;
     AssetExportSessions& exports;
+    AudioFileRepair& repair;
     DisplayRefreshes& refreshes;
 };
 

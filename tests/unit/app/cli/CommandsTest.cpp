@@ -3,9 +3,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <fstream>
 
 #include "app/cli/CommandLine.h"
 #include "library/RecordingEntry.h"
+#include "recording/UnsavedFolder.h"
+#include "support/FakeAudioFileRepair.h"
 #include "support/FakeServices.h"
 
 namespace tavi::test {
@@ -30,6 +33,7 @@ protected:
                                                               .files = files,
                                                               .converters = converters,
                                                               .exports = assets,
+                                                              .repair = repair,
                                                               .refreshes = refreshes});
         });
         return printed ? printed->toStdString() : "! " + printed.error().text.toStdString();
@@ -55,6 +59,7 @@ protected:
     }
 
     FakeUserDefaults shared;
+    FakeAudioFileRepair repair;
 };
 
 }  // namespace
@@ -181,6 +186,27 @@ TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
     EXPECT_EQ(made.outputFileType, AssetFileType::Wave);
     EXPECT_EQ(made.timeRange->start.seconds(), 0.5);
     EXPECT_EQ(made.timeRange->duration.seconds(), 1.5);
+}
+
+TEST_F(CommandsTest, RecoverSaysWhatBecameOfEach) {
+    const auto running = UnsavedFolder::create(container.unsavedPath(), "running");
+    const std::string unsaved = container.unsavedPath().native();
+    const auto add = [&unsaved](const char* name, const char* sound) {
+        std::filesystem::create_directory(unsaved + name);
+        std::ofstream(unsaved + name + "/vexmosounds.caf") << sound;
+    };
+    add("/a", "sound");
+    add("/empty", "");
+    const std::string inUse = "in use: " + unsaved + "/running\n";
+    const std::string file = unsaved + "/b/vexmosounds.caf";
+    expectSaid(
+        {{"recover", "recovered: " + container.documentsPath().native() +
+                         "/Recovered_a.caf\nwithout sound, removed: " + unsaved + "/empty/vexmosounds.caf\n" + inUse},
+         {"recover", inUse}});
+    add("/b", "sound");
+    repair.answer = failure(QStringLiteral("damaged"));
+    expectSaid({{"recover",
+                 "! not all could be recovered\nkept: " + file + ": damaged\n" + inUse.substr(0, inUse.size() - 1)}});
 }
 
 }  // namespace tavi::test
