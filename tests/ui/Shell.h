@@ -110,7 +110,7 @@ public:
 /// A recording of 75 seconds; one second of noise stands for all of it.
 inline std::filesystem::path addTalk(FakeServices& fakes) {
     const std::string name = "Interview with a very long name that nobody reads to its very end.wav";
-    const std::filesystem::path path = fakes.container.addDocument(name, "sound");
+    std::filesystem::path path = fakes.container.addDocument(name, "sound");
     const auto sound = std::make_shared<FakeSound>();
     sound->planes.resize(1);
     fakes.assets.files[name] = {{75 * 588, 588}, 1, {}};

@@ -267,6 +267,7 @@ TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {
     }
     // A quarter of the way up is inside a bar of 0 dB and outside one of -40.
     std::vector<bool> bars;
+    bars.reserve(7);
     for (int x = 0; x < 7; ++x) {
         bars.push_back(item->picture().pixelColor(4 * x + 2, item->picture().height() / 4).red() > 128);
     }

@@ -53,6 +53,7 @@ FocusScope {
         imageSize: 24
         tint: Theme.light
         name: qsTrId("library_search")
+        shortcut: qsTrId("key_ctrl").arg("F")
         onClicked: root.search()
     }
 

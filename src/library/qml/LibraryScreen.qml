@@ -69,6 +69,20 @@ FocusScope {
         height: parent.height - (root.beside ? 0 : panel.shownHeight)
         clip: true
 
+        LibraryChrome {
+            id: chrome
+
+            // Before the list for who reads or tabs through, and above it.
+            z: 1
+            // The title scrolls away; what follows stays.
+            y: finding || held ? 0 : -Math.max(0, Math.min(list.scrolled, titleHeight))
+            width: parent.width
+            height: implicitHeight
+            screen: root.screen
+            isEmpty: list.count === 0
+            onLeave: list.forceActiveFocus(Qt.OtherFocusReason)
+        }
+
         RecordingList {
             id: list
 
@@ -80,19 +94,7 @@ FocusScope {
 
         ScrollMark {
             flickable: list
-            covered: chrome.y + chrome.height
-        }
-
-        LibraryChrome {
-            id: chrome
-
-            // The title scrolls away; what follows stays.
-            y: finding || held ? 0 : -Math.max(0, Math.min(list.scrolled, titleHeight))
-            width: parent.width
-            height: implicitHeight
-            screen: root.screen
-            isEmpty: list.count === 0
-            onLeave: list.forceActiveFocus(Qt.OtherFocusReason)
+            coveredTop: chrome.y + chrome.height
         }
 
         EmptyState {

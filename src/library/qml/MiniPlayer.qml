@@ -19,6 +19,10 @@ FocusScope {
     }
 
     Rectangle {
+        readonly property real from: 0
+        readonly property real to: root.player.slider_player.maximumValue
+        readonly property real value: root.player.slider_player.value
+
         width: parent.width
         height: 3
         color: Theme.track
@@ -26,7 +30,7 @@ FocusScope {
         Accessible.name: qsTrId("a11y_position")
 
         Rectangle {
-            width: Math.round(parent.width * root.player.slider_player.value / Math.max(root.player.slider_player.maximumValue, 0.001))
+            width: Math.round(parent.width * parent.value / Math.max(parent.to, 0.001))
             height: parent.height
             color: Theme.accent
         }
@@ -42,6 +46,7 @@ FocusScope {
         imageSize: 22
         filled: true
         name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
+        shortcut: qsTrId("key_space")
         enabled: root.player.hasPlayer
         focus: true
         onClicked: root.screen.playAudio(root.screen.selectedIndex, root.player.btnplaypuas.selected)

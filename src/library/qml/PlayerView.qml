@@ -80,6 +80,7 @@ FocusScope {
                     imageSize: 22
                     tint: Theme.light
                     name: qsTrId("a11y_close_player")
+                    shortcut: qsTrId("key_escape")
                     onClicked: root.screen.playerClose()
                 }
 
@@ -160,6 +161,7 @@ FocusScope {
                         imageName: "skip_back.png"
                         caption: root.player.lblBackwardSec.text
                         name: qsTrId("a11y_skip_back").arg(caption)
+                        shortcut: "J"
                         enabled: root.player.hasPlayer
                         onClicked: root.player.backSkip()
                     }
@@ -172,6 +174,7 @@ FocusScope {
                         imageSize: 32
                         filled: true
                         name: root.player.isPlayerPlaying ? qsTrId("a11y_pause") : qsTrId("a11y_play")
+                        shortcut: qsTrId("key_space")
                         enabled: root.player.hasPlayer
                         focus: true
                         onClicked: root.screen.playAudio(root.screen.selectedIndex, root.player.btnplaypuas.selected)
@@ -184,6 +187,7 @@ FocusScope {
                         imageName: "skip_forward.png"
                         caption: root.player.lblForwardSec.text
                         name: qsTrId("a11y_skip_forward").arg(caption)
+                        shortcut: "L"
                         enabled: root.player.hasPlayer
                         onClicked: root.player.forwardSkip()
                     }

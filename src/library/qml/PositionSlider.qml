@@ -2,17 +2,14 @@ import QtQuick
 import Tavi.Library
 import Tavi.Ui
 import Tavi.Waves
-import QtQuick.Templates as T
 
 /// Where the recording stands, on its waveform.
-T.Slider {
+TSlider {
     id: control
 
     required property PlayerPanel player
     property int barWidth: 2
-    /// For assistive technology, which knows them by these names.
-    readonly property real minimumValue: from
-    readonly property real maximumValue: to
+
     /// The moment that a place of the wave stands for, in seconds.
     function momentAt(x) {
         return from + Math.max(0, Math.min(x / width, 1)) * (to - from)
@@ -22,30 +19,11 @@ T.Slider {
     from: 0
     to: Math.max(player.slider_player.maximumValue, 0.001)
     stepSize: 1
-    live: true
-    focusPolicy: Qt.TabFocus
-    value: player.slider_player.value
-    Accessible.role: Accessible.Slider
+    page: Math.max(1, Math.round(to / 10))
+    rest: player.slider_player.value
     Accessible.name: qsTrId("a11y_position")
     Accessible.description: qsTrId("a11y_position_value").arg(player.lblSongMinTime.text).arg(player.lblSongMaxTime.text)
-    onMoved: {
-        control.player.progressSliderMoved(control.value)
-        control.value = Qt.binding(() => control.player.slider_player.value)
-    }
-    Keys.onPressed: event => {
-        const page = (to - from) / 10
-        event.accepted = true
-        if (event.key === Qt.Key_Home)
-            player.progressSliderMoved(from)
-        else if (event.key === Qt.Key_End)
-            player.progressSliderMoved(to)
-        else if (event.key === Qt.Key_PageUp)
-            player.progressSliderMoved(Math.min(value + page, to))
-        else if (event.key === Qt.Key_PageDown)
-            player.progressSliderMoved(Math.max(value - page, from))
-        else
-            event.accepted = false
-    }
+    onSlid: value => player.progressSliderMoved(value)
 
     background: Rectangle {
         radius: 5

@@ -122,6 +122,7 @@ Item {
         imageSize: 20
         tint: Theme.light
         name: qsTrId("a11y_trim").arg(root.nameText)
+        shortcut: "T"
         // The list is one stop of the Tab key; T trims the current row.
         focusPolicy: Qt.NoFocus
         onClicked: root.screen.trimRow(root.row)

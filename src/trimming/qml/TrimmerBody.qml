@@ -100,6 +100,7 @@ FocusScope {
         imageSize: root.low ? 26 : 32
         filled: true
         name: root.screen.player.isPlaying ? qsTrId("a11y_pause") : qsTrId("trimmer_play")
+        shortcut: qsTrId("key_space")
         enabled: root.screen.problem === ""
         focus: true
         onClicked: root.screen.btnPlayPauseTapped()

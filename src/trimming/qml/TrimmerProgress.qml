@@ -33,6 +33,10 @@ Rectangle {
         }
 
         Rectangle {
+            readonly property real from: 0
+            readonly property real to: 1
+            readonly property real value: root.exporter.progress
+
             width: parent.width
             height: 6
             radius: 3

@@ -5,12 +5,12 @@ import Tavi.Ui
 Rectangle {
     required property Flickable flickable
     /// How much of the Flickable's top is covered.
-    property real covered: 0
-    readonly property real room: flickable.height - covered
+    property real coveredTop: 0
+    readonly property real room: flickable.height - coveredTop
 
     visible: flickable.contentHeight > flickable.height
     x: flickable.x + flickable.width - width - 2
-    y: flickable.y + covered + flickable.visibleArea.yPosition * room
+    y: flickable.y + coveredTop + flickable.visibleArea.yPosition * room
     width: 3
     height: Math.max(24, flickable.visibleArea.heightRatio * room)
     radius: 1.5

@@ -17,6 +17,7 @@ FocusScope {
         ["J L", qsTrId("shortcut_skip")],
         ["< >", qsTrId("shortcut_speed")],
         ["T", qsTrId("shortcut_trim")],
+        ["+ −", qsTrId("shortcut_zoom")],
         [qsTrId("key_escape"), qsTrId("shortcut_close")],
         ["? F1", qsTrId("shortcut_list")],
         [ctrl("Q"), qsTrId("shortcut_quit")]

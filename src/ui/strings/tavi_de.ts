@@ -677,6 +677,10 @@
         <source></source>
         <translation>Die markierte Aufnahme schneiden</translation>
     </message>
+    <message id="shortcut_zoom">
+        <source></source>
+        <translation>Beim Schneiden: vergrößern, verkleinern</translation>
+    </message>
     <message id="shortcut_close">
         <source></source>
         <translation>Wiedergabe oder Auswahl schließen</translation>

@@ -676,6 +676,10 @@
         <source></source>
         <translation>Trim the marked recording</translation>
     </message>
+    <message id="shortcut_zoom">
+        <source></source>
+        <translation>In the trimmer: zoom in, zoom out</translation>
+    </message>
     <message id="shortcut_close">
         <source></source>
         <translation>Close the player or a sheet</translation>
