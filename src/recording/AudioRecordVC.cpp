@@ -307,14 +307,20 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
     if (endedByItself) {
         endSession(true);
     }
+    const bool hasSound = recorder.framesRecorded() > 0;
     if (error) {
         qCWarning(lcRecording, "%s", qPrintable(error->text));
-        showAlertWithTitle(qtTrId("alert_title"), error->text);
+        showAlertWithTitle(hasSound ? qtTrId("record_ended_title") : qtTrId("alert_title"),
+                           hasSound ? qtTrId("record_ended").arg(error->text) : error->text);
     }
-    if (endedByItself && recorder.framesRecorded() == 0) {
-        // Nothing was captured: there is nothing to save.
+    if (!hasSound && (endedByItself || error)) {
+        // Nothing was captured: there is nothing to save. The recorder is still needed by who calls this.
         m_services.sessionFile.abandon();
-        setState(State::Idle);
+        m_services.runLoop.dispatchMain([self = QPointer(this)] {
+            if (self) {
+                self->didSave(self->m_lastName);
+            }
+        });
         return;
     }
     m_services.sessionFile.saveFileToDoc(m_name, endedByItself);

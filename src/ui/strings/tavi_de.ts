@@ -337,6 +337,14 @@
         <source></source>
         <translation>Die Aufnahme lässt sich jetzt nicht speichern. Sie bleibt erhalten und wird so bald wie möglich gespeichert.</translation>
     </message>
+    <message id="record_ended_title">
+        <source></source>
+        <translation>Aufnahme beendet</translation>
+    </message>
+    <message id="record_ended">
+        <source></source>
+        <translation>%1 Was bis dahin aufgenommen wurde, bleibt erhalten.</translation>
+    </message>
     <message id="library_empty_title">
         <source></source>
         <translation>Noch keine Aufnahmen</translation>

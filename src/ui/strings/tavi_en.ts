@@ -336,6 +336,14 @@
         <source></source>
         <translation>The recording cannot be saved now. It is kept, and saved as soon as possible.</translation>
     </message>
+    <message id="record_ended_title">
+        <source></source>
+        <translation>Recording Ended</translation>
+    </message>
+    <message id="record_ended">
+        <source></source>
+        <translation>%1 What was recorded until then is kept.</translation>
+    </message>
     <message id="library_empty_title">
         <source></source>
         <translation>No recordings yet</translation>

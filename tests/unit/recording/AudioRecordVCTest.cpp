@@ -281,7 +281,7 @@ TEST_F(AudioRecordVCTest, ARecordingThatEndsByItselfIsSavedAndSaid) {
     const struct {
         bool stops, hasSound;
         qsizetype saved;
-    } cases[] = {{false, false, 0}, {false, true, 1}, {true, false, 2}};
+    } cases[] = {{false, false, 0}, {false, true, 1}, {true, false, 1}, {true, true, 2}};
     for (const auto& row : cases) {
         presenter.alerts.clear();
         tapRecord();
@@ -290,10 +290,11 @@ TEST_F(AudioRecordVCTest, ARecordingThatEndsByItselfIsSavedAndSaid) {
         row.stops ? tapStop() : runLoop.drain();
         EXPECT_EQ(state(), "I+");
         ASSERT_EQ(presenter.alerts.size(), 1U);
-        EXPECT_EQ(lastAlert(), "unplugged");
+        EXPECT_EQ(presenter.alerts.back().title, qtTrId(row.hasSound ? "record_ended_title" : "alert_title"));
+        EXPECT_EQ(lastAlert(), row.hasSound ? "record_ended" : "unplugged");
         EXPECT_EQ(documents().size(), row.saved);
         ASSERT_EQ(notices.posted.size(), static_cast<std::size_t>(row.saved));
-        EXPECT_TRUE(row.saved == 0 || notices.posted.back().text == qtTrId(row.stops ? "record_saved" : "record_kept"));
+        EXPECT_TRUE(!row.hasSound || notices.posted.back().text == qtTrId(row.stops ? "record_saved" : "record_kept"));
         runLoop.advance(1.0);
     }
 }
