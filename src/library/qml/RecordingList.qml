@@ -16,11 +16,20 @@ ListView {
     property bool isByKey: false
     readonly property bool isFrameShown: activeFocus && isByKey
 
-    /// A tap has chosen a row.
+    /// When a tap has last opened a row, in milliseconds.
+    property real opened: 0
+
+    /// A tap chooses a row. False for the second of a double one: it means the same as the first, wherever the player that
+    /// comes in has moved the rows meanwhile.
     function take(index) {
+        const now = Date.now()
+        if (screen.isPanelShown && now - opened < Qt.styleHints.mouseDoubleClickInterval)
+            return false
+        opened = now
         isByKey = false
         currentIndex = index
         forceActiveFocus(Qt.MouseFocusReason)
+        return true
     }
 
     /// Goes by that many rows, as far as there are some.

@@ -54,9 +54,7 @@ Item {
         id: tap
 
         onTapped: {
-            root.ListView.view.take(root.index)
-            // The second tap of two means the same as the first.
-            if (tapCount === 1 || !root.expanded)
+            if (root.ListView.view.take(root.index))
                 root.screen.didSelectRowAtIndexPath(0, root.row)
         }
     }
