@@ -222,13 +222,15 @@ Window {
         id: trimmer
 
         stage: window.trimmers
+        // Whoever has gone on to trim has seen what was said before.
+        onShownChanged: if (shown) window.notices.dismiss()
     }
 
     NoticeBar {
         id: notice
 
-        readonly property rect area: window.tabBar.selectedIndex === 0 && recordLoader.item !== null ? recordLoader.item.noticeArea
-                                                                         : Qt.rect(0, 0, content.width, content.height)
+        readonly property rect area: window.screens[window.tabBar.selectedIndex].item?.noticeArea
+                                     ?? Qt.rect(0, 0, content.width, content.height)
         readonly property real room: visible ? height + Theme.gapWide : 0
 
         objectName: "notice"

@@ -41,6 +41,8 @@ public:
 public Q_SLOTS:
     /// Takes the notice away and does what it offers.
     void act();
+    /// Takes the notice away.
+    void dismiss() { clear(); }
 
 Q_SIGNALS:
     void noticeChanged();

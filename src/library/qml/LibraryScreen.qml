@@ -14,6 +14,10 @@ FocusScope {
     property bool unfolded: false
     readonly property bool folded: low && !unfolded
     readonly property PlayerPanel player: screen.player
+    /// What a notice takes of the list while it shows.
+    property real footRoom: 0
+    /// Where a notice hides nothing of the player: over the list.
+    readonly property rect noticeArea: Qt.rect(0, 0, page.width, page.height)
 
     /// Opens and closes the player. What disappears with the keyboard inside it first hands that to the list.
     function follow() {
@@ -88,6 +92,7 @@ FocusScope {
 
             anchors.fill: parent
             screen: root.screen
+            footRoom: root.footRoom
             chromeHeight: chrome.implicitHeight
             stayingHeight: chrome.implicitHeight + chrome.y
         }

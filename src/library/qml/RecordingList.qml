@@ -10,6 +10,8 @@ ListView {
     /// How much of the top is for the chrome, and how much of that always stays.
     required property real chromeHeight
     required property real stayingHeight
+    /// What a notice covers of the foot.
+    required property real footRoom
     /// How far the list has been scrolled from its top.
     readonly property real scrolled: contentY - originY
     /// The last thing that chose a row was a key.
@@ -52,7 +54,8 @@ ListView {
     highlightResizeDuration: 0
     highlightRangeMode: ListView.ApplyRange
     preferredHighlightBegin: stayingHeight
-    preferredHighlightEnd: height
+    preferredHighlightEnd: height - footRoom
+    bottomMargin: footRoom
     keyNavigationEnabled: true
     model: screen.tableView
     header: Item {

@@ -1,0 +1,77 @@
+"""Uses the program as a screen reader does: test_accessibility.py PROGRAM [OPTION OF unittest...]
+
+The trees of the screens are compared with trees/*.txt. With TAVI_RENEW_TREES=1 in the environment these are written anew: read
+the difference before you commit it.
+"""
+
+import os
+import pathlib
+import re
+import sys
+import unittest
+
+import test_app
+from sound import write_tone
+
+FOLDER = pathlib.Path(__file__).resolve().parent
+BUS = "/usr/libexec/at-spi-bus-launcher"
+DATES = re.compile(r"\d\d [A-Z][a-z]{2},? ?\d{4}( \| \d\d:\d\d [AP]M)?")
+
+
+class AccessibilityTest(test_app.AppTest):
+    """A screen reader, on an accessibility bus of its own."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.desktop.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        cls.desktop.spawn(BUS, "--launch-immediately", log=cls.desktop.folder / "accessibility.log")
+
+    def tree(self):
+        done = self.desktop.run("/usr/bin/python3", "-B", FOLDER / "accessible_tree.py", "tavi")
+        return DATES.sub("DATE", done.stdout)
+
+    def expect_tree(self, name):
+        path = FOLDER / f"trees/{name}.txt"
+        if os.environ.get("TAVI_RENEW_TREES"):
+            # What was asked for a moment ago is there when two looks see the same.
+            seen = [None, self.tree()]
+            self.wait(lambda: seen.append(self.tree()) or seen[-1] == seen[-2], "the tree to stay as it is")
+            path.write_text(seen[-1])
+        expected = path.read_text()
+        try:
+            self.wait(lambda: self.tree() == expected, "the tree")
+        except AssertionError:
+            self.assertEqual(self.tree(), expected)
+
+    def test_what_every_screen_says(self):
+        self.documents.mkdir(parents=True)
+        write_tone(self.documents / "Harbour.wav", 1000, 2.0)
+        write_tone(self.documents / "Meeting.wav", 500, 1.0)
+        self.start()
+        self.expect_tree("record")
+        for name, *keys in (("library", "ctrl+2"), ("player", "Down", "Return"), ("closed", "Escape"), ("trimmer", "t"),
+                            ("settings", "Escape", "ctrl+3"), ("choices", "Return"), ("shortcuts", "Escape", "F1")):
+            with self.subTest(name):
+                self.desktop.keys(*keys)
+                self.expect_tree(name)
+
+    def test_what_is_announced(self):
+        said = self.container.with_suffix(".said")
+        self.desktop.spawn("/usr/bin/python3", "-B", FOLDER / "accessible_tree.py", "tavi", "--listen", log=said)
+        self.start()
+        self.tree()
+        self.wait(lambda: "listening" in said.read_text(), "the listener")
+        self.tavi("record")
+        self.wait_capturing(True)
+        self.desktop.keys("space")
+        self.wait_capturing(False)
+        self.tavi("stop")
+        saved = self.wait_saved()
+        expected = ["listening", "Recording", "Paused", f"Saved as {saved.name}"]
+        self.wait(lambda: said.read_text().splitlines() == expected, f"{expected} to be announced")
+
+
+if __name__ == "__main__":
+    test_app.PROGRAM = str(pathlib.Path(sys.argv.pop(1)).resolve())
+    unittest.main()
