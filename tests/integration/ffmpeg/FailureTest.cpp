@@ -224,6 +224,49 @@ TEST_F(FailureTest, APowerCutThatLeavesHolesTakesWhatStandsBehindThemAtMost) {
     }
 }
 
+TEST_F(FailureTest, ADiskThatIsFullAtAnyWriteLosesNothingThatWasOnIt) {
+    const std::vector<float> sound = tone(kStereo, 19200);
+    int calls = 0;
+    int room = 0;
+    const PwriteFunction pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) {
+        errno = ENOSPC;
+        return calls++ < room ? ::pwrite(fd, data, size, offset) : -1;
+    };
+    for (const Type& type : kTypes) {
+        const AudioRecordSettings settings = settingsFor(type, kQualities[2]);
+        bool isWhole = false;
+        for (room = 0; !isWhole; ++room) {
+            SCOPED_TRACE(testing::Message() << type.extension << " " << room);
+            calls = 0;
+            int blocks = 0;
+            std::filesystem::remove(pathFor(type));
+            auto writer = FfmpegAudioFileWriters(pwrite).create(pathFor(type), settings);
+            if (!writer) {
+                continue;
+            }
+            ASSERT_TRUE((*writer)->setInputFormat(kStereo));
+            while (blocks < 8 && (*writer)->write(sound.data(), 19200) && (*writer)->flush()) {
+                ++blocks;
+            }
+            isWhole = (*writer)->finish() && blocks == 8;
+            EXPECT_TRUE(repaired(pathFor(type)) || blocks == 0);
+            EXPECT_GE(m_durations.durationOfFile(pathFor(type)), 0.4 * blocks - 0.1);
+        }
+        const auto left = record(type, kQualities[2], tone(kStereo, 96000), kStereo, false);
+        const double whole = m_durations.durationOfFile(left);
+        calls = 1;
+        for (room = 0; calls > room; ++room) {
+            SCOPED_TRACE(testing::Message() << type.extension << " repaired " << room);
+            calls = 0;
+            const auto copy = file("copy", contents(left));
+            repaired(copy, pwrite);
+            EXPECT_NEAR(m_durations.durationOfFile(copy), whole, 0.001);
+            EXPECT_TRUE(repaired(copy) && !isFragmented(copy));
+            EXPECT_NEAR(m_durations.durationOfFile(copy), whole, 0.001);
+        }
+    }
+}
+
 TEST_F(FailureTest, AWavFileOfMoreThanFourGigabytesIsCompletedAsRf64) {
     const auto path = record(kTypes[1], kQualities[0], tone(kStereo, 48000), kStereo, false);
     const auto header = static_cast<std::uintmax_t>(contents(path).indexOf("data") + 8);
