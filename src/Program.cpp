@@ -15,6 +15,7 @@
 #include <thread>
 
 #include "DisplayGuard.h"
+#include "LastMoment.h"
 #include "Output.h"
 #include "Screens.h"
 #include "SettingsFiles.h"
@@ -286,6 +287,7 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
 
     platform.emplace(container, busName);
     screens.emplace(*platform);
+    const LastMoment lastMoment([&delegate = screens->delegate] { delegate.applicationWillTerminate(); });
     screens->delegate.applicationDidFinishLaunching({request.shortcutType});
     QQuickWindow* window = loadWindow(engine, *screens);
     if (window == nullptr) {

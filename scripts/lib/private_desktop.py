@@ -119,6 +119,9 @@ class PrivateDesktop:
         """The sound server dies without a word."""
         self.stop(self._sound, signal.SIGKILL)
 
+    def kill_display(self):
+        self.stop(self._display, signal.SIGKILL)
+
     def _start_bus(self):
         runtime = self.folder / "run"
         runtime.mkdir(mode=0o700)
@@ -133,8 +136,8 @@ class PrivateDesktop:
     def _start_display(self):
         reader, writer = os.pipe()
         width, height = self.screen
-        self.spawn("Xvfb", "-displayfd", writer, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
-                   log=self.folder / "display.log", pass_fds=[writer])
+        self._display = self.spawn("Xvfb", "-displayfd", writer, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
+                                   log=self.folder / "display.log", pass_fds=[writer])
         os.close(writer)
         with os.fdopen(reader) as pipe:
             number = pipe.readline().strip()

@@ -161,6 +161,13 @@ class Recording(AppTest):
         # The test's bus has no desktop on it; nothing else is worth a word.
         self.assertRegex(self.log.read_text(), r"^Nothing here keeps the screen on: .*\n$")
 
+    def test_a_display_that_goes_leaves_a_saved_recording(self):
+        app = self.start("record")
+        self.play_while_recording()
+        self.desktop.kill_display()
+        app.wait(20)
+        self.assert_holds_tone(self.wait_saved())
+
     def test_a_killed_recording_is_in_the_library_at_the_next_start(self):
         app = self.start("record")
         self.play_while_recording()

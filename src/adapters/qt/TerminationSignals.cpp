@@ -35,9 +35,10 @@ TerminationSignals::TerminationSignals(std::function<void(int)> callback) : m_ca
     m_notifier = std::make_unique<QSocketNotifier>(m_pipe[0], QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { deliver(); });
     struct sigaction action = {};
-    action.sa_handler = writeSignalToPipe;
     action.sa_flags = SA_RESTART;
     for (std::size_t i = 0; i < kSignals.size(); ++i) {
+        const bool isOfAWrite = kSignals[i] == SIGPIPE || kSignals[i] == SIGXFSZ;
+        action.sa_handler = isOfAWrite ? SIG_IGN : writeSignalToPipe;
         ::sigaction(kSignals[i], nullptr, &m_previous[i]);
         if (m_previous[i].sa_handler != SIG_IGN) {
             ::sigaction(kSignals[i], &action, nullptr);

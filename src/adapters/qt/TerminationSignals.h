@@ -9,8 +9,8 @@
 
 namespace tavi {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread, so that the program ends in order: a recording is
-/// finished before the process goes.
+/// Turns the signals that ask a program to end into a call on the main thread, so that it ends in order: a recording is
+/// finished before the process goes. Those that would end it for a write that failed are ignored: the write says so.
 ///
 /// One at a time; main thread. A signal that was being ignored at the start, as nohup does with SIGHUP, stays ignored.
 /// The destructor restores what the signals did before.
@@ -23,7 +23,8 @@ public:
     TerminationSignals& operator=(const TerminationSignals&) = delete;
 
 private:
-    static constexpr std::array<int, 3> kSignals = {SIGTERM, SIGINT, SIGHUP};
+    static constexpr std::array<int, 8> kSignals = {SIGTERM, SIGINT,  SIGHUP,  SIGQUIT,
+                                                    SIGUSR1, SIGUSR2, SIGPIPE, SIGXFSZ};
 
     void deliver();
 
