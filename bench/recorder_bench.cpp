@@ -1,16 +1,25 @@
-// Half an hour of recording at full speed in every type: how fast it goes, and what memory it holds after a minute and
-// at the end.
+// Half an hour of recording at full speed in every type: how fast it goes, what memory it holds after a minute and at
+// the end, and by how much the file's length is off. recorder_bench [MINUTES [EXTENSION...]], such as 1440 wav for a
+// day in one type.
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <cctype>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <numbers>
+#include <string_view>
 #include <thread>
 #include <vector>
 
+#include "adapters/ffmpeg/reading/FfmpegAudioDuration.h"
 #include "adapters/ffmpeg/recording/FfmpegAudioFileWriters.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/recorder/CaptureRecorder.h"
@@ -21,7 +30,6 @@ namespace {
 constexpr int kRate = 48000;
 constexpr std::size_t kFragment = kRate / 12;
 constexpr std::int64_t kMinute = std::int64_t{60} * kRate;
-constexpr std::int64_t kMinutes = 30;
 
 /// Counts what has been written, so that the feeder does not run ahead of it.
 class CountingWriter : public tavi::AudioFileWriter {
@@ -90,13 +98,19 @@ std::vector<float> tone() {
     return samples;
 }
 
-void measure(const char* extension, std::uint32_t format, tavi::RunLoop& runLoop) {
+struct Type {
+    const char* extension;
+    std::uint32_t format;
+};
+
+void measure(const Type& type, std::int64_t minutes, tavi::RunLoop& runLoop) {
+    const char* extension = type.extension;
     const QTemporaryDir folder;
     tavi::AudioRecordSettings settings;
-    settings.formatID = format;
+    settings.formatID = type.format;
+    const auto path = tavi::nativePath(folder.filePath(QStringLiteral("recording.") + QString::fromLatin1(extension)));
     tavi::FfmpegAudioFileWriters writers;
-    auto writer = writers.create(
-        tavi::nativePath(folder.filePath(QStringLiteral("recording.") + QString::fromLatin1(extension))), settings);
+    auto writer = writers.create(path, settings);
     if (!writer) {
         std::fprintf(stderr, "%s: %s\n", extension, qPrintable(writer.error().text));
         std::exit(EXIT_FAILURE);
@@ -109,7 +123,7 @@ void measure(const char* extension, std::uint32_t format, tavi::RunLoop& runLoop
     const std::vector<float> fragment = tone();
     double early = 0.0;
     const auto start = std::chrono::steady_clock::now();
-    for (std::int64_t fed = 0; fed < kMinutes * kMinute; fed += static_cast<std::int64_t>(kFragment)) {
+    for (std::int64_t fed = 0; fed < minutes * kMinute; fed += static_cast<std::int64_t>(kFragment)) {
         while (fed - written > std::int64_t{4} * kRate) {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
@@ -122,8 +136,15 @@ void measure(const char* extension, std::uint32_t format, tavi::RunLoop& runLoop
     recorder.waitUntilFinished();
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     std::printf("figure: %s-memory-1-minute %.2f MB\n", extension, early);
-    std::printf("figure: %s-memory-30-minutes %.2f MB\n", extension, late);
-    std::printf("figure: %s-speed %.0f times\n", extension, 60.0 * static_cast<double>(kMinutes) / seconds.count());
+    std::printf("figure: %s-memory-%lld-minutes %.2f MB\n", extension, static_cast<long long>(minutes), late);
+    std::printf("figure: %s-speed %.0f times\n", extension, 60.0 * static_cast<double>(minutes) / seconds.count());
+    std::printf("figure: %s-length-off %.6f s\n", extension,
+                tavi::FfmpegAudioDuration().durationOfFile(path) - 60.0 * static_cast<double>(minutes));
+    std::array<char, 5> magic{};
+    std::ifstream(path).read(magic.data(), 4);
+    std::printf("%s: %.2f GB, begins with %.4s\n", extension,
+                static_cast<double>(std::filesystem::file_size(path)) / 1e9,
+                std::isprint(magic[0]) != 0 ? magic.data() : "a number");
     std::fflush(stdout);
 }
 
@@ -132,10 +153,16 @@ void measure(const char* extension, std::uint32_t format, tavi::RunLoop& runLoop
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     tavi::QtRunLoop runLoop;
-    measure("m4a", tavi::kAudioFormatAppleLossless, runLoop);
-    measure("wav", tavi::kAudioFormatLinearPCM, runLoop);
-    measure("caf", tavi::kAudioFormatAppleIMA4, runLoop);
-    measure("mp4", tavi::kAudioFormatMPEG4AAC, runLoop);
-    measure("aac", tavi::kAudioFormatMPEG4AAC, runLoop);
+    const std::int64_t minutes = argc > 1 ? std::atoll(argv[1]) : 30;
+    const std::vector<std::string_view> wanted(argv + std::min(argc, 2), argv + argc);
+    for (const Type& type : {Type{"m4a", tavi::kAudioFormatAppleLossless},
+                             {"wav", tavi::kAudioFormatLinearPCM},
+                             {"caf", tavi::kAudioFormatAppleIMA4},
+                             {"mp4", tavi::kAudioFormatMPEG4AAC},
+                             {"aac", tavi::kAudioFormatMPEG4AAC}}) {
+        if (wanted.empty() || std::find(wanted.begin(), wanted.end(), type.extension) != wanted.end()) {
+            measure(type, minutes, runLoop);
+        }
+    }
     return EXIT_SUCCESS;
 }
