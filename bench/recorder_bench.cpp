@@ -142,9 +142,8 @@ void measure(const Type& type, std::int64_t minutes, tavi::RunLoop& runLoop) {
                 tavi::FfmpegAudioDuration().durationOfFile(path) - 60.0 * static_cast<double>(minutes));
     std::array<char, 5> magic{};
     std::ifstream(path).read(magic.data(), 4);
-    std::printf("%s: %.2f GB, begins with %.4s\n", extension,
-                static_cast<double>(std::filesystem::file_size(path)) / 1e9,
-                std::isprint(magic[0]) != 0 ? magic.data() : "a number");
+    std::printf("%s: %.2f GB, begins with %s\n", extension, static_cast<double>(std::filesystem::file_size(path)) / 1e9,
+                std::isprint(magic[0]) != 0 ? magic.data() : "");
     std::fflush(stdout);
 }
 

@@ -162,7 +162,7 @@ FileResult<void> repairMp4(int fd, const Mp4Movie& movie, const PwriteFunction& 
     if (!movie.isFragmented) {
         return {};
     }
-    const FileResult<void> result = cut(fd, endBeforeZeros(fd, movie.box.end, kMostZeros));
+    FileResult<void> result = cut(fd, endBeforeZeros(fd, movie.box.end, kMostZeros));
     if (result && headerDuration(fd).value_or(0) > 0) {
         // What it does not understand, or has no room for, plays as far as it did.
         static_cast<void>(finalizeMp4(fd, pwrite));
