@@ -138,15 +138,16 @@ TEST_F(FailureTest, AKillLosesWhatTheCodecHoldsAndNothingElse) {
 }
 
 TEST_F(FailureTest, APowerCutTakesLessThanFiveSecondsWhateverPagesItLeaves) {
-    constexpr std::size_t kPage = 4096;
+    constexpr qsizetype kPage = 4096;
     const std::vector<float> sound = tone(kStereo, 19200);
     std::minstd_rand random(1);
     for (const Type& type : kTypes) {
-        std::vector<std::pair<std::size_t, QByteArray>> writes;
-        std::size_t onDisk = 0;
+        QByteArray written;
+        QByteArray onDisk;
         std::counting_semaphore<> synced(0);
         const auto pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) {
-            writes.emplace_back(offset, QByteArray(static_cast<const char*>(data), static_cast<qsizetype>(size)));
+            written.resize(std::max<qsizetype>(written.size(), offset + static_cast<qsizetype>(size)), '\0');
+            std::copy_n(static_cast<const char*>(data), size, written.begin() + offset);
             return ::pwrite(fd, data, size, offset);
         };
         const auto sync = [&](int) {
@@ -157,40 +158,34 @@ TEST_F(FailureTest, APowerCutTakesLessThanFiveSecondsWhateverPagesItLeaves) {
         ASSERT_TRUE(writer && (*writer)->setInputFormat(kStereo));
         for (int flushes = 1; flushes <= 40; ++flushes) {
             ASSERT_TRUE((*writer)->write(sound.data(), 19200) && (*writer)->flush());
-            for (int cuts = flushes % 4 == 0 ? 3 : 0; cuts > 0; --cuts) {
-                std::vector<char> disk;
-                for (std::size_t i = 0; i < writes.size(); ++i) {
-                    const auto& [offset, bytes] = writes[i];
-                    disk.resize(std::max(disk.size(), offset + static_cast<std::size_t>(bytes.size())));
-                    for (std::size_t at = offset, end = 0; at < offset + static_cast<std::size_t>(bytes.size());
-                         at = end) {
-                        end = std::min(at / kPage * kPage + kPage, offset + static_cast<std::size_t>(bytes.size()));
-                        if (i < onDisk || random() % 2 == 0) {
-                            std::copy_n(bytes.data() + (at - offset), end - at, disk.data() + at);
-                        }
-                    }
+            onDisk.resize(written.size(), '\0');
+            for (int cuts = 0; cuts < (flushes % 4 == 0 ? 3 : 0); ++cuts) {
+                QByteArray left = written;
+                for (qsizetype page = 0; page < left.size(); page += kPage) {
+                    left.replace(page, kPage, (random() % 2 == 0 ? onDisk : written).mid(page, kPage));
                 }
-                const auto cut = file("cut", QByteArray(disk.data(), static_cast<qsizetype>(disk.size())));
-                EXPECT_TRUE(repaired(cut) || flushes < 12) << type.extension << flushes;
-                EXPECT_GT(m_durations.durationOfFile(cut), 0.4 * flushes - 5) << type.extension << flushes;
+                const auto path = file("left", left);
+                EXPECT_TRUE(repaired(path) || flushes < 12) << type.extension << flushes;
+                EXPECT_GT(m_durations.durationOfFile(path), 0.4 * flushes - 5) << type.extension << flushes;
             }
             if (flushes % 9 == 0) {
                 // It is asked for now.
                 ASSERT_TRUE(synced.try_acquire_for(std::chrono::seconds(20)));
-                onDisk = writes.size();
+                onDisk = written;
             }
         }
     }
 }
 
-TEST_F(FailureTest, ASlowDiskStallsNothingAndIsWaitedForAtTheEnd) {
+TEST_F(FailureTest, ASlowDiskStallsNothingAndItsErrorIsToldAtTheEnd) {
     std::mutex disk;
     std::uintmax_t size = 0;
     const auto path = pathFor(kTypes[1]);
     const auto sync = [&](int) {
         const std::lock_guard lock(disk);
         size = std::filesystem::file_size(path);
-        return 0;
+        errno = EIO;
+        return -1;
     };
     const auto writer =
         FfmpegAudioFileWriters(systemPwrite(), sync).create(path, settingsFor(kTypes[1], kQualities[0]));
@@ -202,7 +197,8 @@ TEST_F(FailureTest, ASlowDiskStallsNothingAndIsWaitedForAtTheEnd) {
             ASSERT_TRUE((*writer)->write(second.data(), 48000) && (*writer)->flush());
         }
     }
-    EXPECT_TRUE((*writer)->pause() && (*writer)->finish());
+    EXPECT_TRUE((*writer)->pause());
+    EXPECT_FALSE((*writer)->finish());
     EXPECT_GE(size, 30U * 8000);
 }
 
@@ -212,16 +208,11 @@ TEST_F(FailureTest, WhatWasInterruptedAnywhereIsMadeWholeOnce) {
         const QByteArray all = contents(path);
         for (int step = 0; step <= 13; ++step) {
             SCOPED_TRACE(testing::Message() << type.extension << " " << quality.rate << " " << step);
-            QByteArray bytes = all.first(all.size() * step / 13);
-            const double whole = m_durations.durationOfFile(file("cut", bytes));
-            if (step % 3 == 1) {
-                // A power cut.
-                bytes.append(5000, '\0');
-            }
-            const auto after = file("after." + std::string(type.extension), bytes);
+            const auto after = file("after", all.first(all.size() * step / 13));
+            const double whole = m_durations.durationOfFile(after);
             const bool hasSound = repaired(after);
             const double seconds = m_durations.durationOfFile(after);
-            const double packet = (type.packet + 64.0) / quality.rate;
+            const double packet = (type.packet + 1.0) / quality.rate;
             EXPECT_EQ(hasSound, seconds * quality.rate > type.priming);
             EXPECT_NEAR(seconds, whole, packet);
             // FFmpeg wants a few packets to know what it is.
