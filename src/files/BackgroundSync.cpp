@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "files/DurableFile.h"
+#include "files/FileNames.h"
 
 namespace tavi {
 
@@ -32,7 +33,9 @@ void BackgroundSync::run() {
         }
         int error = m_sync(m_fd) == 0 ? 0 : errno;
         if (isFirst && error == 0) {
+            // The folder may be as new as the file.
             error = synchronizeFolder(m_folder);
+            error = error != 0 ? error : synchronizeFolder(folderOf(m_folder));
         }
         m_error = m_error != 0 ? m_error : error;
     }
