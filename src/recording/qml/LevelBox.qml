@@ -35,17 +35,8 @@ Rectangle {
         ghostColor: Theme.ghost
         scaleColor: Theme.lineStrong
         columnWidth: 4
+        headColor: box.screen.isRecordingRunning ? Theme.text : box.screen.isRecording ? Theme.faint : "transparent"
         wave: box.screen.waveViewMirror
-    }
-
-    Rectangle {
-        x: Math.round(wave.x + wave.head)
-        y: 1
-        width: 2
-        height: parent.height - 2
-        visible: box.screen.isRecording && wave.head > 0
-        color: Theme.text
-        opacity: box.screen.isRecordingRunning ? 1 : 0.35
     }
 
     Repeater {

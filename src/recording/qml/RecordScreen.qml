@@ -43,7 +43,8 @@ FocusScope {
             x: root.beside ? caption.x : Math.round((page.width - width) / 2)
             y: root.beside ? Math.round((page.height - height) / 2) - 12 : Math.round(root.gap)
             width: root.side
-            height: digits.height + 32
+            // Whole points: what lies between pixels is painted slowly.
+            height: Math.ceil(digits.height) + 32
 
             Text {
                 id: digits

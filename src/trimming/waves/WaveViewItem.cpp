@@ -12,6 +12,7 @@ namespace {
 /// Between the strip's end and what is left of the pass before.
 constexpr int kBlankColumns = 5;
 constexpr int kColumnsPerSecond = 10;
+constexpr double kHeadWidth = 2.0;
 constexpr float kNoBar = -1.0F;
 
 }  // namespace
@@ -34,6 +35,14 @@ void WaveViewItem::setWave(WaveView* wave) {
         adoptSize();
     }
     Q_EMIT waveChanged();
+}
+
+void WaveViewItem::setHeadColor(const QColor& color) {
+    if (color != m_headColor) {
+        m_headColor = color;
+        update();
+        Q_EMIT headColorChanged();
+    }
 }
 
 void WaveViewItem::adoptSize() {
@@ -101,7 +110,6 @@ void WaveViewItem::display(const QRectF& rect) {
     }
     painter.end();
     isAll ? update() : update(shown.adjusted(0.0, 0.0, kBlankColumns * m_columnWidth, 0.0).toAlignedRect());
-    Q_EMIT headChanged();
 }
 
 void WaveViewItem::keepPass() {
@@ -181,6 +189,10 @@ void WaveViewItem::drawDefault(QPainter& painter) const {
 void WaveViewItem::paint(QPainter* painter) {
     if (!m_picture.isNull()) {
         painter->drawImage(QPointF(), m_picture);
+    }
+    const double head = m_wave ? m_wave->newPoint().x() * m_columnWidth : 0.0;
+    if (m_headColor.alpha() > 0 && head > 0.0) {
+        painter->fillRect(QRectF(std::round(head), 0.0, kHeadWidth, height()), m_headColor);
     }
 }
 

@@ -33,8 +33,9 @@ class WaveViewItem : public QQuickPaintedItem {
     /// Colour of the lines at -15 and -30 dB of a mirror from 0 to -45, and of a tick a second; unset, there are none.
     Q_PROPERTY(QColor scaleColor MEMBER m_scaleColor)
     Q_PROPERTY(double columnWidth MEMBER m_columnWidth)
-    /// Where the strip ends.
-    Q_PROPERTY(double head READ head NOTIFY headChanged)
+    /// Colour of a line where the strip ends; transparent, there is none. It is painted with the wave: something opaque
+    /// above would leave the wave a shape that is slow to paint.
+    Q_PROPERTY(QColor headColor READ headColor WRITE setHeadColor NOTIFY headColorChanged)
 
 public:
     explicit WaveViewItem(QQuickItem* parent = nullptr);
@@ -44,11 +45,12 @@ public:
     void paint(QPainter* painter) override;
     /// What is on screen, in device pixels.
     const QImage& picture() const { return m_picture; }
-    double head() const { return m_wave ? m_wave->newPoint().x() * m_columnWidth : 0.0; }
+    QColor headColor() const { return m_headColor; }
+    void setHeadColor(const QColor& color);
 
 Q_SIGNALS:
     void waveChanged();
-    void headChanged();
+    void headColorChanged();
 
 protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
@@ -72,6 +74,7 @@ private:
     QColor m_barColor;
     QColor m_ghostColor;
     QColor m_scaleColor;
+    QColor m_headColor = Qt::transparent;
     double m_columnWidth = 1.0;
     /// Half heights of the bars of this pass and of those before, by column, as parts of the wave's range; below 0 for
     /// none.
