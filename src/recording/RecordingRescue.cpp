@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
@@ -96,7 +98,9 @@ std::vector<Rescued> RecordingRescue::rescueAll(const AppContainer& container, A
     for (const std::filesystem::path& path : sortedItems(container.unsavedPath())) {
         auto folder = UnsavedFolder::lock(path);
         if (!folder) {
-            all.push_back({Rescued::Outcome::InUse, path});
+            if (errno == EWOULDBLOCK) {
+                all.push_back({Rescued::Outcome::InUse, path});
+            }
             continue;
         }
         for (const std::filesystem::path& file : folder->files()) {

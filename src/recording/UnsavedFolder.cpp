@@ -15,14 +15,18 @@ FileResult<UnsavedFolder> UnsavedFolder::create(const std::filesystem::path& uns
     for (int number = 1;; ++number) {
         // Not numberedPath(): a month may be abbreviated with a dot, which begins no extension here.
         const std::filesystem::path path = unsaved / (number == 1 ? name : name + '_' + std::to_string(number));
-        if (::mkdir(path.c_str(), 0700) == 0) {
-            // Whoever looks for recordings to rescue may have taken the new folder for an empty one.
+        const bool isMade = ::mkdir(path.c_str(), 0700) == 0;
+        if (isMade) {
             if (auto folder = lock(path)) {
                 return std::move(*folder);
             }
-        } else if (errno != EEXIST) {
+        }
+        // Whoever looks for recordings to rescue may have taken a new folder for an empty one.
+        const int error = errno;
+        if (isMade ? error != EWOULDBLOCK && error != ENOENT : error != EEXIST) {
+            ::rmdir(path.c_str());
             return fileFailure("Cannot make the folder \"" + path.native() +
-                               "\": " + std::generic_category().message(errno));
+                               "\": " + std::generic_category().message(error));
         }
     }
 }
@@ -30,8 +34,18 @@ FileResult<UnsavedFolder> UnsavedFolder::create(const std::filesystem::path& uns
 std::optional<UnsavedFolder> UnsavedFolder::lock(const std::filesystem::path& path) {
     FileDescriptor folder = FileDescriptor::open(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
     struct stat attributes = {};
-    if (!folder.isValid() || ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0 || ::fstat(folder.get(), &attributes) != 0 ||
-        attributes.st_nlink == 0) {
+    if (!folder.isValid()) {
+        return std::nullopt;
+    }
+    if (::flock(folder.get(), LOCK_EX | LOCK_NB) != 0 || ::fstat(folder.get(), &attributes) != 0) {
+        const int error = errno;
+        folder.close();
+        errno = error;
+        return std::nullopt;
+    }
+    if (attributes.st_nlink == 0) {
+        folder.close();
+        errno = ENOENT;
         return std::nullopt;
     }
     return UnsavedFolder(std::move(folder), path);

@@ -16,9 +16,11 @@ namespace tavi {
 /// however that ends. Waits for no lock and no disk. One thread at a time.
 class UnsavedFolder {
 public:
-    /// Makes a folder below that of all unsaved recordings, with the name or the first numbered one that is free.
+    /// Makes a folder below that of all unsaved recordings, with the name or the first numbered one that is free. Fails
+    /// where it can be neither made nor locked.
     static FileResult<UnsavedFolder> create(const std::filesystem::path& unsaved, const std::string& name);
-    /// One that is there; nothing where somebody else has it, or has just removed it.
+    /// One that is there; nothing, with errno set, where somebody else has it (EWOULDBLOCK) or has just removed it
+    /// (ENOENT), or where the file system has no such locks.
     static std::optional<UnsavedFolder> lock(const std::filesystem::path& path);
 
     const std::filesystem::path& path() const { return m_path; }

@@ -359,6 +359,14 @@ TEST_F(AudioRecordVCTest, WhatCannotBeSavedAndWhatLiesInTheWayIsRescued) {
     }
 }
 
+TEST_F(AudioRecordVCTest, WithoutAFolderOfItsOwnARecordingGrowsInTheCachesFolder) {
+    std::ofstream(container.root() / "Unsaved") << "in the way";
+    tapRecord();
+    EXPECT_EQ(recorders.lastPath, container.cachesPath() / "vexmosounds.m4a");
+    tapStop();
+    EXPECT_EQ(documents().size(), 1);
+}
+
 TEST_F(AudioRecordVCTest, MailsWhatIsNotTooLarge) {
     const struct {
         std::uintmax_t bytes;
