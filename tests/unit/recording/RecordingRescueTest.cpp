@@ -75,6 +75,8 @@ protected:
 TEST_F(RecordingRescueTest, WhatWasLeftIsSavedOnceUnderAFreeNameAndSaidOnce) {
     container.unsavedPath();
     EXPECT_EQ(rescued(), "0");
+    // While another one is recorded.
+    formatHold.setHeld(true);
     const fs::path one = add("Unsaved/2024_Mar_05_14_03_59/vexmosounds.m4a");
     fs::create_hard_link(one, container.cachesPath() / "vexmosounds.m4a");
     add("Unsaved/2024_Mar_05_14_03_00/vexmosounds.wav", "");
@@ -113,10 +115,11 @@ TEST_F(RecordingRescueTest, WhatCannotBeSavedIsKeptAndTriedAgain) {
     const fs::path one = add("Unsaved/one/vexmosounds.m4a");
     setWritable(false);
     EXPECT_EQ(rescued(), "rescue_waits 0");
+    EXPECT_EQ(rescued(), "0");
     add("Unsaved/two/vexmosounds.m4a", "");
     runLoop.advance(60.0);
     EXPECT_EQ(heard(), "0") << "says it again";
-    EXPECT_EQ(repair.repaired.size(), 5U) << "tries too seldom or too often";
+    EXPECT_EQ(repair.repaired.size(), 7U) << "tries too seldom or too often";
     EXPECT_TRUE(fs::exists(one));
     setWritable(true);
     repair.answer = failure(QStringLiteral("damaged"));
@@ -133,15 +136,16 @@ TEST_F(RecordingRescueTest, WhatLiesInTheCachesFolderIsTakenIn) {
     add("Caches/vexmosounds.wav");
     add("Caches/vexmosounds_2.wav");
     add("Caches/other.wav");
+    fs::create_hard_link(container.addDocument("Saved.mp4", "sound"), container.cachesPath() / "vexmosounds.mp4");
     // A recording is running: the name that it may have is let be.
     formatHold.setHeld(true);
     EXPECT_EQ(rescued(), "rescue_saved 1");
-    EXPECT_THAT(names("Caches"), ElementsAre("other.wav", "recording.lock", "vexmosounds.wav"));
+    EXPECT_THAT(names("Caches"), ElementsAre("other.wav", "recording.lock", "vexmosounds.mp4", "vexmosounds.wav"));
     formatHold.setHeld(false);
     EXPECT_EQ(rescued(), "rescue_saved 1");
     EXPECT_THAT(names("Caches"), ElementsAre("other.wav", "recording.lock"));
     EXPECT_THAT(names("Documents"),
-                ElementsAre(::testing::StartsWith("Recovered_2"), ::testing::StartsWith("Recovered_2")));
+                ElementsAre(::testing::StartsWith("Recovered_2"), ::testing::StartsWith("Recovered_2"), "Saved.mp4"));
 }
 
 }  // namespace tavi::test
