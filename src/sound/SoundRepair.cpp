@@ -173,15 +173,17 @@ FileResult<void> repairMp4(int fd, const Mp4Movie& movie, const PwriteFunction& 
 FileResult<void> repairAdts(int fd, int rate) {
     constexpr std::int64_t kLongestFrame = 8191;
     constexpr std::int64_t kLastBytes = 16 * kLongestFrame;
-    const FileResult<void> result = cut(fd, endBeforeZeros(fd, 0, kMostZeros));
-    const std::int64_t size = regularFileSize(fd);
+    const std::int64_t zeros = endBeforeZeros(fd, 0, kMostZeros);
     AdtsScanner scanner(fd, rate, static_cast<std::size_t>(kLastBytes));
-    scanner.seek(std::max<std::int64_t>(0, size - kLastBytes));
-    std::int64_t end = -kLongestFrame;
-    while (const auto found = scanner.next()) {
+    std::int64_t end = std::max<std::int64_t>(0, zeros - kLastBytes);
+    scanner.seek(end);
+    // Behind a gap a frame counts only for the one that follows it, even when that is torn.
+    bool isInStep = false;
+    for (auto found = scanner.next(); found && found->offset < zeros; found = scanner.next()) {
+        isInStep = found->offset == end;
         end = found->offset + found->frame.bytes;
     }
-    return result && size - end < kLongestFrame ? cut(fd, end) : result;
+    return isInStep && zeros - end < kLongestFrame ? cut(fd, end) : FileResult<void>();
 }
 
 std::optional<AdtsFrame> firstAdtsFrame(int fd) {

@@ -11,6 +11,7 @@
 #include "files/FileDescriptor.h"
 #include "files/PositionedIo.h"
 #include "sound/HeaderDuration.h"
+#include "sound/SoundRepair.h"
 #include "sound/adts/AdtsStream.h"
 #include "sound/alac/AlacDecoder.h"
 #include "sound/caf/CafWriter.h"
@@ -150,6 +151,16 @@ void finalize(const FileDescriptor& file, const std::optional<double>& seconds) 
     }
 }
 
+/// Completed once, a file stays as it is.
+void repair(const FileDescriptor& file) {
+    const auto hasSound = tavi::repairSound(file.get());
+    if (hasSound) {
+        const Bytes once = contents(file);
+        const auto same = tavi::repairSound(file.get());
+        require(same && *same == *hasSound && contents(file) == once);
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -169,6 +180,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     decodeLossless(data, size);
     readMp4(file);
+    const FileDescriptor interrupted(::memfd_create("interrupted", MFD_CLOEXEC));
+    require(tavi::writeFully(tavi::systemPwrite(), interrupted.get(), data, size, 0).error == 0);
+    repair(interrupted);
     finalize(file, seconds);
     return 0;
 }
