@@ -17,8 +17,9 @@ namespace tavi {
 
 namespace {
 
-/// As many lengths are found out at once: they take less than a frame.
-constexpr std::size_t kAtOnce = 32;
+/// Fewer are not worth another thread.
+constexpr std::size_t kFewFiles = 32;
+constexpr std::size_t kFirstChunk = 32;
 constexpr std::size_t kLargestChunk = 2048;
 
 /// Names in a folder in the order in which the file system gives them; none where it cannot be read.
@@ -73,7 +74,7 @@ std::vector<RecordingEntry> RecordingLister::list(const std::filesystem::path& f
     if (m_open.empty()) {
         return entries;
     }
-    if (lengths == Lengths::Measured || m_open.size() <= kAtOnce) {
+    if (lengths == Lengths::Measured) {
         measureNow();
     }
     for (RecordingEntry& entry : entries) {
@@ -139,7 +140,7 @@ void RecordingLister::measureNow() {
         }
     };
     // Whoever asks for the whole list waits for it: two threads are through many files sooner.
-    const std::size_t half = m_open.size() > kAtOnce ? m_open.size() / 2 : 0;
+    const std::size_t half = m_open.size() > kFewFiles ? m_open.size() / 2 : 0;
     std::future<void> other;
     if (half > 0) {
         other = std::async(std::launch::async, measureRange, std::size_t{0}, half);
@@ -154,7 +155,7 @@ void RecordingLister::measureNow() {
 }
 
 void RecordingLister::measure(std::function<void()> update) {
-    m_pass = std::make_shared<Pass>(Pass{std::move(update), 0});
+    m_pass = std::make_shared<Pass>(std::move(update));
     measureNext();
 }
 
@@ -167,17 +168,18 @@ void RecordingLister::measureNext() {
         return;
     }
     // The first rows are complete at once; later ones come in larger portions, as each repaints the list.
-    const std::size_t count = std::min({m_open.size() - m_pass->done, m_pass->done + kAtOnce, kLargestChunk});
+    const std::size_t count = std::min({m_open.size() - m_pass->done, m_pass->done + kFirstChunk, kLargestChunk});
     const auto first = m_open.begin() + static_cast<std::ptrdiff_t>(m_pass->done);
     std::vector<OpenFile> chunk(first, first + static_cast<std::ptrdiff_t>(count));
     m_runLoop.dispatchBackground([this, chunk = std::move(chunk), pass = std::weak_ptr<Pass>(m_pass),
-                                  &durations = m_durations, &runLoop = m_runLoop]() mutable {
+                                  stop = m_pass->stop.get_token(), &durations = m_durations,
+                                  &runLoop = m_runLoop]() mutable {
         std::vector<double> seconds;
         for (const OpenFile& file : chunk) {
-            if (pass.expired()) {
+            seconds.push_back(durations.durationOfFile(file.path, stop));
+            if (stop.stop_requested()) {
                 return;
             }
-            seconds.push_back(durations.durationOfFile(file.path));
         }
         // The lister lives as long as its pass, which only the main thread ends.
         runLoop.dispatchMain([this, chunk = std::move(chunk), pass, seconds = std::move(seconds)] {

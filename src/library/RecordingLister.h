@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <stop_token>
 #include <unordered_map>
 #include <vector>
 
@@ -19,8 +20,8 @@ namespace tavi {
 /// Makes the entries of a folder's files. Main thread only.
 ///
 /// There is no index file: how long each file plays is remembered in memory, for as long as the file and its contents
-/// are the same. Finding that out for ten thousand files takes a moment, so a list can be had without it and completed
-/// in the background.
+/// are the same. Finding that out for ten thousand files takes a moment, and for a single large one it may, so a list
+/// can be had without it and completed in the background.
 class RecordingLister {
 public:
     /// Both must outlive the lister.
@@ -29,7 +30,7 @@ public:
     enum class Lengths {
         /// Every length is found out before list() returns.
         Measured,
-        /// Where there are many lengths to find out they show as "--:--", and measure() goes on with them.
+        /// Lengths that are to be found out show as "--:--", and measure() goes on with them.
         Known,
     };
 
@@ -53,10 +54,16 @@ private:
         std::filesystem::path path;
         FileIdentity identity;
     };
-    /// One run of measure(); it is over when nobody holds it any more.
+    /// One run of measure(); it is over when nobody holds it any more, and then gives up what it reads.
     struct Pass {
+        explicit Pass(std::function<void()> whenKnown) : update(std::move(whenKnown)) {}
+        Pass(const Pass&) = delete;
+        Pass& operator=(const Pass&) = delete;
+        ~Pass() { stop.request_stop(); }
+
         std::function<void()> update;
         std::size_t done = 0;
+        std::stop_source stop;
     };
 
     RecordingEntry entryOf(const std::filesystem::path& name, const std::filesystem::path& path,

@@ -45,15 +45,16 @@ void RecordingShapes::makeNext() {
     }
     const Wanted next = std::move(m_wanted.back());
     m_wanted.pop_back();
-    m_runLoop.dispatchBackground([self = QPointer(this), next, &files = m_files, &runLoop = m_runLoop] {
-        runLoop.dispatchMain([self, identity = next.identity, shape = sampleWaveform(files, next.path)] {
-            if (self) {
-                self->m_known.insert_or_assign(identity, shape);
-                Q_EMIT self->made(identity);
-                self->makeNext();
-            }
+    m_runLoop.dispatchBackground(
+        [self = QPointer(this), next, stop = m_stop.get_token(), &files = m_files, &runLoop = m_runLoop] {
+            runLoop.dispatchMain([self, identity = next.identity, shape = sampleWaveform(files, next.path, stop)] {
+                if (self) {
+                    self->m_known.insert_or_assign(identity, shape);
+                    Q_EMIT self->made(identity);
+                    self->makeNext();
+                }
+            });
         });
-    });
 }
 
 }  // namespace tavi

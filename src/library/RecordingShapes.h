@@ -3,6 +3,7 @@
 #include <QObject>
 #include <deque>
 #include <filesystem>
+#include <stop_token>
 #include <unordered_map>
 
 #include "files/FileIdentity.h"
@@ -21,6 +22,8 @@ class RecordingShapes : public QObject {
 public:
     /// Both must outlive the shapes, and what these still do in the background.
     RecordingShapes(ExtAudioFiles& files, RunLoop& runLoop) : m_files(files), m_runLoop(runLoop) {}
+    /// What is being read is given up soon.
+    ~RecordingShapes() override { m_stop.request_stop(); }
 
     /// The shape of the file at a path; null until it has been made, which this asks for. What was asked for last is
     /// made first; of more than a screen can show, the oldest are dropped until they are asked for again.
@@ -44,6 +47,7 @@ private:
     /// The newest last.
     std::deque<Wanted> m_wanted;
     bool m_isRunning = false;
+    std::stop_source m_stop;
 };
 
 }  // namespace tavi

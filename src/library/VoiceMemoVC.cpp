@@ -39,7 +39,7 @@ void VoiceMemoVC::viewDidLoad() {
     m_btnSortDate.title = qtTrId("Date");
     m_btnSortSize.title = qtTrId("Size");
     Q_EMIT outletsChanged();
-    rebuild(RecordingLister::Lengths::Known);
+    getAlltheFiles();
     connect(&m_services.notifications, &NotificationCenter::posted, this, &VoiceMemoVC::notificationPosted,
             Qt::UniqueConnection);
 }
@@ -47,17 +47,13 @@ void VoiceMemoVC::viewDidLoad() {
 void VoiceMemoVC::viewWillAppear() {
     m_cloudHeaderText = numberOfSections() == 2 ? qtTrId("iCloud Sync Recording's") : QString();
     Q_EMIT outletsChanged();
-    rebuild(RecordingLister::Lengths::Known);
+    getAlltheFiles();
     resetCell();
 }
 
 void VoiceMemoVC::getAlltheFiles() {
-    rebuild(RecordingLister::Lengths::Measured);
-}
-
-void VoiceMemoVC::rebuild(RecordingLister::Lengths lengths) {
     const std::filesystem::path expanded = expandedName();
-    m_arrRecordings = m_services.lister.list(m_services.container.documentsPath(), lengths);
+    m_arrRecordings = m_services.lister.list(m_services.container.documentsPath(), RecordingLister::Lengths::Known);
     setDefaultSortingButton();
     reloadTable();
     follow(expanded);

@@ -137,7 +137,6 @@ private:
     void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override;
     double remoteControlCurrentTime() const override { return m_player.currentTime(); }
     void sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender);
-    void rebuild(RecordingLister::Lengths lengths);
     void durationsArrived();
     std::filesystem::path pathOf(bool inCloud, int row) const;
     void expandRow(int section, int row);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <stop_token>
 #include <string>
 
 #include "platform/AudioTypes.h"
@@ -53,8 +54,10 @@ public:
     virtual ~ExtAudioFiles() = default;
 
     /// Opens the file at a path. On failure file is left empty. One of the
-    /// kAudioFile codes tells why; a folder, a pipe and a device are no files of a known type.
-    virtual AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) = 0;
+    /// kAudioFile codes tells why; a folder, a pipe and a device are no files of a known type. Asking for the stop ends
+    /// what takes long soon, in opening and in the file: it fails, or the sound is at its end.
+    virtual AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                             const std::stop_token& stop = {}) = 0;
 };
 
 }  // namespace tavi

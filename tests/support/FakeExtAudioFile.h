@@ -137,7 +137,8 @@ private:
 /// Files by their paths. Whoever opens them outlives none of them.
 class FakeExtAudioFiles : public ExtAudioFiles {
 public:
-    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override {
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                     const std::stop_token& = {}) override {
         file.reset();
         ++opened;
         if (failingOpens > 0 && opened >= failingOpens) {

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <filesystem>
 #include <map>
+#include <stop_token>
 
 #include "platform/Application.h"
 #include "platform/AudioDuration.h"
@@ -164,12 +165,17 @@ public:
 /// Durations by file name; 0 for any other.
 class FakeAudioDuration : public AudioDuration {
 public:
-    double durationOfFile(const std::filesystem::path& path) const override {
+    double durationOfFile(const std::filesystem::path& path, const std::stop_token& stop = {}) const override {
+        if (onQuestion) {
+            onQuestion(stop);
+        }
         const auto found = seconds.find(path.filename());
         return found == seconds.end() ? 0.0 : found->second;
     }
 
     std::map<std::filesystem::path, double> seconds;
+    /// What is to happen while a file is read.
+    std::function<void(const std::stop_token& stop)> onQuestion;
 };
 
 }  // namespace tavi::test

@@ -36,9 +36,9 @@ Result<bool> MediaLibrary::repair(const std::filesystem::path& path) {
     return loaded->repair.repair(path);
 }
 
-double MediaLibrary::durationOfFile(const std::filesystem::path& path) const {
+double MediaLibrary::durationOfFile(const std::filesystem::path& path, const std::stop_token& stop) const {
     const Adapters* loaded = adapters();
-    return loaded != nullptr ? loaded->durations.durationOfFile(path) : 0.0;
+    return loaded != nullptr ? loaded->durations.durationOfFile(path, stop) : 0.0;
 }
 
 Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int channels) {
@@ -49,9 +49,10 @@ Result<std::unique_ptr<AudioTempo>> MediaLibrary::create(int sampleRate, int cha
     return loaded->tempos.create(sampleRate, channels);
 }
 
-AudioStatus MediaLibrary::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) {
+AudioStatus MediaLibrary::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                               const std::stop_token& stop) {
     const Adapters* loaded = adapters();
-    return loaded != nullptr ? loaded->files.open(path, file) : kAudioFileUnspecifiedError;
+    return loaded != nullptr ? loaded->files.open(path, file, stop) : kAudioFileUnspecifiedError;
 }
 
 AudioStatus MediaLibrary::create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,

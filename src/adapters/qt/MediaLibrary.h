@@ -54,11 +54,12 @@ public:
     /// Fails when the library cannot be loaded.
     Result<bool> repair(const std::filesystem::path& path) override;
     /// 0 when the library cannot be loaded.
-    double durationOfFile(const std::filesystem::path& path) const override;
+    double durationOfFile(const std::filesystem::path& path, const std::stop_token& stop = {}) const override;
     /// Fails when the library cannot be loaded.
     Result<std::unique_ptr<AudioTempo>> create(int sampleRate, int channels) override;
     /// They answer kAudioFileUnspecifiedError when the library cannot be loaded.
-    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override;
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                     const std::stop_token& stop = {}) override;
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override;
     AudioStatus formatInfo(AudioStreamBasicDescription& format) const override;

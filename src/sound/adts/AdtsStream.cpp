@@ -14,6 +14,7 @@ constexpr std::size_t kReadBytes = std::size_t{64} * 1024;
 /// More than a frame can have, with the header of the next one.
 constexpr std::size_t kFrameRoom = 8192 + kAdtsHeaderBytes;
 constexpr std::int64_t kBlocksBetweenMarks = 64;
+constexpr std::int64_t kMostBetweenFrames = std::int64_t{1} << 20;
 
 }  // namespace
 
@@ -32,28 +33,29 @@ std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes) {
 }
 
 std::optional<AdtsScanner::Found> AdtsScanner::next() {
-    for (bool isInStep = true;; isInStep = false, ++m_offset) {
-        const auto bytes = m_file.at(m_offset, kFrameRoom);
+    for (std::int64_t offset = m_offset; offset <= m_offset + kMostBetweenFrames; ++offset) {
+        const bool isInStep = offset == m_offset;
+        const auto bytes = m_file.at(offset, kFrameRoom);
         if (bytes.size() < kAdtsHeaderBytes) {
-            return std::nullopt;
+            break;
         }
         const auto frame = readAdtsFrame(bytes.data());
         if (!frame || frame->rate != m_rate) {
             continue;
         }
         if (isInStep && frame->bytes > bytes.size()) {
-            return std::nullopt;
+            break;
         }
         if (isInStep ||
             (frame->bytes + kAdtsHeaderBytes <= bytes.size() && readAdtsFrame(bytes.data() + frame->bytes))) {
-            const Found found{*frame, m_offset, bytes.first(frame->bytes)};
-            m_offset += frame->bytes;
-            return found;
+            m_offset = offset + frame->bytes;
+            return Found{*frame, offset, bytes.first(frame->bytes)};
         }
     }
+    return std::nullopt;
 }
 
-std::optional<AdtsStream> AdtsStream::read(int fd) {
+std::optional<AdtsStream> AdtsStream::read(int fd, const std::stop_token& stop) {
     std::array<std::uint8_t, kAdtsHeaderBytes> start{};
     const auto first =
         readFully(fd, start.data(), start.size(), 0) == start.size() ? readAdtsFrame(start.data()) : std::nullopt;
@@ -71,6 +73,9 @@ std::optional<AdtsStream> AdtsStream::read(int fd) {
         stream.m_largestFrame = std::max(stream.m_largestFrame, found->frame.bytes);
         stream.m_blocks += found->frame.blocks;
         end = found->offset + found->frame.bytes;
+        if (stop.stop_requested()) {
+            return std::nullopt;
+        }
     }
     // One frame alone may be chance.
     const bool isSound = stream.m_blocks > 1 || (stream.m_blocks == 1 && end == regularFileSize(fd));
@@ -86,8 +91,8 @@ AdtsStream::Mark AdtsStream::markBefore(std::int64_t block) const {
 AdtsPacketReader::AdtsPacketReader(int fd, AdtsStream stream)
     : m_stream(std::move(stream)), m_scanner(fd, m_stream.rate(), kReadBytes) {}
 
-std::optional<AdtsPacketReader> AdtsPacketReader::open(int fd) {
-    auto stream = AdtsStream::read(fd);
+std::optional<AdtsPacketReader> AdtsPacketReader::open(int fd, const std::stop_token& stop) {
+    auto stream = AdtsStream::read(fd, stop);
     return stream ? std::optional(AdtsPacketReader(fd, std::move(*stream))) : std::nullopt;
 }
 

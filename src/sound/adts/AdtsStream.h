@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <vector>
 
 #include "sound/io/FileWindow.h"
@@ -23,8 +24,9 @@ std::optional<AdtsFrame> readAdtsFrame(const std::uint8_t* bytes);
 inline constexpr std::size_t kAdtsHeaderBytes = 7;
 
 /// Finds the frames of a stream in order. Bytes between frames are skipped: after them a header counts only when
-/// another one follows at the end of its frame. A frame that is cut off by the end of the file does not count. Borrows
-/// the descriptor.
+/// another one follows at the end of its frame. A frame that is cut off by the end of the file does not count. A
+/// megabyte without a frame is the end of the sound, whatever the file goes on with: zeros of a disk that lost power,
+/// or another file altogether. Borrows the descriptor.
 class AdtsScanner {
 public:
     /// Frames of another rate do not count. bytes are read at once.
@@ -47,11 +49,12 @@ private:
     std::int64_t m_offset = 0;
 };
 
-/// How long an ADTS stream is, found by reading through it: the stream itself does not say.
+/// How long an ADTS stream is, found by reading through its frames: the stream itself does not say.
 class AdtsStream {
 public:
-    /// Nothing for a file that does not start with a frame, and for one whose only frame may be chance.
-    static std::optional<AdtsStream> read(int fd);
+    /// Nothing for a file that does not start with a frame, for one whose only frame may be chance, and as soon as the
+    /// stop is asked for.
+    static std::optional<AdtsStream> read(int fd, const std::stop_token& stop = {});
 
     int rate() const { return m_rate; }
     std::int64_t blocks() const { return m_blocks; }
@@ -78,8 +81,8 @@ private:
 /// Hands out the frames of a stream one after the other, from any place. Borrows the descriptor. One thread at a time.
 class AdtsPacketReader {
 public:
-    /// Nothing for what is no ADTS stream.
-    static std::optional<AdtsPacketReader> open(int fd);
+    /// Nothing for what is no ADTS stream, and where the stop is asked for meanwhile.
+    static std::optional<AdtsPacketReader> open(int fd, const std::stop_token& stop = {});
 
     const AdtsStream& stream() const { return m_stream; }
     struct Packet {

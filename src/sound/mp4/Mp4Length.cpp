@@ -14,16 +14,17 @@ std::optional<double> seconds(double units, double scale) {
 }
 
 /// An edit in a file that was still to grow says only where the sound starts.
-std::optional<double> fragmentedSeconds(int fd, const Mp4Movie& movie, const Mp4Track& track) {
+std::optional<double> fragmentedSeconds(int fd, const Mp4Movie& movie, const Mp4Track& track,
+                                        const std::stop_token& stop) {
     const auto fragments = Mp4FragmentReader::open(fd, movie);
     double duration = 0;
     const auto addRun = [&](const Mp4Run& run) {
         for (const Mp4Sample& sample : run.samples) {
             duration += sample.duration;
         }
-        return true;
+        return !stop.stop_requested();
     };
-    if (!fragments || !fragments->forEachRun(addRun)) {
+    if (!fragments || !fragments->forEachRun(addRun) || stop.stop_requested()) {
         return std::nullopt;
     }
     const std::int64_t start = track.edits.empty() ? 0 : std::max<std::int64_t>(0, track.edits.front().start);
@@ -32,13 +33,13 @@ std::optional<double> fragmentedSeconds(int fd, const Mp4Movie& movie, const Mp4
 
 }  // namespace
 
-std::optional<double> mp4Seconds(int fd, const Mp4Movie& movie) {
+std::optional<double> mp4Seconds(int fd, const Mp4Movie& movie, const std::stop_token& stop) {
     const Mp4Track* track = movie.sound();
     if (track == nullptr) {
         return std::nullopt;
     }
     if (movie.isFragmented) {
-        return fragmentedSeconds(fd, movie, *track);
+        return fragmentedSeconds(fd, movie, *track, stop);
     }
     const auto media = static_cast<double>(track->duration);
     double edited = 0;

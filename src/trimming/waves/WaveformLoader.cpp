@@ -1,8 +1,8 @@
 #include "trimming/waves/WaveformLoader.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
+#include <stop_token>
 #include <utility>
 
 namespace tavi {
@@ -14,8 +14,8 @@ constexpr std::size_t kRemembered = 8;
 /// A file that is at its end as soon as nobody wants it any more.
 class AbandonedFile : public ExtAudioFile {
 public:
-    AbandonedFile(std::unique_ptr<ExtAudioFile> file, const std::atomic<bool>& isAbandoned)
-        : m_file(std::move(file)), m_isAbandoned(isAbandoned) {}
+    AbandonedFile(std::unique_ptr<ExtAudioFile> file, std::stop_token stop)
+        : m_file(std::move(file)), m_stop(std::move(stop)) {}
 
     AudioStatus fileDataFormat(AudioStreamBasicDescription& format) const override {
         return m_file->fileDataFormat(format);
@@ -28,33 +28,36 @@ public:
         return m_file->setClientDataFormat(format);
     }
     AudioStatus read(std::uint32_t& frames, AudioBufferList& data) override {
-        if (m_isAbandoned) {
+        if (m_stop.stop_requested()) {
             frames = 0;
             return kAudioNoError;
         }
         return m_file->read(frames, data);
     }
-    AudioStatus seek(std::int64_t frame) override { return m_isAbandoned ? kAudioNoError : m_file->seek(frame); }
+    AudioStatus seek(std::int64_t frame) override {
+        return m_stop.stop_requested() ? kAudioNoError : m_file->seek(frame);
+    }
     AudioStatus tell(std::int64_t& frame) const override { return m_file->tell(frame); }
 
 private:
     std::unique_ptr<ExtAudioFile> m_file;
-    const std::atomic<bool>& m_isAbandoned;
+    std::stop_token m_stop;
 };
 
 class AbandonableFiles : public ExtAudioFiles {
 public:
     explicit AbandonableFiles(ExtAudioFiles& files) : m_files(files) {}
 
-    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) override {
-        const AudioStatus status = m_files.open(path, file);
+    AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                     const std::stop_token& = {}) override {
+        const AudioStatus status = m_files.open(path, file, stop.get_token());
         if (file) {
-            file = std::make_unique<AbandonedFile>(std::move(file), isAbandoned);
+            file = std::make_unique<AbandonedFile>(std::move(file), stop.get_token());
         }
         return status;
     }
 
-    std::atomic<bool> isAbandoned = false;
+    std::stop_source stop;
 
 private:
     ExtAudioFiles& m_files;
@@ -77,7 +80,7 @@ struct WaveformLoader::Job {
 
 void WaveformLoader::cancel() {
     if (m_job) {
-        m_job->files.isAbandoned = true;
+        m_job->files.stop.request_stop();
         m_job.reset();
     }
 }
@@ -97,7 +100,7 @@ void WaveformLoader::load(const std::filesystem::path& path, Completion completi
     if (known != m_results.end()) {
         m_results.splice(m_results.begin(), m_results, known);
         m_services.queues.dispatchMain([finish, job, points = known->points] {
-            if (!job->files.isAbandoned) {
+            if (!job->files.stop.stop_requested()) {
                 finish(points);
             }
         });
@@ -116,7 +119,7 @@ void WaveformLoader::load(const std::filesystem::path& path, Completion completi
                     points.begin(), points.end(), [](float point) { return std::isnan(point); }, 0.0F);
             }
             queues.dispatchMain([this, identity, finish, job, points = std::move(points)] {
-                if (job->files.isAbandoned) {
+                if (job->files.stop.stop_requested()) {
                     return;
                 }
                 if (identity) {

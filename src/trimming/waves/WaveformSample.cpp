@@ -40,12 +40,12 @@ double level(ExtAudioFile& file, std::int64_t first, std::vector<float>& room) {
 
 }  // namespace
 
-WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path) {
+WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path, const std::stop_token& stop) {
     WaveformSample sample{};
     std::unique_ptr<ExtAudioFile> file;
     AudioStreamBasicDescription format;
     std::int64_t length = 0;
-    if (files.open(path, file) != kAudioNoError || file->fileDataFormat(format) != kAudioNoError ||
+    if (files.open(path, file, stop) != kAudioNoError || file->fileDataFormat(format) != kAudioNoError ||
         file->fileLengthFrames(length) != kAudioNoError || !(format.sampleRate >= 1.0) ||
         format.sampleRate > kHighestRate ||
         file->setClientDataFormat(EZAudioUtilities::monoFloatFormatWithSampleRate(format.sampleRate)) !=

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <stop_token>
 
 #include "platform/ExtAudioFile.h"
 
@@ -12,8 +13,9 @@ namespace tavi {
 using WaveformSample = std::array<float, 8>;
 
 /// Listens to a quarter of a second in the middle of each eighth of a file, and to nothing else: hours cost as much as
-/// seconds. Where getting to a place means reading all before it, only the first ten minutes stand for the file. Any
-/// thread.
-WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path);
+/// seconds. Where getting to a place means reading all before it, only the first ten minutes stand for the file. Asking
+/// for the stop ends it soon, with any shape. Any thread.
+WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path,
+                              const std::stop_token& stop = {});
 
 }  // namespace tavi

@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 #include <filesystem>
+#include <fstream>
 
 #include "adapters/ffmpeg/reading/FfmpegExtAudioFiles.h"
 #include "integration/ffmpeg/RecordingFixture.h"
@@ -137,6 +138,8 @@ TEST_F(ReadingTest, RecordingsAreReadToTheFrameAndFromAnyFrame) {
 
 TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
     const auto wav = record(kTypes[0], kQualities[2], tone(kStereo, kFrames));
+    std::stop_source stopped;
+    stopped.request_stop();
     for (const Foreign& foreign : kForeign) {
         SCOPED_TRACE(foreign.name);
         const auto path = converted(wav, foreign.name, foreign.arguments);
@@ -146,6 +149,8 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
         EXPECT_NEAR(m_durations.durationOfFile(path), static_cast<double>(length) / format.sampleRate, 0.1);
         EXPECT_NEAR(frames, kFrames * 44100.0 / 48000 + foreign.more, 1 + foreign.slack);
         EXPECT_LT(errorOf(path, 0), foreign.more == 1261 ? 10 : -20);
+        // What only libavformat knows is not asked for any more.
+        EXPECT_TRUE(m_durations.durationOfFile(path, stopped.get_token()) == 0 || path.extension() != ".mp3");
     }
 }
 
@@ -209,7 +214,12 @@ TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
         QByteArray("caff\0\1\0\0desc\0\0\0\0\0\0\0\x20\x40\xbf\x40\0\0\0\0\0ima4\0\0\0\0\0\0\0\x44\0\0\0\x40\0\x10\0\1",
                    48) +
         QByteArray("\0\0\0\0data\xff\xff\xff\xff\xff\xff\xff\xff\0\0\0\1", 20) + QByteArray(1400, '\1');
+    // Sound after so many empty chunks is none, as looking for it takes minutes.
+    const auto late = file("late.caf", channels.left(52));
+    std::filesystem::resize_file(late, 52 + 12 * 3'000'000);
+    std::ofstream(late, std::ios::app) << channels.mid(52).toStdString();
     std::vector<std::pair<std::filesystem::path, AudioStatus>> cases = {
+        {late, kAudioFileUnsupportedFileTypeError},
         {file("channels.caf", channels), kAudioFileUnsupportedDataFormatError},
         {file("slow.m4a", slow), kAudioFileUnsupportedDataFormatError},
         {file("slow.wav", wavFile(2, 1, 8, "sound")), kAudioFileUnsupportedDataFormatError},

@@ -70,6 +70,17 @@ TEST(AdtsTest, WhatOnlyBeginsLikeAStreamIsNone) {
     }
 }
 
+TEST(AdtsTest, AMegabyteWithoutAFrameEndsTheSoundAndAStopTheSearch) {
+    const Bytes sound = frame(40) + frame(40);
+    std::stop_source stop;
+    for (const auto& [gap, blocks] : {std::pair(1 << 20, 4), {(1 << 20) + 1, 2}}) {
+        const FileDescriptor file = memoryFile(sound + Bytes(static_cast<std::size_t>(gap)) + sound);
+        EXPECT_EQ(headerDuration(file.get(), stop.get_token()), blocks * 1024 / 8000.0);
+    }
+    stop.request_stop();
+    EXPECT_FALSE(headerDuration(memoryFile(sound).get(), stop.get_token()));
+}
+
 }  // namespace
 
 }  // namespace tavi::test

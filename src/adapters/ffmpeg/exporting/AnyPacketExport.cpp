@@ -222,8 +222,7 @@ Result<void> exportAnyPackets(const ExportJob& job) {
     stretch.first = stretch.start - timeOf(prerollOf(*stream.codecpar));
     if (stretch.first > origin) {
         // A packet earlier, as packets are found by their start.
-        const std::int64_t early = stretch.first - timeOf(job.rate / 10);
-        avformat_seek_file(&input->context(), stream.index, INT64_MIN, early, stretch.first, 0);
+        input->seek(stretch.first - timeOf(job.rate / 10), stretch.first);
     }
     TimedPackets packets(*input, origin);
     Copied copied = copyStretch(job, stretch, stream.time_base, packets, output);

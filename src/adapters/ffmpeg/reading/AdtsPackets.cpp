@@ -4,8 +4,8 @@
 
 namespace tavi {
 
-std::unique_ptr<AdtsPackets> AdtsPackets::open(int fd) {
-    auto reader = AdtsPacketReader::open(fd);
+std::unique_ptr<AdtsPackets> AdtsPackets::open(int fd, const std::stop_token& stop) {
+    auto reader = AdtsPacketReader::open(fd, stop);
     if (!reader) {
         return nullptr;
     }

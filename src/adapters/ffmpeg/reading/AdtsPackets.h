@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stop_token>
 
 #include "adapters/ffmpeg/reading/PacketReader.h"
 #include "sound/adts/AdtsStream.h"
@@ -10,8 +11,8 @@ namespace tavi {
 /// The frames of an ADTS stream, for FFmpeg's decoder. Times are in blocks of 1024 samples of the core coder.
 class AdtsPackets : public PacketReader {
 public:
-    /// Null for what is no ADTS stream; the descriptor is borrowed.
-    static std::unique_ptr<AdtsPackets> open(int fd);
+    /// Null for what is no ADTS stream, and where the stop is asked for meanwhile; the descriptor is borrowed.
+    static std::unique_ptr<AdtsPackets> open(int fd, const std::stop_token& stop = {});
 
     const AVCodecParameters& parameters() const override { return *m_parameters; }
     AVRational timeBase() const override { return {1024, m_reader.stream().rate()}; }

@@ -6,6 +6,8 @@ extern "C" {
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
+#include <utility>
 
 #include "files/PositionedIo.h"
 
@@ -16,6 +18,9 @@ namespace {
 /// Files of sound only. Without this FFmpeg takes text for a picture, and opens what play lists name.
 constexpr auto kContainers =
     "aac,ac3,aiff,amr,ape,asf,au,avi,caf,eac3,flac,matroska,webm,mov,mp4,mp3,mpegts,oga,ogg,opus,tta,w64,wav,wv";
+
+/// More than any header, and more than lies between two packets of a track of sound.
+constexpr std::int64_t kMostBetweenPackets = std::int64_t{32} << 20;
 
 AudioStatus statusOf(int code) {
     // No demuxer wants it, or one did until it saw more.
@@ -33,14 +38,23 @@ void addEntries(const AVDictionary* dictionary, AudioFileInfo& info) {
 
 }  // namespace
 
-AvFile::AvFile(int fd) : m_fd(fd), m_io(makeAvIo(this, &AvFile::readPacket, nullptr, &AvFile::seekTo)) {}
+AvFile::AvFile(int fd, std::stop_token stop)
+    : m_fd(fd),
+      m_stop(std::move(stop)),
+      m_bytesLeft(kMostBetweenPackets),
+      m_io(makeAvIo(this, &AvFile::readPacket, nullptr, &AvFile::seekTo)) {}
 
 AvFile::~AvFile() = default;
 
 int AvFile::readPacket(void* opaque, std::uint8_t* data, int size) {
     auto* self = static_cast<AvFile*>(opaque);
-    const std::size_t count = readFully(self->m_fd, data, static_cast<std::size_t>(size), self->m_offset);
+    if (self->m_stop.stop_requested()) {
+        return AVERROR_EOF;
+    }
+    const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(size, self->m_bytesLeft));
+    const std::size_t count = readFully(self->m_fd, data, wanted, self->m_offset);
     self->m_offset += static_cast<std::int64_t>(count);
+    self->m_bytesLeft -= static_cast<std::int64_t>(count);
     return count > 0 ? static_cast<int>(count) : AVERROR_EOF;
 }
 
@@ -67,9 +81,9 @@ std::int64_t AvFile::seekTo(void* opaque, std::int64_t offset, int whence) {
     return offset;
 }
 
-AudioStatus AvFile::open(int fd, std::unique_ptr<AvFile>& file) {
+AudioStatus AvFile::open(int fd, std::unique_ptr<AvFile>& file, const std::stop_token& stop) {
     av_log_set_level(AV_LOG_QUIET);
-    std::unique_ptr<AvFile> opened(new AvFile(fd));
+    std::unique_ptr<AvFile> opened(new AvFile(fd, stop));
     AVFormatContext* context = avformat_alloc_context();
     if (context == nullptr || !opened->m_io) {
         avformat_free_context(context);
@@ -95,6 +109,8 @@ AudioStatus AvFile::open(int fd, std::unique_ptr<AvFile>& file) {
     for (unsigned i = 0; i < context->nb_streams; ++i) {
         context->streams[i]->discard = static_cast<int>(i) == opened->m_stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
     }
+    opened->m_bytesLeft = kMostBetweenPackets;
+    context->pb->eof_reached = 0;
     file = std::move(opened);
     return kAudioNoError;
 }
@@ -116,9 +132,19 @@ bool AvFile::next(AVPacket& packet) {
             return false;
         }
         if (packet.stream_index == m_stream) {
+            m_bytesLeft = kMostBetweenPackets;
             return true;
         }
     }
+}
+
+bool AvFile::seek(std::int64_t time, std::int64_t latest) {
+    // Files without an index are searched from packet to packet, which only libavformat sees.
+    m_bytesLeft = std::numeric_limits<std::int64_t>::max();
+    const int code =
+        avformat_seek_file(m_input.get(), m_stream, std::numeric_limits<std::int64_t>::min(), time, latest, 0);
+    m_bytesLeft = kMostBetweenPackets;
+    return code >= 0;
 }
 
 AudioFileInfo AvFile::info() {

@@ -22,9 +22,9 @@ constexpr std::int64_t kMostPacketBytes = std::int64_t{1} << 30;
 
 }  // namespace
 
-AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& packets) {
-    std::unique_ptr<ContainerPackets> opened(new ContainerPackets(fd));
-    const AudioStatus status = AvFile::open(fd, opened->m_file);
+AudioStatus ContainerPackets::open(int fd, std::unique_ptr<ContainerPackets>& packets, const std::stop_token& stop) {
+    std::unique_ptr<ContainerPackets> opened(new ContainerPackets(fd, stop));
+    const AudioStatus status = AvFile::open(fd, opened->m_file, stop);
     if (status != kAudioNoError) {
         return status;
     }
@@ -100,7 +100,7 @@ std::int64_t ContainerPackets::declaredLength(int rate) {
 std::int64_t ContainerPackets::movieLength(int rate) const {
     AVStream& stream = m_file->stream();
     const AVRational frame = {1, rate};
-    const auto seconds = headerDuration(m_fd);
+    const auto seconds = headerDuration(m_fd, m_stop);
     std::int64_t length = seconds                             ? std::llround(std::min(*seconds * rate, 1e15))
                           : stream.duration != AV_NOPTS_VALUE ? av_rescale_q(stream.duration, stream.time_base, frame)
                                                               : -1;
@@ -145,7 +145,7 @@ bool ContainerPackets::rewind() {
         return true;
     }
     std::unique_ptr<AvFile> file;
-    if (AvFile::open(m_fd, file) != kAudioNoError) {
+    if (AvFile::open(m_fd, file, m_stop) != kAudioNoError) {
         return false;
     }
     m_file = std::move(file);
@@ -155,8 +155,7 @@ bool ContainerPackets::rewind() {
 
 bool ContainerPackets::seek(std::int64_t time) {
     m_isFresh = false;
-    AVStream& stream = m_file->stream();
-    return av_seek_frame(&m_file->context(), stream.index, time, AVSEEK_FLAG_BACKWARD) >= 0;
+    return m_file->seek(time, time);
 }
 
 }  // namespace tavi

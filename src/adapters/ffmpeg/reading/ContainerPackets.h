@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stop_token>
 
 #include "adapters/ffmpeg/reading/AvFile.h"
 #include "adapters/ffmpeg/reading/PacketReader.h"
@@ -10,8 +11,8 @@ namespace tavi {
 /// The packets of the sound in any container that libavformat reads.
 class ContainerPackets : public PacketReader {
 public:
-    /// Borrows the descriptor. On failure packets is left empty.
-    static AudioStatus open(int fd, std::unique_ptr<ContainerPackets>& packets);
+    /// Borrows the descriptor. On failure packets is left empty. There are no more once the stop is asked for.
+    static AudioStatus open(int fd, std::unique_ptr<ContainerPackets>& packets, const std::stop_token& stop);
 
     const AVCodecParameters& parameters() const override { return *m_file->stream().codecpar; }
     AVRational timeBase() const override { return m_file->stream().time_base; }
@@ -28,7 +29,7 @@ public:
     bool seek(std::int64_t time) override;
 
 private:
-    explicit ContainerPackets(int fd) : m_fd(fd) {}
+    ContainerPackets(int fd, std::stop_token stop) : m_fd(fd), m_stop(std::move(stop)) {}
 
     bool is(const char* container) const;
     bool tellsExactTimes() const;
@@ -38,6 +39,7 @@ private:
     std::int64_t scannedLength(int rate);
 
     int m_fd;
+    std::stop_token m_stop;
     mutable std::unique_ptr<AvFile> m_file;
     bool m_hasExactTimes = false;
     /// No packet has been read since it was opened.

@@ -25,15 +25,16 @@ constexpr std::int64_t kLongestGap = 60;
 
 }  // namespace
 
-AudioStatus DecodedSource::open(FileDescriptor& file, std::unique_ptr<SoundSource>& source) {
+AudioStatus DecodedSource::open(FileDescriptor& file, std::unique_ptr<SoundSource>& source,
+                                const std::stop_token& stop) {
     std::unique_ptr<DecodedSource> opened(new DecodedSource);
-    opened->m_packets = AdtsPackets::open(file.get());
+    opened->m_packets = AdtsPackets::open(file.get(), stop);
     if (!opened->m_packets) {
         opened->m_packets = Mp4Packets::open(file.get());
     }
     if (!opened->m_packets) {
         std::unique_ptr<ContainerPackets> packets;
-        const AudioStatus status = ContainerPackets::open(file.get(), packets);
+        const AudioStatus status = ContainerPackets::open(file.get(), packets, stop);
         if (status != kAudioNoError) {
             return status;
         }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <stop_token>
 
 #include "adapters/ffmpeg/reading/PacketDecoder.h"
 #include "files/FileDescriptor.h"
@@ -15,8 +16,9 @@ namespace tavi {
 /// their length. Otherwise it is counted from the start, and so is every seek.
 class DecodedSource : public SoundSource {
 public:
-    /// Decodes a little to learn what comes out. The descriptor is taken only on success.
-    static AudioStatus open(FileDescriptor& file, std::unique_ptr<SoundSource>& source);
+    /// Decodes a little to learn what comes out. The descriptor is taken only on success. Once the stop is asked for no
+    /// more is found in the file.
+    static AudioStatus open(FileDescriptor& file, std::unique_ptr<SoundSource>& source, const std::stop_token& stop);
 
     const AudioStreamBasicDescription& format() const override { return m_format; }
     std::uint64_t channelMask() const override { return m_channelMask; }

@@ -12,9 +12,9 @@ namespace tavi {
 
 namespace {
 
-double libraryDuration(int fd) {
+double libraryDuration(int fd, const std::stop_token& stop) {
     std::unique_ptr<AvFile> file;
-    if (AvFile::open(fd, file) != kAudioNoError || !isSampleRate(file->stream().codecpar->sample_rate)) {
+    if (AvFile::open(fd, file, stop) != kAudioNoError || !isSampleRate(file->stream().codecpar->sample_rate)) {
         return 0;
     }
     const AVStream* stream = &file->stream();
@@ -30,16 +30,16 @@ double libraryDuration(int fd) {
 
 }  // namespace
 
-double FfmpegAudioDuration::durationOfFile(const std::filesystem::path& path) const {
+double FfmpegAudioDuration::durationOfFile(const std::filesystem::path& path, const std::stop_token& stop) const {
     // Not blocking, as a pipe of that name would.
     const FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK);
     if (!file.isValid() || regularFileSize(file.get()) <= 0) {
         return 0;
     }
-    if (const auto seconds = headerDuration(file.get())) {
+    if (const auto seconds = headerDuration(file.get(), stop)) {
         return *seconds;
     }
-    return libraryDuration(file.get());
+    return libraryDuration(file.get(), stop);
 }
 
 }  // namespace tavi

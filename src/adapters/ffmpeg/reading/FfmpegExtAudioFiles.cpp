@@ -31,7 +31,8 @@ AudioStatus statusOf(int error) {
 
 }  // namespace
 
-AudioStatus FfmpegExtAudioFiles::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file) {
+AudioStatus FfmpegExtAudioFiles::open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
+                                      const std::stop_token& stop) {
     file.reset();
     if (path.native().find('\0') != std::string::npos) {
         return kAudioFileFileNotFoundError;
@@ -53,7 +54,7 @@ AudioStatus FfmpegExtAudioFiles::open(const std::filesystem::path& path, std::un
         source = Ima4Source::open(descriptor);
     }
     if (!source) {
-        const AudioStatus status = DecodedSource::open(descriptor, source);
+        const AudioStatus status = DecodedSource::open(descriptor, source, stop);
         if (status != kAudioNoError) {
             return status;
         }
