@@ -16,6 +16,7 @@
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "app/cli/CommandLine.h"
+#include "ui/Texts.h"
 
 namespace tavi {
 
@@ -65,7 +66,8 @@ int runBesideOther(int& argc, char** argv, const ProgramRequest& request, const 
 
 /// Does without the window what prints and ends.
 int runPrinting(int& argc, char** argv, const PrintingCommand& command, const AppContainer& container) {
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
+    installTexts(application);
     SettingsFiles settings(container);
     MediaLibrary media;
     QtRunLoop runLoop;

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <optional>
 
@@ -17,6 +19,14 @@ struct ShortcutItem {
 
     bool operator==(const ShortcutItem&) const = default;
 };
+
+/// The schemes of URLs by which companions ask for something, in lower case as QUrl has them.
+inline constexpr std::array<QLatin1String, 3> kOwnSchemes = {
+    QLatin1String("tavirecordstart"), QLatin1String("tavirecordstop"), QLatin1String("taviliteconnect")};
+
+inline bool hasOwnScheme(const QUrl& url) {
+    return std::find(kOwnSchemes.begin(), kOwnSchemes.end(), url.scheme()) != kOwnSchemes.end();
+}
 
 /// What the program was started for.
 struct LaunchOptions {

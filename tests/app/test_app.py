@@ -273,6 +273,7 @@ class CommandLine(AppTest):
         self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
         made = pathlib.Path(self.tavi("trim", self.tone, "--from", "0.5", "--to", "2.25").stdout.strip())
         self.assertEqual(probe(made)["duration"], 1.75)
+        self.assert_fails("exists", "waveform", made, "--png", made)
         self.assert_fails("already", "trim", made, "--from", "0", "--to", "1", "--out", made)
         self.assertEqual(probe(made)["duration"], 1.75)
         self.assertEqual(self.tavi("get", "Sort").stdout, "1\n")

@@ -1,6 +1,7 @@
 #include "adapters/dbus/ApplicationObject.h"
 
 #include <QDBusError>
+#include <algorithm>
 
 #include "adapters/dbus/DBusApplication.h"
 
@@ -31,6 +32,12 @@ void ApplicationObject::Open(const QStringList& uris, const QVariantMap& platfor
         app->activate(token);
         app->open(urls);
     });
+    // The window is shown all the same, as the user has asked for something.
+    if (std::none_of(urls.begin(), urls.end(), hasOwnScheme)) {
+        refuse(urls.isEmpty()               ? QStringLiteral("There is nothing to open.")
+               : urls.first().isLocalFile() ? QStringLiteral("Files cannot be imported: “%1”.").arg(uris.first())
+                                            : QStringLiteral("The recorder does not open “%1”.").arg(uris.first()));
+    }
 }
 
 void ApplicationObject::ActivateAction(const QString& name, const QVariantList&, const QVariantMap& platformData) {

@@ -41,6 +41,9 @@ fs::path fromRoot(const fs::path& path) {
 
 Result<std::unique_ptr<QtAppContainer>> QtAppContainer::create(const fs::path& container) {
     std::unique_ptr<QtAppContainer> made(new QtAppContainer);
+    if (container.empty() && !fs::path(qgetenv("HOME").toStdString()).is_absolute()) {
+        return failure(QStringLiteral("HOME does not say where your files are: set it, or choose a --container."));
+    }
     if (container.empty()) {
         made->m_documents = xdg(QStandardPaths::MusicLocation) / "Voice Recordings";
         made->m_unsaved = xdg(QStandardPaths::GenericDataLocation) / kFolder / "Unsaved";

@@ -25,7 +25,7 @@ class QtAppContainer final : public AppContainer {
 public:
     /// Makes the folders. With a container DIR, relative to the working directory or absolute, everything is below it;
     /// with an empty one, the XDG folders are used. Fails when a folder other than the documents folder
-    /// cannot be made or written.
+    /// cannot be made or written, and where the XDG folders would be in no home.
     static Result<std::unique_ptr<QtAppContainer>> create(const std::filesystem::path& container = {});
 
     std::filesystem::path documentsPath() const override { return m_documents; }

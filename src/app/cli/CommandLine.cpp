@@ -4,7 +4,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <QRegularExpression>
-#include <array>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -14,13 +14,11 @@
 #include "app/cli/Set.h"
 #include "app/cli/Trim.h"
 #include "app/cli/Waveform.h"
+#include "platform/Application.h"
 
 namespace tavi {
 
 namespace {
-
-constexpr std::array<QLatin1String, 3> kSchemes = {QLatin1String("tavirecordstart"), QLatin1String("tavirecordstop"),
-                                                   QLatin1String("taviliteconnect")};
 
 constexpr const char* kFooter =
     "tavi COMMAND --help says what a command takes.\n"
@@ -44,11 +42,9 @@ Result<QUrl> ownUrl(const QString& text) {
     if (scheme.isEmpty()) {
         return failure(QStringLiteral("unknown command “%1”").arg(text));
     }
-    for (const QLatin1String own : kSchemes) {
-        if (scheme == own) {
-            const QUrl url(text, QUrl::StrictMode);
-            return url.isValid() ? Result<QUrl>(url) : failure(QStringLiteral("“%1” is not a valid URL").arg(text));
-        }
+    const QUrl url(text, QUrl::StrictMode);
+    if (std::find(kOwnSchemes.begin(), kOwnSchemes.end(), scheme) != kOwnSchemes.end()) {
+        return url.isValid() ? Result<QUrl>(url) : failure(QStringLiteral("“%1” is not a valid URL").arg(text));
     }
     return failure(QStringLiteral("the scheme of “%1” is not one that the recorder opens").arg(text));
 }
@@ -89,9 +85,14 @@ CLI::Validator seconds() {
     return CLI::Validator(check, "");
 }
 
-/// Takes the name of a folder for the settings, whose file has to have a name that is text.
-CLI::Validator textualName() {
-    const auto check = [](const std::string& name) {
+/// Takes the name of a folder for the settings, whose file has to have a name that is text. An option or a command in
+/// its place is a folder that was forgotten.
+CLI::Validator folderName(const CLI::App& app) {
+    const auto check = [&app](const std::string& name) {
+        const auto isNamed = [&name](const CLI::App* command) { return command->get_name() == name; };
+        if (name.starts_with('-') || !app.get_subcommands(isNamed).empty()) {
+            return "no folder before “" + name + "”; one of that name is ./" + name;
+        }
         const bool isText = !QString::fromLocal8Bit(name).contains(QChar(QChar::ReplacementCharacter));
         return isText ? std::string() : "the name is not text: “" + name + "”";
     };
@@ -112,7 +113,7 @@ Grammar::Grammar() {
                     "store everything below DIR: recordings, settings, caches.\n"
                     "Such a program runs beside the one without a container.")
         ->type_name("DIR")
-        ->check(textualName());
+        ->check(folderName(m_app));
     m_app.add_option("URL", m_urls,
                      "open URLs, as a companion does: TaviRecordStart: is record,\n"
                      "TaviRecordStop: is stop, TaviliteConnect: is library");
@@ -195,6 +196,11 @@ Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {
         m_line.command = QByteArray::fromStdString(m_app.help());
     } catch (const CLI::CallForVersion& version) {
         m_line.command = QByteArray::fromStdString(version.what()) + '\n';
+    } catch (const CLI::ArgumentMismatch& error) {
+        const QString text = QString::fromLocal8Bit(error.what());
+        const bool isTwice = text.contains(QLatin1String("At Most"));
+        return failure((isTwice ? QStringLiteral("%1 is given twice") : QStringLiteral("%1 needs a value"))
+                           .arg(text.section(QLatin1Char(':'), 0, 0)));
     } catch (const CLI::ParseError& error) {
         return failure(QString::fromLocal8Bit(error.what()));
     }

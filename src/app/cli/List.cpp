@@ -11,6 +11,23 @@ namespace tavi {
 
 namespace {
 
+/// Whether a terminal would act on a character, or show the line in another order: control characters, ends of lines
+/// and paragraphs, and all formatting but what joins letters and signs.
+bool isUnseen(QChar character) {
+    constexpr char16_t kNonJoiner = 0x200c;
+    constexpr char16_t kJoiner = 0x200d;
+    switch (character.category()) {
+        case QChar::Other_Control:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            return true;
+        case QChar::Other_Format:
+            return character != kNonJoiner && character != kJoiner;
+        default:
+            return false;
+    }
+}
+
 QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
     QJsonArray array;
     for (const RecordingEntry& entry : recordings) {
@@ -21,16 +38,23 @@ QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
         }
         array.append(object);
     }
-    return QJsonDocument(array).toJson();
+    // In JSON such characters are only found in texts, where each may be written as its number (RFC 8259, 7).
+    QString json;
+    for (const QChar character : QString::fromUtf8(QJsonDocument(array).toJson())) {
+        json += isUnseen(character) && character != QLatin1Char('\n')
+                    ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'))
+                    : QString(character);
+    }
+    return json.toUtf8();
 }
 
-/// A line a recording. Control characters in a name show as "?", so that none can look like another line.
+/// A line a recording. What is not seen in a name shows as "?", so that none can look like another one.
 QByteArray recordingsText(const std::vector<RecordingEntry>& recordings) {
     QByteArray text;
     for (const RecordingEntry& entry : recordings) {
         QString name = entry.value(entrykey::kFilename);
         for (QChar& character : name) {
-            character = character.category() == QChar::Other_Control ? QLatin1Char('?') : character;
+            character = isUnseen(character) ? QLatin1Char('?') : character;
         }
         const QStringList parts{name, entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
                                 entry.value(entrykey::kModdate)};

@@ -1,5 +1,6 @@
 #include "app/cli/SettingTexts.h"
 
+#include <QCoreApplication>
 #include <array>
 #include <optional>
 
@@ -9,21 +10,26 @@ namespace tavi {
 
 namespace {
 
-enum class Kind { Truth, FileType, Text, SortCode, Seconds };
+enum class Kind { Truth, FileType, Quality, Text, SortCode, Seconds };
 
 struct Setting {
     QLatin1String key;
     Kind kind;
 };
 
-constexpr std::array kSettings = {
-    Setting{settingskey::kDefaultValSetting, Kind::Truth}, Setting{settingskey::kAudio, Kind::Truth},
-    Setting{settingskey::kAudioFileType, Kind::FileType},  Setting{settingskey::kAudioSegmentCount, Kind::Text},
-    Setting{settingskey::kAudioQualityType, Kind::Text},   Setting{settingskey::kAudioQualityTypeIndex, Kind::Text},
-    Setting{settingskey::kQuickMail, Kind::Truth},         Setting{settingskey::kIclound, Kind::Truth},
-    Setting{settingskey::kSort, Kind::SortCode},           Setting{settingskey::kRewindSong, Kind::Seconds},
-    Setting{settingskey::kForwardSong, Kind::Seconds},     Setting{settingskey::kThemeColor, Kind::Text},
-    Setting{settingskey::kAppStart, Kind::Truth}};
+constexpr std::array kSettings = {Setting{settingskey::kDefaultValSetting, Kind::Truth},
+                                  Setting{settingskey::kAudio, Kind::Truth},
+                                  Setting{settingskey::kAudioFileType, Kind::FileType},
+                                  Setting{settingskey::kAudioSegmentCount, Kind::Text},
+                                  Setting{settingskey::kAudioQualityType, Kind::Quality},
+                                  Setting{settingskey::kAudioQualityTypeIndex, Kind::Text},
+                                  Setting{settingskey::kQuickMail, Kind::Truth},
+                                  Setting{settingskey::kIclound, Kind::Truth},
+                                  Setting{settingskey::kSort, Kind::SortCode},
+                                  Setting{settingskey::kRewindSong, Kind::Seconds},
+                                  Setting{settingskey::kForwardSong, Kind::Seconds},
+                                  Setting{settingskey::kThemeColor, Kind::Text},
+                                  Setting{settingskey::kAppStart, Kind::Truth}};
 
 const Setting* settingOf(const QString& key) {
     for (const Setting& setting : kSettings) {
@@ -72,6 +78,15 @@ Result<QVariant> valueOf(const Setting& setting, const QString& text) {
                 }
             }
             return failure(QStringLiteral("%1 is m4a, wav, aac, mp4 or caf, not “%2”").arg(setting.key, text));
+        case Kind::Quality: {
+            // The settings screen keeps the text that it shows; a recording knows the English ones of the lower two.
+            const QStringList shown{qtTrId("Low"), qtTrId("Medium"), qtTrId("High")};
+            if (shown.contains(text) || text == QLatin1String("Low") || text == QLatin1String("Medium")) {
+                return QVariant(text);
+            }
+            return failure(
+                QStringLiteral("%1 is %2, not “%3”").arg(setting.key, shown.join(QLatin1String(", ")), text));
+        }
         case Kind::SortCode:
             if (const int code = text.toInt(&isNumber); isNumber && code >= 0 && code <= 6) {
                 return QVariant(code);

@@ -2,6 +2,7 @@
 
 #include "app/cli/SoundFile.h"
 #include "files/FileNames.h"
+#include "files/PathText.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {
@@ -21,6 +22,17 @@ Result<AssetTimeRange> rangeOf(const TrimOptions& options, const Asset& asset) {
                           AssetTime::withSeconds(options.to - options.from, timescale)};
 }
 
+/// Whether a name does not lie about a part of that file: what is written is of the file's own kind.
+bool isNameFor(const std::filesystem::path& output, const std::filesystem::path& file) {
+    const auto extension = [](const std::filesystem::path& path) {
+        return pathText(trimrules::pathExtension(path)).toLower();
+    };
+    const QStringList honest{QStringLiteral("wav"), QStringLiteral("caf"), QStringLiteral("m4a"),
+                             QStringLiteral("mp4")};
+    return extension(output).isEmpty() || extension(output) == extension(file) ||
+           (honest.contains(extension(output)) && trimrules::outputFileType(output) == trimrules::outputFileType(file));
+}
+
 /// A name among the recordings that nothing has yet.
 std::filesystem::path freePathFor(const std::filesystem::path& file, const CommandServices& services) {
     return freePath(trimrules::outputPath(services.container.documentsPath(), services.runLoop.clock().now(), file));
@@ -37,12 +49,15 @@ Result<QByteArray> run(const TrimOptions& options, const CommandServices& servic
     if (!range) {
         return tl::unexpected(range.error());
     }
+    const std::filesystem::path output =
+        options.out.empty() ? freePathFor(options.file, services) : std::filesystem::path(options.out);
+    if (!isNameFor(output, options.file)) {
+        return failureOf(output, QStringLiteral("a part of %1 is of another kind").arg(pathText(options.file)));
+    }
     const auto session = services.exports.exportSession(asset, AssetExportPreset::Passthrough);
     if (!session) {
         return failureOf(options.file, session.error().text);
     }
-    const std::filesystem::path output =
-        options.out.empty() ? freePathFor(options.file, services) : std::filesystem::path(options.out);
     (*session)->setOutputURL(output);
     (*session)->setOutputFileType(trimrules::outputFileType(options.file));
     (*session)->setTimeRange(*range);

@@ -1,10 +1,12 @@
 #include "app/cli/Waveform.h"
 
-#include <QSaveFile>
+#include <cerrno>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 #include "app/cli/SoundFile.h"
-#include "files/PathText.h"
+#include "files/DurableFile.h"
+#include "files/FileNames.h"
+#include "files/PositionedIo.h"
 #include "trimming/waves/WaveformPicturePainter.h"
 #include "trimming/waves/WaveformText.h"
 
@@ -12,16 +14,17 @@ namespace tavi {
 
 namespace {
 
+/// Gives the picture its name, which nothing may have.
 Result<void> writePicture(const std::filesystem::path& path, const QByteArray& png) {
-    const QString name = pathText(path);
-    if (nativePath(name) != path) {
-        return failureOf(path, QStringLiteral("a picture's name must be text"));
+    DurableFile output = DurableFile::create(path);
+    int error = output.isValid() ? 0 : errno;
+    if (error == 0) {
+        error = writeFully(systemPwrite(), output.fd(), png.constData(), static_cast<std::size_t>(png.size()), 0).error;
     }
-    QSaveFile output(name);
-    if (!output.open(QIODevice::WriteOnly) || output.write(png) != png.size() || !output.commit()) {
-        return failureOf(path, output.errorString());
+    if (error == 0) {
+        error = output.publish();
     }
-    return {};
+    return error == 0 ? Result<void>() : failureOf(path, qt_error_string(error));
 }
 
 }  // namespace
@@ -29,6 +32,9 @@ Result<void> writePicture(const std::filesystem::path& path, const QByteArray& p
 Result<QByteArray> run(const WaveformOptions& options, const CommandServices& services) {
     if (const auto readable = checkSoundFile(options.file, services.files); !readable) {
         return tl::unexpected(readable.error());
+    }
+    if (!options.png.empty() && existsAt(options.png)) {
+        return failureOf(options.png, qt_error_string(EEXIST));
     }
     const auto file = EZAudioFile::audioFileWithURL(
         options.file, {.files = services.files, .converters = services.converters, .queues = services.runLoop});

@@ -122,8 +122,17 @@ TEST_F(DBusApplicationTest, ASecondStartHandsOverToTheFirst) {
 
     EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("library")}), "ok");
     EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("Stop")}), "ok");
-    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")}, {}}), "ok");
-    expectCalls("shortcut Recordings, open tavirecordstop:, open file:///tmp/a b%25.wav, open file:///x.wav");
+    const std::pair<QStringList, const char*> untaken[] = {
+        {{QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")},
+         "Files cannot be imported: “/tmp/a b%.wav”."},
+        {{QStringLiteral("x:y")}, "The recorder does not open “x:y”."},
+        {{}, "There is nothing to open."}};
+    for (const auto& [uris, why] : untaken) {
+        EXPECT_THAT(handedOver({Kind::Open, uris, {}}), ::testing::EndsWith(why));
+    }
+    expectCalls(
+        "shortcut Recordings, open tavirecordstop:, open file:///tmp/a b%25.wav, open file:///x.wav, "
+        "open x:y");
 
     EXPECT_THAT(handedOver({Kind::Action, {}, QStringLiteral("dance")}), ::testing::HasSubstr("no action “dance”"));
     EXPECT_THAT(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}), ::testing::HasSubstr("“a.wav”"));
@@ -140,7 +149,7 @@ TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {
     EXPECT_TRUE(m_delegate.calls.isEmpty());
     const std::pair<ActivationRequest, const char*> cases[] = {
         {{}, "active"},
-        {{Kind::Open, {QStringLiteral("x:y")}, {}}, "open x:y, foreground, active"},
+        {{Kind::Open, {QStringLiteral("TaviRecordStop:")}, {}}, "open tavirecordstop:, foreground, active"},
         {{Kind::Action, {}, QStringLiteral("Record")}, "shortcut Record, foreground, active"},
         {{}, "foreground, active"}};
     bool isMinimised = false;

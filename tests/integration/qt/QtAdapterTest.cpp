@@ -153,6 +153,8 @@ TEST(Container, HasItsFoldersWherePeopleLookForThemOrBelowOne) {
     const auto impossible = QtAppContainer::create("mine/Documents/probe/below");
     ASSERT_FALSE(impossible);
     EXPECT_TRUE(impossible.error().text.contains(home.path() + QLatin1String("/mine/Documents/probe/below")));
+    qputenv("HOME", "");
+    EXPECT_TRUE(QtAppContainer::create({}).error().text.startsWith(QLatin1String("HOME")));
 }
 
 TEST(TerminationSignals, ArriveOnTheMainThreadAndAreRestored) {

@@ -53,7 +53,10 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"waveform|--points|8192|--|--x=", "prints"},
         {"trim|record|--from|0|--to|1e9", "prints"},
 
-        {"--container", "? --container"},
+        {"--container", "! --container needs a value"},
+        {"--container|a|--container|b|list", "! --container is given twice"},
+        {"--container|list", "! --container: no folder before “list”; one of that name is ./list"},
+        {"--container|--json|list", "! --container: no folder before “--json”; one of that name is ./--json"},
         {"--container=|record", "! --container= needs a value"},
         {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
         {"record|stop", "? stop"},
