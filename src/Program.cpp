@@ -140,7 +140,8 @@ struct Screens {
                              .runLoop = platform.runLoop,
                              .presenter = platform.presenter,
                              .tabBar = platform.tabBar,
-                             .sessionFile = sessionFile}};
+                             .sessionFile = sessionFile,
+                             .notices = platform.notices}};
     RecordingLister lister{platform.media, platform.runLoop};
     RecordingShapes shapes{platform.media, platform.runLoop};
     WaveformLoader waveforms{waveformServices};

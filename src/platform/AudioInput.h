@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <cstddef>
 #include <memory>
 
@@ -43,6 +44,8 @@ public:
     /// second, even when the sound server has stopped answering. Every pause of a running input is answered once,
     /// before the frames of a later resume(); pausing a paused input does nothing.
     virtual void pause() = 0;
+    /// What people call the device that is listened to now; empty as long as it is not known.
+    virtual QString deviceName() const = 0;
 };
 
 /// Opens inputs.

@@ -57,6 +57,8 @@ public:
     /// Blocks until the file is whole, and tells the delegate before it returns. For the end of the program only.
     virtual void waitUntilFinished() = 0;
     virtual bool isRecording() const = 0;
+    /// What people call the device that is listened to now; empty as long as it is not known.
+    virtual QString inputName() const = 0;
     /// Frames in the file so far, at the input's rate.
     virtual std::int64_t framesRecorded() const = 0;
     /// Takes the mean power of what arrived since the last update; keeps the old one when nothing did.

@@ -171,6 +171,7 @@ void AudioRecordVC::permissionAnswered(bool granted) {
 void AudioRecordVC::resumeRecording() {
     showSession();
     m_audioRecorder->record();
+    m_watch.begin(*m_audioRecorder);
     m_clock.startTimer(isReset());
     setState(State::Recording);
 }
@@ -221,6 +222,7 @@ void AudioRecordVC::startRecording(QObject* sender) {
         return;
     }
     m_audioRecorder->record();
+    m_watch.begin(*m_audioRecorder);
     m_clock.startTimer(isReset());
     setState(State::Recording);
 }
@@ -245,6 +247,9 @@ void AudioRecordVC::updateTimer() {
 void AudioRecordVC::waveViewUpdate() {
     if (isRecording()) {
         m_audioRecorder->updateMeters();
+        if (isRecordingRunning()) {
+            m_watch.look(*m_audioRecorder);
+        }
         m_level = static_cast<double>(m_audioRecorder->averagePowerForChannel(0));
         m_waveViewMirror.startWavingWithValue(m_level);
         m_silentReadings = m_level < kNothingHeard ? m_silentReadings + 1 : 0;

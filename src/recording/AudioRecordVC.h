@@ -12,6 +12,7 @@
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
+#include "recording/MicrophoneWatch.h"
 #include "recording/SessionClock.h"
 #include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
@@ -65,6 +66,7 @@ public:
         Presenter& presenter;
         TabBar& tabBar;
         SessionFile& sessionFile;
+        Notices& notices;
     };
 
     explicit AudioRecordVC(const Services& services, QObject* parent = nullptr);
@@ -156,6 +158,7 @@ private:
     WaveView m_waveViewMirror;
     std::unique_ptr<AudioRecorder> m_audioRecorder;
     SessionClock m_clock{m_services.runLoop};
+    MicrophoneWatch m_watch{m_services.notices};
 
     State m_state = State::Idle;
     /// Sessions ended so far. What a tap asked for before one of the ends is not done after it.

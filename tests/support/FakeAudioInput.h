@@ -26,6 +26,8 @@ public:
         }
     }
 
+    QString deviceName() const override { return QStringLiteral("Desk"); }
+
     /// Hands on frames if the input runs or a pause is still pending; otherwise they are lost, as they ought to be. The
     /// samples are interleaved; a null pointer is a hole.
     void deliver(const float* interleaved, std::size_t frames) {

@@ -35,6 +35,7 @@ public:
         finish(std::nullopt);
     }
     bool isRecording() const override { return m_isRunning; }
+    QString inputName() const override { return input; }
     std::int64_t framesRecorded() const override { return m_frames; }
     void updateMeters() override { m_power = m_isMetering ? m_arrived : m_power; }
     float averagePowerForChannel(int channel) const override { return channel == 0 ? m_power : -160.0F; }
@@ -50,6 +51,7 @@ public:
             m_arrived = power;
         }
     }
+    QString input = QStringLiteral("Desk");
     /// The input or the disk gives up.
     void fail(const Error& error) { endLater(error); }
 

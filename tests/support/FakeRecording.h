@@ -30,7 +30,8 @@ struct FakeRecording {
               .runLoop = fakes.runLoop,
               .presenter = presenter,
               .tabBar = tabBar,
-              .sessionFile = file}) {}
+              .sessionFile = file,
+              .notices = notices}) {}
 
     FakeMailComposer mail;
     FakeAudioFileRepair repair;

@@ -21,6 +21,10 @@ PulseAudioInput::~PulseAudioInput() {
     m_connection->perform([capture = std::move(m_capture)] { capture->close(); });
 }
 
+QString PulseAudioInput::deviceName() const {
+    return m_capture->deviceName();
+}
+
 void PulseAudioInput::setCapturing(bool capturing) {
     if (std::exchange(m_isCapturing, capturing) != capturing) {
         m_connection->perform(

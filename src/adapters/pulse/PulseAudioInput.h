@@ -34,6 +34,7 @@ public:
 
     void resume() override { setCapturing(true); }
     void pause() override { setCapturing(false); }
+    QString deviceName() const override;
 
 private:
     void setCapturing(bool capturing);

@@ -35,6 +35,16 @@ void PulseCapture::silence() {
     m_isTelling.wait(true);
 }
 
+QString PulseCapture::deviceName() const {
+    const std::lock_guard lock(m_nameMutex);
+    return m_deviceName;
+}
+
+void PulseCapture::nameSource(const pa_source_info& source) {
+    const std::lock_guard lock(m_nameMutex);
+    m_deviceName = QString::fromUtf8(source.description);
+}
+
 void PulseCapture::open() {
     m_connection.connect(
         [self = shared_from_this()](PulseConnection::State state) { self->connectionDidSettle(state); });
@@ -92,6 +102,7 @@ void PulseCapture::connectionDidSettle(PulseConnection::State state) {
 }
 
 void PulseCapture::createStream(const pa_source_info& source) {
+    nameSource(source);
     m_startedOnMicrophone = source.monitor_of_sink == PA_INVALID_INDEX;
     if (!m_startedOnMicrophone && m_connection.chosenSource().isEmpty() && !m_connection.sources().hasMicrophone()) {
         fail(pulseError(PA_ERR_NOENTITY));
@@ -162,6 +173,7 @@ void PulseCapture::streamDidMove() {
         [](pa_context*, const pa_source_info* info, int isLast, void* userdata) {
             auto& self = *static_cast<PulseCapture*>(userdata);
             if (isLast == 0) {
+                self.nameSource(*info);
                 if (self.m_startedOnMicrophone && info->monitor_of_sink != PA_INVALID_INDEX) {
                     self.fail(pulseError(PA_ERR_KILLED));
                 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 
 #include "adapters/pulse/CaptureMarks.h"
 #include "adapters/pulse/PulseConnection.h"
@@ -17,7 +18,7 @@ namespace tavi {
 /// Frames are counted as they leave the stream. resume() and pause() become marks on that count: the server's timing
 /// tells which frame was in the air at a given time, and frames between marks are delivered or dropped exactly.
 ///
-/// All on the loop's thread, but silence().
+/// All on the loop's thread, but silence() and deviceName().
 class PulseCapture : public PulseConnectionObserver, public std::enable_shared_from_this<PulseCapture> {
 public:
     PulseCapture(PulseConnection& connection, AudioInputListener& listener);
@@ -30,10 +31,13 @@ public:
     void close();
     /// Ends the calls to the listener: none is running when this returns and none follows. Not from such a call.
     void silence();
+    /// What the server calls the source for people; empty until it has said so.
+    QString deviceName() const;
 
     void pulseConnectionDidEnd(const Error& error) override { fail(error); }
 
 private:
+    void nameSource(const pa_source_info& source);
     void connectionDidSettle(PulseConnection::State state);
     void createStream(const pa_source_info& source);
     void streamDidChangeState();
@@ -56,6 +60,8 @@ private:
     AudioInputListener& m_listener;
     std::atomic<bool> m_isSilent = false;
     std::atomic<bool> m_isTelling = false;
+    mutable std::mutex m_nameMutex;
+    QString m_deviceName;
 
     AudioInputFormat m_format;
     PulseTimer m_limit;

@@ -31,6 +31,7 @@ public:
     void stop() override;
     void waitUntilFinished() override;
     bool isRecording() const override { return m_isRunning; }
+    QString inputName() const override { return m_input ? m_input->deviceName() : QString(); }
     std::int64_t framesRecorded() const override { return m_buffer.framesCaptured(); }
     void updateMeters() override;
     float averagePowerForChannel(int channel) const override;

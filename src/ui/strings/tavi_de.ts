@@ -325,6 +325,18 @@
         <source></source>
         <translation>Wird gespeichert, dann wird aufgenommen…</translation>
     </message>
+    <message id="microphone_stopped">
+        <source></source>
+        <translation>Vom Mikrofon kommt kein Ton. Die Aufnahme geht weiter, sobald er wieder da ist.</translation>
+    </message>
+    <message id="microphone_back">
+        <source></source>
+        <translation>Das Mikrofon ist wieder da. In der Aufnahme fehlen %1 s.</translation>
+    </message>
+    <message id="microphone_changed">
+        <source></source>
+        <translation>Aufgenommen wird jetzt von „%1“.</translation>
+    </message>
     <message id="rescue_saved">
         <source></source>
         <translation>Eine Aufnahme wurde gerettet: %1</translation>

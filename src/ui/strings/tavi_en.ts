@@ -324,6 +324,18 @@
         <source></source>
         <translation>Saving, then recording…</translation>
     </message>
+    <message id="microphone_stopped">
+        <source></source>
+        <translation>No sound comes from the microphone. The recording goes on as soon as it does.</translation>
+    </message>
+    <message id="microphone_back">
+        <source></source>
+        <translation>The microphone is back. %1 s are missing from the recording.</translation>
+    </message>
+    <message id="microphone_changed">
+        <source></source>
+        <translation>Now recording from “%1”.</translation>
+    </message>
     <message id="rescue_saved">
         <source></source>
         <translation>A recording was recovered: %1</translation>

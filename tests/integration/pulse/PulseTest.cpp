@@ -172,11 +172,22 @@ TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
         {"error_microphone_disconnected", "rp", [this] { m_server.moveRecording("speaker.monitor"); }, nothing},
         {"", "r",
          [this] {
-             m_server.pactl("load-module module-remap-source source_name=second master=mic_sink.monitor");
+             // As a headset's other profile.
+             m_server.pactl(
+                 "load-module module-remap-source source_name=second master=mic_sink.monitor rate=16000 "
+                 "channels=1 channel_map=mono source_properties=device.description=Headset");
              m_server.moveRecording("second");
          },
          nothing},
+        {"", "r",
+         [this] {
+             m_server.pactl("suspend-source microphone 1");
+             QThread::msleep(300);
+             m_server.pactl("suspend-source microphone 0");
+         },
+         nothing},
     };
+    QStringList names;
     for (const auto& item : cases) {
         for (const char time : std::string(item.times)) {
             SCOPED_TRACE(std::string(item.failure) + time);
@@ -193,6 +204,7 @@ TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
             time == 'b' ? void() : item.harm();
             if (*item.failure == '\0') {
                 EXPECT_TRUE(listener.waitForFrames(listener.heard().frames() + 24000));
+                names.append(input->deviceName());
             } else {
                 EXPECT_TRUE(listener.waitForEvents("fail", 1));
                 const auto before = listener.heard().events;
@@ -205,6 +217,7 @@ TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
             item.repair();
         }
     }
+    EXPECT_EQ(names.value(0), QStringLiteral("Headset"));
 }
 
 TEST_F(Pulse, TheSessionFollowsTheServer) {

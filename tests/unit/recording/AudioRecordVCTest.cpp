@@ -317,6 +317,31 @@ TEST_F(AudioRecordVCTest, WhatIsTooLoudOrNotHeardIsSaidForAWhile) {
     EXPECT_FALSE(screen.isSilent()) << "paused";
 }
 
+TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
+    const auto said = [this](double seconds, int frames) {
+        runLoop.advance(seconds);
+        recorders.last()->capture(frames, -30.0F);
+        runLoop.advance(0.1);
+        QStringList texts;
+        for (const Notice& notice : std::exchange(notices.posted, {})) {
+            texts.append(notice.text);
+        }
+        return texts.join(QLatin1Char(' ')).toStdString();
+    };
+    tapRecord();
+    EXPECT_EQ(said(2.5, 100), "");
+    EXPECT_EQ(said(0.8, 100), "");
+    EXPECT_EQ(said(1.0, 0), "microphone_stopped");
+    EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:04")) << "the clock goes on";
+    EXPECT_EQ(said(9.0, 100), "microphone_back");
+    tapRecord();
+    EXPECT_EQ(said(5.0, 0), "") << "nothing is missed in a pause";
+    tapRecord();
+    recorders.last()->input = QStringLiteral("Headset");
+    EXPECT_EQ(said(0.1, 100), "microphone_changed");
+    EXPECT_EQ(said(0.1, 100), "");
+}
+
 TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {
     // A start, a pause, and a resume; then what a stop overtakes: a pause, and a start.
     for (const char* expected : {"R-0", "P-1", "R-0"}) {
