@@ -62,6 +62,7 @@ public:
         explicit Input(tavi::AudioInputListener& listener) : m_listener(listener) {}
         void resume() override {}
         void pause() override { m_listener.audioInputDidPause(); }
+        QString deviceName() const override { return {}; }
 
     private:
         tavi::AudioInputListener& m_listener;
