@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QDir>
 #include <QGuiApplication>
 #include <QLibraryInfo>
@@ -19,6 +18,8 @@ const QString kLongText = QStringLiteral("The recording could not be kept becaus
 struct State {
     const char* name;
     int tab;
+    /// What can be read or heard at some size; after a "!", at none.
+    const char* words;
     std::function<void(Shell&)> prepare;
 };
 
@@ -99,51 +100,58 @@ void presentAlert(Shell& shell, const QString& message) {
 }
 
 const State kStates[] = {
-    {"idle", 0, {}},
-    {"recording", 0, record},
-    {"focus", 0, [](Shell& s) { s.key(Qt::Key_Tab); }},
-    {"paused", 0, [](Shell& s) { record(s), s.startRecording(); }},
-    {"saving", 0, save},
-    {"starting", 0, [](Shell& s) { save(s), s.startRecording(); }},
-    {"saved", 0, [](Shell& s) { record(s), s.tap("btnStop"), s.runLoop.drain(); }},
-    {"failed", 0, [](Shell& s) { s.session.inputAvailable = false, s.startRecording(), s.presenter.dismiss(); }},
-    {"session", 0, [](Shell& s) { record(s), s.tabBar.setSelectedIndex(1); }},
-    {"shortcuts", 0, [](Shell& s) { s.key(Qt::Key_F1); }},
-    {"empty", 1, {}},
-    {"list", 1, showLibrary},
-    {"playing", 1, play},
-    {"unplayable", 1, [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
-    {"found", 1, [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
-    {"notice", 1,
+    {"idle", 0, "Record|Tap the red button to record|!Too loud", {}},
+    {"recording", 0, "Pause|Recording", record},
+    {"loud", 0, "Too loud", [](Shell& s) { record(s), s.hear(0.0F); }},
+    {"silent", 0, "!Too loud|Nothing has been heard for ten seconds. Is the microphone on?",
+     [](Shell& s) { s.startRecording(), s.hear(-70.0F), s.runLoop.advance(10.0); }},
+    {"focus", 0, "", [](Shell& s) { s.key(Qt::Key_Tab); }},
+    {"paused", 0, "Resume|Paused", [](Shell& s) { record(s), s.startRecording(); }},
+    {"saving", 0, "Saving…", save},
+    {"starting", 0, "Saving, then recording…", [](Shell& s) { save(s), s.startRecording(); }},
+    {"saved", 0, "", [](Shell& s) { record(s), s.tap("btnStop"), s.runLoop.drain(); }},
+    {"failed", 0, "Dismiss|!Return",
+     [](Shell& s) { s.session.inputAvailable = false, s.startRecording(), s.presenter.dismiss(); }},
+    {"session", 0, "Return|!Dismiss", [](Shell& s) { record(s), s.tabBar.setSelectedIndex(1); }},
+    {"shortcuts", 0, "", [](Shell& s) { s.key(Qt::Key_F1); }},
+    {"empty", 1, "", {}},
+    {"list", 1, "", showLibrary},
+    {"playing", 1, "01:15 / 04:05 · 2×|01:15 of 04:05", play},
+    {"unplayable", 1, "This file cannot be played",
+     [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
+    {"found", 1, "", [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
+    {"notice", 1, "",
      [](Shell& s) {
          showLibrary(s);
          s.notices.postNotice(
              {QStringLiteral("The recording called “Interview” was deleted."), QStringLiteral("Undo"), {}});
      }},
-    {"settings", 2, {}},
-    {"settingsHeld", 2, [](Shell& s) { s.formatHold.setHeld(true); }},
-    {"sheet", 2, [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
-    {"alert", 0, [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},
-    {"alertOne", 0,
+    {"settings", 2, "", {}},
+    {"settingsHeld", 2, "", [](Shell& s) { s.formatHold.setHeld(true); }},
+    {"sheet", 2, "", [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
+    {"alert", 0, "",
+     [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},
+    {"alertOne", 0, "",
      [](Shell& s) {
          s.presenter.presentAlert({qtTrId("microphone_denied"), qtTrId("access_device_microphone"), {{qtTrId("OK")}}});
      }},
-    {"alertLong", 1, [](Shell& s) { showLibrary(s), presentAlert(s, kLongText); }},
-    {"trimmer", 1, trim},
-    {"trimmerCrowded", 1, [](Shell& s) { s.trim(addTalk(s)).selection()->nudge(true, 73.5); }},
-    {"trimmerFocus", 1, [](Shell& s) { trim(s), s.item("rightThumb")->forceActiveFocus(Qt::TabFocusReason); }},
-    {"trimmerZoomed", 1, [](Shell& s) { trim(s), s.trimmers.screen()->zoom()->show(0.1, 0.5); }},
-    {"trimmerPlaying", 1,
+    {"alertLong", 1, "", [](Shell& s) { showLibrary(s), presentAlert(s, kLongText); }},
+    {"trimmer", 1, "", trim},
+    {"trimmerCrowded", 1, "1:13.50 – 1:15.00 · 1.5 s",
+     [](Shell& s) { s.trim(addTalk(s)).selection()->nudge(true, 73.5); }},
+    {"trimmerFocus", 1, "", [](Shell& s) { trim(s), s.item("rightThumb")->forceActiveFocus(Qt::TabFocusReason); }},
+    {"trimmerZoomed", 1, "2.5×", [](Shell& s) { trim(s), s.trimmers.screen()->zoom()->show(0.1, 0.5); }},
+    {"trimmerPlaying", 1, "",
      [](Shell& s) { trim(s), s.trimmers.screen()->btnPlayPauseTapped(), s.runLoop.drain(), s.runLoop.advance(14.1); }},
-    {"trimmerExporting", 1,
+    {"trimmerExporting", 1, "40 %",
      [](Shell& s) {
          s.assets.areExportsHeldBack = true;
          trim(s), s.trimmers.screen()->btnUploadTapped();
          s.assets.sessions.back()->progress = 0.4F;
          s.runLoop.advance(0.1);
      }},
-    {"trimmerRecording", 1, [](Shell& s) { trim(s), s.trimmers.screen()->btnResetAudioTapped(); }},
-    {"trimmerUnreadable", 1, [](Shell& s) { s.trim(s.container.addDocument("text.txt", "text")); }},
+    {"trimmerRecording", 1, "", [](Shell& s) { trim(s), s.trimmers.screen()->btnResetAudioTapped(); }},
+    {"trimmerUnreadable", 1, "", [](Shell& s) { s.trim(s.container.addDocument("text.txt", "text")); }},
 };
 
 QString describe(const QQuickItem& item) {
@@ -231,11 +239,13 @@ void compareWithReference(const QImage& picture, const QString& name) {
 }
 
 /// With TAVI_PICTURES in the environment the pictures are saved there, to be looked at.
-void lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) {
+std::set<std::string> lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) {
+    std::set<std::string> words;
     for (const QSize size : {QSize(390, 844), QSize(320, 568), QSize(844, 390), QSize(800, 600), QSize(1200, 800)}) {
         SCOPED_TRACE(::testing::Message() << name << " at " << size.width() << "x" << size.height());
         shown.window->resize(size);
         const QImage picture = (shown.settle(), checkItems(shown, isCovered), shown.settle());
+        words.merge(shown.words());
         const QString file = QStringLiteral("%1-%2").arg(QLatin1String(name)).arg(size.width());
         compareWithReference(picture, file);
         const QString folder = qEnvironmentVariable("TAVI_PICTURES");
@@ -244,6 +254,7 @@ void lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) 
             EXPECT_TRUE(picture.save(QStringLiteral("%1/%2.png").arg(folder, file)));
         }
     }
+    return words;
 }
 
 class Screens : public ::testing::TestWithParam<State> {};
@@ -254,7 +265,11 @@ TEST_P(Screens, FitEverySize) {
     if (GetParam().prepare) {
         GetParam().prepare(shell);
     }
-    lookAtEverySize(shell, GetParam().name, shell.presenter.isActive());
+    const auto words = lookAtEverySize(shell, GetParam().name, shell.presenter.isActive());
+    for (const QString& part : QString::fromUtf8(GetParam().words).split(u'|', Qt::SkipEmptyParts)) {
+        const bool isAbsent = part.startsWith(u'!');
+        EXPECT_NE(words.contains(part.mid(isAbsent ? 1 : 0).toStdString()), isAbsent) << qPrintable(part);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Screens, ::testing::ValuesIn(kStates),
@@ -321,8 +336,12 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
     EXPECT_DOUBLE_EQ(shell.settingVC.rewindValue(), 35.0);
     EXPECT_DOUBLE_EQ(slider->property("value").toDouble(), 35.0);
     slider->forceActiveFocus(Qt::TabFocusReason);
-    shell.key(Qt::Key_Left);
-    EXPECT_DOUBLE_EQ(shell.settingVC.rewindValue(), 30.0);
+    std::vector<double> seconds;
+    for (const int key : {Qt::Key_Left, Qt::Key_PageUp, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home}) {
+        shell.key(key);
+        seconds.push_back(shell.settingVC.rewindValue());
+    }
+    EXPECT_EQ(seconds, (std::vector{30.0, 50.0, 60.0, 40.0, 5.0}));
 }
 
 TEST(AssistiveTechnology, OperatesTheControls) {
@@ -361,11 +380,12 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     Shell shell(fillLibrary);
     shell.tabBar.setSelectedIndex(1);
     shell.settle();
-    const auto access = [&shell](const char* name) { return QAccessible::queryAccessibleInterface(shell.item(name)); };
-    shell.tap("btnSortName");
-    EXPECT_EQ(shell.settings.sort(), 2);
-    EXPECT_EQ(access("btnSortName")->text(QAccessible::Name), QStringLiteral("Sorted by Name, ascending"));
-    EXPECT_EQ(access("btnSortDate")->text(QAccessible::Name), QStringLiteral("Sort by Date"));
+    for (const auto& [button, words] : {std::pair{"btnSortSize", "Sorted by Size, ascending"},
+                                        {"btnSortSize", "Sorted by Size, descending"},
+                                        {"btnSortDate", "Sorted by Date, ascending"},
+                                        {"btnSortName", "Sorted by Name, ascending"}}) {
+        EXPECT_TRUE((shell.tap(button), shell.words()).contains(words)) << words;
+    }
 
     const QQuickItem* list = shell.item("tableView");
     const double titleHeight = 44.0;
@@ -380,6 +400,7 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     EXPECT_TRUE(shell.item("search")->hasActiveFocus());
     shell.key(Qt::Key_Escape);
     EXPECT_TRUE(list->hasActiveFocus());
+    EXPECT_LT(shell.item("find")->mapToScene({0.0, 0.0}).y(), 0.0) << "an empty search does not stay";
 
     shell.players.seconds[shell.library.arrRecordings().back().nativeName()] = 60.0;
     const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
@@ -393,10 +414,22 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     shell.item("slider_player")->forceActiveFocus(Qt::TabFocusReason);
     shell.key(Qt::Key_PageUp);
     EXPECT_NEAR(shell.player.currentTime(), 6.0, 0.1);
+    const QQuickItem* slider = shell.item("slider_player");
+    shell.mouse(QEvent::MouseMove, slider->mapToScene({slider->width() * 0.76, 30.0}), false);
+    EXPECT_TRUE((shell.settle(), shell.words()).contains("00:45")) << "the moment under the pointer";
     shell.item("stopAudio")->forceActiveFocus(Qt::TabFocusReason);
     shell.key(Qt::Key_Return);
     EXPECT_FALSE(shell.library.isPanelShown());
     EXPECT_TRUE(list->hasActiveFocus()) << "the keyboard is not lost with the player";
+
+    shell.window->resize(390, 600);
+    for (int recording = 0; recording < 2; ++recording) {
+        shell.key(Qt::Key_Return);
+        shell.settleFor(700);
+        shell.tap("unfold");
+        EXPECT_TRUE(shell.item("fold")->isVisible());
+        shell.key(Qt::Key_Escape);
+    }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QKeyEvent>
@@ -9,6 +10,8 @@
 #include <QQuickWindow>
 #include <filesystem>
 #include <functional>
+#include <set>
+#include <string>
 
 #include "app/SettingVC.h"
 #include "support/FakeLibrary.h"
@@ -63,20 +66,20 @@ public:
         settle();
     }
 
+    void mouse(QEvent::Type type, const QPointF& at, bool isDown) const {
+        QMouseEvent event(type, at, window->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &event);
+    }
+
     /// The mouse goes down in the item's middle, moves to the right in steps, and comes up again.
     void drag(const QQuickItem& item, double movement) const {
         const QPointF from = item.mapToScene(item.boundingRect().center());
-        const auto send = [this](QEvent::Type type, const QPointF& at) {
-            QMouseEvent event(type, at, window->mapToGlobal(at),
-                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(window, &event);
-        };
-        send(QEvent::MouseButtonPress, from);
+        mouse(QEvent::MouseButtonPress, from, true);
         for (int step = 1; step <= 4 && movement != 0.0; ++step) {
-            send(QEvent::MouseMove, from + QPointF(movement * step / 4.0, 0.0));
+            mouse(QEvent::MouseMove, from + QPointF(movement * step / 4.0, 0.0), true);
         }
-        send(QEvent::MouseButtonRelease, from + QPointF(movement, 0.0));
+        mouse(QEvent::MouseButtonRelease, from + QPointF(movement, 0.0), false);
         settle();
     }
     void tap(const char* name) const { drag(*item(name), 0.0); }
@@ -101,6 +104,19 @@ public:
             }
         }
         return items;
+    }
+
+    /// All that can be read, or heard from a screen reader.
+    std::set<std::string> words() const {
+        std::set<std::string> all;
+        for (QQuickItem* item : visibleItems()) {
+            all.insert(item->property("text").toString().toStdString());
+            const auto* access = QAccessible::queryAccessibleInterface(item);
+            for (const auto part : {QAccessible::Name, QAccessible::Description}) {
+                all.insert(access != nullptr ? access->text(part).toStdString() : std::string());
+            }
+        }
+        return all;
     }
 
     QQmlApplicationEngine engine;

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QColor>
 #include <QQmlComponent>
 #include <cmath>
@@ -80,10 +79,17 @@ TEST(Session, KeepsAWayBackAndOut) {
     EXPECT_TRUE(shell.tabBar.isUserInteractionEnabled());
     shell.session.inputAvailable = true;
     shell.startRecording();
-    shell.runLoop.advance(12.0);
     shell.tabBar.setSelectedIndex(1);
-    shell.settle();
-    EXPECT_EQ(shell.item("session")->property("text").toString(), QStringLiteral("Recording 00:12"));
+    for (const auto& [seconds, clock] : {std::pair{12.0, "Recording 00:12"}, {3600.0, "Recording 01:00:12"}}) {
+        shell.runLoop.advance(seconds);
+        shell.settle();
+        EXPECT_TRUE(shell.words().contains(clock)) << clock;
+    }
+    shell.tap("sessionReturn");
+    shell.tap("btnStop");
+    shell.runLoop.drain();
+    EXPECT_TRUE(
+        (shell.settle(), shell.item("last")->property("text").toString()).endsWith(QStringLiteral(" · 01:00:12")));
 }
 
 TEST(Session, EndsWithANoticeThatPlays) {
@@ -148,7 +154,7 @@ TEST(Keyboard, ListsWhatItDoesAndIsNeverLost) {
         shell.key(key, Qt::NoModifier, key == Qt::Key_Question ? QStringLiteral("?") : QString());
         shell.key(Qt::Key_2, Qt::ControlModifier);
         EXPECT_EQ(shell.tabBar.selectedIndex(), 0) << "the list covers the screens";
-        shell.tap("shortcutsClose");
+        key == Qt::Key_F1 ? shell.key(Qt::Key_Escape) : shell.tap("shortcutsClose");
     }
     shell.item("tab0")->forceActiveFocus(Qt::TabFocusReason);
     shell.tabBar.setUserInteractionEnabled(false);
@@ -226,14 +232,20 @@ TEST(Notices, SayThingsInPassing) {
     shell.settle();
     EXPECT_TRUE(isRead("Second")) << "the time of the first is over";
     EXPECT_EQ(shell.window->activeFocusItem(), focused);
-    shell.tap("noticeAction");
+    shell.item("noticeAction")->forceActiveFocus(Qt::TabFocusReason);
+    shell.runLoop.advance(60.0);
+    shell.key(Qt::Key_Return);
     EXPECT_EQ(undone, 1);
     EXPECT_FALSE(shell.notices.isActive());
     shell.notices.act();
     EXPECT_EQ(undone, 1);
 
+    shell.presenter.presentAlert({QStringLiteral("Alert"), {}, {}});
+    shell.settle();
     shell.notices.postNotice(
         {QStringLiteral("The recording could not be kept because the disk is full. ").repeated(4)});
+    shell.runLoop.advance(60.0);
+    shell.presenter.dismiss();
     for (const QSize size : {QSize(360, 640), QSize(1200, 800)}) {
         shell.window->resize(size);
         shell.settle();
