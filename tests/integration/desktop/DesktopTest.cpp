@@ -24,7 +24,8 @@ protected:
         const QDBusMessage ping =
             QDBusMessage::createMethodCall(m_service.baseService(), QStringLiteral("/"),
                                            QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
-        for (int round = 0; round < 3; ++round) {
+        // A question, its answer, what that gives back, and a name that comes or goes in between.
+        for (int round = 0; round < 8; ++round) {
             // The watcher is told in the order in which messages are; the call itself knows before.
             bool isAnswered = false;
             const QDBusPendingCallWatcher watcher(m_client.asyncCall(ping));
