@@ -49,7 +49,7 @@ class PrivateDesktop:
             if bus:
                 self._start_bus()
             if display:
-                self._start_display()
+                self.start_display()
         except BaseException:
             self.close()
             raise
@@ -133,7 +133,7 @@ class PrivateDesktop:
                    log=self.folder / "bus.log")
         wait_for(path.exists, "the session bus")
 
-    def _start_display(self):
+    def start_display(self):
         reader, writer = os.pipe()
         width, height = self.screen
         self._display = self.spawn("Xvfb", "-displayfd", writer, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",

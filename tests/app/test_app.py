@@ -165,7 +165,10 @@ class Recording(AppTest):
         app = self.start("record")
         self.play_while_recording()
         self.desktop.kill_display()
-        app.wait(20)
+        try:
+            app.wait(20)
+        finally:
+            self.desktop.start_display()
         self.assert_holds_tone(self.wait_saved())
 
     def test_a_killed_recording_is_in_the_library_at_the_next_start(self):
