@@ -189,7 +189,7 @@ Result<void> CaptureRecorder::encodeWaiting(bool isLast) {
             fadeSeam(waiting.interleaved, m_framesEncoded, waiting.frames, format.channels, seam, ramp);
         }
     }
-    const auto written = m_writer->write(waiting.interleaved, waiting.frames);
+    auto written = m_writer->write(waiting.interleaved, waiting.frames);
     m_framesEncoded += static_cast<std::int64_t>(waiting.frames);
     m_buffer.consume(waiting.frames);
     if (!written || isLast) {
