@@ -37,7 +37,7 @@ public:
     Result<void> flushResult;
     Result<void> finishResult;
     /// Frames that a kill would leave, and how often the writer heard of a pause.
-    std::size_t framesKept = 0;
+    std::atomic<std::size_t> framesKept = 0;
     std::atomic<int> pauses = 0;
     int finishes = 0;
     std::unique_ptr<CaptureRecorder> recorder;
