@@ -12,8 +12,6 @@ Rectangle {
     readonly property real from: -160
     readonly property real to: 0
     readonly property real value: screen.level
-    readonly property real minimumValue: from
-    readonly property real maximumValue: to
 
     radius: Theme.radiusWave
     color: Theme.well

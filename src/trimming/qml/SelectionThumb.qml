@@ -15,8 +15,6 @@ T.Slider {
     /// How far what can be grasped reaches to the inner side: not into that of the other thumb.
     readonly property real inner: Math.max(0, Math.min(4, (selection.rightThumbX - selection.leftThumbX) / 2))
     /// Seconds; what assistive technology sets the value to is one more drag.
-    readonly property real minimumValue: from
-    readonly property real maximumValue: to
     readonly property real place: Math.max(from, Math.min(isLeft ? selection.startTime : selection.endTime, to))
 
     function nudge(seconds) {

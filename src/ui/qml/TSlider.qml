@@ -13,9 +13,6 @@ T.Slider {
     /// How many steps a page is.
     property int page: 4
     readonly property real place: Math.max(from, Math.min(rest, to))
-    /// What assistive technology reads as the range.
-    readonly property real minimumValue: from
-    readonly property real maximumValue: to
     property bool built: false
 
     function ask(wanted) {
