@@ -22,6 +22,7 @@
 #include "adapters/dbus/AtSpiAnnouncer.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/dbus/LogindSleep.h"
 #include "adapters/dbus/MprisRemoteControl.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "adapters/player/FilePlayer.h"
@@ -95,6 +96,7 @@ struct Platform {
     CaptureRecorders audioRecorders{audioInputs, media, runLoop};
     FilePlayers audioPlayers{media, media, audioOutputs, runLoop};
     DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
+    LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
     DesktopMailComposer mailComposer{bus};
     MprisRemoteControl remoteControl{bus};
     QuickDisplayRefreshes refreshes;

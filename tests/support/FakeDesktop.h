@@ -1,5 +1,9 @@
 #pragma once
 
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -11,6 +15,8 @@
 #include <QSet>
 #include <QStringList>
 #include <QVariantMap>
+
+#include "files/FileDescriptor.h"
 
 namespace tavi::test {
 
@@ -67,6 +73,21 @@ public:
     void emitSessionSignal(const QString& name) {
         m_bus.send(QDBusMessage::createSignal(kSessionPath, kSession, name));
     }
+
+    /// The machine is about to sleep, or has woken.
+    void prepareForSleep(bool begins) {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"), login() + QStringLiteral(".Manager"),
+                                       QStringLiteral("PrepareForSleep"));
+        m_bus.send(signal << begins);
+    }
+    /// Whether somebody holds up the machine's sleep.
+    bool isSleepDelayed() const {
+        pollfd end{m_sleepDelay.get(), POLLIN, 0};
+        return m_sleepDelay.isValid() && ::poll(&end, 1, 0) == 0;
+    }
+    /// What was said to the login manager when its delay was asked for.
+    QStringList sleepInhibitor;
 
     /// Whether the login session's lock has been asked for, by one who listens to its signals.
     bool isWatched = false;
@@ -129,6 +150,16 @@ private:
         if (is("login1.Manager.GetSession")) {
             return QVariantList{path(kSessionPath)};
         }
+        if (is("login1.Manager.Inhibit")) {
+            int ends[2] = {};
+            if (::pipe2(ends, O_CLOEXEC) != 0) {
+                return std::nullopt;
+            }
+            m_sleepDelay = FileDescriptor(ends[0]);
+            sleepInhibitor = QStringList{in.at(0).toString(), in.at(2).toString(), in.at(3).toString()};
+            const FileDescriptor theirs(ends[1]);
+            return QVariantList{QVariant::fromValue(QDBusUnixFileDescriptor(theirs.get()))};
+        }
         if (is("DBus.Properties.Get") && in.at(0) == kSession) {
             isWatched = true;
             return QVariantList{property(m_lockedHint)};
@@ -169,6 +200,8 @@ private:
     QString m_mailRequest;
     bool m_screenSaverActive = false;
     bool m_lockedHint = false;
+    /// The end of a pipe whose other end is the delay.
+    FileDescriptor m_sleepDelay;
     /// Of what was asked for; cookies and paths are made of it.
     quint32 m_lastNumber = 0;
 };

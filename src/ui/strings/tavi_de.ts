@@ -279,6 +279,10 @@
         <source></source>
         <translation>Möglicherweise läuft eine Sprachaufnahme</translation>
     </message>
+    <message id="sleep_reason">
+        <source></source>
+        <translation>Eine Sprachaufnahme wird zuvor auf die Platte gebracht</translation>
+    </message>
     <!-- Library -->
     <message id="voice_record">
         <source></source>

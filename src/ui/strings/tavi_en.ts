@@ -278,6 +278,10 @@
         <source></source>
         <translation>A voice recording may be in progress</translation>
     </message>
+    <message id="sleep_reason">
+        <source></source>
+        <translation>A voice recording is brought to the disk first</translation>
+    </message>
     <!-- Library -->
     <message id="voice_record">
         <source></source>

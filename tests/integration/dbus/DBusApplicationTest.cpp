@@ -14,6 +14,7 @@
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/dbus/LogindSleep.h"
 #include "adapters/dbus/SessionLock.h"
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
@@ -240,6 +241,43 @@ TEST_F(DBusApplicationTest, ALockIsKnownFromTheStartAndAMereRequestEndsWhenTheUs
     ASSERT_TRUE(becomes(lock, true));
     lock.userIsBack();
     EXPECT_FALSE(lock.isLocked());
+}
+
+TEST_F(DBusApplicationTest, TheMachineSleepsOnceNobodyHoldsItUp) {
+    double asleep = 5.0;
+    LogindSleep sleep(m_bus.connect(), QStringLiteral("Recording"), [&asleep] { return asleep; });
+    QStringList told;
+    std::shared_ptr<void> kept;
+    bool keeps = false;
+    QObject::connect(&sleep, &SystemSleep::willSleep, [&](const std::shared_ptr<void>& delay) {
+        kept = keeps ? delay : nullptr;
+        told << QStringLiteral("sleep");
+    });
+    QObject::connect(&sleep, &SystemSleep::hasWoken, [&](double seconds) { told << QString::number(seconds); });
+    const auto delayBecomes = [this](bool isDelayed) {
+        return spinUntil([&] { return m_desktop.isSleepDelayed() == isDelayed; });
+    };
+    for (const bool isLast : {false, true}) {
+        keeps = isLast;
+        EXPECT_TRUE(delayBecomes(true));
+        EXPECT_EQ(m_desktop.sleepInhibitor.join(QLatin1Char(' ')), QStringLiteral("sleep Recording delay"));
+        told.clear();
+        m_desktop.prepareForSleep(true);
+        m_desktop.prepareForSleep(true);
+        ASSERT_TRUE(spinUntil([&told] { return !told.isEmpty(); }));
+        EXPECT_EQ(m_desktop.isSleepDelayed() && keeps, keeps);
+        kept.reset();
+        EXPECT_TRUE(delayBecomes(false));
+        asleep += 90.0;
+        m_desktop.prepareForSleep(false);
+        EXPECT_TRUE(delayBecomes(true));
+        EXPECT_EQ(told, (QStringList{QStringLiteral("sleep"), QStringLiteral("90")}));
+        // The login manager is started anew.
+        m_desktop.sleepInhibitor.clear();
+        m_desktop.disown(FakeDesktop::login());
+        m_desktop.own(FakeDesktop::login());
+        EXPECT_TRUE(spinUntil([this] { return !m_desktop.sleepInhibitor.isEmpty(); }));
+    }
 }
 
 TEST(BusName, IsOneForEachFolder) {
