@@ -4,24 +4,19 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <cstddef>
-#include <cstdint>
 #include <cstdio>
 #include <system_error>
-#include <vector>
 
 #include "files/DurableFile.h"
+#include "files/FileCopy.h"
 #include "files/FileDescriptor.h"
 #include "files/FileNames.h"
-#include "files/PositionedIo.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr std::size_t kCopyBlock = std::size_t{1} << 20;
 constexpr mode_t kPermissionBits = 07777;
 
 bool isUnsupported(int error) {
@@ -53,49 +48,20 @@ int renameByReserving(const std::filesystem::path& from, const std::filesystem::
     return 0;
 }
 
-int copyContents(int source, int target) {
-    std::vector<char> block(kCopyBlock);
-    for (std::int64_t offset = 0;;) {
-        const ssize_t count = ::read(source, block.data(), block.size());
-        if (count == 0) {
-            return 0;
-        }
-        if (count < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            return errno;
-        }
-        if (const int error =
-                writeFully(::pwrite, target, block.data(), static_cast<std::size_t>(count), offset).error) {
-            return error;
-        }
-        offset += count;
-    }
-}
-
 /// Permissions, contents and dates of one open file into another.
 int copyFile(int source, const struct stat& attributes, int target) {
     // A file system without permissions refuses them; the file itself is as good.
     if (::fchmod(target, attributes.st_mode & kPermissionBits) != 0 && !isUnsupported(errno)) {
         return errno;
     }
-    if (const int error = copyContents(source, target)) {
-        return error;
-    }
-    const std::array<timespec, 2> times{attributes.st_atim, attributes.st_mtim};
-    return ::futimens(target, times.data()) == 0 || isUnsupported(errno) ? 0 : errno;
+    return copyContents(source, attributes, target);
 }
 
 int moveAcrossFileSystems(const std::filesystem::path& from, const std::filesystem::path& to) {
-    // Without O_NONBLOCK a pipe would be waited for.
-    const FileDescriptor source = FileDescriptor::open(from, O_RDONLY | O_NONBLOCK);
     struct stat attributes = {};
-    if (!source.isValid() || ::fstat(source.get(), &attributes) != 0) {
+    const FileDescriptor source = openRegular(from, attributes);
+    if (!source.isValid()) {
         return errno;
-    }
-    if (!S_ISREG(attributes.st_mode)) {
-        return S_ISDIR(attributes.st_mode) ? EISDIR : EINVAL;
     }
     if (existsAt(to)) {
         return EEXIST;

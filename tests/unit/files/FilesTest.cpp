@@ -11,6 +11,7 @@
 #include <set>
 
 #include "files/DurableFile.h"
+#include "files/FileCopy.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
 
@@ -164,6 +165,49 @@ TEST_F(FilesTest, AFailureLeavesTheSourceAndNothingElse) {
     EXPECT_FALSE(moved);
     EXPECT_EQ(read(from), large);
     EXPECT_EQ(filesIn(far), Names());
+}
+
+TEST_F(FilesTest, CopiesARegularFileWholeOrNotAtAll) {
+    const timespec times[2] = {{1700000000, 0}, {1700000001, 0}};
+    write(from, std::string(3 << 20, 'x'));
+    ASSERT_EQ(::utimensat(AT_FDCWD, from.c_str(), times, 0), 0);
+    ASSERT_EQ(::chmod(from.c_str(), 04555), 0);
+    fs::create_symlink(from, near / "link");
+    std::vector<double> told;
+    EXPECT_EQ(copyItem(near / "link", farTo, {[&told](double fraction) { told.push_back(fraction); }}), 0);
+    EXPECT_EQ(read(farTo), std::string(3 << 20, 'x'));
+    EXPECT_EQ(told, (std::vector{0.33, 0.66, 1.0}));
+    struct stat attributes = {};
+    ASSERT_EQ(::lstat(farTo.c_str(), &attributes), 0);
+    EXPECT_EQ(attributes.st_mode, S_IFREG | 0644U);
+    EXPECT_EQ(attributes.st_mtim.tv_sec, 1700000001);
+    EXPECT_EQ(copyItem(from, farTo), EEXIST);
+    fs::remove(farTo);
+
+    ASSERT_EQ(::mkfifo((near / "pipe").c_str(), 0600), 0);
+    ASSERT_EQ(::mknod((near / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    write(near / "huge", "x");
+    ASSERT_EQ(::truncate((near / "huge").c_str(), off_t{1} << 42), 0);
+    std::stop_source stop;
+    const auto append = [this](double) { std::ofstream(from, std::ios::app) << "more"; };
+    const struct {
+        fs::path source;
+        CopyWatch watch;
+        int error;
+    } cases[] = {{near, {}, EISDIR},
+                 {near / "pipe", {}, EINVAL},
+                 {near / "socket", {}, EINVAL},
+                 {"/dev/zero", {}, EINVAL},
+                 {near / "none", {}, ENOENT},
+                 {near / "huge", {}, ENOSPC},
+                 {from, {append}, EBUSY},
+                 {from, {[this](double) { fs::resize_file(from, 1 << 20); }}, EBUSY},
+                 {from, {[&stop](double) { stop.request_stop(); }, stop.get_token()}, ECANCELED}};
+    ASSERT_EQ(::chmod(from.c_str(), 0600), 0);
+    for (const auto& row : cases) {
+        EXPECT_EQ(copyItem(row.source, farTo, row.watch), row.error) << row.source;
+        EXPECT_EQ(filesIn(far), Names()) << row.source;
+    }
 }
 
 TEST_F(FilesTest, FindsAFreeNameBesideWhateverIsThere) {

@@ -1,0 +1,148 @@
+#include "files/FileCopy.h"
+
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+#include "files/DurableFile.h"
+#include "files/FileIdentity.h"
+#include "files/PositionedIo.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr std::size_t kCopyBlock = std::size_t{1} << 20;
+constexpr mode_t kReadAndWrite = 0666;
+
+/// Takes the room that a file will need, where the file system can; else sees that there is so much. 0 or ENOSPC.
+int reserve(int fd, std::int64_t size) {
+    if (size == 0 || ::fallocate(fd, FALLOC_FL_KEEP_SIZE, 0, size) == 0) {
+        return 0;
+    }
+    if (errno == ENOSPC || errno == EDQUOT) {
+        return errno;
+    }
+    struct statvfs disk = {};
+    const bool isKnown = ::fstatvfs(fd, &disk) == 0 && disk.f_blocks > 0;
+    return isKnown && static_cast<std::uint64_t>(size) / disk.f_frsize >= disk.f_bavail ? ENOSPC : 0;
+}
+
+/// Says how far a copy has come, not more often than anybody can see.
+class Progress {
+public:
+    Progress(const CopyWatch& watch, std::int64_t all) : m_watch(watch), m_all(all) {}
+
+    void tell(std::int64_t done) {
+        constexpr int kSteps = 100;
+        const int step =
+            m_all > 0 ? static_cast<int>(static_cast<double>(done) / static_cast<double>(m_all) * kSteps) : 0;
+        if (m_watch.progress && step > m_step) {
+            m_step = step;
+            m_watch.progress(static_cast<double>(step) / kSteps);
+        }
+    }
+
+private:
+    const CopyWatch& m_watch;
+    std::int64_t m_all;
+    int m_step = 0;
+};
+
+int copyBytes(int source, std::int64_t size, int target, const CopyWatch& watch) {
+    // Files of the kernel's say that they are empty, and are not.
+    const std::int64_t end = size > 0 ? size : std::numeric_limits<std::int64_t>::max();
+    std::vector<char> block(kCopyBlock);
+    Progress progress(watch, size);
+    for (std::int64_t offset = 0; offset < end;) {
+        if (watch.stop.stop_requested()) {
+            return ECANCELED;
+        }
+        const auto wanted = std::min<std::int64_t>(end - offset, static_cast<std::int64_t>(block.size()));
+        const ssize_t count = ::read(source, block.data(), static_cast<std::size_t>(wanted));
+        if (count < 0 && errno != EINTR) {
+            return errno;
+        }
+        if (count == 0) {
+            return size > 0 ? EBUSY : 0;
+        }
+        const auto bytes = static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+        if (const int error = writeFully(::pwrite, target, block.data(), bytes, offset).error) {
+            return error;
+        }
+        offset += static_cast<std::int64_t>(bytes);
+        progress.tell(offset);
+    }
+    return 0;
+}
+
+bool cannotKeepDates(int error) {
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
+}
+
+}  // namespace
+
+FileDescriptor openRegular(const std::filesystem::path& path, struct stat& attributes) {
+    const auto isRegular = [&attributes] {
+        if (!S_ISREG(attributes.st_mode)) {
+            errno = S_ISDIR(attributes.st_mode) ? EISDIR : EINVAL;
+        }
+        return S_ISREG(attributes.st_mode);
+    };
+    // Looked at before it is opened, which some devices take for a request; and again, should it be another one by now.
+    if (::stat(path.c_str(), &attributes) != 0 || !isRegular()) {
+        return {};
+    }
+    FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (file.isValid() && (::fstat(file.get(), &attributes) != 0 || !isRegular())) {
+        const int error = errno;
+        file.close();
+        errno = error;
+    }
+    return file;
+}
+
+int copyContents(int source, const struct stat& attributes, int target, const CopyWatch& watch) {
+    int error = reserve(target, attributes.st_size);
+    if (error == 0) {
+        error = copyBytes(source, attributes.st_size, target, watch);
+    }
+    struct stat now = {};
+    if (error == 0 && attributes.st_size > 0 &&
+        (::fstat(source, &now) != 0 || FileIdentity(now) != FileIdentity(attributes))) {
+        error = EBUSY;
+    }
+    if (error != 0) {
+        return error;
+    }
+    const std::array<timespec, 2> times{attributes.st_atim, attributes.st_mtim};
+    return ::futimens(target, times.data()) == 0 || cannotKeepDates(errno) ? 0 : errno;
+}
+
+int copyItem(const std::filesystem::path& from, const std::filesystem::path& to, const CopyWatch& watch) {
+    struct stat attributes = {};
+    const FileDescriptor source = openRegular(from, attributes);
+    if (!source.isValid()) {
+        return errno;
+    }
+    DurableFile target = DurableFile::create(to);
+    if (!target.isValid()) {
+        return errno;
+    }
+    if (const int error = copyContents(source.get(), attributes, target.fd(), watch)) {
+        return error;
+    }
+    // Whoever could read the source may read the copy, and its owner may change it. It is no program, whatever the disk
+    // says from which it comes. A file system without permissions is as good.
+    ::fchmod(target.fd(), (attributes.st_mode & kReadAndWrite) | S_IRUSR | S_IWUSR);
+    return watch.stop.stop_requested() ? ECANCELED : target.publish();
+}
+
+}  // namespace tavi
