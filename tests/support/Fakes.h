@@ -7,6 +7,9 @@
 #include <map>
 #include <stop_token>
 
+#include "files/FileMove.h"
+#include "files/FileNames.h"
+#include "files/PathText.h"
 #include "platform/Application.h"
 #include "platform/AudioDuration.h"
 #include "platform/AudioRecorder.h"
@@ -17,6 +20,7 @@
 #include "platform/Presenter.h"
 #include "platform/RemoteControl.h"
 #include "platform/TabBar.h"
+#include "platform/Trash.h"
 #include "platform/UserDefaults.h"
 #include "support/Printers.h"
 
@@ -71,6 +75,29 @@ public:
 
     int index = 0;
     bool isEnabled = true;
+};
+
+/// A trash in a folder of its own, where there is one.
+class FakeTrash : public Trash {
+public:
+    explicit FakeTrash(std::filesystem::path trashFolder) : folder(std::move(trashFolder)) {}
+
+    Result<std::filesystem::path> moveToTrash(const std::filesystem::path& path) override {
+        return isThere ? moved(path, folder / path.filename()) : failure(QStringLiteral("no trash"));
+    }
+    Result<std::filesystem::path> putBack(const std::filesystem::path& trashed,
+                                          const std::filesystem::path& path) override {
+        return moved(trashed, freePath(path));
+    }
+
+    std::filesystem::path folder;
+    bool isThere = true;
+
+private:
+    static Result<std::filesystem::path> moved(const std::filesystem::path& from, const std::filesystem::path& to) {
+        const auto result = moveItem(from, to);
+        return result ? Result<std::filesystem::path>(to) : tl::unexpected(errorOf(result.error()));
+    }
 };
 
 /// A sound system that answers as it is told.

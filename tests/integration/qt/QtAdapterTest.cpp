@@ -7,8 +7,10 @@
 #include <fstream>
 
 #include "adapters/qt/QtAppContainer.h"
+#include "adapters/qt/QtTrash.h"
 #include "adapters/qt/QtUserDefaults.h"
 #include "adapters/qt/TerminationSignals.h"
+#include "files/FileNames.h"
 #include "support/EventLoop.h"
 
 namespace tavi::test {
@@ -173,6 +175,38 @@ TEST(TerminationSignals, ArriveOnTheMainThreadAndAreRestored) {
     EXPECT_EQ(received.back(), SIGINT);
     EXPECT_EQ(::signal(SIGTERM, SIG_DFL), SIG_DFL);
     ::signal(SIGHUP, previous);
+}
+
+TEST(Trash, TakesWhateverIsThereAndBringsItBackUnderAFreeName) {
+    namespace fs = std::filesystem;
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toLocal8Bit());
+    const fs::path folder = home.path().toStdString();
+    for (const char* name : {"voice.m4a", "x\xff.m4a", "-a\nb.m4a", "folder.m4a"}) {
+        SCOPED_TRACE(name);
+        QtTrash trash;
+        const fs::path path = folder / name;
+        name == std::string("folder.m4a") ? void(fs::create_directory(path)) : void(std::ofstream(path) << "sound");
+        const auto trashed = trash.moveToTrash(path);
+        ASSERT_TRUE(trashed) << qPrintable(trashed.error().text);
+        EXPECT_FALSE(existsAt(path));
+        EXPECT_EQ(trashed->parent_path(), folder / "data/Trash/files");
+        std::ofstream(path) << "other";
+        const auto back = trash.putBack(*trashed, path);
+        ASSERT_TRUE(back) << qPrintable(back.error().text);
+        EXPECT_EQ(*back, numberedPath(path, 2));
+        EXPECT_TRUE(existsAt(*back) && fs::is_empty(folder / "data/Trash/info"));
+        EXPECT_FALSE(trash.putBack(*trashed, path)) << "it is gone from there";
+    }
+    // Where the trash should be there is something else.
+    fs::remove_all(folder / "data");
+    std::ofstream(folder / "data") << "";
+    for (const char* name : {"voice.m4a", "x\xff.m4a", "gone.m4a"}) {
+        const bool wasThere = existsAt(folder / name);
+        EXPECT_FALSE(QtTrash().moveToTrash(folder / name)) << name;
+        EXPECT_EQ(existsAt(folder / name), wasThere) << name;
+    }
+    fs::remove_all(folder);
 }
 
 }  // namespace
