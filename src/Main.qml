@@ -15,11 +15,12 @@ Window {
     required property TabBarController tabBar
     required property AlertPresenter presenter
     required property NoticeLine notices
+    required property JHUD hudView
     required property AudioTrimmerStage trimmers
     /// Fades take the place of movements.
     property bool reducedMotion: false
     /// Something covers the screens and takes the keys.
-    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown
+    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown || hudView.shown
 
     /// A phone on its side.
     readonly property bool low: height < Theme.lowHeight && width > height
@@ -243,6 +244,19 @@ Window {
 
     ShortcutList {
         id: shortcuts
+    }
+
+    Loader {
+        id: hud
+
+        objectName: "hudView"
+        anchors.fill: parent
+        active: window.hudView.shown
+        focus: active && !window.presenter.active
+        sourceComponent: HudView {
+            hud: window.hudView
+            behind: window.presenter.active
+        }
     }
 
     Loader {

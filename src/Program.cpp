@@ -48,6 +48,7 @@
 #include "ui/AccessibleItem.h"
 #include "ui/AlertPresenter.h"
 #include "ui/Announcements.h"
+#include "ui/JHUD.h"
 #include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
@@ -103,6 +104,7 @@ struct Platform {
     NotificationCenter notifications;
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
+    JHUD hudView;
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;
@@ -113,6 +115,8 @@ struct Screens {
     explicit Screens(Platform& services) : platform(services) {
         platform.announcements.follow(platform.notices, &NoticeLine::noticeChanged,
                                       [this] { return platform.notices.text(); });
+        platform.announcements.follow(platform.hudView, &JHUD::shownChanged,
+                                      [this] { return platform.hudView.text(); });
         platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
             return recording.lblRecording().hidden ? QString() : recording.lblRecording().text;
         });
@@ -221,6 +225,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
                                  {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
+                                 {QStringLiteral("hudView"), QVariant::fromValue(&screens.platform.hudView)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
                                  {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},
                                  {QStringLiteral("x"), place.x()},

@@ -18,6 +18,7 @@
 #include "platform/MailComposer.h"
 #include "platform/Notices.h"
 #include "platform/Presenter.h"
+#include "platform/ProgressView.h"
 #include "platform/RemoteControl.h"
 #include "platform/TabBar.h"
 #include "platform/Trash.h"
@@ -64,6 +65,17 @@ public:
     void postNotice(Notice notice) override { posted.push_back(std::move(notice)); }
 
     std::vector<Notice> posted;
+};
+
+class FakeProgressView : public ProgressView {
+public:
+    void show(Progress newProgress) override { progress = std::move(newProgress); }
+    void setShare(double newShare) override { share = newShare; }
+    void hide() override { progress.reset(); }
+
+    /// What is shown.
+    std::optional<Progress> progress;
+    double share = 0.0;
 };
 
 class FakeTabBar : public TabBar {

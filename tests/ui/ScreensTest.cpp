@@ -126,6 +126,12 @@ const State kStates[] = {
          s.notices.postNotice(
              {QStringLiteral("The recording called “Interview” was deleted."), QStringLiteral("Undo"), {}});
      }},
+    {"hud", 0, "Please wait|!Cancel", [](Shell& s) { s.hudView.show({QStringLiteral("Please wait")}); }},
+    {"hudBar", 1, "Exporting|40 %|Cancel",
+     [](Shell& s) {
+         s.hudView.show({QStringLiteral("Exporting"), Progress::HudType::Bar, [] {}});
+         s.hudView.setShare(0.4);
+     }},
     {"settings", 2, "", {}},
     {"settingsHeld", 2, "", [](Shell& s) { s.formatHold.setHeld(true); }},
     {"sheet", 2, "", [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},

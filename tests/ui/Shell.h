@@ -17,6 +17,7 @@
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
 #include "ui/AlertPresenter.h"
+#include "ui/JHUD.h"
 #include "ui/NoticeLine.h"
 #include "ui/TabBarController.h"
 
@@ -145,6 +146,7 @@ struct ShellScreens : FakeServices {
     TabBarController tabBar;
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
+    JHUD hudView;
     FakeRecording fakeRecording{*this, presenter, tabBar, notices};
     AudioRecordVC& recording = fakeRecording.vc;
     FakeLibrary fakeLibrary{*this, durations, notices};
@@ -171,6 +173,7 @@ public:
              {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
              {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
              {QStringLiteral("notices"), QVariant::fromValue(&notices)},
+             {QStringLiteral("hudView"), QVariant::fromValue(&hudView)},
              {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 

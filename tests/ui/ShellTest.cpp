@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QQmlComponent>
 #include <cmath>
+#include <thread>
 
 #include "Shell.h"
 #include "support/FakeDisplayRefresh.h"
@@ -214,6 +215,40 @@ TEST(Alerts, QueueAndAnswerKeys) {
     EXPECT_FALSE(presenter.isActive());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
+}
+
+TEST(Hud, CoversTheScreensUntilItIsHidden) {
+    Shell shell;
+    int cancels = 0;
+    shell.hudView.show({QStringLiteral("Copying"), Progress::HudType::Bar, [&cancels] { ++cancels; }});
+    shell.settle();
+    shell.key(Qt::Key_Space);
+    shell.key(Qt::Key_Escape);
+    shell.key(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
+    shell.presenter.presentAlert({QStringLiteral("Alert"), {}, {}});
+    shell.settle();
+    shell.key(Qt::Key_Return);
+    shell.key(Qt::Key_Space);
+    shell.tap("hudCancel");
+    EXPECT_EQ(cancels, 4);
+    shell.tap("btnRecord");
+    shell.hudView.show({QStringLiteral("Copying more")});
+    shell.settle();
+    for (const int key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Space}) {
+        shell.key(key);
+    }
+    EXPECT_EQ(cancels, 4);
+    EXPECT_TRUE(shell.session.questions.empty()) << "reaches what lies below";
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
+    std::thread([&shell] {
+        shell.hudView.show({QStringLiteral("Late")});
+        shell.hudView.hide();
+    }).join();
+    shell.settle();
+    EXPECT_FALSE(shell.hudView.isShown());
+    shell.key(Qt::Key_Space);
+    EXPECT_EQ(shell.session.questions.size(), 1U);
 }
 
 TEST(Notices, SayThingsInPassing) {

@@ -32,25 +32,10 @@ Rectangle {
             Accessible.name: text
         }
 
-        Rectangle {
-            readonly property real from: 0
-            readonly property real to: 1
-            readonly property real value: root.exporter.progress
-
+        ProgressBar {
             width: parent.width
-            height: 6
-            radius: 3
-            color: Theme.control
-            Accessible.role: Accessible.ProgressBar
-            Accessible.name: qsTrId("trimmer_exporting")
-            Accessible.description: Math.round(root.exporter.progress * 100) + " %"
-
-            Rectangle {
-                width: parent.width * root.exporter.progress
-                height: parent.height
-                radius: 3
-                color: Theme.accent
-            }
+            name: qsTrId("trimmer_exporting")
+            value: root.exporter.progress
         }
 
         TButton {

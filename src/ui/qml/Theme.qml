@@ -17,6 +17,8 @@ QtObject {
     readonly property color controlHover: "#3a3a3d"
     readonly property color controlPressed: "#1c1c1e"
     readonly property color scrim: "#b3000000"
+    /// Over the window while something is waited for.
+    readonly property color veil: "#99000000"
 
     // Edges. The first two carry a control's shape; the lines mean nothing.
     readonly property color edge: "#78787d"
@@ -91,6 +93,8 @@ QtObject {
     readonly property int select: reducedMotion ? fade : 160
     readonly property int zoom: reducedMotion ? fade : 160
     readonly property int slide: reducedMotion ? fade : 240
+    /// From one dot of the ring to the next; it shows that something goes on, and stays.
+    readonly property int ringStep: reducedMotion ? 480 : 120
     readonly property int noticeIn: reducedMotion ? fade : 200
     readonly property int noticeOut: reducedMotion ? fade : 160
 }
