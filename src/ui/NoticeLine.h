@@ -4,13 +4,14 @@
 
 #include <QObject>
 #include <memory>
+#include <vector>
 
 #include "platform/Notices.h"
 #include "platform/RunLoop.h"
 
 namespace tavi {
 
-/// The notice that is shown, until its time is over.
+/// The notice that is shown, until its time is over; then the latest about work that still goes on.
 class NoticeLine : public QObject, public Notices {
     Q_OBJECT
     QML_ELEMENT
@@ -19,6 +20,8 @@ class NoticeLine : public QObject, public Notices {
     Q_PROPERTY(QString text READ text NOTIFY noticeChanged)
     /// Empty where there is nothing to do.
     Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY noticeChanged)
+    /// How far the work has come that the line is about, from 0 to 1; negative where it is about none.
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
     /// Whether the user is about to read or use it: it does not go by itself before its whole time has passed anew.
     Q_PROPERTY(bool held MEMBER m_isHeld WRITE setHeld)
 
@@ -32,22 +35,28 @@ public:
     ~NoticeLine() override;
 
     void postNotice(Notice notice) override;
+    std::unique_ptr<ProgressNotice> postProgress(Notice notice) override;
 
-    bool isActive() const { return m_isActive; }
-    QString text() const { return m_notice.text; }
-    QString actionTitle() const { return m_notice.actionTitle; }
+    bool isActive() const { return m_isActive || !m_works.empty(); }
+    QString text() const { return shown().text; }
+    QString actionTitle() const { return shown().actionTitle; }
+    double progress() const;
     void setHeld(bool held);
 
 public Q_SLOTS:
     /// Takes the notice away and does what it offers.
     void act();
-    /// Takes the notice away.
+    /// Takes the notice away, but not that about work.
     void dismiss() { clear(); }
 
 Q_SIGNALS:
     void noticeChanged();
+    void progressChanged();
 
 private:
+    class Work;
+
+    const Notice& shown() const;
     void clear();
     void startTimer();
     void stopTimer();
@@ -56,6 +65,8 @@ private:
     Notice m_notice;
     bool m_isActive = false;
     bool m_isHeld = false;
+    /// The works that go on, the latest last; their owners have them.
+    std::vector<Work*> m_works;
     /// Runs while a notice is shown and not held.
     std::shared_ptr<Timer> m_timer;
 };

@@ -62,9 +62,25 @@ public:
 /// Keeps the notices in their order; a test chooses an action by calling it.
 class FakeNotices : public Notices {
 public:
+    /// What is said about work that goes on; it goes with the work.
+    struct Work : ProgressNotice {
+        Work(FakeNotices& line, Notice what) : notices(line), notice(std::move(what)) { notices.works.push_back(this); }
+        ~Work() override { std::erase(notices.works, this); }
+        void setProgress(double fraction) override { progress = fraction; }
+
+        FakeNotices& notices;
+        Notice notice;
+        double progress = 0.0;
+    };
+
     void postNotice(Notice notice) override { posted.push_back(std::move(notice)); }
 
+    std::unique_ptr<ProgressNotice> postProgress(Notice notice) override {
+        return std::make_unique<Work>(*this, std::move(notice));
+    }
+
     std::vector<Notice> posted;
+    std::vector<Work*> works;
 };
 
 class FakeProgressView : public ProgressView {

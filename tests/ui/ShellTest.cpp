@@ -275,6 +275,20 @@ TEST(Notices, SayThingsInPassing) {
     shell.notices.act();
     EXPECT_EQ(undone, 1);
 
+    auto work = shell.notices.postProgress({QStringLiteral("Work"), QStringLiteral("Undo"), [&undone] { ++undone; }});
+    work->setProgress(0.25);
+    shell.notices.postNotice({QStringLiteral("Third")});
+    shell.settle();
+    EXPECT_TRUE(isRead("Third") && shell.words().count("25 %") == 0);
+    shell.runLoop.advance(60.0);
+    shell.settle();
+    EXPECT_TRUE(isRead("Work") && shell.words().count("25 %") == 1);
+    shell.tap("noticeAction");
+    EXPECT_EQ(undone, 2);
+    EXPECT_TRUE(shell.notices.isActive());
+    work.reset();
+    EXPECT_FALSE(shell.notices.isActive());
+
     shell.presenter.presentAlert({QStringLiteral("Alert"), {}, {}});
     shell.settle();
     shell.notices.postNotice(

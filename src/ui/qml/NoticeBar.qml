@@ -2,7 +2,8 @@ import QtQuick
 import Tavi.Ui
 
 /// Says in passing what the shell has to say. Takes no focus, and taps beside its button go through. It stays while it is
-/// pointed at, or its button has the keyboard. What does not fit in a line is told in up to three.
+/// pointed at, or its button has the keyboard. What does not fit in a line is told in up to three. Below what is said about
+/// work that goes on, a line grows with it.
 Rectangle {
     id: root
 
@@ -40,6 +41,20 @@ Rectangle {
         target: root.notices
         property: "held"
         value: pointer.hovered || action.activeFocus || root.behind
+    }
+
+    Rectangle {
+        objectName: "noticeProgress"
+        x: root.radius
+        y: root.height - height
+        width: (root.width - 2 * x) * Math.max(0, root.notices.progress)
+        height: 3
+        radius: height / 2
+        visible: root.notices.progress >= 0
+        color: Theme.accent
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: root.notices.text
+        Accessible.description: Math.round(root.notices.progress * 100) + " %"
     }
 
     Label {
