@@ -45,6 +45,8 @@ RESERVED = re.compile(
 # Headers of a library, and the adapters that stand before it.
 LIBRARIES = [
     (re.compile(r"^pulse/"), {"adapters/pulse"}),
+    (re.compile(r"^plist/"), {"adapters/plist"}),
+    (re.compile(r"^(libsecret/|sodium|glib|gio/)"), {"adapters/secret"}),
     (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
     (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "main"}),
 ]

@@ -100,7 +100,7 @@ private:
     static QByteArray written(const QVariant& value) {
         QByteArray data = "bplist";
         QDataStream stream(&data, QIODevice::Append);
-        stream << value;
+        stream << (value.typeId() == QMetaType::Int ? QVariant(value.toLongLong()) : value);
         return data;
     }
 };
