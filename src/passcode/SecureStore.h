@@ -5,7 +5,8 @@
 
 namespace tavi {
 
-/// Values by key, kept where only this user can read them. What the passcode lock keeps its secret in. Main thread only.
+/// Values by key, kept where only this user can read them. What the passcode lock keeps its secret in. Main thread
+/// only.
 class SecureStore {
 public:
     virtual ~SecureStore() = default;

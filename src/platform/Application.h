@@ -28,6 +28,13 @@ inline bool hasOwnScheme(const QUrl& url) {
     return std::find(kOwnSchemes.begin(), kOwnSchemes.end(), url.scheme()) != kOwnSchemes.end();
 }
 
+/// Names under which the life cycle is posted to the NotificationCenter, after the delegate has heard of it.
+namespace applicationnotification {
+inline const QString kDidFinishLaunching = QStringLiteral("UIApplicationDidFinishLaunchingNotification");
+inline const QString kDidEnterBackground = QStringLiteral("UIApplicationDidEnterBackgroundNotification");
+inline const QString kWillEnterForeground = QStringLiteral("UIApplicationWillEnterForegroundNotification");
+}  // namespace applicationnotification
+
 /// What the program was started for.
 struct LaunchOptions {
     /// Type of the quick action, if one was chosen.

@@ -105,6 +105,14 @@ double SettingsStore::storedForwardSeconds() const {
     return m_defaults.objectForKey(settingskey::kForwardSong).toDouble();
 }
 
+bool SettingsStore::isPasscodeProtectionOn() const {
+    return m_defaults.stringForKey(settingskey::kPasscodeProtectionEnabled) == QLatin1String("YES");
+}
+
+void SettingsStore::setPasscodeProtectionOn(bool on) {
+    write(settingskey::kPasscodeProtectionEnabled, on ? QStringLiteral("YES") : QStringLiteral("NO"));
+}
+
 bool SettingsStore::isThemeWhite() const {
     return m_defaults.stringForKey(settingskey::kThemeColor) == QLatin1String("WHITE");
 }

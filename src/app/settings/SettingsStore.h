@@ -20,6 +20,7 @@ inline constexpr QLatin1String kSort("Sort");
 inline constexpr QLatin1String kRewindSong("RewindSong");
 inline constexpr QLatin1String kForwardSong("ForwardSong");
 inline constexpr QLatin1String kThemeColor("ThemeColor");
+inline constexpr QLatin1String kPasscodeProtectionEnabled("PasscodeProtectionEnabled");
 /// In the suite that companions share.
 inline constexpr QLatin1String kAppStart("AppStart");
 }  // namespace settingskey
@@ -68,6 +69,10 @@ public:
     /// The two as they are stored, 0 where absent.
     double storedRewindSeconds() const;
     double storedForwardSeconds() const;
+
+    /// Whether the passcode lock is on: stored as "YES", and anything else is off.
+    bool isPasscodeProtectionOn() const;
+    void setPasscodeProtectionOn(bool on);
 
     /// Whether the library tints its buttons for a white ground.
     bool isThemeWhite() const;

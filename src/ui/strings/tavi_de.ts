@@ -773,5 +773,42 @@
         <source></source>
         <translation>Die letzte Aufnahme abspielen, %1</translation>
     </message>
+    <!-- The passcode lock -->
+    <message id="password">
+        <source></source>
+        <translation>Code eingeben</translation>
+    </message>
+    <message id="old_pass">
+        <source></source>
+        <translation>Bisherigen Code eingeben</translation>
+    </message>
+    <message id="new_pass">
+        <source></source>
+        <translation>Neuen Code eingeben</translation>
+    </message>
+    <message id="Re_pass">
+        <source></source>
+        <translation>Neuen Code wiederholen</translation>
+    </message>
+    <message id="Delete">
+        <source></source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="passcode_digits">
+        <source></source>
+        <translation>%1 von 4 Ziffern eingegeben</translation>
+    </message>
+    <message id="passcode_cover">
+        <source></source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message id="passcode_missing">
+        <source></source>
+        <translation>Es ist kein Code gespeichert, also öffnet keiner diese Sperre. Wie man sie abschaltet, steht in der Handbuchseite von tavi.</translation>
+    </message>
+    <message id="passcode_not_stored">
+        <source></source>
+        <translation>Ihr Code ist noch nicht gespeichert</translation>
+    </message>
 </context>
 </TS>

@@ -772,5 +772,42 @@
         <source></source>
         <translation>Play the last recording, %1</translation>
     </message>
+    <!-- The passcode lock -->
+    <message id="password">
+        <source></source>
+        <translation>Enter your passcode</translation>
+    </message>
+    <message id="old_pass">
+        <source></source>
+        <translation>Enter your old passcode</translation>
+    </message>
+    <message id="new_pass">
+        <source></source>
+        <translation>Enter a new passcode</translation>
+    </message>
+    <message id="Re_pass">
+        <source></source>
+        <translation>Enter the new passcode again</translation>
+    </message>
+    <message id="Delete">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="passcode_digits">
+        <source></source>
+        <translation>%1 of 4 digits entered</translation>
+    </message>
+    <message id="passcode_cover">
+        <source></source>
+        <translation>Locked</translation>
+    </message>
+    <message id="passcode_missing">
+        <source></source>
+        <translation>No passcode is stored, so none can open this lock. The manual page of tavi says how to switch it off.</translation>
+    </message>
+    <message id="passcode_not_stored">
+        <source></source>
+        <translation>Your passcode is not stored yet</translation>
+    </message>
 </context>
 </TS>

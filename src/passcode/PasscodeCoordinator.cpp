@@ -1,0 +1,187 @@
+#include "passcode/PasscodeCoordinator.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+#include "passcode/LockDecision.h"
+#include "platform/Application.h"
+
+namespace tavi {
+
+namespace {
+
+/// Calls what waits for the end, once.
+void complete(PasscodeCoordinator::Completion& block, bool success) {
+    if (const auto waiting = std::exchange(block, {})) {
+        waiting(success);
+    }
+}
+
+}  // namespace
+
+PasscodeCoordinator::PasscodeCoordinator(const Services& services, QObject* parent)
+    : QObject(parent), m_services(services), m_store(services.settings, services.keychain, services.runLoop.clock()) {}
+
+void PasscodeCoordinator::togglePasscodeProtection(bool on) {
+    m_store.setPasscodeProtectionOn(on);
+    if (on) {
+        activatePasscodeProtection();
+    } else {
+        deactivatePasscodeProtection();
+    }
+}
+
+void PasscodeCoordinator::activatePasscodeProtection() {
+    // The screen in the old window may be what asks for this.
+    if (auto* const old = std::exchange(m_passcodeWindow, new PasscodeWindow(this))) {
+        old->deleteLater();
+    }
+    Q_EMIT passcodeWindowChanged();
+    const bool isOn = isPasscodeProtectionOn();
+    if (!std::exchange(m_isActivated, true)) {
+        setCovered(isOn);
+    }
+    if (isOn) {
+        subscribeToNotifications();
+    }
+}
+
+void PasscodeCoordinator::deactivatePasscodeProtection() {
+    disableSubscriptions();
+}
+
+void PasscodeCoordinator::subscribeToNotifications() {
+    disableSubscriptions();
+    m_subscription = connect(&m_services.notifications, &NotificationCenter::posted, this,
+                             [this](const QString& name) { handleNotification(name); });
+}
+
+void PasscodeCoordinator::disableSubscriptions() {
+    disconnect(m_subscription);
+}
+
+void PasscodeCoordinator::handleNotification(const QString& name) {
+    if (name == applicationnotification::kDidEnterBackground) {
+        enterBackground();
+    } else if (name == applicationnotification::kWillEnterForeground ||
+               name == applicationnotification::kDidFinishLaunching) {
+        enterForeground();
+    }
+}
+
+void PasscodeCoordinator::enterBackground() {
+    setCovered(true);
+    m_wasUnlocking = m_wasUnlocking || isUnlocking();
+    dismissLockScreen();
+    startTrackingInactivity();
+}
+
+void PasscodeCoordinator::enterForeground() {
+    stopTrackingInactivity();
+    // Who had not unlocked before does not come in by a short absence.
+    const bool wasUnlocking = std::exchange(m_wasUnlocking, false) && isPasscodeProtectionOn();
+    if (shouldLock() || wasUnlocking) {
+        verifyPasscodeWithPasscodeType(PasscodeType::Unlock, {});
+    }
+    setCovered(false);
+}
+
+bool PasscodeCoordinator::shouldLock() const {
+    return tavi::shouldLock({.isPasscodePresented = m_isPasscodePresented,
+                             .isProtectionOn = isPasscodeProtectionOn(),
+                             .inactivityMinutes = getPasscodeInactivityDurationInMinutes(),
+                             .inactivityStarted = getInactivityStartTime(),
+                             .inactivityEnded = getInactivityEndTime()});
+}
+
+void PasscodeCoordinator::presentLockScreenWithPasscodeType(PasscodeType type) {
+    dismissLockScreen();
+    m_passcodeWindow->setRootViewController(new PasscodeViewController(
+        type, *this, {.store = m_store, .appearance = appearance, .runLoop = m_services.runLoop}));
+    m_isPasscodePresented = true;
+    m_passcodeWindow->show();
+    updateLockState();
+}
+
+void PasscodeCoordinator::dismissLockScreen() {
+    if (std::exchange(m_isPasscodePresented, false)) {
+        m_passcodeWindow->hide();
+        updateLockState();
+    }
+}
+
+void PasscodeCoordinator::verifyPasscodeWithPasscodeType(PasscodeType type, Completion completion) {
+    m_verificationCompletedBlock = std::move(completion);
+    presentLockScreenWithPasscodeType(type);
+}
+
+void PasscodeCoordinator::setupNewPasscodeWithCompletion(Completion completion) {
+    setPasscodeInactivityDurationInMinutes(0);
+    m_setupCompletedBlock = std::move(completion);
+    presentLockScreenWithPasscodeType(PasscodeType::Setup);
+}
+
+void PasscodeCoordinator::changePasscodeWithCompletion(Completion completion) {
+    setPasscodeInactivityDurationInMinutes(getPasscodeInactivityDurationInMinutes());
+    m_setupCompletedBlock = std::move(completion);
+    presentLockScreenWithPasscodeType(PasscodeType::Change);
+}
+
+void PasscodeCoordinator::disablePasscodeProtectionWithCompletion(Completion completion) {
+    verifyPasscodeWithPasscodeType(PasscodeType::Verify, [this, completion = std::move(completion)](bool success) {
+        if (success) {
+            togglePasscodeProtection(false);
+        }
+        if (completion) {
+            completion(success);
+        }
+    });
+}
+
+void PasscodeCoordinator::didVerifyPasscode() {
+    complete(m_verificationCompletedBlock, true);
+    dismissLockScreen();
+}
+
+void PasscodeCoordinator::didSetupPasscode() {
+    togglePasscodeProtection(true);
+    complete(m_setupCompletedBlock, true);
+    dismissLockScreen();
+    if (const QString trouble = m_store.trouble(); !trouble.isEmpty()) {
+        m_services.presenter.presentAlert({qtTrId("passcode_not_stored"), trouble, {{qtTrId("OK")}}});
+    }
+}
+
+void PasscodeCoordinator::passcodeSetupCancelled() {
+    complete(m_setupCompletedBlock, false);
+    complete(m_verificationCompletedBlock, false);
+    dismissLockScreen();
+}
+
+void PasscodeCoordinator::passcodeVerificationFailed() {
+    complete(m_verificationCompletedBlock, false);
+}
+
+void PasscodeCoordinator::secureStoreTroubleChanged() {
+    if (m_isPasscodePresented && m_passcodeWindow->rootViewController() != nullptr) {
+        m_passcodeWindow->rootViewController()->troubleChanged();
+    }
+}
+
+bool PasscodeCoordinator::isUnlocking() const {
+    return m_isPasscodePresented && m_passcodeWindow->rootViewController() != nullptr &&
+           m_passcodeWindow->rootViewController()->passcodeType() == PasscodeType::Unlock;
+}
+
+void PasscodeCoordinator::setCovered(bool covered) {
+    if (std::exchange(m_isCovered, covered) != covered) {
+        Q_EMIT coveredChanged();
+        updateLockState();
+    }
+}
+
+void PasscodeCoordinator::updateLockState() {
+    m_services.lockState.setLocked(m_isCovered || isUnlocking());
+}
+
+}  // namespace tavi
