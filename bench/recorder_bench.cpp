@@ -47,6 +47,7 @@ public:
     }
     tavi::Result<void> flush() override { return m_writer->flush(); }
     tavi::Result<void> pause() override { return m_writer->pause(); }
+    tavi::Result<void> sync() override { return m_writer->sync(); }
     tavi::Result<void> finish() override { return m_writer->finish(); }
 
 private:

@@ -22,6 +22,7 @@
 #include "adapters/dbus/AtSpiAnnouncer.h"
 #include "adapters/dbus/DBusApplication.h"
 #include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/dbus/DBusSessionEnd.h"
 #include "adapters/dbus/LogindSleep.h"
 #include "adapters/dbus/MprisRemoteControl.h"
 #include "adapters/desktop/DesktopMailComposer.h"
@@ -43,6 +44,7 @@
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
+#include "recording/SessionGuard.h"
 #include "trimming/AudioTrimmerStage.h"
 #include "trimming/waves/WaveformLoader.h"
 #include "ui/AccessibleItem.h"
@@ -97,6 +99,7 @@ struct Platform {
     CaptureRecorders audioRecorders{audioInputs, media, runLoop};
     FilePlayers audioPlayers{media, media, audioOutputs, runLoop};
     DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
+    DBusSessionEnd sessionEnd{bus, qtTrId("session_end_reason")};
     LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
     DesktopMailComposer mailComposer{bus};
     MprisRemoteControl remoteControl{bus};
@@ -148,6 +151,7 @@ struct Screens {
                              .tabBar = platform.tabBar,
                              .sessionFile = sessionFile,
                              .notices = platform.notices}};
+    SessionGuard sessionGuard{recording, platform.formatHold, platform.systemSleep, platform.sessionEnd};
     RecordingLister lister{platform.media, platform.runLoop};
     RecordingShapes shapes{platform.media, platform.runLoop};
     WaveformLoader waveforms{waveformServices};

@@ -23,7 +23,8 @@ public:
     /// Asks for what is in the file by now, and returns at once; with the first request for its entry in the folder
     /// and that folder's own, too. Requests that come while the disk is busy become one.
     void begin();
-    /// Waits for what has been asked for, and ends the thread. The first errno that was met, or 0.
+    /// Waits for what has been asked for, and ends the thread until begin() is called again. The first errno that was
+    /// met, or 0.
     int finish();
 
 private:

@@ -26,6 +26,8 @@ public:
     /// Sound pauses here: as flush(), with a packet of less than the usual length where the codec has such, and to the
     /// disk in any case.
     virtual Result<void> pause() = 0;
+    /// As pause(), and waits until it is on the disk.
+    virtual Result<void> sync() = 0;
     /// Drains the encoder, completes the container's headers and brings the file to the disk. Once.
     virtual Result<void> finish() = 0;
 };

@@ -54,6 +54,9 @@ public:
     virtual void pause() = 0;
     /// Ends the recording with what was captured until now; returns at once. The delegate hears when the file is whole.
     virtual void stop() = 0;
+    /// Brings what was captured until now to the disk while the recording goes on, and then lets go of until: on
+    /// whatever thread, and also where the disk fails.
+    virtual void bringToDisk(std::shared_ptr<void> until) = 0;
     /// Blocks until the file is whole, and tells the delegate before it returns. For the end of the program only.
     virtual void waitUntilFinished() = 0;
     virtual bool isRecording() const = 0;

@@ -352,6 +352,18 @@ void AudioRecordVC::setState(State state) {
     Q_EMIT outletsChanged();
 }
 
+void AudioRecordVC::systemWillSleep(const std::shared_ptr<void>& delay) {
+    if (isRecording()) {
+        m_audioRecorder->bringToDisk(delay);
+    }
+}
+
+void AudioRecordVC::systemHasWoken(double secondsAsleep) {
+    if (isRecordingRunning()) {
+        m_watch.didSleep(*m_audioRecorder, secondsAsleep);
+    }
+}
+
 void AudioRecordVC::finishBeforeTermination() {
     if (isRecording()) {
         endSession(true);

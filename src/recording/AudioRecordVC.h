@@ -105,6 +105,10 @@ public:
     void setWormhole(MessageListening* wormhole) { m_wormhole = wormhole; }
     /// Saves a session that still runs, and waits until it and any earlier one are in the documents folder.
     void finishBeforeTermination();
+    /// Has what was captured brought to the disk before the delay is over.
+    void systemWillSleep(const std::shared_ptr<void>& delay);
+    /// The recording goes on; how much is missing is said.
+    void systemHasWoken(double secondsAsleep);
 
 public Q_SLOTS:
     void viewDidLoad();

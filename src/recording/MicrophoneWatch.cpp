@@ -1,6 +1,9 @@
 #include "recording/MicrophoneWatch.h"
 
 #include <QCoreApplication>
+#include <cmath>
+
+#include "recording/AudioSettings.h"
 
 namespace tavi {
 
@@ -19,6 +22,13 @@ void MicrophoneWatch::begin(const AudioRecorder& recorder) {
     m_patience = kBeginning;
     if (m_frames == 0) {
         m_name.clear();
+    }
+}
+
+void MicrophoneWatch::didSleep(const AudioRecorder& recorder, double seconds) {
+    begin(recorder);
+    if (const int whole = static_cast<int>(std::lround(seconds)); whole > 0) {
+        m_notices.postNotice({qtTrId("record_slept").arg(clockText(whole))});
     }
 }
 

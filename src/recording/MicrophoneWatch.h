@@ -17,6 +17,8 @@ public:
 
     /// The recorder starts, or goes on after a pause.
     void begin(const AudioRecorder& recorder);
+    /// The machine has slept for so long in the midst of it.
+    void didSleep(const AudioRecorder& recorder, double seconds);
     /// Looks at a recorder that captures; called ten times a second.
     void look(const AudioRecorder& recorder);
 

@@ -159,7 +159,8 @@ class Recording(AppTest):
         self.assertEqual(self.desktop.stop(app, signal.SIGTERM), 0)
         self.assert_holds_tone(self.wait_saved())
         # The test's bus has no desktop on it; nothing else is worth a word.
-        self.assertRegex(self.log.read_text(), r"^Nothing here keeps the screen on: .*\n$")
+        self.assertRegex(self.log.read_text(),
+                         r"^Nothing here keeps the screen on: .*\nNothing here holds up the end of the session: .*\n$")
 
     def test_a_display_that_goes_leaves_a_saved_recording(self):
         app = self.start("record")

@@ -30,6 +30,9 @@ public:
             endLater(std::nullopt);
         }
     }
+    void bringToDisk(std::shared_ptr<void> until) override {
+        m_runLoop.dispatchBackground([until = std::move(until)] {});
+    }
     void waitUntilFinished() override {
         m_isStopped = true;
         finish(std::nullopt);

@@ -20,20 +20,25 @@
 
 namespace tavi::test {
 
-/// A desktop on a private bus, as far as the program talks with one: portal (mail, inhibit), screen saver, login
-/// manager. Which of them exist is the set of names that a test lets it own.
+/// A desktop on a private bus, as far as the program talks with one: portal (mail, inhibit), screen saver, session
+/// manager, login manager. Which of them exist is the set of names that a test lets it own.
 class FakeDesktop : public QDBusVirtualObject {
 public:
     static QString portal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
     static QString screenSaver() { return QStringLiteral("org.freedesktop.ScreenSaver"); }
+    static QString sessionManager() { return QStringLiteral("org.gnome.SessionManager"); }
     static QString login() { return QStringLiteral("org.freedesktop.login1"); }
 
     explicit FakeDesktop(const QDBusConnection& bus, const QStringList& names = {}) : m_bus(bus) {
-        m_bus.registerVirtualObject(QStringLiteral("/org/freedesktop"), this, QDBusConnection::SubPath);
+        for (const QString& path : kPaths) {
+            m_bus.registerVirtualObject(path, this, QDBusConnection::SubPath);
+        }
         std::for_each(names.begin(), names.end(), [this](const QString& name) { own(name); });
     }
     ~FakeDesktop() override {
-        m_bus.unregisterObject(QStringLiteral("/org/freedesktop"), QDBusConnection::UnregisterTree);
+        for (const QString& path : kPaths) {
+            m_bus.unregisterObject(path, QDBusConnection::UnregisterTree);
+        }
     }
 
     /// Comes (back) with that name, or goes.
@@ -91,7 +96,7 @@ public:
 
     /// Whether the login session's lock has been asked for, by one who listens to its signals.
     bool isWatched = false;
-    /// What keeps the screen on at present: paths of portal requests, cookies of the screen saver.
+    /// What is inhibited at present: paths of portal requests, cookies of the screen saver and the session manager.
     QSet<QString> inhibitions;
     quint32 inhibitFlags = 0;
     QString inhibitReason;
@@ -140,7 +145,13 @@ private:
             inhibitions.insert(QString::number(++m_lastNumber));
             return QVariantList{m_lastNumber};
         }
-        if (is("ScreenSaver.UnInhibit")) {
+        if (call == QLatin1String("org.gnome.SessionManager.Inhibit") && message.signature() == QLatin1String("susu")) {
+            inhibitReason = in.at(2).toString();
+            inhibitFlags = in.at(3).toUInt();
+            inhibitions.insert(QString::number(++m_lastNumber));
+            return QVariantList{m_lastNumber};
+        }
+        if (is("ScreenSaver.UnInhibit") || call == QLatin1String("org.gnome.SessionManager.Uninhibit")) {
             inhibitions.remove(in.at(0).toString());
             return QVariantList();
         }
@@ -193,6 +204,7 @@ private:
         }
     }
 
+    inline static const QStringList kPaths{QStringLiteral("/org/freedesktop"), QStringLiteral("/org/gnome")};
     inline static const QString kSessionPath = QStringLiteral("/org/freedesktop/login1/session/_31");
     inline static const QString kSession = QStringLiteral("org.freedesktop.login1.Session");
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recording/AudioRecordVC.h"
+#include "recording/SessionGuard.h"
 #include "support/FakeAudioFileRepair.h"
 #include "support/FakeServices.h"
 
@@ -31,13 +31,17 @@ struct FakeRecording {
               .presenter = presenter,
               .tabBar = tabBar,
               .sessionFile = file,
-              .notices = notices}) {}
+              .notices = notices}),
+          guard(vc, fakes.formatHold, systemSleep, sessionEnd) {}
 
     FakeMailComposer mail;
     FakeAudioFileRepair repair;
     RecordingRescue rescue;
     SessionFile file;
     AudioRecordVC vc;
+    SystemSleep systemSleep;
+    FakeSessionEnd sessionEnd;
+    SessionGuard guard;
 };
 
 }  // namespace tavi::test

@@ -20,6 +20,7 @@
 #include "platform/Presenter.h"
 #include "platform/ProgressView.h"
 #include "platform/RemoteControl.h"
+#include "platform/SessionEnd.h"
 #include "platform/TabBar.h"
 #include "platform/Trash.h"
 #include "platform/UserDefaults.h"
@@ -172,6 +173,13 @@ public:
     bool isIdleTimerDisabled() const override { return isDisabled; }
 
     bool isDisabled = false;
+};
+
+class FakeSessionEnd : public SessionEnd {
+public:
+    void setHeldUp(bool heldUp) override { isHeldUp = heldUp; }
+
+    bool isHeldUp = false;
 };
 
 class FakeMailComposer : public MailComposer {

@@ -50,11 +50,13 @@ public:
     void end(const std::optional<Error>& error);
     /// Levels of what arrived since the last call.
     Level takeLevel();
+    /// Ends the encoder thread's wait. Any thread.
+    void wake() { m_wake.release(); }
     std::int64_t framesCaptured() const { return m_framesCaptured.load(std::memory_order_relaxed); }
 
     // Encoder thread.
     /// Sleeps until there is sound to write: the first of it, that of 0.3 s, then of every 0.4 s, and at a pause; or
-    /// until the end.
+    /// until the end, or wake().
     void wait() { m_wake.acquire(); }
     /// Whether nothing more will come. What waits after this has been true is all there is.
     bool isEnded() const { return m_ended.load(std::memory_order_acquire); }
@@ -71,7 +73,6 @@ public:
     std::int64_t framesLost() const { return m_framesLost.load(std::memory_order_relaxed); }
 
 private:
-    void wake() { m_wake.release(); }
     std::size_t bytesPerFrame() const { return sizeof(float) * static_cast<std::size_t>(m_format.channels); }
 
     AudioInputFormat m_format;

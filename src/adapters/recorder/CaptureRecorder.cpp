@@ -94,6 +94,19 @@ void CaptureRecorder::stop() {
     });
 }
 
+void CaptureRecorder::bringToDisk(std::shared_ptr<void> until) {
+    if (!m_isFinished) {
+        const std::lock_guard lock(m_untilSyncedMutex);
+        m_untilSynced.push_back(std::move(until));
+        m_buffer.wake();
+    }
+}
+
+std::vector<std::shared_ptr<void>> CaptureRecorder::takeUntilSynced() {
+    const std::lock_guard lock(m_untilSyncedMutex);
+    return std::exchange(m_untilSynced, {});
+}
+
 void CaptureRecorder::giveUpDraining() {
     if (!m_buffer.isEnded()) {
         m_input.reset();
@@ -133,11 +146,17 @@ float CaptureRecorder::averagePowerForChannel(int channel) const {
 }
 
 void CaptureRecorder::encode() {
+    std::vector<std::shared_ptr<void>> untilSynced;
     for (bool isEnded = false; !isEnded && !m_error;) {
         m_buffer.wait();
         isEnded = m_buffer.isEnded();
+        untilSynced = takeUntilSynced();
         if (const auto result = encodeWaiting(isEnded); !result) {
             m_error = result.error();
+        } else if (!untilSynced.empty() && !isEnded) {
+            // What the disk says to it is told by the next write, or at the end.
+            static_cast<void>(m_writer->sync());
+            untilSynced.clear();
         }
         logLosses();
     }
@@ -218,6 +237,7 @@ void CaptureRecorder::finished() {
     m_isFinished = true;
     m_isRunning = false;
     m_input.reset();
+    takeUntilSynced();
     if (m_delegate != nullptr) {
         m_delegate->audioRecorderDidFinishRecording(*this, m_error);
     }

@@ -4,8 +4,10 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include "adapters/recorder/CaptureBuffer.h"
 #include "platform/AudioFileWriter.h"
@@ -29,6 +31,7 @@ public:
     bool record() override;
     void pause() override;
     void stop() override;
+    void bringToDisk(std::shared_ptr<void> until) override;
     void waitUntilFinished() override;
     bool isRecording() const override { return m_isRunning; }
     QString inputName() const override { return m_input ? m_input->deviceName() : QString(); }
@@ -42,6 +45,7 @@ private:
     void encode();
     Result<void> encodeWaiting(bool isLast);
     void logLosses();
+    std::vector<std::shared_ptr<void>> takeUntilSynced();
 
     void pauseInput();
     void giveUpDraining();
@@ -68,6 +72,10 @@ private:
     /// The last seam that the writer was told of as a pause.
     std::int64_t m_pausedAt = 0;
     std::optional<Error> m_error;
+
+    /// What is let go of once all that was captured is on the disk.
+    std::mutex m_untilSyncedMutex;
+    std::vector<std::shared_ptr<void>> m_untilSynced;
 
     /// Expires with the recorder, so that what the encoder thread posted finds out.
     std::shared_ptr<int> m_lifetime = std::make_shared<int>(0);

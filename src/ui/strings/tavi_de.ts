@@ -283,6 +283,10 @@
         <source></source>
         <translation>Eine Sprachaufnahme wird zuvor auf die Platte gebracht</translation>
     </message>
+    <message id="session_end_reason">
+        <source></source>
+        <translation>Die Aufnahme ist noch nicht gespeichert</translation>
+    </message>
     <!-- Library -->
     <message id="voice_record">
         <source></source>
@@ -340,6 +344,10 @@
     <message id="microphone_changed">
         <source></source>
         <translation>Aufgenommen wird jetzt von „%1“.</translation>
+    </message>
+    <message id="record_slept">
+        <source></source>
+        <translation>Der Rechner hat geschlafen: In der Aufnahme fehlen %1, sie geht weiter.</translation>
     </message>
     <message id="rescue_saved">
         <source></source>

@@ -282,6 +282,10 @@
         <source></source>
         <translation>A voice recording is brought to the disk first</translation>
     </message>
+    <message id="session_end_reason">
+        <source></source>
+        <translation>The recording is not saved yet</translation>
+    </message>
     <!-- Library -->
     <message id="voice_record">
         <source></source>
@@ -339,6 +343,10 @@
     <message id="microphone_changed">
         <source></source>
         <translation>Now recording from “%1”.</translation>
+    </message>
+    <message id="record_slept">
+        <source></source>
+        <translation>The computer slept: %1 are missing from the recording, which goes on.</translation>
     </message>
     <message id="rescue_saved">
         <source></source>

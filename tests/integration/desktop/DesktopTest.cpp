@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "adapters/dbus/DBusIdleTimer.h"
+#include "adapters/dbus/DBusSessionEnd.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
@@ -15,6 +16,7 @@ namespace {
 
 const QString kPortal = FakeDesktop::portal();
 const QString kScreenSaver = FakeDesktop::screenSaver();
+const QString kManager = FakeDesktop::sessionManager();
 
 /// A private bus with a desktop on it that has nothing yet.
 class DesktopTest : public ::testing::Test {
@@ -48,11 +50,24 @@ protected:
     FakeDesktop m_desktop{m_service};
 };
 
-TEST_F(DesktopTest, TheScreenIsKeptOnAsLongAsThatIsWanted) {
-    for (const QStringList& names : {QStringList{kPortal, kScreenSaver}, {kScreenSaver}, {}}) {
-        SCOPED_TRACE(names.size());
+TEST_F(DesktopTest, ScreenAndSessionAreKeptOnAsLongAsThatIsWanted) {
+    const struct {
+        bool isScreen;
+        QStringList names;
+        quint32 flags;
+    } cases[] = {{true, {kPortal, kScreenSaver}, 8}, {true, {kScreenSaver}, 0}, {true, {}, 0},
+                 {false, {kPortal, kManager}, 1},    {false, {kManager}, 1},    {false, {}, 0}};
+    for (const auto& row : cases) {
+        const bool isScreen = row.isScreen;
+        const QStringList& names = row.names;
+        SCOPED_TRACE(::testing::Message() << isScreen << names.size());
         m_desktop.inhibitFlags = 0;
-        auto timer = std::make_unique<DBusIdleTimer>(m_client, QStringLiteral("Recording"));
+        auto timer = isScreen ? std::make_unique<DBusIdleTimer>(m_client, QStringLiteral("Recording")) : nullptr;
+        auto end = isScreen ? nullptr : std::make_unique<DBusSessionEnd>(m_client, QStringLiteral("Recording"));
+        const auto want = [&](bool isWanted) {
+            isScreen ? timer->setIdleTimerDisabled(isWanted) : end->setHeldUp(isWanted);
+            EXPECT_TRUE(!isScreen || timer->isIdleTimerDisabled() == isWanted);
+        };
         std::for_each(names.begin(), names.end(), [this](const QString& name) { own(name); });
         const auto expectKept = [&](bool isKept) {
             settle();
@@ -61,19 +76,18 @@ TEST_F(DesktopTest, TheScreenIsKeptOnAsLongAsThatIsWanted) {
         // The last wish counts, before the answers come too.
         for (const std::string wishes : {"++", "-", "+-", "+-+", "-", "+"}) {
             for (const char wish : wishes) {
-                timer->setIdleTimerDisabled(wish == '+');
-                EXPECT_EQ(timer->isIdleTimerDisabled(), wish == '+');
+                want(wish == '+');
             }
             expectKept(wishes.back() == '+');
         }
         if (!names.isEmpty()) {
             EXPECT_EQ(m_desktop.inhibitReason, QStringLiteral("Recording"));
-            EXPECT_EQ(m_desktop.inhibitFlags, names.size() == 2 ? 8U : 0U);
+            EXPECT_EQ(m_desktop.inhibitFlags, row.flags);
         }
         // What goes takes with it what it granted; what comes back is asked again, unless another holds or nobody
         // wants.
         for (const bool isWanted : {true, false}) {
-            timer->setIdleTimerDisabled(isWanted);
+            want(isWanted);
             for (const QString& name : names) {
                 disown(name);
                 if (name == names.first()) {
@@ -83,9 +97,10 @@ TEST_F(DesktopTest, TheScreenIsKeptOnAsLongAsThatIsWanted) {
                 expectKept(isWanted);
             }
         }
-        timer->setIdleTimerDisabled(true);
+        want(true);
         expectKept(true);
         timer.reset();
+        end.reset();
         expectKept(false);
         std::for_each(names.begin(), names.end(), [this](const QString& name) { disown(name); });
     }

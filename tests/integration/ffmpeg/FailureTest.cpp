@@ -198,9 +198,9 @@ TEST_F(FailureTest, ASlowDiskStallsNothingAndItsErrorIsToldAtTheEnd) {
             ASSERT_TRUE((*writer)->write(second.data(), 48000) && (*writer)->flush());
         }
     }
-    EXPECT_TRUE((*writer)->pause());
-    EXPECT_FALSE((*writer)->finish());
+    EXPECT_TRUE((*writer)->sync());
     EXPECT_GE(size, 30U * 8000);
+    EXPECT_FALSE((*writer)->finish());
 }
 
 TEST_F(FailureTest, WhatWasInterruptedAnywhereIsMadeWholeOnce) {

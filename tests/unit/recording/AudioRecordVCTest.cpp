@@ -72,7 +72,9 @@ protected:
                   std::vector(3, isSession));
         EXPECT_EQ((std::vector{screen.isRecordingRunning(), recorders.last() && recorders.last()->isRecording()}),
                   std::vector(2, isRunning));
-        EXPECT_EQ((std::vector{formatHold.isHeld(), !FormatHold::leaveToChange(container)}), std::vector(2, isHeld));
+        EXPECT_EQ(
+            (std::vector{formatHold.isHeld(), !FormatHold::leaveToChange(container), recording.sessionEnd.isHeldUp}),
+            std::vector(3, isHeld));
         return std::string(1, letter) + (tabBar.isUserInteractionEnabled() ? '+' : '-');
     }
     QStringList documents() const { return QDir(container.documentsPath()).entryList(QDir::Files | QDir::Hidden); }
@@ -340,6 +342,31 @@ TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
     recorders.last()->input = QStringLiteral("Headset");
     EXPECT_EQ(said(0.1, 100), "microphone_changed");
     EXPECT_EQ(said(0.1, 100), "");
+}
+
+TEST_F(AudioRecordVCTest, TheMachineSleepsOnceTheRecordingIsOnTheDiskAndTheGapIsSaid) {
+    const struct {
+        char state;
+        bool waits;
+        double asleep;
+        std::size_t notices;
+    } cases[] = {{'I', false, 60.0, 0}, {'R', true, 0.2, 0}, {'R', true, 3725.0, 1}, {'P', true, 60.0, 0}};
+    for (const auto& row : cases) {
+        reach(row.state);
+        notices.posted.clear();
+        auto delay = std::make_shared<int>();
+        const std::weak_ptr<int> isDelayed = delay;
+        Q_EMIT recording.systemSleep.willSleep(std::exchange(delay, nullptr));
+        EXPECT_EQ(!isDelayed.expired(), row.waits) << row.state;
+        runLoop.holdBackground(false);
+        runLoop.drain();
+        EXPECT_TRUE(isDelayed.expired());
+        Q_EMIT recording.systemSleep.hasWoken(row.asleep);
+        runLoop.advance(2.9);
+        EXPECT_EQ(notices.posted.size(), row.notices) << row.state << " is not given time to wake";
+        tapStop();
+        finishSaving();
+    }
 }
 
 TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {

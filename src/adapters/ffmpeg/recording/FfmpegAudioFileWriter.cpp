@@ -104,6 +104,12 @@ Result<void> FfmpegAudioFileWriter::pause() {
     return result ? keep(true) : fail(result.error());
 }
 
+Result<void> FfmpegAudioFileWriter::sync() {
+    Result<void> result = pause();
+    m_file->waitForSync();
+    return result;
+}
+
 Result<void> FfmpegAudioFileWriter::keep(bool isSyncDue) {
     if (m_failure) {
         return tl::unexpected(*m_failure);

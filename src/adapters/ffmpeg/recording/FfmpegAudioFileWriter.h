@@ -29,6 +29,7 @@ public:
     Result<void> write(const float* interleaved, std::size_t frames) override;
     Result<void> flush() override;
     Result<void> pause() override;
+    Result<void> sync() override;
     Result<void> finish() override;
 
 private:

@@ -47,6 +47,8 @@ public:
     void releaseReserve() { m_reserve.close(); }
     /// Has what is in the file by now brought to the disk, on another thread.
     void beginSync() { m_background->begin(); }
+    /// Waits for that; its error is told by sync().
+    void waitForSync() { m_background->finish(); }
     /// Brings the file and its entry in the folder to the disk. The errno of what failed, before, too, or 0.
     int sync();
 

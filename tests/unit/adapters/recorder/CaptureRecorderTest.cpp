@@ -39,6 +39,7 @@ public:
     /// Frames that a kill would leave, and how often the writer heard of a pause.
     std::atomic<std::size_t> framesKept = 0;
     std::atomic<int> pauses = 0;
+    std::size_t framesSynced = 0;
     int finishes = 0;
     std::unique_ptr<CaptureRecorder> recorder;
 
@@ -59,6 +60,10 @@ private:
         Result<void> pause() override {
             ++recording.pauses;
             return flush();
+        }
+        Result<void> sync() override {
+            recording.framesSynced = recording.samples.size();
+            return recording.flushResult;
         }
         Result<void> finish() override {
             ++recording.finishes;
@@ -140,6 +145,12 @@ TEST_F(CaptureRecorderTest, WhatAKillCouldTakeIsWrittenSoonAndAtOnceAtAPause) {
             const std::size_t waiting = captured < kRate * 3 / 10 ? kRate * 3 / 10 : kRate * 4 / 10;
             ASSERT_TRUE(becomes([&] { return other.framesKept + kRamp + waiting >= captured + fragment; })) << captured;
         }
+        deliver(0.5F, 100);
+        auto until = std::make_shared<int>();
+        const std::weak_ptr<int> isAwaited = until;
+        other.recorder->bringToDisk(std::move(until));
+        ASSERT_TRUE(becomes([&] { return isAwaited.expired(); }));
+        EXPECT_EQ(other.framesSynced, static_cast<std::size_t>(other.recorder->framesRecorded()) - kRamp);
         deliver(0.5F, 100);
         const auto captured = static_cast<std::size_t>(other.recorder->framesRecorded());
         other.recorder->pause();
