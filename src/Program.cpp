@@ -41,6 +41,7 @@
 #include "library/PlayerPanel.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingShapes.h"
+#include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
@@ -173,14 +174,14 @@ struct Screens {
          .notifications = platform.notifications,
          .notices = platform.notices,
          .runLoop = platform.runLoop}};
+    RecordingTable table{
+        {.settings = platform.settings.store, .container = platform.container, .lister = lister, .shapes = shapes}};
     VoiceMemoVC library{{.settings = platform.settings.store,
-                         .container = platform.container,
                          .notifications = platform.notifications,
-                         .lister = lister,
-                         .shapes = shapes,
                          .remoteControl = platform.remoteControl,
                          .trimmers = trimmers,
                          .notices = platform.notices},
+                        table,
                         player};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
-#include "library/RecordingLister.h"
-#include "library/RecordingShapes.h"
-#include "platform/AppContainer.h"
 #include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
@@ -14,10 +11,7 @@ namespace tavi {
 /// What the library screen works with; all of it must outlive the screen.
 struct LibraryServices {
     SettingsStore& settings;
-    const AppContainer& container;
     NotificationCenter& notifications;
-    RecordingLister& lister;
-    RecordingShapes& shapes;
     RemoteControl& remoteControl;
     AudioTrimmerStage& trimmers;
     Notices& notices;

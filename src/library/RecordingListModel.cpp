@@ -9,6 +9,12 @@ RecordingListModel::RecordingListModel(RecordingShapes& shapes, const AppContain
     connect(&m_shapes, &RecordingShapes::made, this, &RecordingListModel::shapeMade);
 }
 
+QString RecordingListModel::detailText(const RecordingEntry& entry) {
+    return QStringList{entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
+                       entry.value(entrykey::kModdate)}
+        .join(QStringLiteral(" | "));
+}
+
 int RecordingListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_entries.size());
 }
@@ -22,9 +28,7 @@ QVariant RecordingListModel::data(const QModelIndex& index, int role) const {
         case NameTextRole:
             return entry.value(entrykey::kFilename);
         case DetailTextRole:
-            return QStringList{entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
-                               entry.value(entrykey::kModdate)}
-                .join(QStringLiteral(" | "));
+            return detailText(entry);
         case ShapeRole: {
             const WaveformSample* shape =
                 entry.identity() == FileIdentity()

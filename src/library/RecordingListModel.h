@@ -21,6 +21,9 @@ public:
     /// Shows recordings of the documents folder. Both must outlive the model.
     RecordingListModel(RecordingShapes& shapes, const AppContainer& container);
 
+    /// A row's second line.
+    static QString detailText(const RecordingEntry& entry);
+
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

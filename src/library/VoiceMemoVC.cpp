@@ -2,21 +2,28 @@
 
 #include <QDebug>
 #include <QPointer>
-#include <algorithm>
 #include <utility>
 
 #include "files/FileNames.h"
 #include "files/PathText.h"
-#include "library/RecordingOrder.h"
 #include "library/utility/Notifications.h"
 #include "trimming/AudioTrimmerViewController.h"
 
 namespace tavi {
 
-VoiceMemoVC::VoiceMemoVC(const Services& services, PlayerPanel& player, QObject* parent)
-    : QObject(parent), m_services(services), m_tableView(services.shapes, services.container), m_player(player) {
-    m_filter.setSourceModel(&m_tableView);
+namespace {
+
+/// The path itself, or none where nothing is there.
+std::filesystem::path existing(const std::filesystem::path& path) {
+    return existsAt(path) ? path : std::filesystem::path();
+}
+
+}  // namespace
+
+VoiceMemoVC::VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, QObject* parent)
+    : QObject(parent), m_services(services), m_table(table), m_player(player) {
     m_services.remoteControl.setDelegate(this);
+    connect(&m_table, &RecordingTable::reloaded, this, &VoiceMemoVC::follow);
     connect(&m_player, &PlayerPanel::finished, this, &VoiceMemoVC::audioPlayerDidFinishPlaying);
 }
 
@@ -24,144 +31,45 @@ VoiceMemoVC::~VoiceMemoVC() {
     m_services.remoteControl.setDelegate(nullptr);
 }
 
-int VoiceMemoVC::numberOfSections() const {
-    return m_services.settings.isCloudSyncOn() ? 2 : 1;
-}
-
-int VoiceMemoVC::numberOfRowsInSection(int section) const {
-    return static_cast<int>((section == 0 ? m_arrRecordings : m_arrIcloudFiles).size());
-}
-
 void VoiceMemoVC::viewDidLoad() {
     m_title = qtTrId("voice_record");
     m_headerText = qtTrId("Local Recording's");
-    m_btnSortName.title = qtTrId("Name");
-    m_btnSortDate.title = qtTrId("Date");
-    m_btnSortSize.title = qtTrId("Size");
     Q_EMIT outletsChanged();
-    getAlltheFiles();
+    m_table.getAlltheFiles();
     connect(&m_services.notifications, &NotificationCenter::posted, this, &VoiceMemoVC::notificationPosted,
             Qt::UniqueConnection);
 }
 
 void VoiceMemoVC::viewWillAppear() {
-    m_cloudHeaderText = numberOfSections() == 2 ? qtTrId("iCloud Sync Recording's") : QString();
+    m_cloudHeaderText = m_table.numberOfSections() == 2 ? qtTrId("iCloud Sync Recording's") : QString();
     Q_EMIT outletsChanged();
-    getAlltheFiles();
+    m_table.getAlltheFiles();
     resetCell();
 }
 
-void VoiceMemoVC::getAlltheFiles() {
-    const std::filesystem::path expanded = expandedName();
-    m_arrRecordings = m_services.lister.list(m_services.container.documentsPath(), RecordingLister::Lengths::Known);
-    setDefaultSortingButton();
-    reloadTable();
-    follow(expanded);
-    if (!m_services.lister.isComplete()) {
-        m_services.lister.measure([self = QPointer(this)] {
-            if (self) {
-                self->durationsArrived();
-            }
-        });
+void VoiceMemoVC::select(int row) {
+    m_selectedIndex = row;
+    const RecordingEntry* entry = m_table.entryOf(m_section.toInt(), row);
+    m_selectedName = entry != nullptr ? entry->nativeName() : std::filesystem::path();
+}
+
+void VoiceMemoVC::follow() {
+    const int newRow = m_newName.empty() ? -1 : m_table.rowOf(0, m_newName);
+    bool hasMoved = std::exchange(m_newRow, newRow) != newRow;
+    const int section = m_section.toInt();
+    const RecordingEntry* entry = m_table.entryOf(section, m_selectedIndex);
+    if (!m_selectedName.empty() && (entry == nullptr || entry->nativeName() != m_selectedName)) {
+        select(m_table.rowOf(section, m_selectedName));
+        m_selectRow = m_selectedIndex >= 0 ? m_selectedIndex : kNoRow;
+        hasMoved = true;
     }
-}
-
-void VoiceMemoVC::durationsArrived() {
-    for (RecordingEntry& entry : m_arrRecordings) {
-        if (m_services.lister.wasOpen(entry.nativeName())) {
-            entry.setValue(entrykey::kDuration, m_services.lister.durationText(entry.nativeName()));
-        }
-    }
-    reloadTable();
-}
-
-void VoiceMemoVC::setSearchText(const QString& text) {
-    m_filter.setText(text);
-    Q_EMIT outletsChanged();
-}
-
-void VoiceMemoVC::reloadTable() {
-    m_tableView.setEntries(m_arrRecordings);
-    if (const int row = m_newName.empty() ? -1 : rowOf(m_newName); row != std::exchange(m_newRow, row)) {
+    if (hasMoved) {
         Q_EMIT selectionChanged();
     }
 }
 
-void VoiceMemoVC::setDefaultSortingButton() {
-    const int code = m_services.settings.sort();
-    const QString key = sortKeyOf(code);
-    const auto sort = [&](ButtonOutlet& button, void (VoiceMemoVC::*by)(QObject*)) {
-        button.selected = code % 2 == 0;
-        (this->*by)(nullptr);
-    };
-    if (key == entrykey::kFilename) {
-        sort(m_btnSortName, &VoiceMemoVC::sortByName);
-    } else if (key == entrykey::kModdate) {
-        sort(m_btnSortDate, &VoiceMemoVC::sortByDate);
-    } else if (key == entrykey::kSize) {
-        sort(m_btnSortSize, &VoiceMemoVC::sortBySize);
-    }
-}
-
-void VoiceMemoVC::sortByName(QObject* sender) {
-    sortBy(m_btnSortName, kSortNameAscending, entrykey::kFilename, sender);
-}
-
-void VoiceMemoVC::sortByDate(QObject* sender) {
-    sortBy(m_btnSortDate, kSortDateAscending, entrykey::kModdate, sender);
-}
-
-void VoiceMemoVC::sortBySize(QObject* sender) {
-    sortBy(m_btnSortSize, kSortSizeAscending, entrykey::kSize, sender);
-}
-
-void VoiceMemoVC::sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender) {
-    if (sender) {
-        m_services.settings.setSort(button.selected ? evenCode - 1 : evenCode);
-        button.selected = !button.selected;
-    }
-    excludeSortingFolders(key, button.selected);
-    for (ButtonOutlet* each : {&m_btnSortName, &m_btnSortDate, &m_btnSortSize}) {
-        each->image.clear();
-    }
-    button.image = button.selected ? QStringLiteral("sorting_arrow_down.png") : QStringLiteral("sorting_arrow_up.png");
-    button.tintColor = m_services.settings.isThemeWhite() ? QStringLiteral("#000000") : QStringLiteral("#a1a1a1");
-    Q_EMIT outletsChanged();
-}
-
-void VoiceMemoVC::excludeSortingFolders(const QString& key, bool ascending) {
-    const std::filesystem::path expanded = expandedName();
-    sortRecordings(m_arrRecordings, key, ascending);
-    reloadTable();
-    follow(expanded);
-}
-
-std::filesystem::path VoiceMemoVC::expandedName() const {
-    const bool isOne = m_selectedIndex >= 0 && static_cast<std::size_t>(m_selectedIndex) < m_arrRecordings.size();
-    return isOne ? m_arrRecordings[static_cast<std::size_t>(m_selectedIndex)].nativeName() : std::filesystem::path();
-}
-
-void VoiceMemoVC::follow(const std::filesystem::path& name) {
-    if (name.empty() || expandedName() == name) {
-        return;
-    }
-    m_selectedIndex = rowOf(name);
-    m_selectRow = m_selectedIndex >= 0 ? m_selectedIndex : kNoRow;
-    Q_EMIT selectionChanged();
-}
-
-int VoiceMemoVC::rowOf(const std::filesystem::path& name) const {
-    const auto found = std::find_if(m_arrRecordings.begin(), m_arrRecordings.end(),
-                                    [&name](const RecordingEntry& entry) { return entry.nativeName() == name; });
-    return found != m_arrRecordings.end() ? static_cast<int>(found - m_arrRecordings.begin()) : -1;
-}
-
-int VoiceMemoVC::shownIndex(int row) const {
-    return m_filter.mapFromSource(m_tableView.index(row)).row();
-}
-
 void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
-    if (row < 0 || row >= numberOfRowsInSection(section)) {
+    if (row < 0 || row >= m_table.numberOfRowsInSection(section)) {
         return;
     }
     m_section = QString::number(section);
@@ -173,12 +81,12 @@ void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
         if (m_selectedIndex != -1) {
             teardown();
         }
-        m_selectedIndex = row;
+        select(row);
         expandRow(section, row);
     } else {
         m_selectRow = kNoRow;
         viewAnimationRemove();
-        m_selectedIndex = -1;
+        select(-1);
         teardown();
     }
     Q_EMIT selectionChanged();
@@ -186,7 +94,7 @@ void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
 
 void VoiceMemoVC::expandRow(int section, int row) {
     m_player.prepareForRow();
-    const std::filesystem::path path = pathOf(section != 0, row);
+    const std::filesystem::path path = existing(m_table.pathOf(section, row));
     if (!path.empty()) {
         m_player.initAudioWithUrl(path);
         playAudio(row, m_player.btnPlay().selected);
@@ -194,23 +102,14 @@ void VoiceMemoVC::expandRow(int section, int row) {
     }
 }
 
-std::filesystem::path VoiceMemoVC::pathOf(bool inCloud, int row) const {
-    const auto& list = inCloud ? m_arrIcloudFiles : m_arrRecordings;
-    if (row < 0 || static_cast<std::size_t>(row) >= list.size()) {
-        return {};
-    }
-    std::filesystem::path path = m_services.container.documentsPath() / (inCloud ? foldername::kCloud : "") /
-                                 list[static_cast<std::size_t>(row)].nativeName();
-    return existsAt(path) ? path : std::filesystem::path();
-}
-
 QString VoiceMemoVC::playingName() const {
     return pathText(m_player.urlPath().filename());
 }
 
 QString VoiceMemoVC::playingDetail() const {
-    const int row = m_player.urlPath().empty() ? -1 : rowOf(m_player.urlPath().filename());
-    return m_tableView.index(row).data(RecordingListModel::DetailTextRole).toString();
+    const int row = m_player.urlPath().empty() ? -1 : m_table.rowOf(0, m_player.urlPath().filename());
+    const RecordingEntry* entry = m_table.entryOf(0, row);
+    return entry != nullptr ? RecordingListModel::detailText(*entry) : QString();
 }
 
 /// Closes what is open in the player.
@@ -224,12 +123,12 @@ void VoiceMemoVC::playAudio(int tag, bool selected) {
     if (!m_isPlaying) {
         // The setting chooses the list, whatever section the row is of, on purpose: a row of the list that it does not
         // choose keeps what has been loaded for it.
-        const std::filesystem::path path = pathOf(!m_services.settings.isCloudSyncOn(), tag);
+        const std::filesystem::path path = existing(m_table.pathOf(m_services.settings.isCloudSyncOn() ? 0 : 1, tag));
         if (!path.empty()) {
             m_player.initAudioWithUrl(path);
         }
         m_isPlaying = true;
-        m_selectedIndex = tag;
+        select(tag);
         Q_EMIT selectionChanged();
     }
     m_player.playOrPause(selected);
@@ -244,14 +143,14 @@ void VoiceMemoVC::spacePressed(int row) {
 }
 
 void VoiceMemoVC::trimRow(int row) {
-    const std::filesystem::path path = pathOf(false, row);
+    const std::filesystem::path path = existing(m_table.pathOf(0, row));
     if (path.empty()) {
         return;
     }
     if (m_isPlaying) {
         stopAudio();
     }
-    const RecordingEntry& entry = m_arrRecordings[static_cast<std::size_t>(row)];
+    const RecordingEntry& entry = *m_table.entryOf(0, row);
     const QVariantMap data{{entrykey::kDuration, entry.value(entrykey::kDuration)}};
     AudioTrimmerViewController::presentAudioTrimmerController(m_services.trimmers, this, path.native(), data,
                                                               entry.nativeName(), {});
@@ -316,15 +215,15 @@ void VoiceMemoVC::remoteControlReceivedWithEvent(const RemoteControlEvent& event
 
 void VoiceMemoVC::resetCell() {
     if (m_selectedIndex != -1) {
-        m_selectedIndex = -1;
+        select(-1);
         Q_EMIT selectionChanged();
     }
-    reloadTable();
+    m_table.reloadTable();
 }
 
 void VoiceMemoVC::reloadData() {
-    getAlltheFiles();
-    reloadTable();
+    m_table.getAlltheFiles();
+    m_table.reloadTable();
 }
 
 void VoiceMemoVC::handleUpdatedData() {
@@ -344,9 +243,9 @@ void VoiceMemoVC::notificationPosted(const QString& name, const QVariant& object
 }
 
 void VoiceMemoVC::playRecording(const QString& fileName) {
-    const int row = rowOf(nativePath(fileName));
+    const int row = m_table.rowOf(0, nativePath(fileName));
     if (row >= 0 && row != m_selectedIndex) {
-        setSearchText({});
+        m_table.setSearchText({});
         didSelectRowAtIndexPath(0, row);
         Q_EMIT rowRevealed(row);
     }
@@ -354,13 +253,13 @@ void VoiceMemoVC::playRecording(const QString& fileName) {
 
 void VoiceMemoVC::showTrimmed(const std::filesystem::path& path) {
     // A trimmer tells of its file more than once.
-    const int row = path.empty() || path.filename() == m_announcedName ? -1 : rowOf(path.filename());
+    const int row = path.empty() || path.filename() == m_announcedName ? -1 : m_table.rowOf(0, path.filename());
     if (row < 0) {
         return;
     }
     m_newName = m_announcedName = path.filename();
     m_newRow = row;
-    setSearchText({});
+    m_table.setSearchText({});
     Q_EMIT selectionChanged();
     Q_EMIT rowRevealed(row);
     m_services.notices.postNotice({qtTrId("library_trimmed").arg(pathText(m_newName)), qtTrId("library_play"),

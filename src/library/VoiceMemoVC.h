@@ -2,12 +2,10 @@
 
 #include <QObject>
 #include <filesystem>
-#include <vector>
 
 #include "library/LibraryServices.h"
 #include "library/PlayerPanel.h"
-#include "library/RecordingFilterModel.h"
-#include "library/RecordingListModel.h"
+#include "library/RecordingTable.h"
 
 namespace tavi {
 
@@ -17,13 +15,9 @@ namespace tavi {
 class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY outletsChanged)
-    Q_PROPERTY(tavi::ButtonOutlet btnSortName READ btnSortName NOTIFY outletsChanged)
-    Q_PROPERTY(tavi::ButtonOutlet btnSortDate READ btnSortDate NOTIFY outletsChanged)
-    Q_PROPERTY(tavi::ButtonOutlet btnSortSize READ btnSortSize NOTIFY outletsChanged)
     Q_PROPERTY(QString headerText READ headerText NOTIFY outletsChanged)
     Q_PROPERTY(QString cloudHeaderText READ cloudHeaderText NOTIFY outletsChanged)
-    Q_PROPERTY(QAbstractItemModel* tableView READ tableView CONSTANT)
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::RecordingTable* table READ table CONSTANT)
     Q_PROPERTY(tavi::PlayerPanel* player READ player CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
     Q_PROPERTY(int selectRow READ selectRow NOTIFY selectionChanged)
@@ -38,24 +32,16 @@ public:
     /// What selectRow() is when no row's icon is highlighted.
     static constexpr int kNoRow = 500;
 
-    /// Player and services must outlive the screen.
-    VoiceMemoVC(const Services& services, PlayerPanel& player, QObject* parent = nullptr);
+    /// All of it must outlive the screen.
+    VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, QObject* parent = nullptr);
     ~VoiceMemoVC() override;
 
     QString title() const { return m_title; }
-    /// A selected sort button stands for ascending order.
-    ButtonOutlet btnSortName() const { return m_btnSortName; }
-    ButtonOutlet btnSortDate() const { return m_btnSortDate; }
-    ButtonOutlet btnSortSize() const { return m_btnSortSize; }
     QString headerText() const { return m_headerText; }
     /// Header of section 1; empty while there is none. As of the last time the screen appeared.
     QString cloudHeaderText() const { return m_cloudHeaderText; }
-    /// The rows that the search leaves.
-    QAbstractItemModel* tableView() { return &m_filter; }
-    /// Shows only rows whose names hold this text, in any case; it changes neither order nor arrRecordings().
-    QString searchText() const { return m_filter.text(); }
-    void setSearchText(const QString& text);
-    PlayerPanel* player() { return &m_player; }
+    RecordingTable* table() const { return &m_table; }
+    PlayerPanel* player() const { return &m_player; }
     /// Row of the expanded recording; -1 for none.
     int selectedIndex() const { return m_selectedIndex; }
     /// Row whose icon is highlighted.
@@ -71,28 +57,10 @@ public:
     /// What is known of that file, as its row says it; empty where it is in no row.
     QString playingDetail() const;
     bool isPanelShown() const { return m_isPanelShown; }
-    /// The local recordings in the order shown, and those of the cloud's folder.
-    const std::vector<RecordingEntry>& arrRecordings() const { return m_arrRecordings; }
-    const std::vector<RecordingEntry>& arrIcloudFiles() const { return m_arrIcloudFiles; }
-
-    /// 1 while the cloud is off, 2 while it is on.
-    int numberOfSections() const;
-    /// Rows of section 0, the local recordings, and of any other, the cloud's.
-    int numberOfRowsInSection(int section) const;
 
 public Q_SLOTS:
     void viewDidLoad();
     void viewWillAppear();
-    /// Reads the documents folder, sorts as remembered and reloads the table; done when it returns. What cannot be read
-    /// shows as an empty list, 0 KB or 00:00.
-    void getAlltheFiles();
-    /// Sorts as "Sort" says and stores nothing; where it is no code from 1 to 6 the order stays.
-    void setDefaultSortingButton();
-    /// Each sorts by its button's state. With a sender, the tapped button, it turns the direction round and stores it
-    /// first.
-    void sortByName(QObject* sender = nullptr);
-    void sortByDate(QObject* sender = nullptr);
-    void sortBySize(QObject* sender = nullptr);
     /// A tap on a row: opens it and plays its recording, or, on the open one, closes it.
     void didSelectRowAtIndexPath(int section, int row);
     /// A press on a play button of that row and state: loads a recording if none is loaded, and plays or pauses.
@@ -103,8 +71,6 @@ public Q_SLOTS:
     void spacePressed(int row);
     /// Opens the trimmer with a row's recording; what plays is stopped. The list hears of a new file by "DataUpdated".
     void trimRow(int row);
-    /// Where the search shows a row of the table; -1 where it does not.
-    int shownIndex(int row) const;
     void stopAudio();
     void playerClose();
     /// Slides the player's panel in and out.
@@ -115,10 +81,6 @@ public Q_SLOTS:
     /// Reads the folder again and reloads the table.
     void reloadData();
     void handleUpdatedData();
-
-public:
-    /// Sorts the recordings by the text under one key of RecordingEntry, and reloads the table.
-    void excludeSortingFolders(const QString& key, bool ascending);
 
 Q_SIGNALS:
     void outletsChanged();
@@ -136,32 +98,24 @@ private Q_SLOTS:
 private:
     void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override;
     double remoteControlCurrentTime() const override { return m_player.currentTime(); }
-    void sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender);
-    void durationsArrived();
-    std::filesystem::path pathOf(bool inCloud, int row) const;
     void expandRow(int section, int row);
     void teardown();
-    /// The expanded recording's native name; after a change of the list the expanded row is again the one of that name.
-    std::filesystem::path expandedName() const;
-    void follow(const std::filesystem::path& name);
-    void reloadTable();
-    int rowOf(const std::filesystem::path& name) const;
+    /// Expands a row; -1 for none.
+    void select(int row);
+    /// After a change of the list the rows are again those of the recordings that they were.
+    void follow();
     void showTrimmed(const std::filesystem::path& path);
 
     Services m_services;
     QString m_title;
     QString m_headerText;
     QString m_cloudHeaderText;
-    ButtonOutlet m_btnSortName;
-    ButtonOutlet m_btnSortDate;
-    ButtonOutlet m_btnSortSize;
-    std::vector<RecordingEntry> m_arrRecordings;
-    std::vector<RecordingEntry> m_arrIcloudFiles;
-    RecordingListModel m_tableView;
-    RecordingFilterModel m_filter;
+    RecordingTable& m_table;
     PlayerPanel& m_player;
     QString m_section;
     int m_selectedIndex = -1;
+    /// The native name of the expanded recording.
+    std::filesystem::path m_selectedName;
     int m_selectRow = kNoRow;
     int m_newRow = -1;
     std::filesystem::path m_newName;

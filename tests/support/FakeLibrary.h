@@ -18,20 +18,19 @@ struct FakeLibrary {
                   .notices = notices,
                   .runLoop = fakes.runLoop,
                   .waveforms = waveforms}),
+          table({.settings = fakes.settings, .container = fakes.container, .lister = lister, .shapes = shapes}),
           vc({.settings = fakes.settings,
-              .container = fakes.container,
               .notifications = fakes.notifications,
-              .lister = lister,
-              .shapes = shapes,
               .remoteControl = fakes.remote,
               .trimmers = fakes.trimmers,
               .notices = notices},
-             player) {}
+             table, player) {}
 
     RecordingLister lister;
     RecordingShapes shapes;
     WaveformLoader waveforms;
     PlayerPanel player;
+    RecordingTable table;
     VoiceMemoVC vc;
 };
 

@@ -70,7 +70,7 @@ void showLibrary(Shell& shell) {
     fillLibrary(shell);
     shell.library.viewWillAppear();
     for (int row = 0; row < 14; ++row) {
-        addSound(shell, shell.library.arrRecordings().at(static_cast<std::size_t>(row)).nativeName(), row);
+        addSound(shell, shell.table.arrRecordings().at(static_cast<std::size_t>(row)).nativeName(), row);
     }
     shell.settle();
     shell.runLoop.advance(1.0);
@@ -78,7 +78,7 @@ void showLibrary(Shell& shell) {
 
 void play(Shell& shell) {
     showLibrary(shell);
-    shell.players.seconds[shell.library.arrRecordings().at(5).nativeName()] = 245.0;
+    shell.players.seconds[shell.table.arrRecordings().at(5).nativeName()] = 245.0;
     shell.library.didSelectRowAtIndexPath(0, 5);
     // Past the panel's way in.
     shell.settleFor(700);
@@ -119,7 +119,7 @@ const State kStates[] = {
     {"playing", 1, "01:15 / 04:05 · 2×|01:15 of 04:05", play},
     {"unplayable", 1, "This file cannot be played",
      [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
-    {"found", 1, "", [](Shell& s) { showLibrary(s), s.library.setSearchText(QStringLiteral("1")); }},
+    {"found", 1, "", [](Shell& s) { showLibrary(s), s.table.setSearchText(QStringLiteral("1")); }},
     {"notice", 1, "",
      [](Shell& s) {
          showLibrary(s);
@@ -408,7 +408,7 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     EXPECT_TRUE(list->hasActiveFocus());
     EXPECT_LT(shell.item("find")->mapToScene({0.0, 0.0}).y(), 0.0) << "an empty search does not stay";
 
-    shell.players.seconds[shell.library.arrRecordings().back().nativeName()] = 60.0;
+    shell.players.seconds[shell.table.arrRecordings().back().nativeName()] = 60.0;
     const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(60'000);
     for (int click = 0; click < 2; ++click) {

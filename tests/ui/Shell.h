@@ -151,6 +151,7 @@ struct ShellScreens : FakeServices {
     AudioRecordVC& recording = fakeRecording.vc;
     FakeLibrary fakeLibrary{*this, durations, notices};
     VoiceMemoVC& library = fakeLibrary.vc;
+    RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
     SettingVC settingVC{{.settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter}};
 };

@@ -173,12 +173,12 @@ TEST(Tabs, TellTheirScreenThatItAppears) {
 
     // A file that came while another tab, or none, was seen.
     for (const bool hidesWindow : {false, true}) {
-        const int before = shell.library.tableView()->rowCount();
+        const int before = shell.table.tableView()->rowCount();
         hidesWindow ? shell.window->hide() : shell.tabBar.setSelectedIndex(0);
         shell.container.addDocument(hidesWindow ? "b.wav" : "a.wav", "RIFF");
         hidesWindow ? shell.window->show() : shell.tabBar.setSelectedIndex(1);
         shell.settle();
-        EXPECT_EQ(shell.library.tableView()->rowCount(), before + 1);
+        EXPECT_EQ(shell.table.tableView()->rowCount(), before + 1);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "library/PlayerPanel.h"
+#include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
 
 namespace tavi {
@@ -12,6 +13,13 @@ struct VoiceMemoVCForeign {
     QML_FOREIGN(tavi::VoiceMemoVC)
     QML_NAMED_ELEMENT(VoiceMemoVC)
     QML_UNCREATABLE("The program has one.")
+};
+
+struct RecordingTableForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::RecordingTable)
+    QML_NAMED_ELEMENT(RecordingTable)
+    QML_UNCREATABLE("The library screen has one.")
 };
 
 struct PlayerPanelForeign {

@@ -78,10 +78,10 @@ FocusScope {
         width: speaker.x - x
         height: root.titleHeight
         objectName: "search"
-        visible: open || root.screen.searchText !== ""
+        visible: open || root.screen.table.searchText !== ""
         placeholderText: qsTrId("library_search")
-        text: root.screen.searchText
-        onTextEdited: root.screen.searchText = text
+        text: root.screen.table.searchText
+        onTextEdited: root.screen.table.searchText = text
         onActiveFocusChanged: if (!activeFocus && text === "") open = false
         onLeave: root.leave()
     }
@@ -92,26 +92,26 @@ FocusScope {
 
         SortButton {
             objectName: "btnSortName"
-            title: root.screen.btnSortName.title
-            image: root.screen.btnSortName.image
-            ascending: root.screen.btnSortName.selected
-            onClicked: root.screen.sortByName(this)
+            title: root.screen.table.btnSortName.title
+            image: root.screen.table.btnSortName.image
+            ascending: root.screen.table.btnSortName.selected
+            onClicked: root.screen.table.sortByName(this)
         }
 
         SortButton {
             objectName: "btnSortDate"
-            title: root.screen.btnSortDate.title
-            image: root.screen.btnSortDate.image
-            ascending: root.screen.btnSortDate.selected
-            onClicked: root.screen.sortByDate(this)
+            title: root.screen.table.btnSortDate.title
+            image: root.screen.table.btnSortDate.image
+            ascending: root.screen.table.btnSortDate.selected
+            onClicked: root.screen.table.sortByDate(this)
         }
 
         SortButton {
             objectName: "btnSortSize"
-            title: root.screen.btnSortSize.title
-            image: root.screen.btnSortSize.image
-            ascending: root.screen.btnSortSize.selected
-            onClicked: root.screen.sortBySize(this)
+            title: root.screen.table.btnSortSize.title
+            image: root.screen.table.btnSortSize.image
+            ascending: root.screen.table.btnSortSize.selected
+            onClicked: root.screen.table.sortBySize(this)
         }
     }
 

@@ -108,9 +108,9 @@ FocusScope {
             width: Math.min(parent.width - 4 * Theme.margin, 360)
             visible: list.count === 0
             room: parent.height - chrome.height - 16
-            imageName: root.screen.searchText ? "search.png" : "voicememo.png"
-            title: root.screen.searchText ? qsTrId("library_search_none") : qsTrId("library_empty_title")
-            hint: root.screen.searchText ? "" : qsTrId("library_empty")
+            imageName: root.screen.table.searchText ? "search.png" : "voicememo.png"
+            title: root.screen.table.searchText ? qsTrId("library_search_none") : qsTrId("library_empty_title")
+            hint: root.screen.table.searchText ? "" : qsTrId("library_empty")
         }
     }
 

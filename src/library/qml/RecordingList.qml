@@ -57,7 +57,7 @@ ListView {
     preferredHighlightEnd: height - footRoom
     bottomMargin: footRoom
     keyNavigationEnabled: true
-    model: screen.tableView
+    model: screen.table.tableView
     header: Item {
         width: list.width
         height: list.chromeHeight
@@ -101,7 +101,7 @@ ListView {
         target: list.screen
 
         function onRowRevealed(row) {
-            list.currentIndex = list.screen.shownIndex(row)
+            list.currentIndex = list.screen.table.shownIndex(row)
             list.positionViewAtIndex(list.currentIndex, ListView.Center)
         }
     }

@@ -85,6 +85,7 @@ struct World : FakeServices {
 
     FakeLibrary library{*this, durations, notices};
     VoiceMemoVC& vc = library.vc;
+    RecordingTable& table = library.table;
     PlayerPanel& player = library.player;
     std::string asked;
     int moves = 0;
@@ -104,7 +105,7 @@ const std::map<std::string, std::function<void(World&, double)>> kActions = {
          w.runLoop.drain();
          w.trimmers.screen()->btnCancelTapped();
      }},
-    {"sort", [](World& w, double) { w.vc.sortByName(&w.vc); }},
+    {"sort", [](World& w, double) { w.table.sortByName(&w.vc); }},
     {"slider", [](World& w, double seconds) { w.player.progressSliderMoved(seconds); }},
     {"slow", [](World& w, double) { w.player.slowAudio(&w.vc); }},
     {"medium", [](World& w, double) { w.player.mediumAudio(&w.vc); }},

@@ -28,7 +28,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         ASSERT_TRUE(file.setFileTime(QDateTime(modified, QTime(14, minute)), QFileDevice::FileModificationTime));
     }
-    static std::vector<std::string> texts(VoiceMemoVC& screen, int role = RecordingListModel::NameTextRole) {
+    static std::vector<std::string> texts(RecordingTable& screen, int role = RecordingListModel::NameTextRole) {
         std::vector<std::string> all;
         for (int row = 0; row < screen.tableView()->rowCount(); ++row) {
             all.push_back(screen.tableView()->index(row, 0).data(role).toString().toStdString());
@@ -38,6 +38,7 @@ protected:
 
     FakeLibrary library{*this, durations, notices};
     VoiceMemoVC& vc = library.vc;
+    RecordingTable& table = library.table;
 };
 
 TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
@@ -54,10 +55,10 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
     // Whoever asked for the length of the last two would get one, and wait for the pipe's for ever.
     durations.seconds = {
         {"long.M4A", 3725.9}, {"noise.wav", 59.999}, {"stray", 9.0}, {"pipe", 9.0}, {"x\xff.m4a", 5.0}};
-    vc.getAlltheFiles();
+    table.getAlltheFiles();
     runLoop.drain();
     std::vector<std::string> listed;
-    for (const RecordingEntry& entry : vc.arrRecordings()) {
+    for (const RecordingEntry& entry : table.arrRecordings()) {
         const QStringList values{entry.value(entrykey::kFilename), entry.value(entrykey::kExtension),
                                  entry.value(entrykey::kDuration)};
         listed.push_back(values.join(QLatin1Char(' ')).toStdString());
@@ -68,7 +69,7 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
         << "a name that is no text is measured like any other";
     std::filesystem::remove_all(folder);
     vc.reloadData();
-    EXPECT_EQ(vc.numberOfRowsInSection(0), 0);
+    EXPECT_EQ(table.numberOfRowsInSection(0), 0);
 }
 
 TEST_F(VoiceMemoVCTest, aChangedRecordingIsMeasuredAgainAndAnotherLanguageDatesAnew) {
@@ -81,7 +82,7 @@ TEST_F(VoiceMemoVCTest, aChangedRecordingIsMeasuredAgainAndAnotherLanguageDatesA
         vc.reloadData();
         runLoop.drain();
         const std::string day = isFirst ? " | 05 Mar,2024 | 02:" : " | 05 M\xC3\xA4rz,2024 | 02:";
-        EXPECT_THAT(texts(vc, RecordingListModel::DetailTextRole),
+        EXPECT_THAT(texts(table, RecordingListModel::DetailTextRole),
                     UnorderedElementsAre((isFirst ? "1.0 MB | 01:01" : "2.0 MB | 01:02") + day + "03 PM",
                                          "1024 KB | 00:00" + day + "59 PM"));
     }
@@ -94,9 +95,9 @@ TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyWhichATapTurnsRound) {
     add("d", 1 << 20, QDate(2024, 2, 5));
     // By name, date and size; an odd code turns it round.
     const std::vector<std::string> orders[] = {{"C", "a", "b", "d"}, {"d", "b", "C", "a"}, {"d", "C", "a", "b"}};
-    void (VoiceMemoVC::*const taps[])(QObject*) = {&VoiceMemoVC::sortByName, &VoiceMemoVC::sortByDate,
-                                                   &VoiceMemoVC::sortBySize};
-    const auto expectSorted = [&](VoiceMemoVC& screen, int code) {
+    void (RecordingTable::*const taps[])(QObject*) = {&RecordingTable::sortByName, &RecordingTable::sortByDate,
+                                                      &RecordingTable::sortBySize};
+    const auto expectSorted = [&](RecordingTable& screen, int code) {
         SCOPED_TRACE(code);
         const auto key = static_cast<std::size_t>((code - 1) / 2);
         auto order = orders[key];
@@ -118,20 +119,21 @@ TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyWhichATapTurnsRound) {
         defaults.writes.clear();
         FakeLibrary opened(*this, durations, notices);
         opened.vc.viewDidLoad();
-        expectSorted(opened.vc, code);
+        expectSorted(opened.table, code);
         EXPECT_TRUE(defaults.writes.isEmpty()) << "only a tap is remembered";
-        std::invoke(taps[(code - 1) / 2], opened.vc, &vc);
-        expectSorted(opened.vc, code % 2 == 0 ? code - 1 : code + 1);
+        std::invoke(taps[(code - 1) / 2], opened.table, &vc);
+        expectSorted(opened.table, code % 2 == 0 ? code - 1 : code + 1);
         EXPECT_EQ(defaults.writes.join(QLatin1Char(' ')), QStringLiteral("Sort synchronize"));
     }
     defaults.setObject(7, settingskey::kSort);
     vc.viewDidLoad();
-    EXPECT_EQ(vc.btnSortName().image + vc.btnSortDate().image + vc.btnSortSize().image, QString()) << "no order at all";
+    EXPECT_EQ(table.btnSortName().image + table.btnSortDate().image + table.btnSortSize().image, QString())
+        << "no order at all";
     defaults.setObject(QStringLiteral("WHITE"), settingskey::kThemeColor);
     for (const int key : {2, 0, 1, 2}) {
         const int code = 2 * key + 2 - (key == 2 && settings.sort() == 4 ? 1 : 0);
-        std::invoke(taps[key], vc, &vc);
-        expectSorted(vc, code);
+        std::invoke(taps[key], table, &vc);
+        expectSorted(table, code);
     }
 }
 
@@ -147,13 +149,13 @@ TEST_F(VoiceMemoVCTest, theSearchLeavesWhatHoldsItsTextAndEachRowItsPlace) {
                                           {"\xC3\xBC", "3 \xC3\x9C,"},
                                           {".*", ""},
                                           {"", "0 Talk 1,1 memo,2 talk 2,3 \xC3\x9C,"}}) {
-        vc.setSearchText(QString::fromUtf8(typed));
+        table.setSearchText(QString::fromUtf8(typed));
         std::string found;
-        for (std::size_t i = 0; i < texts(vc).size(); ++i) {
-            found += texts(vc, RecordingFilterModel::RowRole)[i] + ' ' + texts(vc)[i] + ',';
+        for (std::size_t i = 0; i < texts(table).size(); ++i) {
+            found += texts(table, RecordingFilterModel::RowRole)[i] + ' ' + texts(table)[i] + ',';
         }
         EXPECT_EQ(found, expected) << typed;
-        EXPECT_EQ(vc.numberOfRowsInSection(0), 4);
+        EXPECT_EQ(table.numberOfRowsInSection(0), 4);
     }
 }
 
@@ -167,8 +169,8 @@ TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndTellsOfTheRowsThatHaveChanged) {
     vc.viewDidLoad();
     std::set<int> told;
     int resets = 0;
-    QObject::connect(vc.tableView(), &QAbstractItemModel::modelReset, &vc, [&resets] { ++resets; });
-    QObject::connect(vc.tableView(), &QAbstractItemModel::dataChanged, &vc,
+    QObject::connect(table.tableView(), &QAbstractItemModel::modelReset, &vc, [&resets] { ++resets; });
+    QObject::connect(table.tableView(), &QAbstractItemModel::dataChanged, &vc,
                      [&told](const auto& first, const auto& last) {
                          for (int row = first.row(); row <= last.row(); ++row) {
                              told.insert(row);
@@ -190,7 +192,7 @@ TEST_F(VoiceMemoVCTest, reloadsOnDataUpdatedAndTellsOfTheRowsThatHaveChanged) {
     add("aa", 1);
     notifications.postNotification(kDataUpdatedNotification);
     EXPECT_EQ(resets, 1);
-    EXPECT_THAT(texts(vc), ElementsAre("a", "aa", "b", "c", "d"));
+    EXPECT_THAT(texts(table), ElementsAre("a", "aa", "b", "c", "d"));
 }
 
 TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
@@ -201,7 +203,7 @@ TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
         }
     };
     // How many lengths are open; the others are right.
-    const auto openIn = [](VoiceMemoVC& screen) {
+    const auto openIn = [](RecordingTable& screen) {
         std::ptrdiff_t open = 0;
         const auto names = texts(screen);
         const auto details = texts(screen, RecordingListModel::DetailTextRole);
@@ -217,26 +219,26 @@ TEST_F(VoiceMemoVCTest, aLongListAppearsAtOnceAndItsLengthsFillIn) {
     vc.viewDidLoad();
     // What is found out for one list is no longer told after the next.
     vc.viewWillAppear();
-    EXPECT_EQ(openIn(vc), 100);
-    vc.setSearchText(QStringLiteral("9"));
-    EXPECT_EQ(texts(vc).size(), 19U);
-    vc.setSearchText({});
+    EXPECT_EQ(openIn(table), 100);
+    table.setSearchText(QStringLiteral("9"));
+    EXPECT_EQ(texts(table).size(), 19U);
+    table.setSearchText({});
     runLoop.drain();
-    EXPECT_EQ(openIn(vc), 0);
+    EXPECT_EQ(openIn(table), 0);
     // Only what is new is asked for.
     addMany(100, 133);
     vc.viewWillAppear();
-    EXPECT_EQ(openIn(vc), 33);
+    EXPECT_EQ(openIn(table), 33);
     // What is read for a list that is no longer shown is given up.
     bool wasStopped = false;
     durations.onQuestion = [&](const std::stop_token& stop) {
         durations.onQuestion = {};
-        vc.getAlltheFiles();
+        table.getAlltheFiles();
         wasStopped = stop.stop_requested();
     };
     runLoop.drain();
     EXPECT_TRUE(wasStopped);
-    EXPECT_EQ(openIn(vc), 0);
+    EXPECT_EQ(openIn(table), 0);
 }
 
 TEST_F(VoiceMemoVCTest, aShapeIsMadeOnceWhereItIsSeenAndAnewForAChangedFile) {
@@ -251,13 +253,13 @@ TEST_F(VoiceMemoVCTest, aShapeIsMadeOnceWhereItIsSeenAndAnewForAChangedFile) {
     vc.viewDidLoad();
     runLoop.drain();
     std::vector<int> told;
-    QObject::connect(vc.tableView(), &QAbstractItemModel::dataChanged, &vc,
+    QObject::connect(table.tableView(), &QAbstractItemModel::dataChanged, &vc,
                      [&told](const auto& first, const auto&) { told.push_back(first.row()); });
     // How many rows have a shape; asks for those that have none.
     const auto seen = [this](int from, int to) {
         int shapes = 0;
         for (int row = 2 * from; row < 2 * to; ++row) {
-            const auto index = vc.tableView()->index(row / 2, 0);
+            const auto index = table.tableView()->index(row / 2, 0);
             shapes += index.data(RecordingListModel::ShapeRole).value<QList<qreal>>() == QList<qreal>(8, 1.0) ? 1 : 0;
         }
         runLoop.advance(1.0);
@@ -283,7 +285,7 @@ TEST_F(VoiceMemoVCTest, whatWasTrimmedIsMarkedInViewAndSaidOnce) {
     vc.viewDidLoad();
     std::vector<int> revealed;
     QObject::connect(&vc, &VoiceMemoVC::rowRevealed, &vc, [&revealed](int row) { revealed.push_back(row); });
-    vc.setSearchText(QStringLiteral("x"));
+    table.setSearchText(QStringLiteral("x"));
     vc.trimRow(0);
     runLoop.drain();
     trimmers.screen()->btnUploadTapped();
@@ -292,7 +294,7 @@ TEST_F(VoiceMemoVCTest, whatWasTrimmedIsMarkedInViewAndSaidOnce) {
     EXPECT_THAT(revealed, ElementsAre(0));
     ASSERT_EQ(notices.posted.size(), 1U);
     EXPECT_EQ(vc.newRow(), 0);
-    EXPECT_EQ(vc.shownIndex(0), 0) << "a search does not hide it";
+    EXPECT_EQ(table.shownIndex(0), 0) << "a search does not hide it";
     add("A.wav", 1000);
     vc.viewWillAppear();
     EXPECT_EQ(vc.newRow(), 1);
@@ -306,7 +308,7 @@ TEST_F(VoiceMemoVCTest, theSecondSectionComesAndGoesWithTheCloudAsTheScreenAppea
     vc.viewDidLoad();
     for (const bool isOn : {true, false, true}) {
         settings.setCloudSyncOn(isOn);
-        EXPECT_EQ(vc.numberOfSections(), isOn ? 2 : 1);
+        EXPECT_EQ(table.numberOfSections(), isOn ? 2 : 1);
         vc.viewWillAppear();
         EXPECT_EQ(vc.cloudHeaderText(), isOn ? QStringLiteral("iCloud Sync Recording's") : QString());
         vc.didSelectRowAtIndexPath(1, 0);
