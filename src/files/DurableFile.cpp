@@ -72,10 +72,16 @@ void removeLeftovers(const std::filesystem::path& folder, std::time_t now) {
     }
 }
 
-DurableFile DurableFile::create(const std::filesystem::path& path, std::string_view suffix) {
+DurableFile DurableFile::create(const std::filesystem::path& path, std::string_view suffix, Existing existing) {
     DurableFile made;
-    if (existsAt(path)) {
-        errno = EEXIST;
+    struct stat attributes = {};
+    if (::lstat(path.c_str(), &attributes) == 0) {
+        const bool isFile = S_ISREG(attributes.st_mode) || S_ISLNK(attributes.st_mode);
+        if (existing == Existing::Keep || !isFile) {
+            errno = existing == Existing::Keep ? EEXIST : S_ISDIR(attributes.st_mode) ? EISDIR : EINVAL;
+            return made;
+        }
+    } else if (errno != ENOENT) {
         return made;
     }
     const std::filesystem::path folder = workFolderOf(path);
@@ -85,6 +91,7 @@ DurableFile DurableFile::create(const std::filesystem::path& path, std::string_v
     if (made.isValid()) {
         made.m_temporary = std::move(temporary);
         made.m_path = path;
+        made.m_existing = existing;
     }
     return made;
 }
@@ -108,15 +115,22 @@ int DurableFile::synchronize() {
 }
 
 int DurableFile::publish() {
+    const bool replaces = m_existing == Existing::Replace;
     int error = synchronize();
-    if (error == 0) {
+    if (error == 0 && !replaces) {
         error = renameWithoutReplacing(m_temporary, m_path);
+    } else if (error == 0 && ::rename(m_temporary.c_str(), m_path.c_str()) != 0) {
+        error = errno;
     }
     if (error != 0) {
         return error;
     }
     m_temporary.clear();
     error = synchronizeFolder(folderOf(m_path));
+    if (replaces) {
+        // What it has replaced is gone, and a power cut leaves one of the two: there is no way back and no loss.
+        return 0;
+    }
     if (error != 0) {
         removeIfStill(m_path, m_file.get());
     }

@@ -20,6 +20,9 @@ int synchronizeFolder(const std::filesystem::path& folder);
 /// Removes what DurableFiles of processes that were killed have left in a folder: nobody has touched it for an hour.
 void removeLeftovers(const std::filesystem::path& folder, std::time_t now);
 
+/// What becomes of a file that has the name already.
+enum class Existing { Keep, Replace };
+
 /// A file that has its name only when all of it is on the disk.
 ///
 /// Until it is published it has a name of its own, in the folder "PrivateInbox" beside the one that it shall have, or
@@ -28,12 +31,14 @@ void removeLeftovers(const std::filesystem::path& folder, std::time_t now);
 class DurableFile {
 public:
     /// Makes an empty file that is to have that path. Invalid, with errno set, when that fails: EEXIST where the path
-    /// is taken. The name for now ends with the suffix.
-    static DurableFile create(const std::filesystem::path& path, std::string_view suffix = {});
+    /// is taken; EISDIR or EINVAL where what is to be replaced is no file. The name for now ends with the suffix.
+    static DurableFile create(const std::filesystem::path& path, std::string_view suffix = {},
+                              Existing existing = Existing::Keep);
     DurableFile(DurableFile&& other) noexcept
         : m_file(std::move(other.m_file)),
           m_temporary(std::exchange(other.m_temporary, {})),
-          m_path(std::move(other.m_path)) {}
+          m_path(std::move(other.m_path)),
+          m_existing(other.m_existing) {}
     DurableFile& operator=(DurableFile&&) = delete;
     ~DurableFile();
 
@@ -46,8 +51,8 @@ public:
 
     /// Brings all of it to the disk, which can take long. 0 or an errno value.
     int synchronize();
-    /// Does that and gives it its name, replacing nothing. 0 or an errno value: EEXIST where the
-    /// name has been taken meanwhile. After a failure there is no file of that name. Once.
+    /// Does that and gives it its name, in one step where it replaces a file. 0 or an errno value: EEXIST where the
+    /// name has been taken meanwhile. After a failure this file does not have that name. Once.
     int publish();
 
 private:
@@ -56,6 +61,7 @@ private:
     FileDescriptor m_file;
     std::filesystem::path m_temporary;
     std::filesystem::path m_path;
+    Existing m_existing = Existing::Keep;
 };
 
 }  // namespace tavi

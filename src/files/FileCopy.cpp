@@ -11,7 +11,6 @@
 #include <limits>
 #include <vector>
 
-#include "files/DurableFile.h"
 #include "files/FileIdentity.h"
 #include "files/PositionedIo.h"
 
@@ -20,7 +19,13 @@ namespace tavi {
 namespace {
 
 constexpr std::size_t kCopyBlock = std::size_t{1} << 20;
+/// How much waits for the disk at most.
+constexpr std::int64_t kUnsynchronized = std::int64_t{16} << 20;
 constexpr mode_t kReadAndWrite = 0666;
+
+bool isUnsupported(int error) {
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
+}
 
 /// Takes the room that a file will need, where the file system can; else sees that there is so much. 0 or ENOSPC.
 int reserve(int fd, std::int64_t size) {
@@ -61,6 +66,7 @@ int copyBytes(int source, std::int64_t size, int target, const CopyWatch& watch)
     const std::int64_t end = size > 0 ? size : std::numeric_limits<std::int64_t>::max();
     std::vector<char> block(kCopyBlock);
     Progress progress(watch, size);
+    std::int64_t synchronized = 0;
     for (std::int64_t offset = 0; offset < end;) {
         if (watch.stop.stop_requested()) {
             return ECANCELED;
@@ -78,13 +84,16 @@ int copyBytes(int source, std::int64_t size, int target, const CopyWatch& watch)
             return error;
         }
         offset += static_cast<std::int64_t>(bytes);
+        if (offset - synchronized >= kUnsynchronized) {
+            // What goes wrong is told once, and not again at the end.
+            if (::fdatasync(target) != 0 && !isUnsupported(errno)) {
+                return errno;
+            }
+            synchronized = offset;
+        }
         progress.tell(offset);
     }
     return 0;
-}
-
-bool cannotKeepDates(int error) {
-    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
 }
 
 }  // namespace
@@ -123,16 +132,17 @@ int copyContents(int source, const struct stat& attributes, int target, const Co
         return error;
     }
     const std::array<timespec, 2> times{attributes.st_atim, attributes.st_mtim};
-    return ::futimens(target, times.data()) == 0 || cannotKeepDates(errno) ? 0 : errno;
+    return ::futimens(target, times.data()) == 0 || isUnsupported(errno) ? 0 : errno;
 }
 
-int copyItem(const std::filesystem::path& from, const std::filesystem::path& to, const CopyWatch& watch) {
+int copyItem(const std::filesystem::path& from, const std::filesystem::path& to, const CopyWatch& watch,
+             Existing existing) {
     struct stat attributes = {};
     const FileDescriptor source = openRegular(from, attributes);
     if (!source.isValid()) {
         return errno;
     }
-    DurableFile target = DurableFile::create(to);
+    DurableFile target = DurableFile::create(to, {}, existing);
     if (!target.isValid()) {
         return errno;
     }

@@ -18,8 +18,8 @@
 #include "files/PathText.h"
 #include "library/utility/DateTexts.h"
 #include "library/utility/Notifications.h"
+#include "library/utility/RecordingMail.h"
 #include "library/utility/Utility.h"
-#include "recording/RecordingMail.h"
 
 namespace tavi {
 
@@ -189,7 +189,7 @@ void SessionFile::emailAudioFile(const std::filesystem::path& path) {
         m_services.presenter.presentAlert(
             {qtTrId("alert_error"), qtTrId("file_size_msg"), {{qtTrId("alert_title_ok")}}});
     } else if (m_services.mailComposer.canSendMail()) {
-        m_services.mailComposer.compose(mailWithAudioFile(path), [](const Result<void>& result) {
+        m_services.mailComposer.compose(mailWithAudioFile(path), [](const Result<MailComposeResult>& result) {
             if (!result) {
                 qCWarning(lcRecording, "%s", qPrintable(result.error().text));
             }

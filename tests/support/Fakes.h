@@ -185,12 +185,13 @@ public:
 class FakeMailComposer : public MailComposer {
 public:
     bool canSendMail() const override { return canSend; }
-    void compose(const MailMessage& message, std::function<void(Result<void>)> completion) override {
+    void compose(const MailMessage& message, Completion completion) override {
         messages.push_back(message);
-        completion(Result<void>{});
+        completion(result);
     }
 
     bool canSend = true;
+    Result<MailComposeResult> result = MailComposeResult::HandedOver;
     std::vector<MailMessage> messages;
 };
 

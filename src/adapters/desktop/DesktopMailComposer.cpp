@@ -4,7 +4,7 @@
 
 namespace tavi {
 
-void DesktopMailComposer::compose(const MailMessage& message, std::function<void(Result<void>)> completion) {
+void DesktopMailComposer::compose(const MailMessage& message, Completion completion) {
     std::error_code ignored;
     for (const MailAttachment& attachment : message.attachments) {
         if (!std::filesystem::is_regular_file(attachment.path, ignored)) {
@@ -20,7 +20,10 @@ void DesktopMailComposer::compose(const MailMessage& message, std::function<void
     const auto sent = m_portal.compose(message, [this, message, completion](PortalMail::Outcome outcome) {
         switch (outcome) {
             case PortalMail::Outcome::Done:
-                completion({});
+                completion(MailComposeResult::HandedOver);
+                break;
+            case PortalMail::Outcome::Cancelled:
+                completion(MailComposeResult::Cancelled);
                 break;
             case PortalMail::Outcome::Unavailable:
                 composeWithXdgEmail(message, completion);
@@ -35,8 +38,7 @@ void DesktopMailComposer::compose(const MailMessage& message, std::function<void
     }
 }
 
-void DesktopMailComposer::composeWithXdgEmail(const MailMessage& message,
-                                              const std::function<void(Result<void>)>& completion) {
+void DesktopMailComposer::composeWithXdgEmail(const MailMessage& message, const Completion& completion) {
     if (m_xdgEmail.isAvailable()) {
         m_xdgEmail.compose(message, completion);
     } else {
@@ -44,7 +46,7 @@ void DesktopMailComposer::composeWithXdgEmail(const MailMessage& message,
     }
 }
 
-void DesktopMailComposer::completeLater(const std::function<void(Result<void>)>& completion, const Error& error) {
+void DesktopMailComposer::completeLater(const Completion& completion, const Error& error) {
     QMetaObject::invokeMethod(
         this, [completion, error] { completion(tl::unexpected(error)); }, Qt::QueuedConnection);
 }

@@ -22,11 +22,11 @@ public:
     explicit DesktopMailComposer(const QDBusConnection& sessionBus) : m_portal(sessionBus) {}
 
     bool canSendMail() const override { return m_portal.isAvailable() || m_xdgEmail.isAvailable(); }
-    void compose(const MailMessage& message, std::function<void(Result<void>)> completion) override;
+    void compose(const MailMessage& message, Completion completion) override;
 
 private:
-    void composeWithXdgEmail(const MailMessage& message, const std::function<void(Result<void>)>& completion);
-    void completeLater(const std::function<void(Result<void>)>& completion, const Error& error);
+    void composeWithXdgEmail(const MailMessage& message, const Completion& completion);
+    void completeLater(const Completion& completion, const Error& error);
 
     PortalMail m_portal;
     XdgEmail m_xdgEmail;

@@ -114,7 +114,7 @@ void PortalMail::onComposeAnswer(const QString& expectedPath, QDBusPendingCallWa
 }
 
 void PortalMail::onResponse(quint32 response, const QVariantMap&, const QDBusMessage& message) {
-    finish(message.path(), response <= 1 ? Outcome::Done : Outcome::Failed);
+    finish(message.path(), response == 0 ? Outcome::Done : response == 1 ? Outcome::Cancelled : Outcome::Failed);
 }
 
 void PortalMail::onOwnerChanged(const QString& newOwner) {

@@ -19,8 +19,10 @@ class PortalMail : public QObject {
 
 public:
     enum class Outcome {
-        /// The mail program has it, or the user thought better of it.
+        /// The mail program has it.
         Done,
+        /// The user thought better of it.
+        Cancelled,
         /// The portal offers no mail after all.
         Unavailable,
         Failed,

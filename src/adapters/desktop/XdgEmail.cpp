@@ -31,14 +31,14 @@ QString reason(int exitCode) {
 
 XdgEmail::XdgEmail() : m_program(QStandardPaths::findExecutable(QStringLiteral("xdg-email"))) {}
 
-void XdgEmail::compose(const MailMessage& message, const std::function<void(Result<void>)>& completion) {
+void XdgEmail::compose(const MailMessage& message, const MailComposer::Completion& completion) {
     auto* process = new QProcess(this);
     process->setStandardInputFile(QProcess::nullDevice());
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     connect(process, &QProcess::finished, this, [process, completion](int exitCode, QProcess::ExitStatus status) {
         process->deleteLater();
         if (status == QProcess::NormalExit && exitCode == 0) {
-            completion({});
+            completion(MailComposeResult::HandedOver);
         } else {
             completion(failure(QStringLiteral("The mail could not be handed over: %1.").arg(reason(exitCode))));
         }

@@ -17,7 +17,7 @@ public:
 
     bool isAvailable() const { return !m_program.isEmpty(); }
     /// Starts xdg-email. The completion comes when that has handed over the mail or given up.
-    void compose(const MailMessage& message, const std::function<void(Result<void>)>& completion);
+    void compose(const MailMessage& message, const MailComposer::Completion& completion);
 
     /// The command line, an argument a string: no shell reads it. A recipient that is no mail address is left out,
     /// since xdg-email would take it for an option; the user then fills it in.

@@ -227,6 +227,78 @@
         <source></source>
         <translation>Diese Aufnahme ist größer als 25 MB und kann nicht gemailt werden.</translation>
     </message>
+    <message id="Your Mail has been sent successfully">
+        <source></source>
+        <translation>Die Mail wurde gesendet</translation>
+    </message>
+    <message id="share_gone">
+        <source></source>
+        <translation>„%1“ ist nicht mehr da.</translation>
+    </message>
+    <message id="share_no_file">
+        <source></source>
+        <translation>„%1“ ist keine Datei, die sich weitergeben lässt.</translation>
+    </message>
+    <message id="share_open_failed">
+        <source></source>
+        <translation>„%1“ ließ sich in keinem anderen Programm öffnen.</translation>
+    </message>
+    <message id="share_folder_failed">
+        <source></source>
+        <translation>Der Ordner von „%1“ ließ sich nicht anzeigen.</translation>
+    </message>
+    <message id="share_mail_none">
+        <source></source>
+        <translation>Es gibt kein Mailprogramm.</translation>
+    </message>
+    <message id="share_mail_failed">
+        <source></source>
+        <translation>Kein Mailprogramm hat die Mail mit „%1“ angenommen.</translation>
+    </message>
+    <message id="share_copied">
+        <source></source>
+        <translation>„%1“ liegt in der Zwischenablage.</translation>
+    </message>
+    <message id="share_copied_many">
+        <source></source>
+        <translation>%1 Aufnahmen liegen in der Zwischenablage.</translation>
+    </message>
+    <message id="export_no_dialog">
+        <source></source>
+        <translation>Wohin „%1“ soll, konnte nicht gefragt werden: Nichts wurde exportiert.</translation>
+    </message>
+    <message id="export_running">
+        <source></source>
+        <translation>„%1“ wird exportiert</translation>
+    </message>
+    <message id="export_cancelled">
+        <source></source>
+        <translation>Der Export von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message id="export_failed">
+        <source></source>
+        <translation>„%1“ konnte nicht exportiert werden: %2.</translation>
+    </message>
+    <message id="export_done">
+        <source></source>
+        <translation>„%1“ wurde exportiert.</translation>
+    </message>
+    <message id="export_show">
+        <source></source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message id="export_replace_title">
+        <source></source>
+        <translation>„%1“ ersetzen?</translation>
+    </message>
+    <message id="export_replace_message">
+        <source></source>
+        <translation>Eine Datei dieses Namens gibt es schon. Ihr Inhalt geht verloren.</translation>
+    </message>
+    <message id="export_replace">
+        <source></source>
+        <translation>Ersetzen</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud nicht verfügbar</translation>

@@ -226,6 +226,78 @@
         <source></source>
         <translation>This recording is larger than 25 MB and cannot be mailed.</translation>
     </message>
+    <message id="Your Mail has been sent successfully">
+        <source></source>
+        <translation>Your Mail has been sent successfully</translation>
+    </message>
+    <message id="share_gone">
+        <source></source>
+        <translation>“%1” is not there any more.</translation>
+    </message>
+    <message id="share_no_file">
+        <source></source>
+        <translation>“%1” is no file that could be handed on.</translation>
+    </message>
+    <message id="share_open_failed">
+        <source></source>
+        <translation>“%1” could not be opened in another program.</translation>
+    </message>
+    <message id="share_folder_failed">
+        <source></source>
+        <translation>The folder of “%1” could not be shown.</translation>
+    </message>
+    <message id="share_mail_none">
+        <source></source>
+        <translation>There is no mail program.</translation>
+    </message>
+    <message id="share_mail_failed">
+        <source></source>
+        <translation>No mail program took the mail with “%1”.</translation>
+    </message>
+    <message id="share_copied">
+        <source></source>
+        <translation>“%1” is on the clipboard.</translation>
+    </message>
+    <message id="share_copied_many">
+        <source></source>
+        <translation>%1 recordings are on the clipboard.</translation>
+    </message>
+    <message id="export_no_dialog">
+        <source></source>
+        <translation>Where “%1” is to go could not be asked: nothing was exported.</translation>
+    </message>
+    <message id="export_running">
+        <source></source>
+        <translation>Exporting “%1”</translation>
+    </message>
+    <message id="export_cancelled">
+        <source></source>
+        <translation>The export of “%1” was cancelled.</translation>
+    </message>
+    <message id="export_failed">
+        <source></source>
+        <translation>“%1” could not be exported: %2.</translation>
+    </message>
+    <message id="export_done">
+        <source></source>
+        <translation>“%1” has been exported.</translation>
+    </message>
+    <message id="export_show">
+        <source></source>
+        <translation>Show</translation>
+    </message>
+    <message id="export_replace_title">
+        <source></source>
+        <translation>Replace “%1”?</translation>
+    </message>
+    <message id="export_replace_message">
+        <source></source>
+        <translation>A file of this name is there already. What is in it will be lost.</translation>
+    </message>
+    <message id="export_replace">
+        <source></source>
+        <translation>Replace</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud Unavailable</translation>

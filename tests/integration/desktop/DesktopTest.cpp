@@ -119,10 +119,12 @@ protected:
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
     }
-    /// Composes; the mail's outcome follows those before, "ok" or the text of the error.
+    /// Composes; the mail's outcome follows those before, "ok", "cancelled" or the text of the error.
     void compose(MailComposer& composer) {
-        composer.compose(m_mail, [this](const Result<void>& result) {
-            m_outcomes << (result ? QStringLiteral("ok") : result.error().text);
+        composer.compose(m_mail, [this](const Result<MailComposeResult>& result) {
+            const bool isCancelled = result == MailComposeResult::Cancelled;
+            EXPECT_NE(result, MailComposeResult::Sent) << "nobody knows";
+            m_outcomes << (!result ? result.error().text : QLatin1String(isCancelled ? "cancelled" : "ok"));
         });
     }
     std::string outcomeOf(MailComposer& composer) {
@@ -162,7 +164,7 @@ TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
     }
     own(kPortal);
     const std::tuple<quint32, bool, const char*> answers[] = {
-        {1, false, "ok"},
+        {1, false, "cancelled"},
         {2, false, "The desktop's mail program did not take the mail."},
         {0, true, "There is no mail program."}};
     for (const auto& [response, isRefused, outcome] : answers) {

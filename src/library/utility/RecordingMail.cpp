@@ -1,4 +1,4 @@
-#include "recording/RecordingMail.h"
+#include "library/utility/RecordingMail.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
