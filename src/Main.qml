@@ -22,6 +22,9 @@ Window {
     /// Something covers the screens and takes the keys.
     readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown || hudView.shown
 
+    /// The least width and height that the screens are laid out for.
+    readonly property int leastSide: 280
+    readonly property real fit: Math.min(1, width / leastSide, height / leastSide)
     /// A phone on its side.
     readonly property bool low: height < Theme.lowHeight && width > height
     readonly property bool railed: low || width >= Theme.wideWidth
@@ -51,8 +54,8 @@ Window {
 
     width: 390
     height: 844
-    minimumWidth: 280
-    minimumHeight: 280
+    minimumWidth: Math.min(leastSide, Screen.width)
+    minimumHeight: Math.min(leastSide, Screen.height)
     visible: true
     color: Theme.ground
     title: qsTrId("app_name")
@@ -75,6 +78,12 @@ Window {
         target: Theme
         property: "reducedMotion"
         value: window.reducedMotion
+    }
+
+    Binding {
+        target: Theme
+        property: "window"
+        value: Qt.size(stage.width, stage.height)
     }
 
     Connections {
@@ -135,138 +144,149 @@ Window {
         onActivated: shortcuts.open()
     }
 
-    FocusScope {
-        id: page
+    /// All that is seen. Where the window is smaller than anything can be laid out in, as with very large text on a small
+    /// phone, it is laid out for the least size and shown smaller.
+    Item {
+        id: stage
 
-        property bool covered: window.covered
+        width: window.width / window.fit
+        height: window.height / window.fit
+        scale: window.fit
+        transformOrigin: Item.TopLeft
 
-        anchors.fill: parent
-        Accessible.role: Accessible.Grouping
-        focus: true
-        // What is behind the trimmer is out of the keyboard's reach.
-        enabled: !trimmer.shown && !shortcuts.shown
-        // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
-        Keys.onSpacePressed: event => {
-            if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
-                window.recording.playAndPauseRecording(window)
-        }
-        Keys.onPressed: event => {
-            if (event.text === "?") {
-                shortcuts.open()
-                event.accepted = true
+        FocusScope {
+            id: page
+
+            property bool covered: window.covered
+
+            anchors.fill: parent
+            Accessible.role: Accessible.Grouping
+            focus: true
+            // What is behind the trimmer is out of the keyboard's reach.
+            enabled: !trimmer.shown && !shortcuts.shown
+            // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
+            Keys.onSpacePressed: event => {
+                if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
+                    window.recording.playAndPauseRecording(window)
+            }
+            Keys.onPressed: event => {
+                if (event.text === "?") {
+                    shortcuts.open()
+                    event.accepted = true
+                }
+            }
+
+            SessionBar {
+                id: session
+
+                x: content.x
+                width: content.width
+                height: implicitHeight
+                screen: window.recording
+                tabBar: window.tabBar
+            }
+
+            Item {
+                id: content
+
+                x: window.railed ? bar.width : 0
+                y: session.height
+                width: parent.width - x
+                height: parent.height - y - (window.railed ? 0 : bar.height)
+
+                TabPage {
+                    id: recordLoader
+
+                    tab: 0
+                    selectedIndex: window.tabBar.selectedIndex
+                    url: "qrc:/Tavi/Recording/RecordScreen.qml"
+                    controller: window.recording
+                    footRoom: notice.room
+                }
+
+                TabPage {
+                    id: libraryLoader
+
+                    tab: 1
+                    selectedIndex: window.tabBar.selectedIndex
+                    url: "qrc:/Tavi/Library/LibraryScreen.qml"
+                    controller: window.library
+                    footRoom: notice.room
+                }
+
+                TabPage {
+                    id: settingsLoader
+
+                    tab: 2
+                    selectedIndex: window.tabBar.selectedIndex
+                    url: "qrc:/Tavi/Settings/SettingsScreen.qml"
+                    controller: window.settings
+                    footRoom: notice.room
+                }
+            }
+
+            TabBar {
+                id: bar
+
+                objectName: "tabBar"
+                y: window.railed ? 0 : parent.height - height
+                width: window.railed ? implicitWidth : parent.width
+                height: window.railed ? parent.height : implicitHeight
+                vertical: window.railed
+                low: window.low
+                controller: window.tabBar
             }
         }
 
-        SessionBar {
-            id: session
+        TrimmerOverlay {
+            id: trimmer
 
-            x: content.x
-            width: content.width
-            height: implicitHeight
-            screen: window.recording
-            tabBar: window.tabBar
+            stage: window.trimmers
+            // Whoever has gone on to trim has seen what was said before.
+            onShownChanged: if (shown) window.notices.dismiss()
         }
 
-        Item {
-            id: content
+        NoticeBar {
+            id: notice
 
-            x: window.railed ? bar.width : 0
-            y: session.height
-            width: parent.width - x
-            height: parent.height - y - (window.railed ? 0 : bar.height)
+            readonly property rect area: window.screens[window.tabBar.selectedIndex].item?.noticeArea
+                                         ?? Qt.rect(0, 0, content.width, content.height)
+            readonly property real room: visible ? height + Theme.gapWide : 0
 
-            TabPage {
-                id: recordLoader
+            objectName: "notice"
+            x: content.x + area.x + Math.round((area.width - width) / 2)
+            y: content.y + area.y + area.height - height - Theme.gapWide
+            width: Math.min(area.width - 2 * Theme.gapWide, 480)
+            notices: window.notices
+            behind: window.covered
+        }
 
-                tab: 0
-                selectedIndex: window.tabBar.selectedIndex
-                url: "qrc:/Tavi/Recording/RecordScreen.qml"
-                controller: window.recording
-                footRoom: notice.room
-            }
+        ShortcutList {
+            id: shortcuts
+        }
 
-            TabPage {
-                id: libraryLoader
+        Loader {
+            id: hud
 
-                tab: 1
-                selectedIndex: window.tabBar.selectedIndex
-                url: "qrc:/Tavi/Library/LibraryScreen.qml"
-                controller: window.library
-                footRoom: notice.room
-            }
-
-            TabPage {
-                id: settingsLoader
-
-                tab: 2
-                selectedIndex: window.tabBar.selectedIndex
-                url: "qrc:/Tavi/Settings/SettingsScreen.qml"
-                controller: window.settings
-                footRoom: notice.room
+            objectName: "hudView"
+            anchors.fill: parent
+            active: window.hudView.shown
+            focus: active && !window.presenter.active
+            sourceComponent: HudView {
+                hud: window.hudView
+                behind: window.presenter.active
             }
         }
 
-        TabBar {
-            id: bar
+        Loader {
+            id: overlay
 
-            objectName: "tabBar"
-            y: window.railed ? 0 : parent.height - height
-            width: window.railed ? implicitWidth : parent.width
-            height: window.railed ? parent.height : implicitHeight
-            vertical: window.railed
-            low: window.low
-            controller: window.tabBar
-        }
-    }
-
-    TrimmerOverlay {
-        id: trimmer
-
-        stage: window.trimmers
-        // Whoever has gone on to trim has seen what was said before.
-        onShownChanged: if (shown) window.notices.dismiss()
-    }
-
-    NoticeBar {
-        id: notice
-
-        readonly property rect area: window.screens[window.tabBar.selectedIndex].item?.noticeArea
-                                     ?? Qt.rect(0, 0, content.width, content.height)
-        readonly property real room: visible ? height + Theme.gapWide : 0
-
-        objectName: "notice"
-        x: content.x + area.x + Math.round((area.width - width) / 2)
-        y: content.y + area.y + area.height - height - Theme.gapWide
-        width: Math.min(area.width - 2 * Theme.gapWide, 480)
-        notices: window.notices
-        behind: window.covered
-    }
-
-    ShortcutList {
-        id: shortcuts
-    }
-
-    Loader {
-        id: hud
-
-        objectName: "hudView"
-        anchors.fill: parent
-        active: window.hudView.shown
-        focus: active && !window.presenter.active
-        sourceComponent: HudView {
-            hud: window.hudView
-            behind: window.presenter.active
-        }
-    }
-
-    Loader {
-        id: overlay
-
-        anchors.fill: parent
-        active: window.presenter.active
-        focus: active
-        sourceComponent: AlertOverlay {
-            presenter: window.presenter
+            anchors.fill: parent
+            active: window.presenter.active
+            focus: active
+            sourceComponent: AlertOverlay {
+                presenter: window.presenter
+            }
         }
     }
 }

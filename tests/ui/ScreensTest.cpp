@@ -247,7 +247,9 @@ void compareWithReference(const QImage& picture, const QString& name) {
 /// With TAVI_PICTURES in the environment the pictures are saved there, to be looked at.
 std::set<std::string> lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) {
     std::set<std::string> words;
-    for (const QSize size : {QSize(390, 844), QSize(320, 568), QSize(844, 390), QSize(800, 600), QSize(1200, 800)}) {
+    // The last one is 320 pixels wide, with everything half as large again.
+    for (const QSize size :
+         {QSize(390, 844), QSize(320, 568), QSize(844, 390), QSize(800, 600), QSize(1200, 800), QSize(213, 379)}) {
         SCOPED_TRACE(::testing::Message() << name << " at " << size.width() << "x" << size.height());
         shown.window->resize(size);
         const QImage picture = (shown.settle(), checkItems(shown, isCovered), shown.settle());
@@ -294,12 +296,14 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
     shown.show(R"(
         import QtQuick
         import Tavi.Trimming
+        import Tavi.Ui
         Window {
             id: window
             required property AudioTrim controller
             visible: true
             width: 390
             height: 844
+            Binding { target: Theme; property: "window"; value: Qt.size(window.width, window.height) }
             AudioTrimScreen { anchors.fill: parent; screen: window.controller }
         })",
                {{QStringLiteral("controller"), QVariant::fromValue(&screen)}});

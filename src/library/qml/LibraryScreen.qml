@@ -8,9 +8,9 @@ FocusScope {
 
     required property VoiceMemoVC screen
     /// Room for list and player beside each other: large windows, and phones that lie on their side.
-    readonly property bool beside: width >= 600 && (Window.width >= Theme.wideWidth || Window.height < Theme.lowHeight)
+    readonly property bool beside: width >= 600 && (Theme.window.width >= Theme.wideWidth || Theme.window.height < Theme.lowHeight)
     /// Too low for list and player at once, which then is one line until it is unfolded.
-    readonly property bool low: !beside && root.Window.height < 640
+    readonly property bool low: !beside && Theme.window.height < 640
     property bool unfolded: false
     readonly property bool folded: low && !unfolded
     readonly property PlayerPanel player: screen.player
@@ -68,7 +68,7 @@ FocusScope {
     Item {
         id: page
 
-        width: root.beside ? Math.min(Math.max(360, Math.min(Math.round(root.Window.width * 0.34), 480)), Math.round(root.width * 0.52))
+        width: root.beside ? Math.min(Math.max(360, Math.min(Math.round(Theme.window.width * 0.34), 480)), Math.round(root.width * 0.52))
                            : parent.width
         height: parent.height - (root.beside ? 0 : panel.shownHeight)
         clip: true

@@ -13,7 +13,7 @@ FocusScope {
     /// It can be made small again.
     property bool foldable: false
     /// Beside the list in a large window.
-    readonly property bool spacious: beside && Window.height >= 480
+    readonly property bool spacious: beside && Theme.window.height >= 480
     /// All controls in one row.
     readonly property bool oneRow: beside && column.width >= 560
     readonly property string detail: screen.playingDetail
@@ -102,7 +102,7 @@ FocusScope {
                 id: wave
 
                 width: parent.width
-                height: root.spacious ? Math.max(120, Math.min(Math.round(root.Window.height * 0.28), 260)) : 72
+                height: root.spacious ? Math.max(120, Math.min(Math.round(Theme.window.height * 0.28), 260)) : 72
                 barWidth: root.spacious ? 3 : 2
                 player: root.player
                 visible: root.player.hasPlayer

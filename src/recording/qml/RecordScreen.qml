@@ -10,8 +10,8 @@ FocusScope {
 
     required property AudioRecordVC screen
     property real footRoom: 0
-    readonly property int windowHeight: root.Window.height
-    readonly property bool beside: windowHeight < Theme.lowHeight && root.Window.width > windowHeight && width >= 440
+    readonly property int windowHeight: Theme.window.height
+    readonly property bool beside: windowHeight < Theme.lowHeight && Theme.window.width > windowHeight && width >= 440
     /// Low windows do without the words below the buttons, and very low ones without the date.
     readonly property bool captioned: windowHeight >= 360
     readonly property bool dated: windowHeight >= 320

@@ -20,7 +20,7 @@ FocusScope {
     readonly property real free: height - taken
     /// Air between the groups, the same everywhere.
     readonly property real air: low ? 0 : Math.max(0, (free - plotHeight) / 4)
-    readonly property real plotHeight: Math.min(free, plot.labelRoom + (low ? 400 : Math.max(140, Math.min(Math.round(Window.height * 0.36), 320))))
+    readonly property real plotHeight: Math.min(free, plot.labelRoom + (low ? 400 : Math.max(140, Math.min(Math.round(Theme.window.height * 0.36), 320))))
     // Under the plot, from the top down; in a low window the last row lies at the lower edge.
     readonly property real textTop: air + plotHeight + (oneRow ? 8 : 4)
     readonly property real overviewTop: low ? height - 60 : wide ? textTop + 48 : textTop + 36 + air

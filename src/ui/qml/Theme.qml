@@ -80,6 +80,9 @@ QtObject {
     /// Windows lower than this that are wider than high are phones on their side.
     readonly property int lowHeight: 480
 
+    /// The window as the screens are laid out in it.
+    property size window: Qt.size(390, 844)
+
     // States.
     readonly property real disabledOpacity: 0.42
     readonly property real haloHover: 0.14
