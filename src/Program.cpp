@@ -38,6 +38,7 @@
 #include "adapters/recorder/CaptureRecorder.h"
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
+#include "cloud/NoCloud.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingShapes.h"
@@ -129,6 +130,11 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
+    NoCloud cloud{platform.runLoop};
+    RecordingCloud recordingCloud{{.documents = cloud,
+                                   .settings = platform.settings.store,
+                                   .presenter = platform.presenter,
+                                   .runLoop = platform.runLoop}};
     RecordingRescue rescue{{.container = platform.container,
                             .repair = platform.media,
                             .runLoop = platform.runLoop,
@@ -142,7 +148,8 @@ struct Screens {
                              .presenter = platform.presenter,
                              .mailComposer = platform.mailComposer,
                              .notices = platform.notices,
-                             .rescue = rescue}};
+                             .rescue = rescue,
+                             .cloud = recordingCloud}};
     AudioRecordVC recording{{.audioSession = platform.audioSession,
                              .audioRecorders = platform.audioRecorders,
                              .settings = platform.settings.store,
@@ -151,7 +158,8 @@ struct Screens {
                              .presenter = platform.presenter,
                              .tabBar = platform.tabBar,
                              .sessionFile = sessionFile,
-                             .notices = platform.notices}};
+                             .notices = platform.notices,
+                             .cloud = recordingCloud}};
     SessionGuard sessionGuard{recording, platform.formatHold, platform.systemSleep, platform.sessionEnd};
     RecordingLister lister{platform.media, platform.runLoop};
     RecordingShapes shapes{platform.media, platform.runLoop};
@@ -180,7 +188,8 @@ struct Screens {
                          .notifications = platform.notifications,
                          .remoteControl = platform.remoteControl,
                          .trimmers = trimmers,
-                         .notices = platform.notices},
+                         .notices = platform.notices,
+                         .cloud = cloud},
                         table,
                         player};
     SettingVC settings{{.settings = platform.settings.store,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
+#include "cloud/CloudDocuments.h"
 #include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
@@ -15,6 +16,7 @@ struct LibraryServices {
     RemoteControl& remoteControl;
     AudioTrimmerStage& trimmers;
     Notices& notices;
+    CloudDocuments& cloud;
 };
 
 }  // namespace tavi

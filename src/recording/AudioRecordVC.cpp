@@ -81,6 +81,7 @@ LabelOutlet AudioRecordVC::lblDate() const {
 }
 
 void AudioRecordVC::viewDidLoad() {
+    m_services.cloud.viewDidLoad();
     initWaveViewMirror();
 }
 

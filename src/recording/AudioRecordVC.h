@@ -13,6 +13,7 @@
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
 #include "recording/MicrophoneWatch.h"
+#include "recording/RecordingCloud.h"
 #include "recording/SessionClock.h"
 #include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
@@ -67,6 +68,7 @@ public:
         TabBar& tabBar;
         SessionFile& sessionFile;
         Notices& notices;
+        RecordingCloud& cloud;
     };
 
     explicit AudioRecordVC(const Services& services, QObject* parent = nullptr);

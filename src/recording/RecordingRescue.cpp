@@ -139,6 +139,7 @@ void RecordingRescue::didRescue(const std::vector<Rescued>& all) {
     for (const Rescued& one : all) {
         if (one.outcome == Rescued::Outcome::Saved) {
             saved.push_back(pathText(one.path.filename()));
+            Q_EMIT rescued(one.path);
         } else if (one.outcome == Rescued::Outcome::Kept) {
             qCWarning(lcRescue, "%s", qPrintable(one.reason));
             waiting.insert(one.path);

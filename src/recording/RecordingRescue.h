@@ -57,6 +57,10 @@ public:
     /// Does that in the background, tells who lists the recordings, and says it to the user once.
     void rescue();
 
+Q_SIGNALS:
+    /// A recording is among the others now.
+    void rescued(const std::filesystem::path& path);
+
 private:
     void didRescue(const std::vector<Rescued>& all);
 

@@ -69,7 +69,10 @@ private:
     std::filesystem::path m_moved;
 };
 
-SessionFile::SessionFile(const Services& services, QObject* parent) : QObject(parent), m_services(services) {}
+SessionFile::SessionFile(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
+    connect(&m_services.rescue, &RecordingRescue::rescued, this,
+            [this](const std::filesystem::path& path) { m_services.cloud.save(path); });
+}
 
 SessionFile::~SessionFile() = default;
 
@@ -153,6 +156,9 @@ void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
 void SessionFile::didMove(const std::filesystem::path& path) {
     const std::shared_ptr<Moves> moves = std::exchange(m_moves, nullptr);
     leave(moves->hasFailed());
+    if (!moves->moved().empty()) {
+        m_services.cloud.save(moves->moved());
+    }
     m_services.notifications.postNotification(kDataUpdatedNotification);
     const QPointer<SessionFile> self(this);
     m_services.runLoop.dispatchAfter(kMailDelay, [self, path] {

@@ -14,6 +14,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
+#include "recording/RecordingCloud.h"
 #include "recording/RecordingRescue.h"
 #include "recording/UnsavedFolder.h"
 
@@ -41,6 +42,7 @@ public:
         MailComposer& mailComposer;
         Notices& notices;
         RecordingRescue& rescue;
+        RecordingCloud& cloud;
     };
 
     explicit SessionFile(const Services& services, QObject* parent = nullptr);
@@ -61,10 +63,10 @@ public:
     /// The session comes to nothing. What there is of sound all the same is rescued.
     void abandon();
     /// Moves the whole file among the recordings, under that base name with the type that is read now, and tells who
-    /// lists them; an automatic mail follows. A session's file that is no longer at recordFilePath() since somebody has
-    /// edited the type is moved under its own. Returns before any of it is done; saved() tells. A file that cannot be
-    /// moved stays where it is until it is rescued. A notice says where the recording is, and whether it ended by
-    /// itself.
+    /// lists them; it goes to the cloud, too, and an automatic mail follows. A session's file that is no longer at
+    /// recordFilePath() since somebody has edited the type is moved under its own. Returns before any of it is done;
+    /// saved() tells. A file that cannot be moved stays where it is until it is rescued. A notice says where the
+    /// recording is, and whether it ended by itself.
     void saveFileToDoc(const QString& name, bool endedByItself = false);
     /// Makes a move that saveFileToDoc() still owes, and waits for it. For the end of the program only.
     void finishBeforeTermination();

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "cloud/CloudSaving.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
@@ -84,10 +85,6 @@ void AudioTrim::setTrimDelegate(std::function<void()> reloadTableViewDataSource)
     m_reloadTableViewDataSource = std::move(reloadTableViewDataSource);
 }
 
-void AudioTrim::setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save) {
-    m_saveToCloud = std::move(save);
-}
-
 void AudioTrim::viewDidLoad() {
     m_waveformView.setNormalColor(accentColor());
     m_waveformView.setProgressColor(QStringLiteral("#ff3333"));
@@ -148,11 +145,9 @@ void AudioTrim::trimAudio() {
 
 void AudioTrim::saveImagesInIPhone() const {
     // Of this cut, whatever comes next and whether or not the screen is still there.
-    m_services.runLoop.dispatchAfter(kCloudDelay, [save = m_saveToCloud, path = m_outputPath] {
+    m_services.runLoop.dispatchAfter(kCloudDelay, [services = m_services, path = m_outputPath] {
         qCInfo(lcTrimming, "Do some work");
-        if (save) {
-            save(path, pathText(path.filename()));
-        }
+        saveFileToCloud(services.cloud, services.runLoop, path);
     });
 }
 

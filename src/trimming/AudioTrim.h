@@ -60,8 +60,6 @@ public:
 
     /// Called when the list of recordings is to be read again; may outlive the screen.
     void setTrimDelegate(std::function<void()> reloadTableViewDataSource);
-    /// Saves the file at a path as a cloud document of that name. Without one nothing is saved there.
-    void setSaveToCloud(std::function<void(const std::filesystem::path& path, const QString& name)> save);
     /// Exports whole seconds into the file at that path; one that is there steps aside to a free name. False, with
     /// nothing exported, for a file without sound.
     bool exportAsset(const Asset& asset, const std::filesystem::path& path);
@@ -103,7 +101,6 @@ private:
     SCWaveformView m_waveformView;
     AudioTrimPlayer m_player;
     std::function<void()> m_reloadTableViewDataSource;
-    std::function<void(const std::filesystem::path&, const QString&)> m_saveToCloud;
     std::filesystem::path m_outputPath;
     QString m_indicatorText;
     double m_leftValue = 0.0;

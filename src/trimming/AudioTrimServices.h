@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
+#include "cloud/CloudDocuments.h"
 #include "platform/AppContainer.h"
 #include "platform/AssetExportSession.h"
 #include "platform/AssetReader.h"
@@ -21,6 +22,7 @@ struct AudioTrimServices {
     Presenter& presenter;
     Notices& notices;
     RunLoop& runLoop;
+    CloudDocuments& cloud;
 };
 
 }  // namespace tavi

@@ -24,7 +24,7 @@ MODULES = {
         "app/settings", "files"],
     "library/utility": ["files"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
-    "cloud": [],
+    "cloud": ["files"],
     "watch": [],
     "passcode": ["app/settings"],
     "support": ["app/settings"],

@@ -23,7 +23,8 @@ struct FakeLibrary {
               .notifications = fakes.notifications,
               .remoteControl = fakes.remote,
               .trimmers = fakes.trimmers,
-              .notices = notices},
+              .notices = notices,
+              .cloud = fakes.cloud},
              table, player) {}
 
     RecordingLister lister;

@@ -9,7 +9,9 @@ namespace tavi::test {
 /// The recording screen with all that it needs beside the shell.
 struct FakeRecording {
     FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar, Notices& notices)
-        : rescue({.container = fakes.container,
+        : cloud(
+              {.documents = fakes.cloud, .settings = fakes.settings, .presenter = presenter, .runLoop = fakes.runLoop}),
+          rescue({.container = fakes.container,
                   .repair = repair,
                   .runLoop = fakes.runLoop,
                   .notifications = fakes.notifications,
@@ -22,7 +24,8 @@ struct FakeRecording {
                 .presenter = presenter,
                 .mailComposer = mail,
                 .notices = notices,
-                .rescue = rescue}),
+                .rescue = rescue,
+                .cloud = cloud}),
           vc({.audioSession = fakes.session,
               .audioRecorders = fakes.recorders,
               .settings = fakes.settings,
@@ -31,11 +34,13 @@ struct FakeRecording {
               .presenter = presenter,
               .tabBar = tabBar,
               .sessionFile = file,
-              .notices = notices}),
+              .notices = notices,
+              .cloud = cloud}),
           guard(vc, fakes.formatHold, systemSleep, sessionEnd) {}
 
     FakeMailComposer mail;
     FakeAudioFileRepair repair;
+    RecordingCloud cloud;
     RecordingRescue rescue;
     SessionFile file;
     AudioRecordVC vc;

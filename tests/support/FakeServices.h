@@ -6,6 +6,7 @@
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
 #include "support/FakeAudioRecorder.h"
+#include "support/FakeCloudDocuments.h"
 #include "support/FakeDisplayRefresh.h"
 #include "support/FakeExtAudioFile.h"
 #include "support/Fakes.h"
@@ -35,6 +36,7 @@ struct FakeServices {
     FakeExtAudioFiles files;
     FakeAudioConverters converters;
     FakeDisplayRefreshes refreshes;
+    FakeCloudDocuments cloud{runLoop};
     WaveformLoader trimmerWaveforms{{.files = files, .converters = converters, .queues = runLoop}};
     AudioTrimmerStage trimmers{{.exports = assets,
                                 .players = players,

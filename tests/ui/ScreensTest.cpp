@@ -288,9 +288,9 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
     FakePresenter presenter;
     FakeNotices notices;
     fakes.settings.setCloudSyncOn(true);
-    AudioTrim screen(
-        {fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter, notices, fakes.runLoop},
-        addTalk(fakes), QStringLiteral("1"));
+    AudioTrim screen({fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter, notices,
+                      fakes.runLoop, fakes.cloud},
+                     addTalk(fakes), QStringLiteral("1"));
     screen.viewDidLoad();
     UserWindow shown;
     shown.show(R"(

@@ -446,6 +446,26 @@ TEST_F(AudioRecordVCTest, MailsWhatIsNotTooLarge) {
     }
 }
 
+TEST_F(AudioRecordVCTest, WhatIsSavedGoesToTheCloudWhileThatIsOn) {
+    EXPECT_EQ(cloud.setups, 0) << "off at first";
+    for (const int round : {0, 1, 2}) {
+        settings.setCloudSyncOn(round > 0);
+        screen.viewDidLoad();
+        EXPECT_EQ(std::pair(cloud.setups, cloud.isVerboseLogging), std::pair(round, round > 0));
+        tapRecord();
+        recorders.last()->capture(100, -10.0F);
+        tapStop();
+        runLoop.manualClock().advance(round);
+    }
+    // The second one's name was taken, so that it was rescued.
+    EXPECT_THAT(cloud.saves, ::testing::ElementsAre("Recovered_2024_Mar_05_14_03_59.m4a", "2024_Mar_05_14_04_00.m4a"));
+    ASSERT_NE(cloud.delegate(), nullptr);
+    cloud.delegate()->iCloudAvailabilityDidChangeToState(true, {}, {});
+    EXPECT_TRUE(presenter.alerts.empty());
+    cloud.delegate()->iCloudAvailabilityDidChangeToState(false, {}, {});
+    EXPECT_EQ(lastAlert(), "signin_icloud_account");
+}
+
 TEST_F(AudioRecordVCTest, TheEndOfTheProgramWaitsForTheRecording) {
     // While it runs, is paused, is stopped but not whole (W), waits to be moved, and has another one waiting behind it.
     qsizetype saved = 0;

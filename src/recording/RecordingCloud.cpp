@@ -1,0 +1,61 @@
+#include "recording/RecordingCloud.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include "cloud/CloudSaving.h"
+#include "files/PathText.h"
+
+namespace tavi {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
+
+}  // namespace
+
+RecordingCloud::~RecordingCloud() {
+    if (m_services.documents.delegate() == this) {
+        m_services.documents.setDelegate(nullptr);
+    }
+}
+
+void RecordingCloud::viewDidLoad() {
+    if (m_services.settings.isCloudSyncOn()) {
+        m_services.documents.setDelegate(this);
+        m_services.documents.setVerboseLogging(true);
+        m_services.documents.setupiCloudDocumentSyncWithUbiquityContainer({});
+    }
+}
+
+void RecordingCloud::save(const std::filesystem::path& path) {
+    if (!m_services.settings.isCloudSyncOn()) {
+        return;
+    }
+    saveFileToCloud(
+        m_services.documents, m_services.runLoop, path,
+        [name = pathText(path.filename())](const std::shared_ptr<iCloudDocument>&, const FileContents& contents,
+                                           const std::optional<CloudError>& error) {
+            if (error) {
+                qCWarning(lcRecording, "iCloud Document save error: %s", qUtf8Printable(errorText(*error)));
+            } else {
+                qCInfo(lcRecording, "iCloud Document, %s, saved with text: %s", qUtf8Printable(name),
+                       qUtf8Printable(contentsText(contents)));
+            }
+        });
+}
+
+void RecordingCloud::refreshCloudListAfterSetup() {
+    m_services.documents.setDelegate(this);
+    m_services.documents.updateFiles();
+}
+
+void RecordingCloud::iCloudAvailabilityDidChangeToState(bool isAvailable, const QString& /*token*/,
+                                                        const std::filesystem::path& /*container*/) {
+    if (!isAvailable) {
+        m_services.presenter.presentAlert(
+            {qtTrId("cloud_unavail"), qtTrId("signin_icloud_account"), {{qtTrId("alert_okay")}}});
+    }
+}
+
+}  // namespace tavi
