@@ -103,7 +103,8 @@ struct Platform {
     DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
     DBusSessionEnd sessionEnd{bus, qtTrId("session_end_reason")};
     LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
-    DesktopMailComposer mailComposer{bus};
+    PortalRequests portal{bus};
+    DesktopMailComposer mailComposer{portal};
     MprisRemoteControl remoteControl{bus};
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;

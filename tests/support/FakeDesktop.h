@@ -20,11 +20,12 @@
 
 namespace tavi::test {
 
-/// A desktop on a private bus, as far as the program talks with one: portal (mail, inhibit), screen saver, session
-/// manager, login manager. Which of them exist is the set of names that a test lets it own.
+/// A desktop on a private bus, as far as the program talks with one: portal (mail, open, save, inhibit), file manager,
+/// screen saver, session manager, login manager. Which of them exist is the set of names that a test lets it own.
 class FakeDesktop : public QDBusVirtualObject {
 public:
     static QString portal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
+    static QString fileManager() { return QStringLiteral("org.freedesktop.FileManager1"); }
     static QString screenSaver() { return QStringLiteral("org.freedesktop.ScreenSaver"); }
     static QString sessionManager() { return QStringLiteral("org.gnome.SessionManager"); }
     static QString login() { return QStringLiteral("org.freedesktop.login1"); }
@@ -51,13 +52,18 @@ public:
 
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
-        const std::optional<QVariantList> results = answer(message);
-        if (!results) {
+        const bool isRequest = kRequests.contains(message.member());
+        if (isRequest && isSilent) {
+            message.setDelayedReply(true);
+            return true;
+        }
+        const std::optional<QVariantList> answered = answer(message);
+        if (!answered) {
             return false;
         }
-        connection.send(message.createReply(*results));
-        if (message.member() == QLatin1String("ComposeEmail") && !holdsMail) {
-            respondToMail();
+        connection.send(message.createReply(*answered));
+        if (isRequest && !holdsRequests) {
+            respond();
         }
         return true;
     }
@@ -101,22 +107,30 @@ public:
     quint32 inhibitFlags = 0;
     QString inhibitReason;
 
-    /// The portal's answer to a mail.
-    quint32 mailResponse = 0;
     quint32 mailVersion = 4;
-    bool refusesMail = false;
-    /// Whether the response to a mail is the test's to send, by respondToMail(). It goes to the last mail.
-    bool holdsMail = false;
-    void respondToMail() {
+    /// The portal's answer to requests: mails, files to open and to save.
+    quint32 response = 0;
+    QVariantMap results;
+    bool refusesRequests = false;
+    /// Whether it does not even say that it has begun.
+    bool isSilent = false;
+    /// Whether the response is the test's to send, by respond(). It goes to the last request.
+    bool holdsRequests = false;
+    void respond() {
         const QString interface = QStringLiteral("org.freedesktop.portal.Request");
-        QDBusMessage response = QDBusMessage::createSignal(m_mailRequest, interface, QStringLiteral("Response"));
-        m_bus.send(response << mailResponse << QVariantMap());
+        QDBusMessage signal = QDBusMessage::createSignal(m_request, interface, QStringLiteral("Response"));
+        m_bus.send(signal << response << results);
     }
     /// As portals of old did.
     bool namesRequestsItself = false;
-    /// The last mail: its options, and the contents of its attachments.
-    QVariantMap mail;
-    QList<QByteArray> mailAttachments;
+    /// The last request: its method with the arguments that are texts, its options, and the contents of its files.
+    QStringList request;
+    QVariantMap options;
+    QList<QByteArray> files;
+    /// How many requests were given up.
+    int closed = 0;
+    /// What the file manager shows.
+    QStringList shown;
 
 private:
     /// The results of a call, or nothing where it is not known.
@@ -129,15 +143,20 @@ private:
         const auto property = [](const QVariant& value) { return QVariant::fromValue(QDBusVariant(value)); };
         const QVariantList in = message.arguments();
         if (is("portal.Inhibit.Inhibit")) {
-            const auto options = qdbus_cast<QVariantMap>(in.at(2));
-            const QString request = requestPath(message, options);
+            const auto wishes = qdbus_cast<QVariantMap>(in.at(2));
+            const QString inhibition = requestPath(message, wishes);
             inhibitFlags = in.at(1).toUInt();
-            inhibitReason = options.value(QStringLiteral("reason")).toString();
-            inhibitions.insert(request);
-            return QVariantList{path(request)};
+            inhibitReason = wishes.value(QStringLiteral("reason")).toString();
+            inhibitions.insert(inhibition);
+            return QVariantList{path(inhibition)};
         }
         if (is("portal.Request.Close")) {
             inhibitions.remove(message.path());
+            ++closed;
+            return QVariantList();
+        }
+        if (is("FileManager1.ShowItems")) {
+            shown = in.at(0).toStringList();
             return QVariantList();
         }
         if (is("ScreenSaver.Inhibit")) {
@@ -178,38 +197,50 @@ private:
         if (is("DBus.Properties.Get") && mailVersion > 0) {
             return QVariantList{property(mailVersion)};
         }
-        if (is("portal.Email.ComposeEmail") && !refusesMail) {
-            takeMail(message);
-            return QVariantList{path(m_mailRequest)};
+        if (kRequests.contains(message.member()) && !refusesRequests) {
+            takeRequest(message);
+            return QVariantList{path(m_request)};
         }
         return std::nullopt;
     }
-    QString requestPath(const QDBusMessage& message, const QVariantMap& options) {
+    QString requestPath(const QDBusMessage& message, const QVariantMap& wishes) {
         const QString own = QStringLiteral("own%1").arg(++m_lastNumber);
-        const QString token = options.value(QStringLiteral("handle_token"), own).toString();
+        const QString token = wishes.value(QStringLiteral("handle_token"), own).toString();
         const QString sender = message.service().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
         return QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
             .arg(sender, namesRequestsItself ? own : token);
     }
-    void takeMail(const QDBusMessage& message) {
-        mail = qdbus_cast<QVariantMap>(message.arguments().at(1));
-        m_mailRequest = requestPath(message, mail);
-        mailAttachments.clear();
-        const auto files = qdbus_cast<QList<QDBusUnixFileDescriptor>>(mail.value(QStringLiteral("attachment_fds")));
-        for (const QDBusUnixFileDescriptor& descriptor : files) {
-            QFile file;
-            if (file.open(descriptor.fileDescriptor(), QIODevice::ReadOnly)) {
-                mailAttachments.append(file.readAll());
+    void takeRequest(const QDBusMessage& message) {
+        request = QStringList{message.member()};
+        files.clear();
+        for (const QVariant& argument : message.arguments()) {
+            if (argument.canConvert<QDBusUnixFileDescriptor>()) {
+                takeFile(argument.value<QDBusUnixFileDescriptor>());
+            } else if (argument.typeId() == QMetaType::QString) {
+                request << argument.toString();
             }
+        }
+        options = qdbus_cast<QVariantMap>(message.arguments().constLast());
+        const auto attached =
+            qdbus_cast<QList<QDBusUnixFileDescriptor>>(options.value(QStringLiteral("attachment_fds")));
+        std::for_each(attached.begin(), attached.end(), [this](const auto& descriptor) { takeFile(descriptor); });
+        m_request = requestPath(message, options);
+    }
+    void takeFile(const QDBusUnixFileDescriptor& descriptor) {
+        QFile file;
+        if (file.open(descriptor.fileDescriptor(), QIODevice::ReadOnly)) {
+            files.append(file.readAll());
         }
     }
 
+    inline static const QStringList kRequests{QStringLiteral("ComposeEmail"), QStringLiteral("OpenFile"),
+                                              QStringLiteral("SaveFile")};
     inline static const QStringList kPaths{QStringLiteral("/org/freedesktop"), QStringLiteral("/org/gnome")};
     inline static const QString kSessionPath = QStringLiteral("/org/freedesktop/login1/session/_31");
     inline static const QString kSession = QStringLiteral("org.freedesktop.login1.Session");
 
     QDBusConnection m_bus;
-    QString m_mailRequest;
+    QString m_request;
     bool m_screenSaverActive = false;
     bool m_lockedHint = false;
     /// The end of a pipe whose other end is the delay.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QObject>
 
 #include "adapters/desktop/PortalMail.h"
@@ -18,8 +17,8 @@ class DesktopMailComposer final : public QObject, public MailComposer {
     Q_OBJECT
 
 public:
-    /// The bus may be unconnected.
-    explicit DesktopMailComposer(const QDBusConnection& sessionBus) : m_portal(sessionBus) {}
+    /// The portal must outlive this.
+    explicit DesktopMailComposer(PortalRequests& portal) : m_portal(portal) {}
 
     bool canSendMail() const override { return m_portal.isAvailable() || m_xdgEmail.isAvailable(); }
     void compose(const MailMessage& message, Completion completion) override;

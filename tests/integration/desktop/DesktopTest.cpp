@@ -2,12 +2,17 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QFile>
+#include <fstream>
 
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/DBusSessionEnd.h"
+#include "adapters/desktop/DesktopDocumentInteraction.h"
+#include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
+#include "files/FileUri.h"
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeSharing.h"
 #include "support/PrivateBus.h"
 
 namespace tavi::test {
@@ -106,19 +111,41 @@ TEST_F(DesktopTest, ScreenAndSessionAreKeptOnAsLongAsThatIsWanted) {
     }
 }
 
-class MailTest : public DesktopTest {
+/// Only those programs that a test writes.
+class ProgramsTest : public DesktopTest {
 public:
-    MailTest() {
-        qputenv("PATH", m_programs.path().toUtf8());
-        write(m_attachment, "sound");
-    }
-    ~MailTest() override { qputenv("PATH", m_path); }
+    ProgramsTest() { qputenv("PATH", m_programs.path().toUtf8()); }
+    ~ProgramsTest() override { qputenv("PATH", m_path); }
 
 protected:
     static void write(const QString& path, const char* text) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
     }
+    /// A program that writes down how it is called, and ends with what the file "exit" says.
+    QString addProgram(const QString& name) {
+        const QString script = m_programs.filePath(name);
+        write(script, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"${0%/*}/call\"\nexit \"$(/bin/cat \"${0%/*}/exit\")\"\n");
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        write(m_programs.filePath(QStringLiteral("exit")), "0");
+        return script;
+    }
+    QString lastCall() {
+        QFile call(m_programs.filePath(QStringLiteral("call")));
+        EXPECT_TRUE(call.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(call.readAll());
+    }
+
+    QByteArray m_path = qgetenv("PATH");
+    QTemporaryDir m_programs;
+    PortalRequests m_portal{m_client, std::chrono::milliseconds(200)};
+};
+
+class MailTest : public ProgramsTest {
+public:
+    MailTest() { write(m_attachment, "sound"); }
+
+protected:
     /// Composes; the mail's outcome follows those before, "ok", "cancelled" or the text of the error.
     void compose(MailComposer& composer) {
         composer.compose(m_mail, [this](const Result<MailComposeResult>& result) {
@@ -134,8 +161,6 @@ protected:
         return m_outcomes.join(QLatin1Char(' ')).toStdString();
     }
 
-    QByteArray m_path = qgetenv("PATH");
-    QTemporaryDir m_programs;
     QString m_attachment = m_programs.filePath(QStringLiteral("-a 'b' \"c\" $(touch x);\n.m4a"));
     MailMessage m_mail{QStringLiteral("a@example.org"),
                        QStringLiteral("Tone; $(rm -rf /)"),
@@ -145,7 +170,7 @@ protected:
 };
 
 TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
-    DesktopMailComposer composer(m_client);
+    DesktopMailComposer composer(m_portal);
     EXPECT_FALSE(composer.canSendMail());
     EXPECT_EQ(outcomeOf(composer), "There is no mail program.");
     for (const quint32 version : {4, 2}) {
@@ -153,11 +178,11 @@ TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
         own(kPortal);
         EXPECT_TRUE(composer.canSendMail());
         EXPECT_EQ(outcomeOf(composer), "ok");
-        EXPECT_THAT(m_desktop.mailAttachments, ::testing::ElementsAre("sound"));
-        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("subject")), m_mail.subject);
-        EXPECT_EQ(m_desktop.mail.value(QStringLiteral("body")), m_mail.body);
-        EXPECT_EQ(m_desktop.mail.contains(QStringLiteral("address")), version == 2);
-        EXPECT_EQ(m_desktop.mail.value(QLatin1String(version == 2 ? "address" : "addresses")).toStringList(),
+        EXPECT_THAT(m_desktop.files, ::testing::ElementsAre("sound"));
+        EXPECT_EQ(m_desktop.options.value(QStringLiteral("subject")), m_mail.subject);
+        EXPECT_EQ(m_desktop.options.value(QStringLiteral("body")), m_mail.body);
+        EXPECT_EQ(m_desktop.options.contains(QStringLiteral("address")), version == 2);
+        EXPECT_EQ(m_desktop.options.value(QLatin1String(version == 2 ? "address" : "addresses")).toStringList(),
                   QStringList{m_mail.recipient});
         disown(kPortal);
         EXPECT_FALSE(composer.canSendMail());
@@ -168,8 +193,8 @@ TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
         {2, false, "The desktop's mail program did not take the mail."},
         {0, true, "There is no mail program."}};
     for (const auto& [response, isRefused, outcome] : answers) {
-        m_desktop.mailResponse = response;
-        m_desktop.refusesMail = isRefused;
+        m_desktop.response = response;
+        m_desktop.refusesRequests = isRefused;
         EXPECT_EQ(outcomeOf(composer), outcome);
     }
     m_mail.attachments.front().path = "/nowhere/a.m4a";
@@ -181,8 +206,8 @@ TEST_F(MailTest, ThePortalTakesAMailOrTheReasonIsSaid) {
 }
 
 TEST_F(MailTest, EachOfTwoOpenMailsHasItsOwnOutcome) {
-    m_desktop.holdsMail = true;
-    DesktopMailComposer composer(m_client);
+    m_desktop.holdsRequests = true;
+    DesktopMailComposer composer(m_portal);
     for (const bool isNamedByPortal : {false, true}) {
         m_desktop.namesRequestsItself = isNamedByPortal;
         own(kPortal);
@@ -191,7 +216,7 @@ TEST_F(MailTest, EachOfTwoOpenMailsHasItsOwnOutcome) {
         compose(composer);
         settle();
         EXPECT_EQ(m_outcomes, QStringList());
-        m_desktop.respondToMail();
+        m_desktop.respond();
         settle();
         EXPECT_EQ(m_outcomes, QStringList{QStringLiteral("ok")});
         disown(kPortal);
@@ -200,33 +225,134 @@ TEST_F(MailTest, EachOfTwoOpenMailsHasItsOwnOutcome) {
 }
 
 TEST_F(MailTest, WithoutAPortalAProgramTakesTheMailOrTheReasonIsSaid) {
-    // In the place of the user's whole mail program; it writes down its call.
-    const QString script = m_programs.filePath(QStringLiteral("xdg-email"));
-    write(script, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"${0%/*}/call\"\nexit \"$(/bin/cat \"${0%/*}/exit\")\"\n");
-    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    DesktopMailComposer composer(m_client);
+    // In the place of the user's whole mail program.
+    const QString script = addProgram(QStringLiteral("xdg-email"));
+    DesktopMailComposer composer(m_portal);
     EXPECT_TRUE(composer.canSendMail());
     const std::string failed = "The mail could not be handed over: ";
     const std::pair<const char*, std::string> exits[] = {{"0", "ok"},
                                                          {"2", failed + "a file is missing."},
-                                                         {"3", failed + "no mail program was found."},
+                                                         {"3", failed + "no program was found."},
                                                          {"4", failed + "xdg-email ended with 4."}};
     for (const auto& [exit, outcome] : exits) {
         write(m_programs.filePath(QStringLiteral("exit")), exit);
         EXPECT_EQ(outcomeOf(composer), outcome);
-        QFile call(m_programs.filePath(QStringLiteral("call")));
-        ASSERT_TRUE(call.open(QIODevice::ReadOnly));
-        EXPECT_EQ(QString::fromUtf8(call.readAll()),
-                  QStringLiteral("--utf8\n--subject\nTone; $(rm -rf /)\n--body\nBody\n--attach\n") + m_attachment +
-                      QStringLiteral("\na@example.org\n"));
+        EXPECT_EQ(lastCall(), QStringLiteral("--utf8\n--subject\nTone; $(rm -rf /)\n--body\nBody\n--attach\n") +
+                                  m_attachment + QStringLiteral("\na@example.org\n"));
     }
     QFile::remove(script);
-    EXPECT_THAT(outcomeOf(composer), ::testing::StartsWith("xdg-email could not be started"));
+    EXPECT_THAT(outcomeOf(composer), ::testing::StartsWith(failed + "xdg-email could not be started"));
     MailMessage hostile{{}, {}, {}, {}};
     for (const char* recipient : {"--attach=/etc/passwd@", "MAILTO:a@b?attach=/etc/passwd", "nobody", ""}) {
         hostile.recipient = QString::fromLatin1(recipient);
         EXPECT_EQ(XdgEmail::arguments(hostile), QStringList{QStringLiteral("--utf8")}) << recipient;
     }
+}
+
+class DocumentsTest : public ProgramsTest {
+public:
+    /// QTemporaryDir itself leaves names behind that are no text.
+    ~DocumentsTest() override { std::filesystem::remove(m_file); }
+
+protected:
+    /// What opens the file, or where it is to go: what comes of that is in the outcome.
+    void open() {
+        m_documents.presentOpenInMenu(m_file, {}, [this](const Result<void>& result) {
+            m_outcome = result ? QStringLiteral("ok") : result.error().text;
+        });
+    }
+    void save() {
+        m_picker.presentForExport(m_file, [this](const Result<std::optional<PickedDocument>>& result) {
+            const auto picked = result.value_or(std::nullopt);
+            m_outcome = picked ? QFile::decodeName(picked->path.c_str()) + QLatin1String(picked->mayReplace ? "!" : "")
+                        : result ? QStringLiteral("nothing")
+                                 : result.error().text;
+        });
+    }
+    QString outcome() {
+        EXPECT_TRUE(spinUntil([this] { return !m_outcome.isEmpty(); }));
+        return std::exchange(m_outcome, {});
+    }
+    void expectOutcomes(const QString& opened, const QString& saved) {
+        open();
+        EXPECT_EQ(outcome(), opened);
+        save();
+        EXPECT_EQ(outcome(), saved);
+    }
+
+    FakeDocumentPicker m_otherwise;
+    DesktopDocumentInteraction m_documents{m_client, m_portal};
+    DesktopDocumentPicker m_picker{m_portal, QStringLiteral("Export"), m_otherwise};
+    const std::filesystem::path m_folder = m_programs.path().toStdString();
+    const std::filesystem::path m_file = m_folder / "-a %\xff\n.m4a";
+    QString m_outcome;
+};
+
+TEST_F(DocumentsTest, ThePortalOpensAndSavesOrAnotherWayIsTakenOrTheReasonIsSaid) {
+    const QString noOpener = QStringLiteral("There is no xdg-open.");
+    const QString notOpened = QStringLiteral("The desktop opened the file with no program.");
+    const QString notAsked = QStringLiteral("The desktop's dialog ended without an answer.");
+    m_otherwise.answer = PickedDocument{"/otherwise"};
+    open();
+    EXPECT_TRUE(outcome().startsWith(QLatin1String("Cannot read")));
+    ASSERT_TRUE(std::ofstream(m_file) << "sound");
+    expectOutcomes(noOpener, QStringLiteral("/otherwise"));
+
+    own(kPortal);
+    const std::string place = "/nowhere/b %25.m4a";
+    m_portal.setParentWindow(QStringLiteral("x11:2a"));
+    for (const auto& [uri, saved] : {std::pair<std::string, std::string>(fileUri(place), place),
+                                     {fileUri(m_folder), m_folder.string() + "!"},
+                                     {"smb://host/a", "The desktop chose no place on a disk: smb://host/a."}}) {
+        m_desktop.results = {{QStringLiteral("uris"), QStringList{QString::fromStdString(uri)}}};
+        expectOutcomes(QStringLiteral("ok"), QString::fromStdString(saved));
+    }
+    EXPECT_EQ(m_desktop.request,
+              (QStringList{QStringLiteral("SaveFile"), QStringLiteral("x11:2a"), QStringLiteral("Export")}));
+    EXPECT_EQ(m_desktop.options.value(QStringLiteral("current_name")).toString(), QStringLiteral("-a %\uFFFD\n.m4a"));
+    m_desktop.response = 1;
+    expectOutcomes(QStringLiteral("ok"), QStringLiteral("nothing"));
+    open();
+    outcome();
+    EXPECT_EQ(m_desktop.options.value(QStringLiteral("ask")), true);
+    EXPECT_THAT(m_desktop.files, ::testing::ElementsAre("sound"));
+    m_desktop.response = 2;
+    expectOutcomes(notOpened, notAsked);
+    m_desktop.refusesRequests = true;
+    expectOutcomes(noOpener, QStringLiteral("/otherwise"));
+    m_desktop.isSilent = true;
+    expectOutcomes(noOpener, QStringLiteral("/otherwise"));
+    settle();
+    EXPECT_EQ(m_desktop.closed, 2) << "no dialog comes late";
+    m_desktop.isSilent = m_desktop.refusesRequests = false;
+    m_desktop.holdsRequests = true;
+    for (const bool opens : {true, false}) {
+        opens ? open() : save();
+        settle();
+        EXPECT_EQ(m_outcome, QString());
+        disown(kPortal);
+        EXPECT_EQ(outcome(), opens ? notOpened : notAsked);
+        own(kPortal);
+    }
+}
+
+TEST_F(DocumentsTest, TheFileManagerShowsAFileElseXdgOpenItsFolder) {
+    addProgram(QStringLiteral("xdg-open"));
+    DesktopDocumentInteraction documents(m_client, m_portal);
+    const auto show = [&] {
+        documents.showInFolder(m_file, [this](const Result<void>& result) {
+            m_outcome = result ? QStringLiteral("ok") : result.error().text;
+        });
+        return outcome();
+    };
+    EXPECT_EQ(show(), QStringLiteral("ok"));
+    EXPECT_EQ(lastCall(), QString::fromStdString(fileUri(m_folder) + '\n'));
+    write(m_programs.filePath(QStringLiteral("exit")), "4");
+    EXPECT_EQ(show(), QStringLiteral("xdg-open ended with 4"));
+    own(FakeDesktop::fileManager());
+    EXPECT_EQ(show(), QStringLiteral("ok"));
+    EXPECT_EQ(m_desktop.shown, QStringList{QString::fromStdString(fileUri(m_file))});
+    EXPECT_TRUE(m_desktop.shown[0].endsWith(QLatin1String("/-a%20%25%FF%0A.m4a")));
 }
 
 }  // namespace
