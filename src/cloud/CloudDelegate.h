@@ -3,7 +3,7 @@
 #include <QString>
 #include <filesystem>
 #include <optional>
-#include <vector>
+#include <span>
 
 #include "platform/MetadataQuery.h"
 
@@ -25,8 +25,8 @@ public:
     virtual void iCloudAvailabilityDidChangeToState(bool /*isAvailable*/, const QString& /*token*/,
                                                     const std::filesystem::path& /*container*/) {}
     /// At every list of the files, once for each that is here, with all up to it: the last call has all.
-    virtual void iCloudFilesDidChange(const std::vector<MetadataItem>& /*files*/,
-                                      const std::vector<std::filesystem::path>& /*names*/) {}
+    virtual void iCloudFilesDidChange(std::span<const MetadataItem> /*files*/,
+                                      std::span<const std::filesystem::path> /*names*/) {}
     virtual void iCloudFileUpdateDidBegin() {}
     virtual void iCloudFileUpdateDidEnd() {}
     /// The path extension of the files to list, asked once; nothing where it is not implemented.
@@ -36,11 +36,10 @@ public:
                                                     const std::filesystem::path& /*localFile*/) {
         return false;
     }
-    /// The older form of the same, asked where the one above is not implemented.
-    virtual bool iCloudFileUploadConflictWithCloudFile(const std::filesystem::path& /*cloudFile*/,
-                                                       const std::filesystem::path& /*localFile*/) {
-        return false;
-    }
+    /// The older form of the same, called where the one above is not implemented and this one says that it is.
+    virtual bool hasOlderConflictOperation() const { return false; }
+    virtual void iCloudFileUploadConflictWithCloudFile(const std::filesystem::path& /*cloudFile*/,
+                                                       const std::filesystem::path& /*localFile*/) {}
 };
 
 }  // namespace tavi
