@@ -16,11 +16,12 @@ Window {
     required property AlertPresenter presenter
     required property NoticeLine notices
     required property JHUD hudView
+    required property SavePanel savePanel
     required property AudioTrimmerStage trimmers
     /// Fades take the place of movements.
     property bool reducedMotion: false
     /// Something covers the screens and takes the keys.
-    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown || hudView.shown
+    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown || savePanel.active || hudView.shown
 
     /// The least width and height that the screens are laid out for.
     readonly property int leastSide: 280
@@ -163,7 +164,7 @@ Window {
             Accessible.role: Accessible.Grouping
             focus: true
             // What is behind the trimmer is out of the keyboard's reach.
-            enabled: !trimmer.shown && !shortcuts.shown
+            enabled: !trimmer.shown && !shortcuts.shown && !window.savePanel.active
             // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
             Keys.onSpacePressed: event => {
                 if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
@@ -263,6 +264,15 @@ Window {
 
         ShortcutList {
             id: shortcuts
+        }
+
+        Loader {
+            anchors.fill: parent
+            active: window.savePanel.active
+            focus: active && !window.hudView.shown && !window.presenter.active
+            sourceComponent: SavePanelView {
+                panel: window.savePanel
+            }
         }
 
         Loader {

@@ -25,6 +25,8 @@
 #include "adapters/dbus/DBusSessionEnd.h"
 #include "adapters/dbus/LogindSleep.h"
 #include "adapters/dbus/MprisRemoteControl.h"
+#include "adapters/desktop/DesktopDocumentInteraction.h"
+#include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/pulse/PulseAudioInput.h"
@@ -35,13 +37,16 @@
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/qt/TerminationSignals.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
+#include "adapters/quick/QuickPasteboard.h"
 #include "adapters/recorder/CaptureRecorder.h"
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
 #include "cloud/NoCloud.h"
 #include "library/PlayerPanel.h"
+#include "library/RecordingExport.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingShapes.h"
+#include "library/RecordingSharing.h"
 #include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
 #include "recording/AudioRecordVC.h"
@@ -54,6 +59,7 @@
 #include "ui/Announcements.h"
 #include "ui/JHUD.h"
 #include "ui/NoticeLine.h"
+#include "ui/SavePanel.h"
 #include "ui/TabBarController.h"
 #include "ui/Texts.h"
 #include "ui/WindowPlace.h"
@@ -105,6 +111,10 @@ struct Platform {
     LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
     PortalRequests portal{bus};
     DesktopMailComposer mailComposer{portal};
+    DesktopDocumentInteraction documentInteraction{bus, portal};
+    SavePanel savePanel{runLoop};
+    DesktopDocumentPicker documentPicker{portal, qtTrId("save_title"), savePanel};
+    QuickPasteboard pasteboard;
     MprisRemoteControl remoteControl{bus};
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;
@@ -185,6 +195,19 @@ struct Screens {
          .runLoop = platform.runLoop}};
     RecordingTable table{
         {.settings = platform.settings.store, .container = platform.container, .lister = lister, .shapes = shapes}};
+    RecordingExport exporter{{.documentPicker = platform.documentPicker,
+                              .presenter = platform.presenter,
+                              .notices = platform.notices,
+                              .notifications = platform.notifications,
+                              .container = platform.container,
+                              .runLoop = platform.runLoop}};
+    RecordingSharing sharing{{.docController = platform.documentInteraction,
+                              .picker = platform.mailComposer,
+                              .pasteboard = platform.pasteboard,
+                              .presenter = platform.presenter,
+                              .notices = platform.notices,
+                              .runLoop = platform.runLoop,
+                              .exporter = exporter}};
     VoiceMemoVC library{{.settings = platform.settings.store,
                          .notifications = platform.notifications,
                          .remoteControl = platform.remoteControl,
@@ -241,6 +264,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
                                  {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
                                  {QStringLiteral("hudView"), QVariant::fromValue(&screens.platform.hudView)},
+                                 {QStringLiteral("savePanel"), QVariant::fromValue(&screens.platform.savePanel)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
                                  {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},
                                  {QStringLiteral("x"), place.x()},
@@ -282,6 +306,9 @@ void connectWindow(QQuickWindow* window, Screens& screens) {
     });
     QObject::connect(&screens.library, &VoiceMemoVC::quitRequested, window, &QWindow::close);
     screens.platform.refreshes.setWindow(window);
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        screens.platform.portal.setParentWindow(QStringLiteral("x11:") + QString::number(window->winId(), 16));
+    }
 }
 
 }  // namespace

@@ -132,6 +132,15 @@ const State kStates[] = {
          s.hudView.show({QStringLiteral("Exporting"), Progress::HudType::Bar, [] {}});
          s.hudView.setShare(0.4);
      }},
+    {"save", 1, "Export|Home|STICK|Talks 2|Folder above|Cancel",
+     [](Shell& s) {
+         for (const char* folder : {"Media/STICK", "Interviews", "Talks 10", "Talks 2"}) {
+             std::filesystem::create_directories(s.container.root() / folder);
+         }
+         showLibrary(s);
+         s.savePanel.presentForExport("/2024_Mar_05_14_03_59.m4a", [](const auto&) {});
+         s.runLoop.drain();
+     }},
     {"settings", 2, "", {}},
     {"settingsHeld", 2, "", [](Shell& s) { s.formatHold.setHeld(true); }},
     {"sheet", 2, "", [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},

@@ -19,6 +19,7 @@
 #include "ui/AlertPresenter.h"
 #include "ui/JHUD.h"
 #include "ui/NoticeLine.h"
+#include "ui/SavePanel.h"
 #include "ui/TabBarController.h"
 
 namespace tavi::test {
@@ -147,6 +148,7 @@ struct ShellScreens : FakeServices {
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
     JHUD hudView;
+    SavePanel savePanel{runLoop, container.root(), {container.root() / "Media"}};
     FakeRecording fakeRecording{*this, presenter, tabBar, notices};
     AudioRecordVC& recording = fakeRecording.vc;
     FakeLibrary fakeLibrary{*this, durations, notices};
@@ -175,6 +177,7 @@ public:
              {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},
              {QStringLiteral("notices"), QVariant::fromValue(&notices)},
              {QStringLiteral("hudView"), QVariant::fromValue(&hudView)},
+             {QStringLiteral("savePanel"), QVariant::fromValue(&savePanel)},
              {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 

@@ -251,6 +251,53 @@ TEST(Hud, CoversTheScreensUntilItIsHidden) {
     EXPECT_EQ(shell.session.questions.size(), 1U);
 }
 
+TEST(SavePanel, AsksForAFolderAndAName) {
+    Shell shell;
+    const std::filesystem::path root = shell.container.root();
+    for (const char* folder : {"Media/STICK", "Talks 10", "Talks 2/In", ".hidden"}) {
+        std::filesystem::create_directories(root / folder);
+    }
+    std::vector<std::filesystem::path> picked;
+    const auto present = [&] {
+        shell.savePanel.presentForExport("/x/a\xff.m4a", [&picked](const auto& answer) {
+            EXPECT_FALSE(*answer && (*answer)->mayReplace);
+            picked.push_back(*answer ? (*answer)->path : std::filesystem::path());
+        });
+        shell.runLoop.drain();
+        shell.settle();
+    };
+    present();
+    shell.key(Qt::Key_Return);
+    EXPECT_EQ(picked.back(), root / "a\xff.m4a") << "the name's own bytes";
+    present();
+    EXPECT_EQ(shell.savePanel.places().mid(1), QStringList{QStringLiteral("STICK")});
+    EXPECT_EQ(shell.savePanel.folders().mid(shell.savePanel.folders().size() - 2),
+              (QStringList{QStringLiteral("Talks 2"), QStringLiteral("Talks 10")}));
+    shell.item("saveFolders")->forceActiveFocus(Qt::TabFocusReason);
+    shell.item("saveFolders")->setProperty("currentIndex", shell.savePanel.folders().size() - 2);
+    shell.key(Qt::Key_Return);
+    shell.runLoop.drain();
+    shell.settle();
+    EXPECT_EQ(shell.savePanel.folders(), QStringList{QStringLiteral("In")});
+    for (const char* name : {"", "a/b", "..", "b.wav"}) {
+        shell.item("saveName")->setProperty("text", QString::fromLatin1(name));
+        shell.tap("saveAccept");
+    }
+    EXPECT_EQ(picked.back(), root / "Talks 2/b.wav");
+    EXPECT_FALSE(shell.savePanel.isActive());
+    present();
+    EXPECT_EQ(shell.savePanel.folder(), QFile::decodeName((root / "Talks 2").c_str())) << "where the last one went";
+    shell.tap("saveUp");
+    shell.savePanel.goTo(1);
+    shell.runLoop.drain();
+    EXPECT_EQ(shell.savePanel.folder(), QFile::decodeName((root / "Media/STICK").c_str()));
+    shell.key(Qt::Key_2, Qt::ControlModifier);
+    shell.key(Qt::Key_Escape);
+    EXPECT_EQ(picked.size(), 3U);
+    EXPECT_EQ(picked.back(), std::filesystem::path());
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 0) << "keys reach what lies below";
+}
+
 TEST(Notices, SayThingsInPassing) {
     Shell shell;
     const auto isRead = [&shell](const char* text) {

@@ -299,6 +299,30 @@
         <source></source>
         <translation>Ersetzen</translation>
     </message>
+    <message id="save_title">
+        <source></source>
+        <translation>Exportieren</translation>
+    </message>
+    <message id="save_home">
+        <source></source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message id="save_up">
+        <source></source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
+    <message id="save_folders">
+        <source></source>
+        <translation>Ordner</translation>
+    </message>
+    <message id="save_name">
+        <source></source>
+        <translation>Dateiname</translation>
+    </message>
+    <message id="save_accept">
+        <source></source>
+        <translation>Exportieren</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud nicht verfügbar</translation>

@@ -298,6 +298,30 @@
         <source></source>
         <translation>Replace</translation>
     </message>
+    <message id="save_title">
+        <source></source>
+        <translation>Export</translation>
+    </message>
+    <message id="save_home">
+        <source></source>
+        <translation>Home</translation>
+    </message>
+    <message id="save_up">
+        <source></source>
+        <translation>Folder above</translation>
+    </message>
+    <message id="save_folders">
+        <source></source>
+        <translation>Folders</translation>
+    </message>
+    <message id="save_name">
+        <source></source>
+        <translation>File name</translation>
+    </message>
+    <message id="save_accept">
+        <source></source>
+        <translation>Export</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud Unavailable</translation>
