@@ -29,6 +29,7 @@
 #include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "adapters/player/FilePlayer.h"
+#include "adapters/plist/LibplistPropertyLists.h"
 #include "adapters/pulse/PulseAudioInput.h"
 #include "adapters/pulse/PulseAudioOutput.h"
 #include "adapters/pulse/PulseAudioSession.h"
@@ -39,6 +40,7 @@
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "adapters/quick/QuickPasteboard.h"
 #include "adapters/recorder/CaptureRecorder.h"
+#include "adapters/secret/SystemKeychain.h"
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
 #include "cloud/NoCloud.h"
@@ -49,6 +51,7 @@
 #include "library/RecordingSharing.h"
 #include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
+#include "passcode/FXKeychain.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
 #include "recording/SessionGuard.h"
@@ -77,6 +80,7 @@ struct Platform {
     Platform(const AppContainer& folders, const QString& busName)
         : container(folders), application(bus, QDBusConnection::systemBus(), busName) {
         claimName();
+        FXKeychain::setDefaultPorts(keychain, propertyLists);
     }
 
     void claimName() {
@@ -116,6 +120,8 @@ struct Platform {
     DesktopDocumentPicker documentPicker{portal, qtTrId("save_title"), savePanel};
     QuickPasteboard pasteboard;
     MprisRemoteControl remoteControl{bus};
+    SystemKeychain keychain{StorePlaces::of(container), runLoop};
+    LibplistPropertyLists propertyLists;
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;
     AlertPresenter presenter;

@@ -58,7 +58,7 @@ public:
     /// Replaces what the item holds, which must be there.
     virtual KeychainStatus update(const KeychainQuery& query, const KeychainAttributes& attributes) = 0;
     /// What the item holds, or why that cannot be told.
-    virtual tl::expected<KeychainAttributes, KeychainStatus> fetch(const KeychainQuery& query) const = 0;
+    virtual tl::expected<KeychainAttributes, KeychainStatus> fetch(const KeychainQuery& query) = 0;
     /// Removes the item, which must be there.
     virtual KeychainStatus remove(const KeychainQuery& query) = 0;
 

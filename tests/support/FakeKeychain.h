@@ -19,7 +19,7 @@ public:
     KeychainStatus update(const KeychainQuery& query, const KeychainAttributes& attributes) override {
         return write(query, attributes, true, KeychainStatus::ItemNotFound);
     }
-    tl::expected<KeychainAttributes, KeychainStatus> fetch(const KeychainQuery& query) const override {
+    tl::expected<KeychainAttributes, KeychainStatus> fetch(const KeychainQuery& query) override {
         if (!troubleText.isEmpty()) {
             return tl::unexpected(KeychainStatus::NotAvailable);
         }

@@ -914,5 +914,34 @@
         <source></source>
         <translation>Ihr Code ist noch nicht gespeichert</translation>
     </message>
+    <!-- The store of the passcode -->
+    <message id="error_keychain_waiting">
+        <source></source>
+        <translation>Der Code kann noch nicht gelesen werden. Vielleicht fragt der Desktop nach dem Passwort seines Schlüsselbunds.</translation>
+    </message>
+    <message id="error_keychain_locked">
+        <source></source>
+        <translation>Der Schlüsselbund des Desktops, in dem der Code liegt, ist gesperrt. Entsperren Sie ihn und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="error_keychain_gone">
+        <source></source>
+        <translation>Der Schlüsselbund des Desktops, in dem der Code liegt, antwortet nicht. Starten Sie ihn oder melden Sie sich neu an.</translation>
+    </message>
+    <message id="error_keychain_damaged">
+        <source></source>
+        <translation>Die Datei, in der der Code liegt, ist beschädigt und bleibt, wie sie ist: %1</translation>
+    </message>
+    <message id="error_keychain_foreign">
+        <source></source>
+        <translation>Die Datei, in der der Code liegt, ist nicht lesbar oder gehört Ihnen nicht: %1</translation>
+    </message>
+    <message id="error_keychain_key">
+        <source></source>
+        <translation>Der Schlüssel zu der Datei, in der der Code liegt, fehlt: %1</translation>
+    </message>
+    <message id="error_keychain_store">
+        <source></source>
+        <translation>Die Code-Sperre konnte etwas nicht speichern und behält es, bis das Programm endet. %1</translation>
+    </message>
 </context>
 </TS>

@@ -913,5 +913,34 @@
         <source></source>
         <translation>Your passcode is not stored yet</translation>
     </message>
+    <!-- The store of the passcode -->
+    <message id="error_keychain_waiting">
+        <source></source>
+        <translation>The passcode cannot be read yet. The desktop may be asking for the password of its keyring.</translation>
+    </message>
+    <message id="error_keychain_locked">
+        <source></source>
+        <translation>The desktop’s keyring, which holds the passcode, is locked. Unlock it, and try again.</translation>
+    </message>
+    <message id="error_keychain_gone">
+        <source></source>
+        <translation>The desktop’s keyring, which holds the passcode, does not answer. Start it, or log in again.</translation>
+    </message>
+    <message id="error_keychain_damaged">
+        <source></source>
+        <translation>The file that holds the passcode is damaged and is left as it is: %1</translation>
+    </message>
+    <message id="error_keychain_foreign">
+        <source></source>
+        <translation>The file that holds the passcode cannot be read or is not yours: %1</translation>
+    </message>
+    <message id="error_keychain_key">
+        <source></source>
+        <translation>The key to the file that holds the passcode is missing: %1</translation>
+    </message>
+    <message id="error_keychain_store">
+        <source></source>
+        <translation>The passcode lock could not store something, and keeps it until the program ends. %1</translation>
+    </message>
 </context>
 </TS>
