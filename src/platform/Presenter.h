@@ -36,6 +36,8 @@ public:
 
     virtual void presentAlert(Alert alert) = 0;
     virtual void presentActionSheet(Alert sheet) = 0;
+    /// Puts the sheet in the place of one with that title, where one stands or waits.
+    virtual void updateActionSheet(Alert sheet) = 0;
 };
 
 }  // namespace tavi

@@ -206,6 +206,7 @@ void AudioRecordVC::startRecording(QObject* sender) {
     }
     // What stands in the way of activation shows when recording starts.
     session.setActive(true);
+    m_microphone.willRecord();
     const AudioRecordSettings recordSetting =
         generateAudioSettings(m_services.settings.audioFileType(), m_services.settings.audioQualityType());
     auto recorder = m_services.audioRecorders.recorderWithPath(m_services.sessionFile.sessionPath(), recordSetting);
@@ -250,6 +251,7 @@ void AudioRecordVC::waveViewUpdate() {
         m_audioRecorder->updateMeters();
         if (isRecordingRunning()) {
             m_watch.look(*m_audioRecorder);
+            m_microphone.setInUse(m_audioRecorder->inputName());
         }
         m_level = static_cast<double>(m_audioRecorder->averagePowerForChannel(0));
         m_waveViewMirror.startWavingWithValue(m_level);
@@ -297,6 +299,7 @@ void AudioRecordVC::endSession(bool enablesTabBar) {
     ++m_ends;
     m_clock.stopTimer();
     forgetLevels();
+    m_microphone.setInUse({});
     if (isRecording()) {
         m_lastTime = lblTimer().text;
         m_name = fileBaseName(m_services.runLoop.clock().now(), QLocale());

@@ -12,6 +12,7 @@
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
+#include "recording/MicrophoneChoice.h"
 #include "recording/MicrophoneWatch.h"
 #include "recording/RecordingCloud.h"
 #include "recording/SessionClock.h"
@@ -32,6 +33,7 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(tavi::LabelOutlet lblDate READ lblDate NOTIFY outletsChanged)
     Q_PROPERTY(QString hint READ hint NOTIFY outletsChanged)
     Q_PROPERTY(tavi::WaveView* waveViewMirror READ waveViewMirror CONSTANT)
+    Q_PROPERTY(tavi::MicrophoneChoice* microphone READ microphone CONSTANT)
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY outletsChanged)
     Q_PROPERTY(bool isRecordingRunning READ isRecordingRunning NOTIFY outletsChanged)
     Q_PROPERTY(bool isDismissable READ isDismissable NOTIFY outletsChanged)
@@ -83,6 +85,7 @@ public:
     /// Shown in the place of lblRecording while that is hidden.
     QString hint() const;
     WaveView* waveViewMirror() { return &m_waveViewMirror; }
+    MicrophoneChoice* microphone() { return &m_microphone; }
     State state() const { return m_state; }
     /// Whether there is a session, started and not yet stopped.
     bool isRecording() const { return m_state == State::Recording || m_state == State::Paused; }
@@ -165,6 +168,11 @@ private:
     std::unique_ptr<AudioRecorder> m_audioRecorder;
     SessionClock m_clock{m_services.runLoop};
     MicrophoneWatch m_watch{m_services.notices};
+    MicrophoneChoice m_microphone{{.audioSession = m_services.audioSession,
+                                   .settings = m_services.settings,
+                                   .runLoop = m_services.runLoop,
+                                   .presenter = m_services.presenter,
+                                   .notices = m_services.notices}};
 
     State m_state = State::Idle;
     /// Sessions ended so far. What a tap asked for before one of the ends is not done after it.

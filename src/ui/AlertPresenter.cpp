@@ -16,6 +16,16 @@ void AlertPresenter::present(Entry entry) {
     }
 }
 
+void AlertPresenter::updateActionSheet(Alert sheet) {
+    const auto entry = std::find_if(m_queue.begin(), m_queue.end(), [&sheet](const Entry& one) {
+        return one.isSheet && one.alert.title == sheet.title;
+    });
+    if (entry != m_queue.end()) {
+        entry->alert = std::move(sheet);
+        Q_EMIT frontChanged();
+    }
+}
+
 QVariantList AlertPresenter::actions() const {
     QVariantList list;
     if (isActive()) {

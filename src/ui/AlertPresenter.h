@@ -30,6 +30,7 @@ public:
 
     void presentAlert(Alert alert) override { present({std::move(alert), false}); }
     void presentActionSheet(Alert sheet) override { present({std::move(sheet), true}); }
+    void updateActionSheet(Alert sheet) override;
 
     bool isActive() const { return !m_queue.empty(); }
     bool isSheet() const { return isActive() && m_queue.front().isSheet; }

@@ -55,6 +55,11 @@ class FakePresenter : public Presenter {
 public:
     void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
     void presentActionSheet(Alert sheet) override { sheets.push_back(std::move(sheet)); }
+    void updateActionSheet(Alert sheet) override {
+        if (!sheets.empty() && sheets.back().title == sheet.title) {
+            sheets.back() = std::move(sheet);
+        }
+    }
 
     std::vector<Alert> alerts;
     std::vector<Alert> sheets;
@@ -143,6 +148,19 @@ public:
         return {};
     }
     bool isInputAvailable() const override { return inputAvailable; }
+    std::vector<AudioSessionPort> availableInputs() const override { return inputs; }
+    AudioSessionPort currentInput() const override {
+        const auto preferred =
+            std::find_if(inputs.begin(), inputs.end(), [this](const auto& port) { return port.uid == preferredInput; });
+        return preferred != inputs.end() ? *preferred : inputs.empty() ? AudioSessionPort{} : inputs.front();
+    }
+    void setPreferredInput(const QString& uid) override { preferredInput = uid; }
+    void setInputsListener(std::function<void()> listener) override { inputsListener = std::move(listener); }
+    /// Microphones come and go; the first is the system's default.
+    void setInputs(const std::vector<AudioSessionPort>& newInputs) {
+        inputs = newInputs;
+        inputsListener ? inputsListener() : void();
+    }
     Result<QString> currentRoute() const override { return route; }
     Result<void> overrideOutputAudioPort(PortOverride port) override {
         overrides.push_back(port);
@@ -162,6 +180,9 @@ public:
     Result<void> categoryResult;
     bool isActive = false;
     bool inputAvailable = true;
+    std::vector<AudioSessionPort> inputs{{QStringLiteral("desk"), QStringLiteral("Desk")}};
+    QString preferredInput;
+    std::function<void()> inputsListener;
     Result<QString> route = QStringLiteral("Speaker");
     /// What was asked for, in its order.
     std::vector<PortOverride> overrides;

@@ -100,7 +100,13 @@ void presentAlert(Shell& shell, const QString& message) {
 }
 
 const State kStates[] = {
-    {"idle", 0, "Record|Tap the red button to record|!Too loud", {}},
+    {"idle", 0, "Record|Tap the red button to record|Desk|Microphone: Desk|!Too loud", {}},
+    {"microphone", 0, "Microphone|Default of the system|Headset",
+     [](Shell& s) {
+         s.tap("microphone");
+         s.session.setInputs({{QStringLiteral("head"), QStringLiteral("Headset")}});
+         s.runLoop.drain();
+     }},
     {"recording", 0, "Pause|Recording", record},
     {"loud", 0, "Too loud", [](Shell& s) { record(s), s.hear(0.0F); }},
     {"silent", 0, "!Too loud|Nothing has been heard for ten seconds. Is the microphone on?",

@@ -67,6 +67,22 @@ bool PulseAudioSession::isInputAvailable() const {
     return m_connection->isInputAvailable();
 }
 
+std::vector<AudioSessionPort> PulseAudioSession::availableInputs() const {
+    return m_connection->inputs().available;
+}
+
+AudioSessionPort PulseAudioSession::currentInput() const {
+    return m_connection->inputs().current;
+}
+
+void PulseAudioSession::setPreferredInput(const QString& uid) {
+    m_connection->perform([connection = m_connection.get(), name = uid.toUtf8()] { connection->preferSource(name); });
+}
+
+void PulseAudioSession::setInputsListener(std::function<void()> listener) {
+    m_connection->setInputsListener(std::move(listener));
+}
+
 Result<QString> PulseAudioSession::currentRoute() const {
     const QString route = m_connection->route();
     return route.isEmpty() ? Result<QString>(tl::unexpected(pulseError(PA_ERR_CONNECTIONREFUSED))) : route;

@@ -26,6 +26,10 @@ public:
     /// Always succeeds: streams take and leave the devices by themselves.
     Result<void> setActive(bool active) override;
     bool isInputAvailable() const override;
+    std::vector<AudioSessionPort> availableInputs() const override;
+    AudioSessionPort currentInput() const override;
+    void setPreferredInput(const QString& uid) override;
+    void setInputsListener(std::function<void()> listener) override;
     Result<QString> currentRoute() const override;
     Result<void> overrideOutputAudioPort(PortOverride port) override;
 

@@ -85,9 +85,8 @@ void PulseCapture::connectionDidSettle(PulseConnection::State state) {
             static_cast<PulseCapture*>(userdata)->fail(pulseError(PA_ERR_TIMEOUT));
         },
         this);
-    const QByteArray& chosen = m_connection.chosenSource();
     m_query = PulseOperation(pa_context_get_source_info_by_name(
-        m_connection.context(), chosen.isEmpty() ? "@DEFAULT_SOURCE@" : chosen.constData(),
+        m_connection.context(), m_connection.sourceName().constData(),
         [](pa_context*, const pa_source_info* info, int isLast, void* userdata) {
             auto& self = *static_cast<PulseCapture*>(userdata);
             if (isLast == 0) {
@@ -138,7 +137,9 @@ void PulseCapture::createStream(const pa_source_info& source) {
                                     static_cast<std::uint32_t>(pa_usec_to_bytes(kFragment, &spec))};
     constexpr auto kFlags = static_cast<pa_stream_flags_t>(PA_STREAM_START_CORKED | PA_STREAM_ADJUST_LATENCY);
     // Without a name libpulse takes the source of the user's configuration, else the server's default.
-    if (pa_stream_connect_record(m_stream.get(), nullptr, &attributes, kFlags) < 0) {
+    const QByteArray preferred = m_connection.preferredSource();
+    const char* device = preferred.isEmpty() ? nullptr : preferred.constData();
+    if (pa_stream_connect_record(m_stream.get(), device, &attributes, kFlags) < 0) {
         fail(pulseError(pa_context_errno(m_connection.context())));
     }
 }
@@ -183,6 +184,13 @@ void PulseCapture::streamDidMove() {
             self.drain();
         },
         this));
+}
+
+void PulseCapture::pulseConnectionDidPreferSource() {
+    if (m_isReady && !m_hasEnded) {
+        pulseForget(pa_context_move_source_output_by_name(m_connection.context(), pa_stream_get_index(m_stream.get()),
+                                                          m_connection.sourceName().constData(), nullptr, nullptr));
+    }
 }
 
 void PulseCapture::setCapturing(bool capturing, pa_usec_t time) {

@@ -35,6 +35,7 @@ public:
     QString deviceName() const;
 
     void pulseConnectionDidEnd(const Error& error) override { fail(error); }
+    void pulseConnectionDidPreferSource() override;
 
 private:
     void nameSource(const pa_source_info& source);

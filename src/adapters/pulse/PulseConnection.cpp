@@ -7,6 +7,7 @@
 #include <QObject>
 #include <algorithm>
 #include <csignal>
+#include <utility>
 
 namespace tavi {
 
@@ -28,7 +29,8 @@ PulseSource described(const pa_source_info& info) {
     const bool isUnplugged =
         info.n_ports > 0 && std::all_of(info.ports, info.ports + info.n_ports,
                                         [](const auto* port) { return port->available == PA_PORT_AVAILABLE_NO; });
-    return {QByteArray(info.name), info.index, info.monitor_of_sink != PA_INVALID_INDEX, isUnplugged};
+    return {QByteArray(info.name), info.index, info.monitor_of_sink != PA_INVALID_INDEX, isUnplugged,
+            QString::fromUtf8(info.description)};
 }
 
 PulsePortKind kindOf(const pa_sink_port_info& port) {
@@ -143,6 +145,34 @@ QString PulseConnection::route() const {
     return m_route;
 }
 
+PulseInputs PulseConnection::inputs() const {
+    const std::lock_guard lock(m_mutex);
+    return m_inputs;
+}
+
+void PulseConnection::setInputsListener(std::function<void()> listener) {
+    const std::lock_guard lock(m_mutex);
+    m_inputsListener = std::move(listener);
+}
+
+void PulseConnection::preferSource(const QByteArray& name) {
+    if (std::exchange(m_preferredSource, name) != name) {
+        publishInputs();
+        for (const auto& observer : std::vector(m_observers)) {
+            observer->pulseConnectionDidPreferSource();
+        }
+    }
+}
+
+QByteArray PulseConnection::preferredSource() const {
+    return m_sources.isMicrophone(m_preferredSource) ? m_preferredSource : QByteArray();
+}
+
+QByteArray PulseConnection::sourceName() const {
+    const QByteArray preferred = preferredSource();
+    return !preferred.isEmpty() ? preferred : !m_chosenSource.isEmpty() ? m_chosenSource : "@DEFAULT_SOURCE@";
+}
+
 void PulseConnection::perform(std::function<void()> work) {
     {
         const std::lock_guard lock(m_mutex);
@@ -224,7 +254,7 @@ void PulseConnection::end(int code) {
     m_isStale = false;
     m_sources = {};
     m_sinks = {};
-    m_inputAvailable = false;
+    publishInputs();
     const auto observers = std::exchange(m_observers, {});
     const PulseContextHandle context = std::exchange(m_context, nullptr);
     setState(code == PA_ERR_ACCESS || code == PA_ERR_AUTHKEY ? State::Refused : State::Unconnected);
@@ -324,11 +354,27 @@ void PulseConnection::refresh() {
         this));
 }
 
+void PulseConnection::publishInputs() {
+    PulseInputs inputs = m_sources.inputs(m_chosenSource, m_preferredSource);
+    std::function<void()> listener;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_inputs == inputs) {
+            return;
+        }
+        m_inputs = std::move(inputs);
+        listener = m_inputsListener;
+    }
+    if (listener) {
+        listener();
+    }
+}
+
 void PulseConnection::publish() {
     m_sources = std::exchange(m_arriving, {});
     m_sinks = std::exchange(m_arrivingSinks, {});
-    m_inputAvailable = m_sources.isInputAvailable(m_chosenSource);
     m_limit->stop();
+    publishInputs();
     setState(State::Ready);
     tellWaiters();
     if (m_isStale) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -18,11 +17,13 @@
 
 namespace tavi {
 
-/// Told when a connection that was ready has ended. Loop thread.
+/// Told what becomes of a connection that was ready. Loop thread.
 class PulseConnectionObserver {
 public:
     virtual ~PulseConnectionObserver() = default;
     virtual void pulseConnectionDidEnd(const Error& error) = 0;
+    /// Another source is to be recorded from.
+    virtual void pulseConnectionDidPreferSource() {}
 };
 
 /// The program's one connection to the sound server, and the thread on which everything about it happens.
@@ -50,7 +51,11 @@ public:
     /// The state; waits up to that time for the end of Connecting. Any thread but the loop's.
     State waitForState(std::chrono::milliseconds limit) const;
     /// Whether there is something to record from, as the server said last; false without a server. Any thread.
-    bool isInputAvailable() const { return m_inputAvailable.load(); }
+    bool isInputAvailable() const { return !inputs().current.uid.isEmpty(); }
+    /// The microphones, as the server said last; none without a server. Any thread.
+    PulseInputs inputs() const;
+    /// Has the listener called on the loop's thread whenever inputs() have changed. Any thread.
+    void setInputsListener(std::function<void()> listener);
     /// What sound comes out of, as the server said last; empty without a server. Any thread.
     QString route() const;
     /// Runs work on the loop's thread, in order. Any thread.
@@ -64,6 +69,12 @@ public:
     const PulseSources& sources() const { return m_sources; }
     /// The source that the user's environment asks for; empty for the server's default.
     const QByteArray& chosenSource() const { return m_chosenSource; }
+    /// Takes a microphone before any other source, for the streams that there are, too; an empty name takes none.
+    void preferSource(const QByteArray& name);
+    /// The one that is taken before any other, if it is there; else empty.
+    QByteArray preferredSource() const;
+    /// The name of what is recorded from, as the server understands it.
+    QByteArray sourceName() const;
     const PulseSinks& sinks() const { return m_sinks; }
     /// The sink that the user's environment asks for; empty for the server's default.
     const QByteArray& chosenSink() const { return m_chosenSink; }
@@ -81,16 +92,19 @@ private:
     void contextDidChangeState();
     void refresh();
     void publish();
+    void publishInputs();
 
     const QByteArray m_chosenSource;
     const QByteArray m_chosenSink;
-    std::atomic<bool> m_inputAvailable = false;
+    QByteArray m_preferredSource;
     int m_wakeDescriptor = -1;
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_stateChanged;
     State m_state = State::Unconnected;
     QString m_route;
+    PulseInputs m_inputs;
+    std::function<void()> m_inputsListener;
     std::vector<std::function<void()>> m_pending;
 
     PulseMainloopHandle m_loop;

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/AudioSession.h"
+
 namespace tavi {
 
 /// What the sound server knows of one source.
@@ -14,6 +16,16 @@ struct PulseSource {
     bool isMonitor = false;
     /// It has ports, and each is known to have nothing plugged in.
     bool isUnplugged = false;
+    /// What people call it.
+    QString description;
+};
+
+/// What a session says of its inputs.
+struct PulseInputs {
+    std::vector<AudioSessionPort> available;
+    AudioSessionPort current;
+
+    bool operator==(const PulseInputs&) const = default;
 };
 
 /// The sources of a sound server, as they were when it was asked last.
@@ -22,9 +34,12 @@ struct PulseSources {
     std::vector<PulseSource> list;
 
     bool hasMicrophone() const;
-    /// Whether a recording has something to listen to. chosen is the name or index of the source that the user's
-    /// environment asks for; empty for the server's default.
-    bool isInputAvailable(const QByteArray& chosen) const;
+    /// Whether a microphone of that name is there, with something plugged in.
+    bool isMicrophone(const QByteArray& name) const;
+    /// What a recording listens to, or null: the preferred microphone while it is there, else chosen, the name or index
+    /// of the source that the user's environment asks for, else the server's default.
+    const PulseSource* current(const QByteArray& chosen, const QByteArray& preferred) const;
+    PulseInputs inputs(const QByteArray& chosen, const QByteArray& preferred) const;
 };
 
 }  // namespace tavi

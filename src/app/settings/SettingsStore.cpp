@@ -113,6 +113,19 @@ void SettingsStore::setPasscodeProtectionOn(bool on) {
     write(settingskey::kPasscodeProtectionEnabled, on ? QStringLiteral("YES") : QStringLiteral("NO"));
 }
 
+QString SettingsStore::microphone() const {
+    return m_defaults.stringForKey(settingskey::kMicrophone);
+}
+
+QString SettingsStore::microphoneName() const {
+    return m_defaults.stringForKey(settingskey::kMicrophoneName);
+}
+
+void SettingsStore::setMicrophone(const QString& uid, const QString& name) {
+    m_defaults.setObject(name, settingskey::kMicrophoneName);
+    write(settingskey::kMicrophone, uid);
+}
+
 bool SettingsStore::isThemeWhite() const {
     return m_defaults.stringForKey(settingskey::kThemeColor) == QLatin1String("WHITE");
 }

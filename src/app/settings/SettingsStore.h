@@ -20,6 +20,8 @@ inline constexpr QLatin1String kSort("Sort");
 inline constexpr QLatin1String kRewindSong("RewindSong");
 inline constexpr QLatin1String kForwardSong("ForwardSong");
 inline constexpr QLatin1String kThemeColor("ThemeColor");
+inline constexpr QLatin1String kMicrophone("Microphone");
+inline constexpr QLatin1String kMicrophoneName("MicrophoneName");
 inline constexpr QLatin1String kPasscodeProtectionEnabled("PasscodeProtectionEnabled");
 /// In the suite that companions share.
 inline constexpr QLatin1String kAppStart("AppStart");
@@ -73,6 +75,12 @@ public:
     /// Whether the passcode lock is on: stored as "YES", and anything else is off.
     bool isPasscodeProtectionOn() const;
     void setPasscodeProtectionOn(bool on);
+
+    /// The microphone that the user has chosen, by the sound system's name for it and by what people call it; empty
+    /// for the system's default.
+    QString microphone() const;
+    QString microphoneName() const;
+    void setMicrophone(const QString& uid, const QString& name);
 
     /// Whether the library tints its buttons for a white ground.
     bool isThemeWhite() const;

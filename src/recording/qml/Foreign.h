@@ -13,4 +13,11 @@ struct AudioRecordVCForeign {
     QML_UNCREATABLE("The program has one.")
 };
 
+struct MicrophoneChoiceForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::MicrophoneChoice)
+    QML_NAMED_ELEMENT(MicrophoneChoice)
+    QML_UNCREATABLE("The record screen has one.")
+};
+
 }  // namespace tavi

@@ -133,11 +133,30 @@ FocusScope {
                 Accessible.name: text
             }
 
+            TButton {
+                /// Between the date and the format, or in a line of its own.
+                readonly property real room: root.beside ? caption.width : format.x - date.width
+                readonly property string name: root.screen.microphone.name || qsTrId("microphone_unknown")
+
+                x: root.beside ? -leftPadding : Math.round(date.width + (room - width) / 2)
+                y: root.beside ? caption.height : 0
+                width: Math.min(implicitWidth, room)
+                objectName: "microphone"
+                text: room < 72 ? "" : name
+                imageName: "microphone"
+                imageFirst: true
+                tint: Theme.light
+                horizontalPadding: Theme.gap
+                font.pixelSize: Theme.textDetail
+                Accessible.name: qsTrId("a11y_microphone").arg(name)
+                onClicked: root.screen.microphone.choose()
+            }
+
             T.AbstractButton {
                 id: format
 
                 x: parent.width - width
-                width: Math.min(words.implicitWidth + 8, parent.width - date.width - Theme.gap)
+                width: Math.min(words.implicitWidth + 8, parent.width - date.width - (root.beside ? Theme.gap : Theme.touch))
                 height: parent.height
                 objectName: "lblFileType"
                 text: root.screen.lblFileType.text

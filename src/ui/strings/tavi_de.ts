@@ -441,6 +441,22 @@
         <source></source>
         <translation>Aufgenommen wird jetzt von „%1“.</translation>
     </message>
+    <message id="microphone_absent">
+        <source></source>
+        <translation>„%1“ ist nicht angeschlossen. Aufgenommen wird von „%2“.</translation>
+    </message>
+    <message id="microphone_unknown">
+        <source></source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message id="microphone_default">
+        <source></source>
+        <translation>Standard des Systems</translation>
+    </message>
+    <message id="microphone_title">
+        <source></source>
+        <translation>Mikrofon</translation>
+    </message>
     <message id="record_slept">
         <source></source>
         <translation>Der Rechner hat geschlafen: In der Aufnahme fehlen %1, sie geht weiter.</translation>
@@ -872,6 +888,10 @@
     <message id="a11y_format">
         <source></source>
         <translation>Format: %1</translation>
+    </message>
+    <message id="a11y_microphone">
+        <source></source>
+        <translation>Mikrofon: %1</translation>
     </message>
     <message id="a11y_play_last">
         <source></source>

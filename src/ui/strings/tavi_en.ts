@@ -440,6 +440,22 @@
         <source></source>
         <translation>Now recording from “%1”.</translation>
     </message>
+    <message id="microphone_absent">
+        <source></source>
+        <translation>“%1” is not connected. Recording from “%2”.</translation>
+    </message>
+    <message id="microphone_unknown">
+        <source></source>
+        <translation>Microphone</translation>
+    </message>
+    <message id="microphone_default">
+        <source></source>
+        <translation>Default of the system</translation>
+    </message>
+    <message id="microphone_title">
+        <source></source>
+        <translation>Microphone</translation>
+    </message>
     <message id="record_slept">
         <source></source>
         <translation>The computer slept: %1 are missing from the recording, which goes on.</translation>
@@ -871,6 +887,10 @@
     <message id="a11y_format">
         <source></source>
         <translation>Format: %1</translation>
+    </message>
+    <message id="a11y_microphone">
+        <source></source>
+        <translation>Microphone: %1</translation>
     </message>
     <message id="a11y_play_last">
         <source></source>

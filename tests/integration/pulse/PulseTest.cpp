@@ -45,6 +45,12 @@ protected:
     std::unique_ptr<AudioInput> opened(CollectingListener& listener) {
         return std::move(PulseAudioInputs(m_connection).open(listener).value());
     }
+    /// Another microphone comes, "second" to the server and "Headset" to people.
+    void plugHeadset() const {
+        m_server.pactl(
+            "load-module module-remap-source source_name=second master=mic_sink.monitor rate=16000 "
+            "channels=1 channel_map=mono source_properties=device.description=Headset");
+    }
     /// Whether the microphone may be used, as the user is told.
     static bool isPermitted(AudioSession& session) {
         std::promise<bool> answer;
@@ -173,9 +179,7 @@ TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
         {"", "r",
          [this] {
              // As a headset's other profile.
-             m_server.pactl(
-                 "load-module module-remap-source source_name=second master=mic_sink.monitor rate=16000 "
-                 "channels=1 channel_map=mono source_properties=device.description=Headset");
+             plugHeadset();
              m_server.moveRecording("second");
          },
          nothing},
@@ -218,6 +222,48 @@ TEST_F(Pulse, SaysWhyAnInputFailsAndGoesOnWithAnotherMicrophone) {
         }
     }
     EXPECT_EQ(names.value(0), QStringLiteral("Headset"));
+}
+
+TEST_F(Pulse, RecordsFromThePreferredMicrophoneAsLongAsItIsThere) {
+    const QString second = QStringLiteral("second");
+    std::atomic<int> changes = 0;
+    m_session.setInputsListener([&changes] { ++changes; });
+    m_session.setPreferredInput(second);
+    ASSERT_TRUE(isPermitted(m_session));
+    const auto uids = [this] {
+        QStringList all{m_session.currentInput().uid + QLatin1Char(':')};
+        for (const AudioSessionPort& port : m_session.availableInputs()) {
+            all.append(port.uid);
+        }
+        return all.join(QLatin1Char(' '));
+    };
+    const auto becomes = [](const auto& value, const char* expected) {
+        return QTest::qWaitFor([&] { return value() == QLatin1String(expected); });
+    };
+    EXPECT_EQ(uids(), QStringLiteral("microphone: microphone"));
+    EXPECT_EQ(changes, 1);
+    const QString usual = m_session.currentInput().portName;
+    plugHeadset();
+    EXPECT_TRUE(becomes(uids, "second: microphone second"));
+    EXPECT_EQ(changes, 2);
+
+    CollectingListener listener;
+    const auto input = opened(listener);
+    const auto name = [&input, &usual] {
+        return input->deviceName() == usual ? QStringLiteral("usual") : input->deviceName();
+    };
+    const auto isHeardFrom = [&](const char* expected) {
+        return becomes(name, expected) && listener.waitForFrames(listener.heard().frames() + 8000);
+    };
+    input->resume();
+    EXPECT_TRUE(isHeardFrom("Headset"));
+    for (const QString& preferred : {QString(), second, QStringLiteral("speaker.monitor")}) {
+        m_session.setPreferredInput(preferred);
+        EXPECT_TRUE(isHeardFrom(preferred == second ? "Headset" : "usual")) << qPrintable(preferred);
+    }
+    m_server.kill();
+    EXPECT_TRUE(becomes(uids, ":"));
+    m_session.setInputsListener({});
 }
 
 TEST_F(Pulse, TheSessionFollowsTheServer) {

@@ -344,6 +344,53 @@ TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
     EXPECT_EQ(said(0.1, 100), "");
 }
 
+TEST_F(AudioRecordVCTest, TheMicrophoneIsNamedAndChosenAndKeptUntilItIsAbsent) {
+    const AudioSessionPort desk{QStringLiteral("desk"), QStringLiteral("Desk")};
+    const AudioSessionPort headset{QStringLiteral("head"), QStringLiteral("Headset")};
+    MicrophoneChoice& microphone = *screen.microphone();
+    QString told;
+    QObject::connect(&microphone, &MicrophoneChoice::nameChanged, &notifications, [&] { told = microphone.name(); });
+    const auto plug = [&](const std::vector<AudioSessionPort>& ports) {
+        session.setInputs(ports);
+        runLoop.drain();
+    };
+    const auto sheet = [this] {
+        QStringList titles;
+        for (const AlertAction& action : presenter.sheets.back().actions) {
+            titles.append((action.isChosen.value_or(false) ? QStringLiteral("*") : QString()) + action.title);
+        }
+        return titles.join(QLatin1Char(' ')).toStdString();
+    };
+    microphone.choose();
+    EXPECT_EQ(sheet(), "*microphone_default Desk Cancel");
+    plug({headset, desk});
+    EXPECT_EQ(sheet(), "*microphone_default Headset Desk Cancel") << "it came while the sheet was open";
+    EXPECT_EQ(told, QStringLiteral("Headset"));
+    presenter.sheets.back().actions[2].handler();
+    EXPECT_EQ(told, QStringLiteral("Desk"));
+    for (const bool isThere : {true, false, true}) {
+        plug(isThere ? std::vector{headset, desk} : std::vector{headset});
+        microphone.choose();
+        EXPECT_EQ(sheet(), isThere ? "microphone_default Headset *Desk Cancel" : "*microphone_default Headset Cancel");
+        // As in another run of the program.
+        session.preferredInput.clear();
+        notices.posted.clear();
+        tapRecord();
+        EXPECT_EQ(session.preferredInput, QStringLiteral("desk"));
+        EXPECT_EQ(notices.posted.size(), isThere ? 0U : 1U);
+        EXPECT_TRUE(isThere || notices.posted[0].text == QLatin1String("microphone_absent"));
+        recorders.last()->input = QStringLiteral("Other");
+        runLoop.advance(0.1);
+        EXPECT_EQ(told, QStringLiteral("Other")) << "the system has put the recording on another";
+        tapStop();
+        EXPECT_EQ(told, isThere ? QStringLiteral("Desk") : QStringLiteral("Headset"));
+        runLoop.advance(1.0);
+    }
+    microphone.choose();
+    presenter.sheets.back().actions[0].handler();
+    EXPECT_EQ(told, QStringLiteral("Headset"));
+}
+
 TEST_F(AudioRecordVCTest, TheMachineSleepsOnceTheRecordingIsOnTheDiskAndTheGapIsSaid) {
     const struct {
         char state;
