@@ -143,29 +143,30 @@ void SessionFile::saveFileToDoc(const QString& name, bool endedByItself) {
     const QPointer<SessionFile> self(this);
     RunLoop& runLoop = m_services.runLoop;
     // Another file system takes as long as copying hours of sound takes.
-    runLoop.dispatchBackground([self, &runLoop, moves = m_moves, destination] {
+    runLoop.dispatchBackground([self, &runLoop, moves = m_moves] {
         moves->make();
-        runLoop.dispatchMain([self, destination] {
+        runLoop.dispatchMain([self] {
             if (self) {
-                self->didMove(destination);
+                self->didMove();
             }
         });
     });
 }
 
-void SessionFile::didMove(const std::filesystem::path& path) {
+void SessionFile::didMove() {
     const std::shared_ptr<Moves> moves = std::exchange(m_moves, nullptr);
     leave(moves->hasFailed());
     if (!moves->moved().empty()) {
         m_services.cloud.save(moves->moved());
+        // What was not moved has no mail: another recording may be at the path that this one was to have.
+        const auto mail = [self = QPointer(this), path = moves->moved()] {
+            if (self && self->m_services.settings.isQuickMailOn()) {
+                self->emailAudioFile(path);
+            }
+        };
+        m_services.runLoop.dispatchAfter(kMailDelay, mail);
     }
     m_services.notifications.postNotification(kDataUpdatedNotification);
-    const QPointer<SessionFile> self(this);
-    m_services.runLoop.dispatchAfter(kMailDelay, [self, path] {
-        if (self && self->m_services.settings.isQuickMailOn()) {
-            self->emailAudioFile(path);
-        }
-    });
     say(moves->moved());
     Q_EMIT saved(pathText(moves->moved().filename()));
 }

@@ -83,7 +83,7 @@ private:
     void clearRecordFilePath() const;
     /// Lets go of the session's folder.
     void leave(bool needsRescue);
-    void didMove(const std::filesystem::path& path);
+    void didMove();
     void say(const std::filesystem::path& moved);
     void emailAudioFile(const std::filesystem::path& path);
 

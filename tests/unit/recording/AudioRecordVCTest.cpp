@@ -439,7 +439,9 @@ TEST_F(AudioRecordVCTest, ALateAnswerTakesEffectWhereItIsSeenAndNotAfterAStop) {
 
 TEST_F(AudioRecordVCTest, WhatCannotBeSavedAndWhatLiesInTheWayIsRescued) {
     // The second recording of a second, whose name is taken; then an older one at the path that a session records to.
+    // No mail is about what was not saved under its own name.
     const std::filesystem::path older = container.cachesPath() / "vexmosounds.m4a";
+    settings.setQuickMailOn(true);
     for (const qsizetype saved : {1, 2, 4}) {
         if (saved == 4) {
             runLoop.advance(1.0);
@@ -456,6 +458,8 @@ TEST_F(AudioRecordVCTest, WhatCannotBeSavedAndWhatLiesInTheWayIsRescued) {
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(notices.posted.at(i).text, qtTrId(expected.at(i).c_str()));
     }
+    runLoop.advance(2.0);
+    EXPECT_EQ(mail.messages.size(), 2U);
 }
 
 TEST_F(AudioRecordVCTest, WithoutAFolderOfItsOwnARecordingGrowsInTheCachesFolder) {
