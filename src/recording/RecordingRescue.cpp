@@ -16,11 +16,11 @@
 #include "files/FileDescriptor.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
+#include "files/LockedFolder.h"
 #include "files/PathText.h"
 #include "library/utility/DateTexts.h"
 #include "library/utility/Notifications.h"
 #include "recording/SessionFile.h"
-#include "recording/UnsavedFolder.h"
 
 namespace tavi {
 
@@ -47,7 +47,7 @@ std::vector<std::filesystem::path> sortedItems(const std::filesystem::path& fold
 void takeIn(const std::filesystem::path& file, const std::filesystem::path& unsaved) {
     const QFileInfo info(pathText(file));
     const QDateTime made = info.birthTime().isValid() ? info.birthTime() : info.lastModified();
-    auto folder = UnsavedFolder::create(unsaved, nativePath(fileBaseName(made, QLocale())).native());
+    auto folder = LockedFolder::create(unsaved, nativePath(fileBaseName(made, QLocale())).native());
     if (folder && !moveItem(file, folder->path() / file.filename())) {
         folder->remove();
     }
@@ -96,7 +96,7 @@ std::vector<Rescued> RecordingRescue::rescueAll(const AppContainer& container, A
     clearCaches(container);
     std::vector<Rescued> all;
     for (const std::filesystem::path& path : sortedItems(container.unsavedPath())) {
-        auto folder = UnsavedFolder::lock(path);
+        auto folder = LockedFolder::lock(path);
         if (!folder) {
             if (errno == EWOULDBLOCK) {
                 all.push_back({Rescued::Outcome::InUse, path});

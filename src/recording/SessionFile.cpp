@@ -88,8 +88,8 @@ void SessionFile::begin() {
     updateRecordFilePath();
     clearRecordFilePath();
     m_linkPath = m_recordFilePath;
-    auto folder = UnsavedFolder::create(m_services.container.unsavedPath(),
-                                        nativePath(fileBaseName(m_services.runLoop.clock().now(), QLocale())).native());
+    auto folder = LockedFolder::create(m_services.container.unsavedPath(),
+                                       nativePath(fileBaseName(m_services.runLoop.clock().now(), QLocale())).native());
     m_folder = folder ? std::optional(std::move(*folder)) : std::nullopt;
     m_sessionPath = m_folder ? m_folder->path() / m_linkPath.filename() : m_linkPath;
     m_services.rescue.rescue();

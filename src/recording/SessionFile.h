@@ -8,6 +8,7 @@
 
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
+#include "files/LockedFolder.h"
 #include "platform/AppContainer.h"
 #include "platform/MailComposer.h"
 #include "platform/Notices.h"
@@ -16,7 +17,6 @@
 #include "platform/RunLoop.h"
 #include "recording/RecordingCloud.h"
 #include "recording/RecordingRescue.h"
-#include "recording/UnsavedFolder.h"
 
 namespace tavi {
 
@@ -93,7 +93,7 @@ private:
     std::filesystem::path m_linkPath;
     std::filesystem::path m_sessionPath;
     /// None where no folder could be made; then the session records to recordFilePath() itself.
-    std::optional<UnsavedFolder> m_folder;
+    std::optional<LockedFolder> m_folder;
     std::shared_ptr<Moves> m_moves;
     bool m_endedByItself = false;
 };

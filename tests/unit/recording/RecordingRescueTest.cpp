@@ -5,7 +5,7 @@
 #include <QDir>
 #include <fstream>
 
-#include "recording/UnsavedFolder.h"
+#include "files/LockedFolder.h"
 #include "support/FakeRecording.h"
 
 namespace tavi::test {
@@ -99,10 +99,10 @@ TEST_F(RecordingRescueTest, WhatWasLeftIsSavedOnceUnderAFreeNameAndSaidOnce) {
 }
 
 TEST_F(RecordingRescueTest, WhatSomebodyElseHasStaysWithIt) {
-    auto folder = UnsavedFolder::create(container.unsavedPath(), "running");
+    auto folder = LockedFolder::create(container.unsavedPath(), "running");
     ASSERT_TRUE(folder);
     add("Unsaved/running/vexmosounds.m4a");
-    EXPECT_EQ(UnsavedFolder::create(container.unsavedPath(), "running")->path().filename(), "running_2");
+    EXPECT_EQ(LockedFolder::create(container.unsavedPath(), "running")->path().filename(), "running_2");
     EXPECT_EQ(rescued(), "0");
     EXPECT_THAT(names("Unsaved"), ElementsAre("running"));
     EXPECT_THAT(repair.repaired, IsEmpty());

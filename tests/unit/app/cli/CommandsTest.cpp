@@ -6,8 +6,8 @@
 #include <fstream>
 
 #include "app/cli/CommandLine.h"
+#include "files/LockedFolder.h"
 #include "library/RecordingEntry.h"
-#include "recording/UnsavedFolder.h"
 #include "support/FakeAudioFileRepair.h"
 #include "support/FakeServices.h"
 
@@ -201,7 +201,7 @@ TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
 }
 
 TEST_F(CommandsTest, RecoverSaysWhatBecameOfEach) {
-    const auto running = UnsavedFolder::create(container.unsavedPath(), "running");
+    const auto running = LockedFolder::create(container.unsavedPath(), "running");
     const std::string unsaved = container.unsavedPath().native();
     const auto add = [&unsaved](const char* name, const char* sound) {
         std::filesystem::create_directory(unsaved + name);

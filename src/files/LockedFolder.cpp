@@ -1,4 +1,4 @@
-#include "recording/UnsavedFolder.h"
+#include "files/LockedFolder.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -10,18 +10,18 @@
 
 namespace tavi {
 
-FileResult<UnsavedFolder> UnsavedFolder::create(const std::filesystem::path& unsaved, const std::string& name) {
-    ::mkdir(unsaved.c_str(), 0700);
+FileResult<LockedFolder> LockedFolder::create(const std::filesystem::path& parent, const std::string& name) {
+    ::mkdir(parent.c_str(), 0700);
     for (int number = 1;; ++number) {
         // Not numberedPath(): a month may be abbreviated with a dot, which begins no extension here.
-        const std::filesystem::path path = unsaved / (number == 1 ? name : name + '_' + std::to_string(number));
+        const std::filesystem::path path = parent / (number == 1 ? name : name + '_' + std::to_string(number));
         const bool isMade = ::mkdir(path.c_str(), 0700) == 0;
         if (isMade) {
             if (auto folder = lock(path)) {
                 return std::move(*folder);
             }
         }
-        // Whoever looks for recordings to rescue may have taken a new folder for an empty one.
+        // Whoever looks for what was left may have taken a new folder for an empty one.
         const int error = errno;
         if (isMade ? error != EWOULDBLOCK && error != ENOENT : error != EEXIST) {
             ::rmdir(path.c_str());
@@ -31,7 +31,7 @@ FileResult<UnsavedFolder> UnsavedFolder::create(const std::filesystem::path& uns
     }
 }
 
-std::optional<UnsavedFolder> UnsavedFolder::lock(const std::filesystem::path& path) {
+std::optional<LockedFolder> LockedFolder::lock(const std::filesystem::path& path) {
     FileDescriptor folder = FileDescriptor::open(path, O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
     struct stat attributes = {};
     if (!folder.isValid()) {
@@ -48,10 +48,10 @@ std::optional<UnsavedFolder> UnsavedFolder::lock(const std::filesystem::path& pa
         errno = ENOENT;
         return std::nullopt;
     }
-    return UnsavedFolder(std::move(folder), path);
+    return LockedFolder(std::move(folder), path);
 }
 
-std::vector<std::filesystem::path> UnsavedFolder::files() const {
+std::vector<std::filesystem::path> LockedFolder::files() const {
     std::vector<std::filesystem::path> files;
     std::error_code error;
     for (std::filesystem::directory_iterator item(m_path, error), end; !error && item != end; item.increment(error)) {
@@ -63,7 +63,7 @@ std::vector<std::filesystem::path> UnsavedFolder::files() const {
     return files;
 }
 
-void UnsavedFolder::remove() {
+void LockedFolder::remove() {
     ::rmdir(m_path.c_str());
 }
 

@@ -13,15 +13,16 @@ namespace tavi {
 /// The folder of one recording that is not among the others yet, for whoever has this alone.
 ///
 /// Others are kept away by a lock of the kernel's on the folder itself, which goes with this or with the process,
-/// however that ends. Waits for no lock and no disk. One thread at a time.
-class UnsavedFolder {
+/// however that ends: a folder that can be locked is one that somebody left behind. Waits for no lock and no disk. One
+/// thread at a time.
+class LockedFolder {
 public:
-    /// Makes a folder below that of all unsaved recordings, with the name or the first numbered one that is free. Fails
-    /// where it can be neither made nor locked.
-    static FileResult<UnsavedFolder> create(const std::filesystem::path& unsaved, const std::string& name);
+    /// Makes a folder below another one, with the name or the first numbered one that is free. Fails where it can be
+    /// neither made nor locked.
+    static FileResult<LockedFolder> create(const std::filesystem::path& parent, const std::string& name);
     /// One that is there; nothing, with errno set, where somebody else has it (EWOULDBLOCK) or has just removed it
     /// (ENOENT), or where the file system has no such locks.
-    static std::optional<UnsavedFolder> lock(const std::filesystem::path& path);
+    static std::optional<LockedFolder> lock(const std::filesystem::path& path);
 
     const std::filesystem::path& path() const { return m_path; }
     /// The files in it. Links and folders, which the program does not make, are none.
@@ -30,7 +31,7 @@ public:
     void remove();
 
 private:
-    UnsavedFolder(FileDescriptor lock, std::filesystem::path path) : m_lock(std::move(lock)), m_path(std::move(path)) {}
+    LockedFolder(FileDescriptor lock, std::filesystem::path path) : m_lock(std::move(lock)), m_path(std::move(path)) {}
 
     FileDescriptor m_lock;
     std::filesystem::path m_path;
