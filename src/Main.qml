@@ -11,6 +11,7 @@ Window {
 
     required property AudioRecordVC recording
     required property VoiceMemoVC library
+    required property RecordingImport imports
     required property SettingVC settings
     required property TabBarController tabBar
     required property AlertPresenter presenter
@@ -237,6 +238,13 @@ Window {
                 low: window.low
                 controller: window.tabBar
             }
+        }
+
+        ImportDrop {
+            anchors.fill: parent
+            imports: window.imports
+            enabled: !window.covered
+            onTaken: window.tabBar.select(1)
         }
 
         TrimmerOverlay {

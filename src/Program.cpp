@@ -46,6 +46,7 @@
 #include "cloud/NoCloud.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingExport.h"
+#include "library/RecordingImport.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingShapes.h"
 #include "library/RecordingSharing.h"
@@ -142,6 +143,8 @@ struct Screens {
         platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
             return recording.lblRecording().hidden ? QString() : recording.lblRecording().text;
         });
+        QObject::connect(&imports, &RecordingImport::imported, &library, &VoiceMemoVC::reloadData);
+        QObject::connect(&platform.application, &DBusApplication::refreshRequested, &library, &VoiceMemoVC::reloadData);
     }
 
     Platform& platform;
@@ -226,6 +229,10 @@ struct Screens {
                         .formatHold = platform.formatHold,
                         .runLoop = platform.runLoop,
                         .presenter = platform.presenter}};
+    RecordingImport imports{{.container = platform.container,
+                             .runLoop = platform.runLoop,
+                             .notices = platform.notices,
+                             .presenter = platform.presenter}};
     AppDelegate delegate{{.application = platform.application,
                           .idleTimer = platform.idleTimer,
                           .settings = platform.settings.store,
@@ -233,7 +240,8 @@ struct Screens {
                           .container = platform.container,
                           .audioSession = platform.audioSession,
                           .tabBar = platform.tabBar,
-                          .objrecordVC = recording}};
+                          .objrecordVC = recording,
+                          .imports = imports}};
 };
 
 /// How the window is painted, unless the environment says otherwise. Before the application is made.
@@ -265,6 +273,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
     const QRect place = WindowPlace(screens.platform.settings.standard).place(free);
     engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&screens.recording)},
                                  {QStringLiteral("library"), QVariant::fromValue(&screens.library)},
+                                 {QStringLiteral("imports"), QVariant::fromValue(&screens.imports)},
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
@@ -299,9 +308,10 @@ void keepPlace(QQuickWindow* window, UserDefaults& defaults) {
 
 /// What the window does for its screens, and they for it.
 void connectWindow(QQuickWindow* window, Screens& screens) {
-    const auto shown = [&platform = screens.platform, &rescue = screens.rescue] {
+    const auto shown = [&platform = screens.platform, &rescue = screens.rescue, &imports = screens.imports] {
         qCDebug(lcApp, "first-frame");
         rescue.rescue();
+        imports.removeLeftovers();
         platform.runLoop.dispatchBackground([&media = platform.media] { media.load(); });
     };
     QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);

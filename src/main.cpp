@@ -16,6 +16,7 @@
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "app/cli/CommandLine.h"
+#include "app/cli/OpenFiles.h"
 #include "ui/Texts.h"
 
 namespace tavi {
@@ -45,11 +46,19 @@ void installTrace() {
 ActivationRequest activationOf(const ProgramRequest& request) {
     using Kind = ActivationRequest::Kind;
     if (!request.urls.isEmpty()) {
-        return {.kind = Kind::Open, .uris = QUrl::toStringList(request.urls), .action = {}};
+        return {.kind = Kind::Open, .uris = QUrl::toStringList(request.urls, QUrl::FullyEncoded), .action = {}};
     }
     return {.kind = request.shortcutType.isEmpty() ? Kind::Activate : Kind::Action,
             .uris = {},
             .action = request.shortcutType};
+}
+
+/// Says what has failed, a line each.
+int reportEach(const QStringList& failures, int exitCode) {
+    for (const QString& text : failures) {
+        reportFailure({text});
+    }
+    return exitCode;
 }
 
 /// Hands the request to the instance that holds the lock.
@@ -65,23 +74,32 @@ int runBesideOther(int& argc, char** argv, const ProgramRequest& request, const 
 }
 
 /// Does without the window what prints and ends.
-int runPrinting(int& argc, char** argv, const PrintingCommand& command, const AppContainer& container) {
+int runPrinting(int& argc, char** argv, const PrintingCommand& command, const QString& busName,
+                const AppContainer& container) {
     QCoreApplication application(argc, argv);
     installTexts(application);
     SettingsFiles settings(container);
     MediaLibrary media;
     QtRunLoop runLoop;
     QuickDisplayRefreshes refreshes;
-    const auto text = command({.container = container,
-                               .suites = {.standard = settings.standard, .shared = settings.shared},
-                               .runLoop = runLoop,
-                               .durations = media,
-                               .files = media,
-                               .converters = media,
-                               .exports = media,
-                               .repair = media,
-                               .refreshes = refreshes});
-    return text ? print(*text) : reportFailure(text.error());
+    NotificationCenter notifications;
+    QObject::connect(&notifications, &NotificationCenter::posted, &notifications,
+                     [&busName] { tellOfChange(QDBusConnection::sessionBus(), busName); });
+    const auto output = command({.container = container,
+                                 .suites = {.standard = settings.standard, .shared = settings.shared},
+                                 .runLoop = runLoop,
+                                 .durations = media,
+                                 .files = media,
+                                 .converters = media,
+                                 .exports = media,
+                                 .repair = media,
+                                 .refreshes = refreshes,
+                                 .notifications = notifications});
+    if (!output) {
+        return reportFailure(output.error());
+    }
+    const int exitCode = print(output->text);
+    return output->failures.isEmpty() ? exitCode : reportEach(output->failures, EXIT_FAILURE);
 }
 
 int run(int& argc, char** argv) {
@@ -96,17 +114,24 @@ int run(int& argc, char** argv) {
     if (!container) {
         return reportFailure(container.error());
     }
-    if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
-        return runPrinting(argc, argv, *command, **container);
-    }
-    const auto* request = std::get_if<ProgramRequest>(&line->command);
     const QString busName = busNameForContainer(line->container);
+    if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
+        return runPrinting(argc, argv, *command, busName, **container);
+    }
+    auto request = std::get<ProgramRequest>(line->command);
+    const bool isForFiles = !request.files.empty();
+    const OpenFiles opened = resolveFiles(request, **container);
+    reportEach(opened.failures, opened.exitCode);
+    if (isForFiles && request.urls.isEmpty()) {
+        return opened.exitCode;
+    }
     const auto lock = InstanceLock::take((*container)->cachesPath());
     if (!lock) {
         const auto& [isHeld, error] = lock.error();
-        return isHeld ? runBesideOther(argc, argv, *request, busName, error) : reportFailure(error);
+        const int exitCode = isHeld ? runBesideOther(argc, argv, request, busName, error) : reportFailure(error);
+        return exitCode != EXIT_SUCCESS ? exitCode : opened.exitCode;
     }
-    return runProgram(argc, argv, *request, busName, **container);
+    return runProgram(argc, argv, request, busName, **container);
 }
 
 }  // namespace

@@ -107,6 +107,7 @@ void AppDelegate::applicationPerformActionForShortcutItem(const ShortcutItem& it
 bool AppDelegate::applicationOpenURL(const QUrl& url) {
     if (url.isLocalFile()) {
         m_services.tabBar.setSelectedIndex(kLibraryTab);
+        m_services.imports.importFiles({url});
     }
     if (hasScheme(url, QLatin1String("TaviliteConnect"))) {
         m_services.tabBar.setSelectedIndex(kLibraryTab);

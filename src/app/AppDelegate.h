@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "app/settings/SettingsStore.h"
+#include "library/RecordingImport.h"
 #include "platform/AppContainer.h"
 #include "platform/Application.h"
 #include "platform/AudioSession.h"
@@ -26,6 +27,7 @@ public:
         AudioSession& audioSession;
         TabBar& tabBar;
         AudioRecordVC& objrecordVC;
+        RecordingImport& imports;
     };
 
     explicit AppDelegate(const Services& services) : m_services(services) {}
@@ -39,8 +41,8 @@ public:
     void applicationDidEnterBackground() override {}
     void applicationWillEnterForeground() override {}
     void applicationWillTerminate() override;
-    /// Files are handed to the library; the companions' schemes choose a tab and drive the recording screen. Always
-    /// true.
+    /// Files are imported, and the library shows that; the companions' schemes choose a tab and drive the recording
+    /// screen. Always true.
     bool applicationOpenURL(const QUrl& url) override;
     void applicationPerformActionForShortcutItem(const ShortcutItem& item,
                                                  std::function<void(bool)> completionHandler) override;

@@ -27,17 +27,16 @@ bool isUnsupported(int error) {
     return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
 }
 
-/// Takes the room that a file will need, where the file system can; else sees that there is so much. 0 or ENOSPC.
+/// Sees that there is room for a file, and takes it where the file system can. 0 or an errno value.
 int reserve(int fd, std::int64_t size) {
-    if (size == 0 || ::fallocate(fd, FALLOC_FL_KEEP_SIZE, 0, size) == 0) {
-        return 0;
-    }
-    if (errno == ENOSPC || errno == EDQUOT) {
-        return errno;
-    }
+    // Asked first: some would take all that there is before they say that it is not enough.
     struct statvfs disk = {};
-    const bool isKnown = ::fstatvfs(fd, &disk) == 0 && disk.f_blocks > 0;
-    return isKnown && static_cast<std::uint64_t>(size) / disk.f_frsize >= disk.f_bavail ? ENOSPC : 0;
+    const bool isKnown = ::fstatvfs(fd, &disk) == 0 && disk.f_blocks > 0 && disk.f_frsize > 0;
+    if (size == 0 || (isKnown && static_cast<std::uint64_t>(size) / disk.f_frsize >= disk.f_bavail)) {
+        return size == 0 ? 0 : ENOSPC;
+    }
+    const bool isRefused = ::fallocate(fd, FALLOC_FL_KEEP_SIZE, 0, size) != 0 && (errno == ENOSPC || errno == EDQUOT);
+    return isRefused ? errno : 0;
 }
 
 /// Says how far a copy has come, not more often than anybody can see.

@@ -14,6 +14,7 @@
 #include <string>
 
 #include "app/SettingVC.h"
+#include "library/RecordingImport.h"
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
 #include "ui/AlertPresenter.h"
@@ -155,6 +156,7 @@ struct ShellScreens : FakeServices {
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
+    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
     SettingVC settingVC{{.settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter}};
 };
 
@@ -172,6 +174,7 @@ public:
             "Theme.fade = 0 }",
             {{QStringLiteral("recording"), QVariant::fromValue(&recording)},
              {QStringLiteral("library"), QVariant::fromValue(&library)},
+             {QStringLiteral("imports"), QVariant::fromValue(&imports)},
              {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
              {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
              {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},

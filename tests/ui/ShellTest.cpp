@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
+#include <QDropEvent>
+#include <QMimeData>
 
 #include <QColor>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QQmlComponent>
 #include <cmath>
+#include <fstream>
 #include <thread>
 
 #include "Shell.h"
@@ -356,6 +361,42 @@ TEST(Notices, SayThingsInPassing) {
     for (const QQuickItem* item : shell.visibleItems()) {
         EXPECT_NE(item->objectName(), QStringLiteral("notice"));
     }
+}
+
+TEST(Import, TakesCopiesOfWhatIsDroppedOnTheWindow) {
+    Shell shell;
+    QList<QUrl> urls{QUrl::fromLocalFile(QString::fromStdString(shell.container.root() / "talk.wav"))};
+    std::ofstream(shell.container.root() / "talk.wav") << "sound";
+    while (urls.size() < 500) {
+        urls.append(QUrl(QStringLiteral("file:///none/%1.wav").arg(urls.size())));
+    }
+    QMimeData files;
+    files.setUrls(urls);
+    const auto drops = [&](Qt::DropActions actions) {
+        QDragEnterEvent enter({100, 100}, actions, &files, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shell.window, &enter);
+        if (!enter.isAccepted()) {
+            QDragLeaveEvent leave;
+            QCoreApplication::sendEvent(shell.window, &leave);
+            return false;
+        }
+        shell.settle();
+        EXPECT_EQ(shell.words().count("Drop sound files here to import them"), 1U);
+        QDropEvent drop({100, 100}, actions, &files, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shell.window, &drop);
+        EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "whoever moves takes the file away";
+        return drop.isAccepted();
+    };
+    EXPECT_FALSE(drops(Qt::MoveAction));
+    EXPECT_TRUE(drops(Qt::CopyAction | Qt::MoveAction));
+    shell.runLoop.drain();
+    EXPECT_TRUE(std::filesystem::exists(shell.container.documentsPath() / "talk.wav"));
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 1);
+    EXPECT_EQ(shell.notices.text(), QStringLiteral("1 files have been imported, 499 have not"));
+    shell.notices.act();
+    shell.settle();
+    EXPECT_TRUE(shell.presenter.isActive());
+    EXPECT_FALSE(drops(Qt::CopyAction)) << "something stands before the screens";
 }
 
 TEST(WaveViewItem, KeepsEveryBarAcrossFramesAndWhileHidden) {

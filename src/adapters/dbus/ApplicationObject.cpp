@@ -33,10 +33,10 @@ void ApplicationObject::Open(const QStringList& uris, const QVariantMap& platfor
         app->open(urls);
     });
     // The window is shown all the same, as the user has asked for something.
-    if (std::none_of(urls.begin(), urls.end(), hasOwnScheme)) {
-        refuse(urls.isEmpty()               ? QStringLiteral("There is nothing to open.")
-               : urls.first().isLocalFile() ? QStringLiteral("Files cannot be imported: “%1”.").arg(uris.first())
-                                            : QStringLiteral("The recorder does not open “%1”.").arg(uris.first()));
+    const auto canOpen = [](const QUrl& url) { return hasOwnScheme(url) || url.isLocalFile(); };
+    if (std::none_of(urls.begin(), urls.end(), canOpen)) {
+        refuse(urls.isEmpty() ? QStringLiteral("There is nothing to open.")
+                              : QStringLiteral("The recorder does not open “%1”.").arg(uris.first()));
     }
 }
 
@@ -44,6 +44,10 @@ void ApplicationObject::ActivateAction(const QString& name, const QVariantList&,
     // Before the launch has finished the shortcut items are not known yet.
     if (m_application.m_launched && !m_application.isAction(name)) {
         refuse(QStringLiteral("There is no action “%1”.").arg(name));
+        return;
+    }
+    if (DBusApplication::isRefresh(name)) {
+        m_application.whenLaunched([app = &m_application] { Q_EMIT app->refreshRequested(); });
         return;
     }
     m_application.whenLaunched([app = &m_application, name, token = activationToken(platformData)] {

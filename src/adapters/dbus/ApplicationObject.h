@@ -21,9 +21,10 @@ public:
 
 public Q_SLOTS:
     void Activate(const QVariantMap& platformData);
-    /// Answers with an error, and opens none of them, if one is neither a URL nor an absolute path.
+    /// Answers with an error, and opens none of them, if one is neither a URL nor an absolute path. Files are imported
+    /// later: what becomes of them is shown in the window.
     void Open(const QStringList& uris, const QVariantMap& platformData);
-    /// Answers with an error if there is no such action.
+    /// Answers with an error if there is no such action. "refresh" alone does not show the window.
     void ActivateAction(const QString& name, const QVariantList& parameter, const QVariantMap& platformData);
 
 private:

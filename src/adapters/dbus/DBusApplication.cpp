@@ -8,6 +8,8 @@
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/SessionLock.h"
 #include "adapters/dbus/WindowState.h"
+#include "files/FileUri.h"
+#include "files/PathText.h"
 
 namespace tavi {
 
@@ -71,7 +73,7 @@ void DBusApplication::setDelegate(ApplicationDelegate* delegate) {
 
 QUrl DBusApplication::urlFromText(const QString& text) {
     if (QDir::isAbsolutePath(text)) {
-        return QUrl::fromLocalFile(text);
+        return QUrl::fromEncoded(QByteArray::fromStdString(fileUri(nativePath(text))));
     }
     const QUrl url(text, QUrl::StrictMode);
     return url.scheme().isEmpty() ? QUrl() : url;
@@ -100,7 +102,11 @@ void DBusApplication::open(const QList<QUrl>& urls) {
 }
 
 bool DBusApplication::isAction(const QString& name) const {
-    return isSame(name, kStopAction) || shortcutItemFor(name) != nullptr;
+    return isSame(name, kStopAction) || isRefresh(name) || shortcutItemFor(name) != nullptr;
+}
+
+bool DBusApplication::isRefresh(const QString& name) {
+    return isSame(name, kRefreshAction);
 }
 
 void DBusApplication::performAction(const QString& name) {

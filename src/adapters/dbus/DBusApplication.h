@@ -21,7 +21,8 @@ class WindowState;
 ///
 /// What callers ask before the launch has finished waits until then. Actions are named without regard to case: the type
 /// of a shortcut item; or "record" and "library", the shortcuts "Record" and "Recordings"; or "stop", the URL
-/// TaviRecordStop:. Without a session bus everything but the calls from outside works all the same. Main thread.
+/// TaviRecordStop:; or "refresh", for whoever has changed the recordings. Without a session bus everything but the
+/// calls from outside works all the same. Main thread.
 class DBusApplication final : public QObject, public Application {
     Q_OBJECT
 
@@ -52,6 +53,10 @@ public:
     /// The URL that a caller means: a URL as it is, an absolute path as a file URL; an invalid one for anything else.
     static QUrl urlFromText(const QString& text);
 
+Q_SIGNALS:
+    /// Another process has changed the recordings.
+    void refreshRequested();
+
 private:
     friend class ApplicationObject;
 
@@ -59,6 +64,7 @@ private:
     void activate(const QString& activationToken);
     void open(const QList<QUrl>& urls);
     bool isAction(const QString& name) const;
+    static bool isRefresh(const QString& name);
     void performAction(const QString& name);
     const ShortcutItem* shortcutItemFor(const QString& action) const;
     /// Looks at window and session once the events at hand have been dealt with: what changes only for a moment, as

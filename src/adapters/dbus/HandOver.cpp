@@ -15,6 +15,7 @@ namespace tavi {
 namespace {
 
 constexpr int kAnswerTimeoutMs = 5000;
+constexpr int kChangeTimeoutMs = 1000;
 constexpr int kTriesWhileStarting = 60;
 constexpr unsigned long kStartingPauseMs = 50;
 
@@ -93,6 +94,13 @@ Result<void> handOver(const QDBusConnection& sessionBus, const QString& busName,
     }
     return failure(
         QStringLiteral("The instance that is already running did not take the request: %1").arg(answer.errorMessage()));
+}
+
+void tellOfChange(const QDBusConnection& sessionBus, const QString& busName) {
+    QDBusMessage message =
+        messageFor(busName, {.kind = ActivationRequest::Kind::Action, .uris = {}, .action = kRefreshAction});
+    message.setAutoStartService(false);
+    sessionBus.call(message, QDBus::Block, kChangeTimeoutMs);
 }
 
 }  // namespace tavi

@@ -33,4 +33,8 @@ struct ActivationRequest {
 Result<void> handOver(const QDBusConnection& sessionBus, const QString& busName, const ActivationRequest& request,
                       std::chrono::milliseconds patience = std::chrono::seconds(3));
 
+/// Tells the instance that owns the bus name, if there is one, that the recordings have changed. Waits for a second at
+/// most. Needs a QCoreApplication.
+void tellOfChange(const QDBusConnection& sessionBus, const QString& busName);
+
 }  // namespace tavi

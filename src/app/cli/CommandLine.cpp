@@ -9,11 +9,13 @@
 #include <utility>
 
 #include "app/cli/Get.h"
+#include "app/cli/Import.h"
 #include "app/cli/List.h"
 #include "app/cli/Recover.h"
 #include "app/cli/Set.h"
 #include "app/cli/Trim.h"
 #include "app/cli/Waveform.h"
+#include "files/FileUri.h"
 #include "platform/Application.h"
 
 namespace tavi {
@@ -28,25 +30,42 @@ constexpr const char* kFooter =
     "Examples:\n"
     "  tavi record                         start recording, or pause and resume\n"
     "  tavi stop                           save what has been recorded\n"
+    "  tavi import talk.wav                copy a file among the recordings\n"
     "  tavi set AudioFileType wav          make the next recordings WAVE files\n"
     "  tavi --container /tmp/try list      print the recordings below /tmp/try";
 
-/// A URL of one of the program's schemes, or why it is none.
-Result<QUrl> ownUrl(const QString& text) {
+/// Adds a word that is no command to what the program is to open: a URL, or else a file's name.
+Result<void> addOpened(ProgramRequest& request, const std::string& word) {
     static const QRegularExpression kScheme(QStringLiteral("^([A-Za-z][A-Za-z0-9+.-]*):"));
-    const QRegularExpressionMatch match = kScheme.match(text);
-    const QString scheme = match.captured(1).toLower();
-    if (scheme == QLatin1String("file") || (scheme.isEmpty() && text.contains(QLatin1Char('/')))) {
-        return failure(QStringLiteral("files cannot be imported from the command line: “%1”").arg(text));
-    }
+    const QString text = QString::fromLocal8Bit(word);
+    const QString scheme = kScheme.match(text).captured(1).toLower();
     if (scheme.isEmpty()) {
-        return failure(QStringLiteral("unknown command “%1”").arg(text));
+        request.files.emplace_back(word);
+        return {};
     }
     const QUrl url(text, QUrl::StrictMode);
-    if (std::find(kOwnSchemes.begin(), kOwnSchemes.end(), scheme) != kOwnSchemes.end()) {
-        return url.isValid() ? Result<QUrl>(url) : failure(QStringLiteral("“%1” is not a valid URL").arg(text));
+    if (scheme == QLatin1String("file")) {
+        const auto file = pathOfFileUri(url.toEncoded().toStdString());
+        if (!file) {
+            return failure(QStringLiteral("“%1” is no file on this machine").arg(text));
+        }
+        request.files.push_back(*file);
+    } else if (std::find(kOwnSchemes.begin(), kOwnSchemes.end(), scheme) == kOwnSchemes.end()) {
+        return failure(QStringLiteral("the scheme of “%1” is not one that the recorder opens").arg(text));
+    } else if (!url.isValid()) {
+        return failure(QStringLiteral("“%1” is not a valid URL").arg(text));
+    } else {
+        request.urls.append(url);
     }
-    return failure(QStringLiteral("the scheme of “%1” is not one that the recorder opens").arg(text));
+    return {};
+}
+
+/// What commands return, in the one form.
+Result<CommandOutput> outputOf(Result<CommandOutput> output) {
+    return output;
+}
+Result<CommandOutput> outputOf(const Result<QByteArray>& text) {
+    return text.map([](const QByteArray& printed) { return CommandOutput{.text = printed}; });
 }
 
 /// The words and options of the program, and what they come to.
@@ -66,11 +85,12 @@ private:
     void addList();
     void addWaveform();
     void addTrim();
+    void addImport();
     Result<CommandLine> finish();
 
     CLI::App m_app{"Record sound from the microphone, and look after the recordings.\n", "tavi"};
     std::string m_container;
-    std::vector<std::string> m_urls;
+    std::vector<std::string> m_words;
     CommandLine m_line;
 };
 
@@ -114,9 +134,10 @@ Grammar::Grammar() {
                     "Such a program runs beside the one without a container.")
         ->type_name("DIR")
         ->check(folderName(m_app));
-    m_app.add_option("URL", m_urls,
-                     "open URLs, as a companion does: TaviRecordStart: is record,\n"
-                     "TaviRecordStop: is stop, TaviliteConnect: is library");
+    m_app.add_option("FILE|URL", m_words,
+                     "import sound files in the window; or open URLs, as a companion does:\n"
+                     "TaviRecordStart: is record, TaviRecordStop: is stop,\n"
+                     "TaviliteConnect: is library. A file whose name is a command's is ./NAME.");
     addRequest("record", "start recording; pause or resume the one that is running", {QStringLiteral("Record"), {}});
     addRequest("stop", "stop recording and save", {{}, {QUrl(QStringLiteral("TaviRecordStop:"))}});
     addRequest("library", "show the library", {QStringLiteral("Recordings"), {}});
@@ -124,6 +145,7 @@ Grammar::Grammar() {
     addSet();
     addList();
     addPrinting<RecoverOptions>("recover", "save the recordings that were not saved");
+    addImport();
     addWaveform();
     addTrim();
     for (CLI::App* command : m_app.get_subcommands({})) {
@@ -143,7 +165,7 @@ std::pair<CLI::App*, std::shared_ptr<Options>> Grammar::addPrinting(const char* 
     CLI::App* command = m_app.add_subcommand(name, summary)->group("Commands that print and end");
     command->callback([this, options] {
         m_line.command =
-            PrintingCommand([options](const CommandServices& services) { return run(*options, services); });
+            PrintingCommand([options](const CommandServices& services) { return outputOf(run(*options, services)); });
     });
     return {command, options};
 }
@@ -187,6 +209,11 @@ void Grammar::addTrim() {
         ->type_name("FILE");
 }
 
+void Grammar::addImport() {
+    const auto [command, options] = addPrinting<ImportOptions>("import", "copy sound files among the recordings");
+    command->add_option("FILE", options->files, "the sound files")->required();
+}
+
 Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {
     std::reverse(arguments.begin(), arguments.end());
     try {
@@ -209,19 +236,17 @@ Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {
 
 Result<CommandLine> Grammar::finish() {
     m_line.container = m_container;
-    if (m_urls.empty()) {
+    if (m_words.empty()) {
         return m_line;
     }
     ProgramRequest request;
-    for (const std::string& text : m_urls) {
-        const auto url = ownUrl(QString::fromLocal8Bit(text));
-        if (!url) {
-            return tl::unexpected(url.error());
+    for (const std::string& word : m_words) {
+        if (const auto added = addOpened(request, word); !added) {
+            return tl::unexpected(added.error());
         }
-        request.urls.append(*url);
     }
     if (!m_app.get_subcommands().empty()) {
-        return failure(QStringLiteral("URLs and commands do not go together"));
+        return failure(QStringLiteral("files or URLs and commands do not go together"));
     }
     m_line.command = request;
     return m_line;

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <variant>
+#include <vector>
 
 #include "app/cli/CommandServices.h"
 #include "platform/Error.h"
@@ -14,16 +15,18 @@
 namespace tavi {
 
 /// What the program with the window is asked to do. The first start does it itself, a later one hands it over. With
-/// neither a quick action nor URLs it shows the window.
+/// neither a quick action nor URLs or files it shows the window.
 struct ProgramRequest {
     /// Type of a quick action.
     QString shortcutType;
-    /// Each has one of the program's own schemes, which QUrl holds in lower case.
+    /// Each has one of the program's own schemes, which QUrl holds in lower case, or is that of a file.
     QList<QUrl> urls;
+    /// Files to import, as they were given.
+    std::vector<std::filesystem::path> files = {};
 };
 
-/// A command that prints and ends; what it returns is for standard output.
-using PrintingCommand = std::function<Result<QByteArray>(const CommandServices&)>;
+/// A command that prints and ends.
+using PrintingCommand = std::function<Result<CommandOutput>(const CommandServices&)>;
 
 /// What the user asks for on the command line.
 struct CommandLine {

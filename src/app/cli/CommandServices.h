@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArray>
+#include <QStringList>
+
 #include "app/settings/SettingsStore.h"
 #include "platform/AppContainer.h"
 #include "platform/AssetExportSession.h"
@@ -8,6 +11,7 @@
 #include "platform/AudioFileRepair.h"
 #include "platform/DisplayRefresh.h"
 #include "platform/ExtAudioFile.h"
+#include "platform/NotificationCenter.h"
 #include "platform/RunLoop.h"
 #include "platform/UserDefaults.h"
 
@@ -29,6 +33,14 @@ struct Suites {
     }
 };
 
+/// What a command that goes on after a failure comes to.
+struct CommandOutput {
+    /// For standard output.
+    QByteArray text = {};
+    /// For standard error, a line each; with any the command has failed.
+    QStringList failures = {};
+};
+
 /// What the commands that print and end work with. All of it outlives the command.
 struct CommandServices {
     const AppContainer& container;
@@ -40,6 +52,8 @@ struct CommandServices {
     AssetExportSessions& exports;
     AudioFileRepair& repair;
     DisplayRefreshes& refreshes;
+    /// Has the running program hear that the recordings have changed.
+    NotificationCenter& notifications;
 };
 
 }  // namespace tavi

@@ -4,29 +4,13 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "files/PathText.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
 
 namespace tavi {
 
 namespace {
-
-/// Whether a terminal would act on a character, or show the line in another order: control characters, ends of lines
-/// and paragraphs, and all formatting but what joins letters and signs.
-bool isUnseen(QChar character) {
-    constexpr char16_t kNonJoiner = 0x200c;
-    constexpr char16_t kJoiner = 0x200d;
-    switch (character.category()) {
-        case QChar::Other_Control:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            return true;
-        case QChar::Other_Format:
-            return character != kNonJoiner && character != kJoiner;
-        default:
-            return false;
-    }
-}
 
 QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
     QJsonArray array;
@@ -48,16 +32,12 @@ QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
     return json.toUtf8();
 }
 
-/// A line a recording. What is not seen in a name shows as "?", so that none can look like another one.
+/// A line a recording.
 QByteArray recordingsText(const std::vector<RecordingEntry>& recordings) {
     QByteArray text;
     for (const RecordingEntry& entry : recordings) {
-        QString name = entry.value(entrykey::kFilename);
-        for (QChar& character : name) {
-            character = isUnseen(character) ? QLatin1Char('?') : character;
-        }
-        const QStringList parts{name, entry.value(entrykey::kFilesize), entry.value(entrykey::kDuration),
-                                entry.value(entrykey::kModdate)};
+        const QStringList parts{lineText(entry.value(entrykey::kFilename)), entry.value(entrykey::kFilesize),
+                                entry.value(entrykey::kDuration), entry.value(entrykey::kModdate)};
         text += parts.join(QLatin1Char('\t')).toUtf8() + '\n';
     }
     return text;

@@ -1,5 +1,8 @@
 #include "app/cli/SoundFile.h"
 
+#include <cerrno>
+#include <system_error>
+
 #include "files/PathText.h"
 
 namespace tavi {
@@ -25,7 +28,22 @@ QString openErrorText(AudioStatus status) {
 }  // namespace
 
 tl::unexpected<Error> failureOf(const std::filesystem::path& path, const QString& why) {
-    return failure(pathText(path) + QStringLiteral(": ") + why);
+    return failure(lineText(path) + QStringLiteral(": ") + why);
+}
+
+QString fileErrorText(int error) {
+    switch (error) {
+        case EEXIST:
+            return QStringLiteral("there is a recording of that name already");
+        case EISDIR:
+            return QStringLiteral("it is a folder");
+        case EINVAL:
+            return QStringLiteral("it is no file that holds anything");
+        case EBUSY:
+            return QStringLiteral("it is being written");
+        default:
+            return QString::fromStdString(std::generic_category().message(error));
+    }
 }
 
 Result<void> checkSoundFile(const std::filesystem::path& path, ExtAudioFiles& files) {

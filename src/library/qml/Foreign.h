@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "library/PlayerPanel.h"
+#include "library/RecordingImport.h"
 #include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
 
@@ -27,6 +28,13 @@ struct PlayerPanelForeign {
     QML_FOREIGN(tavi::PlayerPanel)
     QML_NAMED_ELEMENT(PlayerPanel)
     QML_UNCREATABLE("The library screen has one.")
+};
+
+struct RecordingImportForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::RecordingImport)
+    QML_NAMED_ELEMENT(RecordingImport)
+    QML_UNCREATABLE("The program has one.")
 };
 
 }  // namespace tavi

@@ -537,6 +537,78 @@
         <source></source>
         <translation>Gespeichert als %1</translation>
     </message>
+    <message id="import_running">
+        <source></source>
+        <translation>%1 wird importiert</translation>
+    </message>
+    <message id="import_running_many">
+        <source></source>
+        <translation>%1 Dateien werden importiert</translation>
+    </message>
+    <message id="import_done">
+        <source></source>
+        <translation>%1 wurde importiert</translation>
+    </message>
+    <message id="import_done_many">
+        <source></source>
+        <translation>%1 Dateien wurden importiert</translation>
+    </message>
+    <message id="import_failed">
+        <source></source>
+        <translation>%1 wurde nicht importiert: %2</translation>
+    </message>
+    <message id="import_some">
+        <source></source>
+        <translation>%1 Dateien wurden importiert, %2 nicht</translation>
+    </message>
+    <message id="import_details">
+        <source></source>
+        <translation>Details</translation>
+    </message>
+    <message id="import_details_title">
+        <source></source>
+        <translation>Nicht importiert</translation>
+    </message>
+    <message id="import_more">
+        <source></source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message id="import_cancelled">
+        <source></source>
+        <translation>Der Import wurde abgebrochen</translation>
+    </message>
+    <message id="import_drop">
+        <source></source>
+        <translation>Tondateien hier ablegen, um sie zu importieren</translation>
+    </message>
+    <message id="import_taken">
+        <source></source>
+        <translation>es gibt schon eine Aufnahme mit diesem Namen</translation>
+    </message>
+    <message id="import_folder">
+        <source></source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message id="import_no_file">
+        <source></source>
+        <translation>es ist keine Datei mit Ton</translation>
+    </message>
+    <message id="import_gone">
+        <source></source>
+        <translation>sie ist nicht mehr da</translation>
+    </message>
+    <message id="import_full">
+        <source></source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message id="import_busy">
+        <source></source>
+        <translation>ein anderes Programm schreibt gerade hinein</translation>
+    </message>
+    <message id="import_remote">
+        <source></source>
+        <translation>sie liegt nicht auf diesem Gerät</translation>
+    </message>
     <message id="library_play">
         <source></source>
         <translation>Abspielen</translation>

@@ -536,6 +536,78 @@
         <source></source>
         <translation>Saved as %1</translation>
     </message>
+    <message id="import_running">
+        <source></source>
+        <translation>Importing %1</translation>
+    </message>
+    <message id="import_running_many">
+        <source></source>
+        <translation>Importing %1 files</translation>
+    </message>
+    <message id="import_done">
+        <source></source>
+        <translation>%1 has been imported</translation>
+    </message>
+    <message id="import_done_many">
+        <source></source>
+        <translation>%1 files have been imported</translation>
+    </message>
+    <message id="import_failed">
+        <source></source>
+        <translation>%1 has not been imported: %2</translation>
+    </message>
+    <message id="import_some">
+        <source></source>
+        <translation>%1 files have been imported, %2 have not</translation>
+    </message>
+    <message id="import_details">
+        <source></source>
+        <translation>Details</translation>
+    </message>
+    <message id="import_details_title">
+        <source></source>
+        <translation>Not imported</translation>
+    </message>
+    <message id="import_more">
+        <source></source>
+        <translation>and %1 more</translation>
+    </message>
+    <message id="import_cancelled">
+        <source></source>
+        <translation>The import was cancelled</translation>
+    </message>
+    <message id="import_drop">
+        <source></source>
+        <translation>Drop sound files here to import them</translation>
+    </message>
+    <message id="import_taken">
+        <source></source>
+        <translation>there is a recording of that name already</translation>
+    </message>
+    <message id="import_folder">
+        <source></source>
+        <translation>it is a folder</translation>
+    </message>
+    <message id="import_no_file">
+        <source></source>
+        <translation>it is no file that holds sound</translation>
+    </message>
+    <message id="import_gone">
+        <source></source>
+        <translation>it is not there any more</translation>
+    </message>
+    <message id="import_full">
+        <source></source>
+        <translation>the disk is full</translation>
+    </message>
+    <message id="import_busy">
+        <source></source>
+        <translation>another program is writing it</translation>
+    </message>
+    <message id="import_remote">
+        <source></source>
+        <translation>it is not on this machine</translation>
+    </message>
     <message id="library_play">
         <source></source>
         <translation>Play</translation>

@@ -124,16 +124,13 @@ TEST_F(DBusApplicationTest, ASecondStartHandsOverToTheFirst) {
     EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("library")}), "ok");
     EXPECT_EQ(handedOver({Kind::Action, {}, QStringLiteral("Stop")}), "ok");
     const std::pair<QStringList, const char*> untaken[] = {
-        {{QStringLiteral("/tmp/a b%.wav"), QStringLiteral("file:///x.wav")},
-         "Files cannot be imported: “/tmp/a b%.wav”."},
-        {{QStringLiteral("x:y")}, "The recorder does not open “x:y”."},
-        {{}, "There is nothing to open."}};
+        {{QStringLiteral("x:y")}, "The recorder does not open “x:y”."}, {{}, "There is nothing to open."}};
     for (const auto& [uris, why] : untaken) {
         EXPECT_THAT(handedOver({Kind::Open, uris, {}}), ::testing::EndsWith(why));
     }
+    EXPECT_EQ(handedOver({Kind::Open, {QStringLiteral("//tmp/a b%#.wav"), QStringLiteral("file:///x%FF")}, {}}), "ok");
     expectCalls(
-        "shortcut Recordings, open tavirecordstop:, open file:///tmp/a b%25.wav, open file:///x.wav, "
-        "open x:y");
+        "shortcut Recordings, open tavirecordstop:, open x:y, open file:////tmp/a b%25%23.wav, open file:///x%FF");
 
     EXPECT_THAT(handedOver({Kind::Action, {}, QStringLiteral("dance")}), ::testing::HasSubstr("no action “dance”"));
     EXPECT_THAT(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}), ::testing::HasSubstr("“a.wav”"));
@@ -163,6 +160,32 @@ TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {
         spinUntil([this] { return m_delegate.calls.contains(QStringLiteral("background")); });
         m_delegate.calls.clear();
     }
+}
+
+TEST_F(DBusApplicationTest, WhoeverHasChangedTheRecordingsTellsWithoutShowingTheWindow) {
+    QRasterWindow window;
+    m_application.setWindow(&window);
+    int refreshes = 0;
+    QObject::connect(&m_application, &DBusApplication::refreshRequested, &m_application, [&refreshes] { ++refreshes; });
+    const QDBusConnection second = m_bus.connect();
+    const auto tell = [&] {
+        std::atomic<bool> done = false;
+        std::thread caller([&] {
+            tellOfChange(second, m_name);
+            done = true;
+        });
+        EXPECT_TRUE(spinUntil([&done] { return done.load(); }));
+        caller.join();
+    };
+    tell();
+    ASSERT_EQ(m_application.claim(), DBusApplication::Claim::First);
+    tell();
+    EXPECT_EQ(refreshes, 0);
+    m_application.launchFinished();
+    EXPECT_EQ(refreshes, 1) << "told while it was starting";
+    tell();
+    EXPECT_EQ(refreshes, 2);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(DBusApplicationTest, TheDesktopsTokensGoWithTheRequest) {

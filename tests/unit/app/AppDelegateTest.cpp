@@ -26,6 +26,7 @@ protected:
     FakePresenter presenter;
     FakeRecording recording{*this, presenter, tabBar, notices};
     AudioRecordVC& screen = recording.vc;
+    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
     AppDelegate delegate{{.application = application,
                           .idleTimer = idleTimer,
                           .settings = settings,
@@ -33,7 +34,8 @@ protected:
                           .container = container,
                           .audioSession = session,
                           .tabBar = tabBar,
-                          .objrecordVC = screen}};
+                          .objrecordVC = screen,
+                          .imports = imports}};
 };
 
 }  // namespace

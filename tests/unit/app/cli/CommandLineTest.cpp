@@ -21,7 +21,11 @@ std::string meaning(const QByteArray& line) {
     const std::string where = parsed->container.empty() ? "" : "[" + parsed->container.native() + "] ";
     if (const auto* request = std::get_if<ProgramRequest>(&parsed->command)) {
         const QStringList asked = QStringList{request->shortcutType} + QUrl::toStringList(request->urls);
-        return where + asked.join(QLatin1Char(' ')).trimmed().toStdString();
+        std::string text = where + asked.join(QLatin1Char(' ')).trimmed().toStdString();
+        for (const std::filesystem::path& file : request->files) {
+            text += " <" + file.native() + '>';
+        }
+        return text;
     }
     const auto* text = std::get_if<QByteArray>(&parsed->command);
     return where + (text != nullptr ? text->toStdString() : "prints");
@@ -52,6 +56,10 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"list|--json", "prints"},
         {"waveform|--points|8192|--|--x=", "prints"},
         {"trim|record|--from|0|--to|1e9", "prints"},
+        {"import|--|--x=|list|./stop", "prints"},
+        {"fly|a b\xff.wav|./list", " <fly> <a b\xff.wav> <./list>"},
+        {"--|list|-x.wav", " <list> <-x.wav>"},
+        {"FILE:///a%20b%FF|TaviRecordStop:", "tavirecordstop: </a b\xff>"},
 
         {"--container", "! --container needs a value"},
         {"--container|a|--container|b|list", "! --container is given twice"},
@@ -70,10 +78,10 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"trim|a|--from|0|--to|nan", "! --to: “nan” is no number of seconds"},
         {"trim|a|--from|-1|--to|1", "! --from: “-1” is no number of seconds"},
         {"trim|a|--from|1|--to", "? --to"},
-        {"fly", "! unknown command “fly”"},
-        {"music/a.wav", "! files cannot be imported from the command line: “music/a.wav”"},
+        {"import", "? FILE"},
+        {"file://elsewhere/a.wav", "! “file://elsewhere/a.wav” is no file on this machine"},
         {"https://example.org/", "! the scheme of “https://example.org/” is not one that the recorder opens"},
-        {"TaviRecordStop:|stop", "! URLs and commands do not go together"},
+        {"TaviRecordStop:|stop", "! files or URLs and commands do not go together"},
         {"TaviRecordStop://[", "! “TaviRecordStop://[” is not a valid URL"},
     };
     for (const auto& [line, expected] : cases) {
@@ -94,7 +102,7 @@ TEST(CommandLine, HelpAndManualPageTellTheSame) {
     const QString manual = QString::fromUtf8(file.readAll()).remove(QLatin1Char('\\'));
     const QString help = helpOf({});
     const QStringList commands = allMatches(help.section(QLatin1String("\nCommands"), 1), "^  ([a-z]+)  ");
-    ASSERT_EQ(commands.size(), 9);
+    ASSERT_EQ(commands.size(), 10);
     const QString described = manual.section(QLatin1String(".SS"), 1).section(QLatin1String(".SH"), 0, 0);
     EXPECT_EQ(allMatches(described, "^\\.TP\n\\.BR?I? \"?([a-z]+)"), commands);
     for (const QString& command : commands) {

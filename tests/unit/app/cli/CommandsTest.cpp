@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "app/cli/CommandLine.h"
+#include "app/cli/OpenFiles.h"
 #include "files/LockedFolder.h"
 #include "library/RecordingEntry.h"
 #include "support/FakeAudioFileRepair.h"
@@ -17,7 +18,7 @@ namespace {
 
 /// Words of a command line divided by "|", and what the command then prints, or "! " and why it fails.
 struct Said {
-    const char* words;
+    QByteArray words;
     std::string printed;
 };
 
@@ -34,15 +35,20 @@ protected:
                                                               .converters = converters,
                                                               .exports = assets,
                                                               .repair = repair,
-                                                              .refreshes = refreshes});
+                                                              .refreshes = refreshes,
+                                                              .notifications = notifications});
         });
-        return printed ? printed->toStdString() : "! " + printed.error().text.toStdString();
+        if (!printed) {
+            return "! " + printed.error().text.toStdString();
+        }
+        const QString failures = printed->failures.join(QLatin1String("\n! "));
+        return printed->text.toStdString() + (failures.isEmpty() ? "" : "! " + failures.toStdString());
     }
 
     /// One after the other: what a command leaves behind is there for the next.
     void expectSaid(const std::vector<Said>& dialogue) {
         for (const Said& said : dialogue) {
-            EXPECT_EQ(tavi(said.words), said.printed) << said.words;
+            EXPECT_EQ(tavi(said.words), said.printed) << said.words.constData();
         }
     }
 
@@ -198,6 +204,37 @@ TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
     EXPECT_EQ(made.outputFileType, AssetFileType::Wave);
     EXPECT_EQ(made.timeRange->start.seconds(), 0.5);
     EXPECT_EQ(made.timeRange->duration.seconds(), 1.5);
+}
+
+TEST_F(CommandsTest, ImportsCopiesAndSaysWhyNot) {
+    int changes = 0;
+    QObject::connect(&notifications, &NotificationCenter::posted, &notifications, [&changes] { ++changes; });
+    const std::filesystem::path outside = container.root() / "a\n\xff";
+    std::ofstream(outside) << "sound";
+    const QByteArray file = QByteArray::fromStdString(outside);
+    const std::string shown = container.root().native() + "/a?\uFFFD";
+    const std::string taken = "! " + shown + ": there is a recording of that name already";
+    const std::string folder = "! " + container.root().native() + ": it is a folder";
+    expectSaid({{"import|" + file + "|/none|" + QByteArray::fromStdString(container.root()),
+                 container.documentsPath().native() + "/a?\uFFFD\n! /none: No such file or directory\n" + folder},
+                {"import|" + file, taken}});
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(std::filesystem::file_size(container.documentsPath() / outside.filename()), 5U);
+
+    // What is to be shown in the window, too, goes on to it; a wrong word does not.
+    const QByteArray given[] = {"fly", "/none", file, "fly|" + file};
+    const std::pair<std::string, int> expected[] = {
+        {"there is no command and no file “fly”", kUsageExitCode},
+        {"/none: No such file or directory", EXIT_FAILURE},
+        {taken.substr(2), EXIT_FAILURE},
+        {"there is no command and no file “fly”\n" + taken.substr(2), kUsageExitCode}};
+    for (int i = 0; i < 4; ++i) {
+        auto request = std::get<ProgramRequest>(parseCommandLine(given[i].split('|'))->command);
+        const OpenFiles opened = resolveFiles(request, container);
+        EXPECT_EQ(opened.failures.join(QLatin1Char('\n')).toStdString(), expected[i].first);
+        EXPECT_EQ(opened.exitCode, expected[i].second);
+        EXPECT_EQ(request.urls.size(), i < 2 ? 0 : 1);
+    }
 }
 
 TEST_F(CommandsTest, RecoverSaysWhatBecameOfEach) {

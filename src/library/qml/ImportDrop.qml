@@ -1,0 +1,47 @@
+import QtQuick
+import Tavi.Library
+import Tavi.Ui
+
+/// Imports the files that are dropped on the window. It offers to copy and nothing else, so that nobody takes a file away
+/// after the drop. What is dragged out of the window itself stays a recording.
+DropArea {
+    id: root
+
+    required property RecordingImport imports
+    /// Files have been dropped.
+    signal taken
+
+    keys: ["text/uri-list"]
+    onEntered: drag => {
+        const isWelcome = drag.source === null && (drag.supportedActions & Qt.CopyAction)
+        drag.accepted = isWelcome
+        if (isWelcome)
+            drag.accept(Qt.CopyAction)
+    }
+    onDropped: drop => {
+        drop.accept(Qt.CopyAction)
+        imports.importFiles(drop.urls)
+        taken()
+    }
+
+    Rectangle {
+        objectName: "importDrop"
+        anchors.fill: parent
+        visible: root.containsDrag
+        color: Theme.scrim
+        border.color: Theme.accent
+        border.width: 2
+        Accessible.role: Accessible.StaticText
+        Accessible.name: words.title
+
+        EmptyState {
+            id: words
+
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 4 * Theme.margin, 320)
+            room: parent.height
+            imageName: "voicememo.png"
+            title: qsTrId("import_drop")
+        }
+    }
+}

@@ -1,0 +1,225 @@
+#include "library/RecordingImport.h"
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <fstream>
+
+#include "files/FileUri.h"
+#include "files/LockedFolder.h"
+#include "library/ImportInbox.h"
+#include "support/Fakes.h"
+#include "support/ManualRunLoop.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::UnorderedElementsAre;
+
+/// Texts that show what is put into them.
+struct Texts : QTranslator {
+    Texts() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* key, const char*, int) const override {
+        const QString text = QString::fromLatin1(key).section(QLatin1Char('_'), 1);
+        const QStringList one{QStringLiteral("done"), QStringLiteral("done_many"), QStringLiteral("running"),
+                              QStringLiteral("running_many"), QStringLiteral("more")};
+        const bool hasTwo = text == QLatin1String("failed") || text == QLatin1String("some");
+        return text + QLatin1String(hasTwo ? " %1 %2" : one.contains(text) ? " %1" : "");
+    }
+};
+
+class RecordingImportTest : public ::testing::Test {
+protected:
+    RecordingImportTest() {
+        fs::create_directories(outside);
+        QObject::connect(&imports, &RecordingImport::imported, &imports, [this] { ++lists; });
+    }
+
+    static fs::path write(const fs::path& path, const std::string& contents = "sound") {
+        fs::create_directories(path.parent_path());
+        EXPECT_TRUE(std::ofstream(path) << contents);
+        return path;
+    }
+    static std::string read(const fs::path& path) {
+        std::ifstream file(path);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    static QUrl urlOf(const fs::path& path) { return QUrl::fromEncoded(QByteArray::fromStdString(fileUri(path))); }
+    /// Everything below a folder that is no folder, by the paths from there.
+    static std::vector<std::string> filesIn(const fs::path& folder) {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+            if (entry.is_symlink() || !entry.is_directory()) {
+                names.push_back(entry.path().lexically_relative(folder));
+            }
+        }
+        return names;
+    }
+    std::string lastNotice() const { return notices.posted.empty() ? "" : notices.posted.back().text.toStdString(); }
+
+    const Texts texts;
+    TemporaryContainer container;
+    ManualRunLoop runLoop;
+    FakeNotices notices;
+    FakePresenter presenter;
+    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
+    const fs::path documents = container.documentsPath();
+    const fs::path inbox = documents / "Inbox";
+    const fs::path outside = container.root() / "outside";
+    int lists = 0;
+};
+
+}  // namespace
+
+TEST_F(RecordingImportTest, EveryFileComesInUnderItsNameOrIsToldAbout) {
+    write(documents / "taken.wav", "older");
+    const fs::path taken = write(outside / "taken.wav");
+    ::mkfifo((outside / "pipe").c_str(), 0600);
+    ::mknod((outside / "socket").c_str(), S_IFSOCK | 0600, 0);
+    const struct {
+        QUrl url;
+        const char* told;
+    } cases[] = {{urlOf(write(outside / "a b%20;?#\n.wav")), "done a b%20;?#?.wav"},
+                 {urlOf(write(outside / "odd\xff\xe2\x80\xae")), "done odd\uFFFD?"},
+                 {urlOf(taken), "failed taken.wav taken"},
+                 {urlOf(outside), "failed outside folder"},
+                 {urlOf(outside / "pipe"), "failed pipe no_file"},
+                 {urlOf(outside / "socket"), "failed socket no_file"},
+                 {urlOf("/dev/zero"), "failed zero no_file"},
+                 {urlOf(outside / "none"), "failed none gone"},
+                 {urlOf(write(outside / "ICloud")), "failed ICloud taken"},
+                 {QUrl(QStringLiteral("https://x/a.wav")), "failed https://x/a.wav remote"},
+                 {QUrl(QStringLiteral("file://elsewhere/a.wav")), "failed file://elsewhere/a.wav remote"}};
+    const auto before = filesIn(outside);
+    QList<QUrl> all;
+    for (const auto& row : cases) {
+        imports.importFiles({row.url});
+        runLoop.drain();
+        EXPECT_EQ(lastNotice(), row.told);
+        all += row.url;
+    }
+    EXPECT_THAT(filesIn(documents), UnorderedElementsAre("taken.wav", "a b%20;?#\n.wav", "odd\xff\xe2\x80\xae"));
+    EXPECT_EQ(read(documents / "taken.wav") + read(documents / "odd\xff\xe2\x80\xae"), "oldersound");
+    EXPECT_EQ(lists, 2);
+
+    write(outside / "last");
+    imports.importFiles(all);
+    imports.importFiles({urlOf(outside / "last")});
+    runLoop.drain();
+    EXPECT_EQ(lastNotice(), "some 1 11");
+    notices.posted.back().action();
+    EXPECT_THAT(presenter.alerts.back().message.toStdString(),
+                ::testing::StartsWith("failed https://x/a.wav remote\n"));
+    EXPECT_EQ(presenter.alerts.back().message.count(QLatin1Char('\n')), 10);
+    EXPECT_EQ(filesIn(outside).size(), before.size() + 1) << "something of the user's is gone";
+    EXPECT_TRUE(fs::is_empty(inbox));
+}
+
+TEST_F(RecordingImportTest, TakesAwayTheFolderOfAnIncomingFileOnlyBelowInbox) {
+    const struct {
+        const char *file, *to;
+        int error;
+        /// What is below Inbox afterwards.
+        std::vector<std::string> left;
+    } cases[] = {{"Documents/Inbox/x/a.wav", "a.wav", 0, {"other", "y/link.wav", "y/taken.wav", "z/away"}},
+                 {"Documents/Inbox/y/link.wav", "link.wav", 0, {"other", "x/a.wav", "x/b.wav", "z/away"}},
+                 {"Documents/Inbox/y/taken.wav", "taken.wav", EEXIST, {"other", "x/a.wav", "x/b.wav", "z/away"}},
+                 {"Documents/Inbox/other", "other", 0, {"x/a.wav", "x/b.wav", "y/link.wav", "y/taken.wav", "z/away"}},
+                 {"Documents/Inbox/z/away/a.wav", "a.wav", 0, {}},
+                 {"Documents/Inbox/x/../../../outside/a.wav", "a.wav", 0, {}},
+                 {"Documents/Inbox/x/..", nullptr, EISDIR, {}},
+                 {"Documents/Inbox/z", nullptr, EISDIR, {}},
+                 {"outside/a.wav", "a.wav", 0, {}}};
+    for (const auto& row : cases) {
+        fs::remove_all(documents);
+        write(outside / "a.wav", "user's");
+        for (const char* name : {"Inbox/x/a.wav", "Inbox/x/b.wav", "Inbox/y/taken.wav", "Inbox/other", "taken.wav"}) {
+            write(documents / name);
+        }
+        fs::create_symlink(outside / "a.wav", inbox / "y/link.wav");
+        fs::create_directory(inbox / "z");
+        fs::create_symlink(outside, inbox / "z/away");
+        const auto all = filesIn(inbox);
+        EXPECT_EQ(importinbox::takeOver(documents, container.root() / row.file), row.error) << row.file;
+        EXPECT_THAT(filesIn(inbox), ::testing::UnorderedElementsAreArray(row.left.empty() ? all : row.left))
+            << row.file;
+        EXPECT_EQ(read(outside / "a.wav"), "user's") << row.file;
+        if (row.to != nullptr) {
+            EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(documents / row.to))) << row.file;
+        }
+    }
+    // An Inbox that leads elsewhere is none.
+    fs::remove_all(documents);
+    fs::create_directory(documents);
+    fs::create_symlink(outside, inbox);
+    EXPECT_EQ(importinbox::takeOver(documents, inbox / "a.wav"), 0);
+    EXPECT_EQ(importinbox::bringIn(documents, write(container.root() / "b.wav")), ENOTDIR);
+    importinbox::removeLeftovers(documents);
+    EXPECT_THAT(filesIn(outside), ElementsAre("a.wav"));
+}
+
+TEST_F(RecordingImportTest, OpensWhatLiesInInboxAndRebuildsTheList) {
+    write(inbox / "x/a%20b.wav");
+    write(inbox / "y/a%20b.wav", "other");
+    for (const char* folder : {"x", "y"}) {
+        imports.openOtherAppFile(urlOf(inbox / folder / "a%20b.wav"));
+        runLoop.drain();
+        EXPECT_FALSE(fs::exists(inbox / folder));
+        EXPECT_EQ(read(documents / "a%20b.wav"), "sound");
+    }
+    EXPECT_EQ(lists, 2);
+    EXPECT_THAT(notices.posted, IsEmpty());
+}
+
+TEST_F(RecordingImportTest, LongImportsShowHowFarTheyAreAndCanBeGivenUp) {
+    const fs::path large = write(outside / "large.wav", std::string(3 << 20, 'x'));
+    for (const bool isGivenUp : {false, true}) {
+        fs::remove(documents / "large.wav");
+        runLoop.holdBackground(true);
+        imports.importFiles({urlOf(large)});
+        runLoop.advance(0.49);
+        EXPECT_THAT(notices.works, IsEmpty());
+        runLoop.advance(0.01);
+        ASSERT_EQ(notices.works.size(), 1U);
+        EXPECT_EQ(notices.works[0]->notice.text, QStringLiteral("running large.wav"));
+        imports.importFiles({urlOf(outside / "none")});
+        ASSERT_EQ(notices.works.size(), 1U);
+        EXPECT_EQ(notices.works[0]->notice.text, QStringLiteral("running_many 2"));
+        if (isGivenUp) {
+            FakeNotices::Work& line = *notices.works[0];
+            const auto cancel = line.notice.action;
+            cancel();
+            cancel();
+            EXPECT_EQ(lastNotice(), "cancelled");
+        }
+        runLoop.holdBackground(false);
+        runLoop.drain();
+        EXPECT_THAT(notices.works, IsEmpty());
+        EXPECT_EQ(lastNotice(), isGivenUp ? "cancelled" : "some 1 1");
+        EXPECT_EQ(fs::exists(documents / "large.wav"), !isGivenUp);
+        EXPECT_THAT(filesIn(inbox), IsEmpty());
+    }
+}
+
+TEST_F(RecordingImportTest, CleansUpAfterAKilledImportAndNothingElse) {
+    write(inbox / "tavi-import-killed/half.wav");
+    write(inbox / "tavi-import-running/half.wav");
+    write(inbox / "tavi-import-mine/folder/a.wav");
+    write(inbox / "other/a.wav");
+    const auto running = LockedFolder::lock(inbox / "tavi-import-running");
+    imports.removeLeftovers();
+    runLoop.drain();
+    EXPECT_THAT(filesIn(inbox),
+                UnorderedElementsAre("tavi-import-running/half.wav", "tavi-import-mine/folder/a.wav", "other/a.wav"));
+    EXPECT_FALSE(fs::exists(inbox / "tavi-import-killed"));
+}
+
+}  // namespace tavi::test
