@@ -114,9 +114,9 @@ int DurableFile::synchronize() {
     return m_file.isValid() && ::fsync(m_file.get()) == 0 ? 0 : errno;
 }
 
-int DurableFile::publish() {
+int DurableFile::publish(Disk disk) {
     const bool replaces = m_existing == Existing::Replace;
-    int error = synchronize();
+    int error = disk == Disk::Wait ? synchronize() : 0;
     if (error == 0 && !replaces) {
         error = renameWithoutReplacing(m_temporary, m_path);
     } else if (error == 0 && ::rename(m_temporary.c_str(), m_path.c_str()) != 0) {
@@ -126,7 +126,7 @@ int DurableFile::publish() {
         return error;
     }
     m_temporary.clear();
-    error = synchronizeFolder(folderOf(m_path));
+    error = disk == Disk::Wait ? synchronizeFolder(folderOf(m_path)) : 0;
     if (replaces) {
         // What it has replaced is gone, and a power cut leaves one of the two: there is no way back and no loss.
         return 0;

@@ -23,6 +23,9 @@ void removeLeftovers(const std::filesystem::path& folder, std::time_t now);
 /// What becomes of a file that has the name already.
 enum class Existing { Keep, Replace };
 
+/// Whether a file waits for the disk before it has its name.
+enum class Disk { Wait, Later };
+
 /// A file that has its name only when all of it is on the disk.
 ///
 /// Until it is published it has a name of its own, in the folder "PrivateInbox" beside the one that it shall have, or
@@ -52,8 +55,9 @@ public:
     /// Brings all of it to the disk, which can take long. 0 or an errno value.
     int synchronize();
     /// Does that and gives it its name, in one step where it replaces a file. 0 or an errno value: EEXIST where the
-    /// name has been taken meanwhile. After a failure this file does not have that name. Once.
-    int publish();
+    /// name has been taken meanwhile. After a failure this file does not have that name. Once. With Disk::Later it is
+    /// whole for whoever reads it, and may be neither there nor whole after a power cut.
+    int publish(Disk disk = Disk::Wait);
 
 private:
     DurableFile() = default;

@@ -25,7 +25,7 @@ MODULES = {
     "library/utility": ["files"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": ["files"],
-    "watch": [],
+    "watch": ["files"],
     "passcode": ["app/settings"],
     "support": ["app/settings"],
     "ui": [],

@@ -85,12 +85,16 @@ public:
                                                                      : failure(QStringLiteral("damaged"));
     }
     Result<QByteArray> archivedDataWithRootObject(const QVariant& value) const override {
-        return written(QVariantMap{{QStringLiteral("$archiver"), value}});
+        return value.typeId() == QMetaType::VoidStar
+                   ? failure(QStringLiteral("no value"))
+                   : Result<QByteArray>(
+                         written(QVariantMap{{QStringLiteral("$archiver"), {}}, {QStringLiteral("root"), value}}));
     }
     Result<QVariant> unarchiveObjectWithData(const QByteArray& data) const override {
         const auto list = propertyListWithData(data);
-        const QVariant value = list ? list->toMap().value(QStringLiteral("$archiver")) : QVariant();
-        return isArchivable(value) ? Result<QVariant>(value) : failure(QStringLiteral("no archive"));
+        const QVariantMap root = list ? list->toMap() : QVariantMap();
+        return root.contains(QStringLiteral("root")) ? Result<QVariant>(root.last())
+                                                     : failure(QStringLiteral("no archive"));
     }
 
 private:
