@@ -37,6 +37,7 @@ public:
     CountingWriter(std::unique_ptr<tavi::AudioFileWriter> writer, std::atomic<std::int64_t>& written)
         : m_writer(std::move(writer)), m_written(written) {}
 
+    double secondsHeld() const override { return m_writer->secondsHeld(); }
     tavi::Result<void> setInputFormat(const tavi::AudioInputFormat& format) override {
         return m_writer->setInputFormat(format);
     }

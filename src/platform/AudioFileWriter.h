@@ -15,6 +15,8 @@ class AudioFileWriter {
 public:
     virtual ~AudioFileWriter() = default;
 
+    /// The most seconds of sound that the codec keeps to itself after flush(). Any thread.
+    virtual double secondsHeld() const = 0;
     /// Tells what write() is given; once, before the first write.
     virtual Result<void> setInputFormat(const AudioInputFormat& format) = 0;
     /// Appends frames in the input format. After a failure, here or in the next two, nothing more is taken, but

@@ -11,13 +11,17 @@ namespace {
 
 /// How long the encoder or the disk may stall before sound is lost.
 constexpr int kSecondsBuffered = 10;
-/// Seldom wake-ups save power, but what waits is lost by a kill: with a packet of the codec's no more than half a
-/// second.
-constexpr std::int64_t kMillisecondsWaiting = 400;
-constexpr std::int64_t kMillisecondsAtFirst = 300;
+/// Seldom wake-ups save power, but what waits is lost by a kill: with what the encoder holds no more than this.
+constexpr double kSecondsAtStake = 0.49;
+constexpr double kLongestWait = 0.4;
+constexpr double kShortestWait = 0.1;
+constexpr double kFirstWait = 0.3;
 constexpr std::int32_t kSmallRingBytes = 4096;
 
 }  // namespace
+
+CaptureBuffer::CaptureBuffer(double secondsHeld)
+    : m_secondsWaiting(std::clamp(kSecondsAtStake - secondsHeld, kShortestWait, kLongestWait)) {}
 
 CaptureBuffer::~CaptureBuffer() {
     TPCircularBufferCleanup(&m_sound);
@@ -70,8 +74,11 @@ void CaptureBuffer::audioInputDidCapture(const float* interleaved, std::size_t f
     const std::int64_t captured = m_framesCaptured.fetch_add(count, std::memory_order_relaxed) + count;
     // The next fragment is likely to be as long as this one.
     if (captured + count > m_wakeBefore) {
-        const std::int64_t first = m_format.sampleRate * kMillisecondsAtFirst / 1000;
-        m_wakeBefore = captured < first ? first : captured + m_format.sampleRate * kMillisecondsWaiting / 1000;
+        const auto framesOf = [this](double seconds) {
+            return static_cast<std::int64_t>(m_format.sampleRate * seconds);
+        };
+        const std::int64_t first = framesOf(std::min(kFirstWait, m_secondsWaiting));
+        m_wakeBefore = captured < first ? first : captured + framesOf(m_secondsWaiting);
         wake();
     }
 }

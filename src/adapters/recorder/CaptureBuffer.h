@@ -28,7 +28,8 @@ public:
         std::size_t frames = 0;
     };
 
-    CaptureBuffer() = default;
+    /// The encoder keeps up to so many seconds of sound to itself.
+    explicit CaptureBuffer(double secondsHeld);
     ~CaptureBuffer() override;
     CaptureBuffer(const CaptureBuffer&) = delete;
     CaptureBuffer& operator=(const CaptureBuffer&) = delete;
@@ -55,8 +56,8 @@ public:
     std::int64_t framesCaptured() const { return m_framesCaptured.load(std::memory_order_relaxed); }
 
     // Encoder thread.
-    /// Sleeps until there is sound to write: the first of it, that of 0.3 s, then of every 0.4 s, and at a pause; or
-    /// until the end, or wake().
+    /// Sleeps until there is sound to write: the first of it, that of 0.3 s, then of every 0.4 s, more often where the
+    /// encoder holds much, and at a pause; or until the end, or wake().
     void wait() { m_wake.acquire(); }
     /// Whether nothing more will come. What waits after this has been true is all there is.
     bool isEnded() const { return m_ended.load(std::memory_order_acquire); }
@@ -75,6 +76,7 @@ public:
 private:
     std::size_t bytesPerFrame() const { return sizeof(float) * static_cast<std::size_t>(m_format.channels); }
 
+    const double m_secondsWaiting;
     AudioInputFormat m_format;
     std::atomic<bool> m_isOpen = false;
     TPCircularBuffer m_sound;

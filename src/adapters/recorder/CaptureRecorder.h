@@ -55,7 +55,7 @@ private:
     RunLoop& m_runLoop;
     AudioRecorderDelegate* m_delegate = nullptr;
     std::unique_ptr<AudioFileWriter> m_writer;
-    CaptureBuffer m_buffer;
+    CaptureBuffer m_buffer{m_writer->secondsHeld()};
     std::unique_ptr<AudioInput> m_input;
     bool m_isRunning = false;
     bool m_isStopped = false;

@@ -25,6 +25,7 @@ public:
     FfmpegAudioFileWriter(const FfmpegAudioFileWriter&) = delete;
     FfmpegAudioFileWriter& operator=(const FfmpegAudioFileWriter&) = delete;
 
+    double secondsHeld() const override { return static_cast<double>(m_encoder.framesHeld()) / m_format.sampleRate; }
     Result<void> setInputFormat(const AudioInputFormat& format) override;
     Result<void> write(const float* interleaved, std::size_t frames) override;
     Result<void> flush() override;

@@ -12,6 +12,9 @@ public:
     static Result<RecordingEncoder> create(const RecordingFormat& format);
 
     const AVCodecContext& context() const { return *m_context; }
+    /// The most frames that it holds back. AAC: a packet that is not full, one that the encoder looks ahead to, and one
+    /// that a decoder gives back only with the next.
+    int framesHeld() const { return m_format.codec == AV_CODEC_ID_AAC ? 3 * m_frameSize : m_frameSize; }
     /// How many frames have been taken.
     std::int64_t frames() const { return m_encoded + m_filled; }
     /// Where the next of them go, one pointer a plane, and how many fit.

@@ -22,12 +22,15 @@ constexpr std::size_t kRamp = 240;
 /// A recorder, what its writer is given, and what its delegate is told.
 class Recording : public AudioRecorderDelegate {
 public:
-    Recording(FakeAudioInputs& inputs, RunLoop& runLoop)
-        : recorder(std::make_unique<CaptureRecorder>(inputs, std::make_unique<Writer>(*this), runLoop)) {
+    Recording(FakeAudioInputs& inputs, RunLoop& runLoop, double secondsHeld = 0.1)
+        : held(secondsHeld),
+          recorder(std::make_unique<CaptureRecorder>(inputs, std::make_unique<Writer>(*this), runLoop)) {
         recorder->setDelegate(this);
         recorder->setMeteringEnabled(true);
     }
 
+    /// Seconds of sound that the codec keeps to itself.
+    double held;
     /// The errors that it ended with, empty for none.
     std::vector<QString> ends;
     /// Held by a test to make the disk stall.
@@ -46,6 +49,7 @@ public:
 private:
     struct Writer : AudioFileWriter {
         explicit Writer(Recording& owner) : recording(owner) {}
+        double secondsHeld() const override { return recording.held; }
         Result<void> setInputFormat(const AudioInputFormat&) override { return {}; }
         Result<void> write(const float* mono, std::size_t frames) override {
             const std::lock_guard lock(recording.disk);
@@ -137,12 +141,15 @@ TEST_F(CaptureRecorderTest, KeepsEveryFrameOfTheRunningTimeAndJoinsPausesWithout
 }
 
 TEST_F(CaptureRecorderTest, WhatAKillCouldTakeIsWrittenSoonAndAtOnceAtAPause) {
-    for (const std::size_t fragment : {2400U, 3840U, 4800U}) {
-        Recording other(inputs, runLoop);
+    const std::tuple<std::size_t, double, std::size_t> cases[] = {
+        {2400, 0.0, 400}, {3840, 0.1, 390}, {4800, 0.2, 290}, {2400, 0.384, 106}, {4800, 0.5, 100}};
+    for (const auto& [fragment, held, milliseconds] : cases) {
+        Recording other(inputs, runLoop, held);
         other.recorder->record();
         for (std::size_t captured = fragment; captured < 5U * kRate; captured += fragment) {
             deliver(0.5F, fragment);
-            const std::size_t waiting = captured < kRate * 3 / 10 ? kRate * 3 / 10 : kRate * 4 / 10;
+            const std::size_t waiting =
+                kRate / 1000 * (captured < kRate * 3 / 10 ? std::min<std::size_t>(300, milliseconds) : milliseconds);
             ASSERT_TRUE(becomes([&] { return other.framesKept + kRamp + waiting >= captured + fragment; })) << captured;
         }
         deliver(0.5F, 100);
@@ -254,7 +261,7 @@ TEST_F(CaptureRecorderTest, MetersThePowerOfWhatArrivedSinceTheLastUpdate) {
 
 TEST(CaptureBuffer, TheEndThatIsSeenIsTheEndThatStays) {
     for (int round = 0; round < 3000; ++round) {
-        CaptureBuffer buffer;
+        CaptureBuffer buffer(0.0);
         std::optional<Error> seen;
         std::thread encoder([&] {
             while (!buffer.isEnded()) {
