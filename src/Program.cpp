@@ -14,6 +14,7 @@
 #include <optional>
 #include <thread>
 
+#include "Cloud.h"
 #include "DisplayGuard.h"
 #include "LastMoment.h"
 #include "Output.h"
@@ -43,7 +44,6 @@
 #include "adapters/secret/SystemKeychain.h"
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
-#include "cloud/NoCloud.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingExport.h"
 #include "library/RecordingImport.h"
@@ -150,8 +150,8 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
-    NoCloud cloud{platform.runLoop};
-    RecordingCloud recordingCloud{{.documents = cloud,
+    Cloud cloud{platform.container, platform.settings.standard, platform.runLoop, platform.notifications};
+    RecordingCloud recordingCloud{{.documents = cloud.documents,
                                    .settings = platform.settings.store,
                                    .presenter = platform.presenter,
                                    .runLoop = platform.runLoop}};
@@ -222,7 +222,7 @@ struct Screens {
                          .remoteControl = platform.remoteControl,
                          .trimmers = trimmers,
                          .notices = platform.notices,
-                         .cloud = cloud},
+                         .cloud = cloud.documents},
                         table,
                         player};
     SettingVC settings{{.settings = platform.settings.store,

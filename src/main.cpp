@@ -11,12 +11,14 @@
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/folder/FolderListing.h"
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtAppContainer.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "app/cli/CommandLine.h"
 #include "app/cli/OpenFiles.h"
+#include "files/FileError.h"
 #include "ui/Texts.h"
 
 namespace tavi {
@@ -85,16 +87,21 @@ int runPrinting(int& argc, char** argv, const PrintingCommand& command, const QS
     NotificationCenter notifications;
     QObject::connect(&notifications, &NotificationCenter::posted, &notifications,
                      [&busName] { tellOfChange(QDBusConnection::sessionBus(), busName); });
-    const auto output = command({.container = container,
-                                 .suites = {.standard = settings.standard, .shared = settings.shared},
-                                 .runLoop = runLoop,
-                                 .durations = media,
-                                 .files = media,
-                                 .converters = media,
-                                 .exports = media,
-                                 .repair = media,
-                                 .refreshes = refreshes,
-                                 .notifications = notifications});
+    const auto output =
+        command({.container = container,
+                 .suites = {.standard = settings.standard, .shared = settings.shared},
+                 .runLoop = runLoop,
+                 .durations = media,
+                 .files = media,
+                 .converters = media,
+                 .exports = media,
+                 .repair = media,
+                 .refreshes = refreshes,
+                 .notifications = notifications,
+                 .markCloudFolder = [](const std::filesystem::path& folder) -> Result<void> {
+                     const int error = markContainer(folder);
+                     return error == 0 ? Result<void>() : failure(QString::fromStdString(writeErrorText(error)));
+                 }});
     if (!output) {
         return reportFailure(output.error());
     }

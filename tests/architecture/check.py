@@ -20,8 +20,8 @@ MODULES = {
     "API/AudioTrimmerController/EZAudio": [],
     "app/settings": ["files"],
     "app/cli": [
-        "library", "recording", "trimming", "trimming/waves", "trimming/waves/qml", "API/AudioTrimmerController/EZAudio",
-        "app/settings", "files", "library/utility"],
+        "cloud", "library", "recording", "trimming", "trimming/waves", "trimming/waves/qml",
+        "API/AudioTrimmerController/EZAudio", "app/settings", "files", "library/utility"],
     "library/utility": ["files"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": ["files"],

@@ -167,8 +167,8 @@ private:
 
     private:
         void end(int state, bool succeeds, Completion completion) {
-            m_state = state;
-            m_observer ? m_observer() : void();
+            const bool isNew = std::exchange(m_state, state) != state;
+            isNew&& m_observer ? m_observer() : void();
             succeeds ? void() : m_client.handleError({QStringLiteral("refused")});
             m_cloud.finish(std::move(completion), succeeds);
         }

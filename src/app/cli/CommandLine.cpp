@@ -8,6 +8,7 @@
 #include <memory>
 #include <utility>
 
+#include "app/cli/Cloud.h"
 #include "app/cli/Get.h"
 #include "app/cli/Import.h"
 #include "app/cli/List.h"
@@ -79,13 +80,18 @@ private:
     void addRequest(const char* name, const char* summary, const ProgramRequest& request);
     /// The command's words and options go into what it returns; the library fills them in before the command runs.
     template <class Options>
-    std::pair<CLI::App*, std::shared_ptr<Options>> addPrinting(const char* name, const char* summary);
+    std::pair<CLI::App*, std::shared_ptr<Options>> addPrinting(const char* name, const char* summary) {
+        return addPrinting<Options>(m_app, name, summary);
+    }
+    template <class Options>
+    std::pair<CLI::App*, std::shared_ptr<Options>> addPrinting(CLI::App& parent, const char* name, const char* summary);
     void addGet();
     void addSet();
     void addList();
     void addWaveform();
     void addTrim();
     void addImport();
+    void addCloud();
     Result<CommandLine> finish();
 
     CLI::App m_app{"Record sound from the microphone, and look after the recordings.\n", "tavi"};
@@ -148,8 +154,12 @@ Grammar::Grammar() {
     addImport();
     addWaveform();
     addTrim();
+    addCloud();
     for (CLI::App* command : m_app.get_subcommands({})) {
         command->footer(std::string());
+        for (CLI::App* word : command->get_subcommands({})) {
+            word->footer(std::string());
+        }
     }
 }
 
@@ -160,9 +170,11 @@ void Grammar::addRequest(const char* name, const char* summary, const ProgramReq
 }
 
 template <class Options>
-std::pair<CLI::App*, std::shared_ptr<Options>> Grammar::addPrinting(const char* name, const char* summary) {
+std::pair<CLI::App*, std::shared_ptr<Options>> Grammar::addPrinting(CLI::App& parent, const char* name,
+                                                                    const char* summary) {
     const auto options = std::make_shared<Options>();
-    CLI::App* command = m_app.add_subcommand(name, summary)->group("Commands that print and end");
+    CLI::App* command = parent.add_subcommand(name, summary);
+    command->group("Commands that print and end");
     command->callback([this, options] {
         m_line.command =
             PrintingCommand([options](const CommandServices& services) { return outputOf(run(*options, services)); });
@@ -212,6 +224,17 @@ void Grammar::addTrim() {
 void Grammar::addImport() {
     const auto [command, options] = addPrinting<ImportOptions>("import", "copy sound files among the recordings");
     command->add_option("FILE", options->files, "the sound files")->required();
+}
+
+void Grammar::addCloud() {
+    CLI::App* cloud = m_app.add_subcommand("cloud", "say where the cloud is, and ask about it");
+    cloud->group("Commands that print and end")->require_subcommand(1);
+    const auto [connect, place] =
+        addPrinting<CloudConnectOptions>(*cloud, "connect", "keep recordings in a folder that another program syncs");
+    connect->add_option("FOLDER", place->place, "the folder")->required();
+    addPrinting<CloudDisconnectOptions>(*cloud, "disconnect", "keep recordings on this machine only");
+    const auto [status, how] = addPrinting<CloudStatusOptions>(*cloud, "status", "print where the cloud is");
+    status->add_flag("--json", how->json, "as JSON");
 }
 
 Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {

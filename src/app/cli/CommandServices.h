@@ -54,6 +54,8 @@ struct CommandServices {
     DisplayRefreshes& refreshes;
     /// Has the running program hear that the recordings have changed.
     NotificationCenter& notifications;
+    /// Makes a folder that exists the cloud's.
+    std::function<Result<void>(const std::filesystem::path&)> markCloudFolder;
 };
 
 }  // namespace tavi

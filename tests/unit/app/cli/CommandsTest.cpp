@@ -36,7 +36,11 @@ protected:
                                                               .exports = assets,
                                                               .repair = repair,
                                                               .refreshes = refreshes,
-                                                              .notifications = notifications});
+                                                              .notifications = notifications,
+                                                              .markCloudFolder = [this](const auto& folder) {
+                                                                  marked.push_back(folder);
+                                                                  return Result<void>();
+                                                              }});
         });
         if (!printed) {
             return "! " + printed.error().text.toStdString();
@@ -66,9 +70,25 @@ protected:
 
     FakeUserDefaults shared;
     FakeAudioFileRepair repair;
+    std::vector<std::filesystem::path> marked;
 };
 
 }  // namespace
+
+TEST_F(CommandsTest, TheCloudIsAFolderThatExists) {
+    const std::filesystem::path folder = std::filesystem::canonical(container.cachesPath());
+    expectSaid({{"cloud|status", "no cloud\n"}, {"cloud|connect|/nowhere", "! no folder: /nowhere"}});
+    EXPECT_TRUE(marked.empty());
+    const QByteArray connect = "cloud|connect|" + QByteArray::fromStdString(folder.native());
+    expectSaid({{connect, folder.native() + '\n'},
+                {"get|Iclound", "false\n"},
+                {"set|Iclound|YES", ""},
+                {"cloud|status", folder.native() + " (off)\n"},
+                {"cloud|status|--json", "{\"on\":false,\"place\":\"" + folder.native() + "\"}\n"},
+                {"cloud|disconnect", "no cloud\n"}});
+    EXPECT_EQ(marked, std::vector{folder});
+    EXPECT_TRUE(existsAt(folder)) << "what is in it stays";
+}
 
 TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
     const std::string noSeconds = " is a number of seconds from 0 to 60, not “";
