@@ -86,7 +86,12 @@ void RecordingSharing::copyToClipboard(const std::vector<std::filesystem::path>&
     std::copy_if(paths.begin(), paths.end(), std::back_inserter(files),
                  [](const auto& path) { return kindAt(path) == Kind::File; });
     if (!files.empty()) {
-        m_services.pasteboard.setMimeData(mimeData(files));
+        auto data = std::make_unique<QMimeData>();
+        const QVariantMap all = formats(files);
+        for (auto format = all.begin(); format != all.end(); ++format) {
+            data->setData(format.key(), format.value().toByteArray());
+        }
+        m_services.pasteboard.setMimeData(std::move(data));
         m_services.notices.postNotice({files.size() == 1
                                            ? qtTrId("share_copied").arg(pathText(files.front().filename()))
                                            : qtTrId("share_copied_many").arg(files.size())});
@@ -95,7 +100,7 @@ void RecordingSharing::copyToClipboard(const std::vector<std::filesystem::path>&
     }
 }
 
-std::unique_ptr<QMimeData> RecordingSharing::mimeData(const std::vector<std::filesystem::path>& paths) {
+QVariantMap RecordingSharing::formats(const std::vector<std::filesystem::path>& paths) {
     QByteArray lines;
     QByteArray copied("copy");
     for (const std::filesystem::path& path : paths) {
@@ -103,13 +108,10 @@ std::unique_ptr<QMimeData> RecordingSharing::mimeData(const std::vector<std::fil
         lines += uri + "\r\n";
         copied += '\n' + uri;
     }
-    auto data = std::make_unique<QMimeData>();
-    // RFC 2483, section 5.
-    data->setData(QStringLiteral("text/uri-list"), lines);
-    // What file managers of desktops read: whether to copy or to move.
-    data->setData(QStringLiteral("x-special/gnome-copied-files"), copied);
-    data->setData(QStringLiteral("application/x-kde-cutselection"), "0");
-    return data;
+    // RFC 2483, section 5; and what file managers of desktops read: whether to copy or to move.
+    return {{QStringLiteral("text/uri-list"), lines},
+            {QStringLiteral("x-special/gnome-copied-files"), copied},
+            {QStringLiteral("application/x-kde-cutselection"), QByteArray("0")}};
 }
 
 void RecordingSharing::documentPickerDidPickDocumentAtURL(DocumentPickerMode mode, const std::filesystem::path& path) {

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QMimeData>
 #include <QObject>
 #include <QRectF>
+#include <QVariantMap>
 #include <filesystem>
-#include <memory>
 #include <vector>
 
 #include "library/RecordingExport.h"
@@ -51,8 +50,9 @@ public:
     /// Puts the files on the clipboard, for pasting in a file manager. Those that have gone are left out.
     void copyToClipboard(const std::vector<std::filesystem::path>& paths);
 
-    /// Files as other programs take them from the clipboard and in a drag: to be copied, never to be moved.
-    static std::unique_ptr<QMimeData> mimeData(const std::vector<std::filesystem::path>& paths);
+    /// Files as other programs take them from the clipboard and in a drag, by the names of the formats: to be copied,
+    /// never to be moved. The values are bytes in ASCII.
+    static QVariantMap formats(const std::vector<std::filesystem::path>& paths);
 
     /// Says that the mail is sent, where that is known, and that it could not be handed over.
     void mailComposeControllerDidFinishWithResult(const std::filesystem::path& path,

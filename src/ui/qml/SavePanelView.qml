@@ -226,7 +226,7 @@ FocusScope {
 
             anchors.right: parent.right
             anchors.rightMargin: Theme.margin
-            y: parent.height - height - (view.low ? 0 : Theme.gapWide)
+            y: parent.height - height - (view.low ? Theme.gap : Theme.gapWide)
             spacing: Theme.gap
 
             TButton {
