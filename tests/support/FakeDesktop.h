@@ -98,7 +98,7 @@ public:
         return m_sleepDelay.isValid() && ::poll(&end, 1, 0) == 0;
     }
     /// What was said to the login manager when its delay was asked for.
-    QStringList sleepInhibitor;
+    QString sleepInhibitor;
 
     /// Whether the login session's lock has been asked for, by one who listens to its signals.
     bool isWatched = false;
@@ -186,7 +186,8 @@ private:
                 return std::nullopt;
             }
             m_sleepDelay = FileDescriptor(ends[0]);
-            sleepInhibitor = QStringList{in.at(0).toString(), in.at(2).toString(), in.at(3).toString()};
+            sleepInhibitor =
+                in.at(0).toString() + QLatin1Char(' ') + in.at(2).toString() + QLatin1Char(' ') + in.at(3).toString();
             const FileDescriptor theirs(ends[1]);
             return QVariantList{QVariant::fromValue(QDBusUnixFileDescriptor(theirs.get()))};
         }

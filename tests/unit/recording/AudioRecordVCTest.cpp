@@ -330,13 +330,26 @@ TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
         }
         return texts.join(QLatin1Char(' ')).toStdString();
     };
+    const auto sleepFor = [this](double seconds) { Q_EMIT recording.systemSleep.hasWoken(seconds); };
+    Q_EMIT recording.systemSleep.willSleep(nullptr);
+    sleepFor(60.0);
     tapRecord();
     EXPECT_EQ(said(2.5, 100), "");
     EXPECT_EQ(said(0.8, 100), "");
+    auto delay = std::make_shared<int>();
+    const std::weak_ptr<int> isDelayed = delay;
+    Q_EMIT recording.systemSleep.willSleep(std::exchange(delay, nullptr));
+    EXPECT_FALSE(isDelayed.expired()) << "asleep before all is on the disk";
+    sleepFor(0.2);
+    EXPECT_EQ(said(2.5, 100), "") << "no time to wake";
+    EXPECT_TRUE(isDelayed.expired());
+    sleepFor(60.0);
+    EXPECT_EQ(said(2.5, 100), "record_slept");
     EXPECT_EQ(said(1.0, 0), "microphone_stopped");
-    EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:04")) << "the clock goes on";
+    EXPECT_EQ(screen.lblTimer().text, QStringLiteral("00:00:09")) << "the clock goes on";
     EXPECT_EQ(said(9.0, 100), "microphone_back");
     tapRecord();
+    sleepFor(60.0);
     EXPECT_EQ(said(5.0, 0), "") << "nothing is missed in a pause";
     tapRecord();
     recorders.last()->input = QStringLiteral("Headset");
@@ -348,71 +361,43 @@ TEST_F(AudioRecordVCTest, TheMicrophoneIsNamedAndChosenAndKeptUntilItIsAbsent) {
     const AudioSessionPort desk{QStringLiteral("desk"), QStringLiteral("Desk")};
     const AudioSessionPort headset{QStringLiteral("head"), QStringLiteral("Headset")};
     MicrophoneChoice& microphone = *screen.microphone();
-    QString told;
-    QObject::connect(&microphone, &MicrophoneChoice::nameChanged, &notifications, [&] { told = microphone.name(); });
-    const auto plug = [&](const std::vector<AudioSessionPort>& ports) {
-        session.setInputs(ports);
+    std::string told;
+    QObject::connect(&microphone, &MicrophoneChoice::nameChanged, &notifications,
+                     [&] { told = microphone.name().toStdString(); });
+    // What is there once the sheet is open, the sheet, the choice that is taken, the name, and whether it is another.
+    const struct {
+        std::vector<AudioSessionPort> there;
+        const char* sheet;
+        int taken;
+        const char* name;
+        bool isAbsent;
+    } cases[] = {{{headset, desk}, "*microphone_default Headset Desk Cancel", 2, "Desk", false},
+                 {{headset}, "*microphone_default Headset Cancel", 2, "Headset", true},
+                 {{headset, desk}, "microphone_default Headset *Desk Cancel", 3, "Desk", false},
+                 {{headset, desk}, "microphone_default Headset *Desk Cancel", 0, "Headset", false}};
+    for (const auto& row : cases) {
+        microphone.choose();
+        session.setInputs(row.there);
         runLoop.drain();
-    };
-    const auto sheet = [this] {
         QStringList titles;
         for (const AlertAction& action : presenter.sheets.back().actions) {
-            titles.append((action.isChosen.value_or(false) ? QStringLiteral("*") : QString()) + action.title);
+            titles.append(QLatin1String(action.isChosen.value_or(false) ? "*" : "") + action.title);
         }
-        return titles.join(QLatin1Char(' ')).toStdString();
-    };
-    microphone.choose();
-    EXPECT_EQ(sheet(), "*microphone_default Desk Cancel");
-    plug({headset, desk});
-    EXPECT_EQ(sheet(), "*microphone_default Headset Desk Cancel") << "it came while the sheet was open";
-    EXPECT_EQ(told, QStringLiteral("Headset"));
-    presenter.sheets.back().actions[2].handler();
-    EXPECT_EQ(told, QStringLiteral("Desk"));
-    for (const bool isThere : {true, false, true}) {
-        plug(isThere ? std::vector{headset, desk} : std::vector{headset});
-        microphone.choose();
-        EXPECT_EQ(sheet(), isThere ? "microphone_default Headset *Desk Cancel" : "*microphone_default Headset Cancel");
+        EXPECT_EQ(titles.join(QLatin1Char(' ')).toStdString(), row.sheet);
+        const auto choose = presenter.sheets.back().actions[static_cast<std::size_t>(row.taken)].handler;
+        choose ? choose() : void();
         // As in another run of the program.
         session.preferredInput.clear();
         notices.posted.clear();
         tapRecord();
-        EXPECT_EQ(session.preferredInput, QStringLiteral("desk"));
-        EXPECT_EQ(notices.posted.size(), isThere ? 0U : 1U);
-        EXPECT_TRUE(isThere || notices.posted[0].text == QLatin1String("microphone_absent"));
+        EXPECT_EQ(session.currentInput().portName, QLatin1String(row.name));
+        EXPECT_EQ(notices.posted.size(), row.isAbsent ? 1U : 0U);
         recorders.last()->input = QStringLiteral("Other");
         runLoop.advance(0.1);
-        EXPECT_EQ(told, QStringLiteral("Other")) << "the system has put the recording on another";
+        EXPECT_EQ(told, "Other") << "the system has put the recording there";
         tapStop();
-        EXPECT_EQ(told, isThere ? QStringLiteral("Desk") : QStringLiteral("Headset"));
+        EXPECT_EQ(told, row.name);
         runLoop.advance(1.0);
-    }
-    microphone.choose();
-    presenter.sheets.back().actions[0].handler();
-    EXPECT_EQ(told, QStringLiteral("Headset"));
-}
-
-TEST_F(AudioRecordVCTest, TheMachineSleepsOnceTheRecordingIsOnTheDiskAndTheGapIsSaid) {
-    const struct {
-        char state;
-        bool waits;
-        double asleep;
-        std::size_t notices;
-    } cases[] = {{'I', false, 60.0, 0}, {'R', true, 0.2, 0}, {'R', true, 3725.0, 1}, {'P', true, 60.0, 0}};
-    for (const auto& row : cases) {
-        reach(row.state);
-        notices.posted.clear();
-        auto delay = std::make_shared<int>();
-        const std::weak_ptr<int> isDelayed = delay;
-        Q_EMIT recording.systemSleep.willSleep(std::exchange(delay, nullptr));
-        EXPECT_EQ(!isDelayed.expired(), row.waits) << row.state;
-        runLoop.holdBackground(false);
-        runLoop.drain();
-        EXPECT_TRUE(isDelayed.expired());
-        Q_EMIT recording.systemSleep.hasWoken(row.asleep);
-        runLoop.advance(2.9);
-        EXPECT_EQ(notices.posted.size(), row.notices) << row.state << " is not given time to wake";
-        tapStop();
-        finishSaving();
     }
 }
 

@@ -153,15 +153,20 @@ TEST_F(CaptureRecorderTest, WhatAKillCouldTakeIsWrittenSoonAndAtOnceAtAPause) {
             ASSERT_TRUE(becomes([&] { return other.framesKept + kRamp + waiting >= captured + fragment; })) << captured;
         }
         deliver(0.5F, 100);
-        auto until = std::make_shared<int>();
-        const std::weak_ptr<int> isAwaited = until;
-        other.recorder->bringToDisk(std::move(until));
-        ASSERT_TRUE(becomes([&] { return isAwaited.expired(); }));
+        const auto isBroughtToDisk = [&] {
+            auto until = std::make_shared<int>();
+            const std::weak_ptr<int> isAwaited = until;
+            other.recorder->bringToDisk(std::move(until));
+            return becomes([&] { return isAwaited.expired(); });
+        };
+        ASSERT_TRUE(isBroughtToDisk());
         EXPECT_EQ(other.framesSynced, static_cast<std::size_t>(other.recorder->framesRecorded()) - kRamp);
         deliver(0.5F, 100);
         const auto captured = static_cast<std::size_t>(other.recorder->framesRecorded());
         other.recorder->pause();
         EXPECT_TRUE(becomes([&] { return other.pauses == 1 && other.framesKept == captured - kRamp; }));
+        other.recorder->waitUntilFinished();
+        EXPECT_TRUE(isBroughtToDisk()) << "nothing is left to write";
     }
 }
 
