@@ -19,10 +19,12 @@ Window {
     required property JHUD hudView
     required property SavePanel savePanel
     required property AudioTrimmerStage trimmers
+    required property AudioTrimStage audioTrims
     /// Fades take the place of movements.
     property bool reducedMotion: false
+    readonly property bool trimming: trimmer.shown || audioTrim.shown
     /// Something covers the screens and takes the keys.
-    readonly property bool covered: presenter.active || trimmer.shown || shortcuts.shown || savePanel.active || hudView.shown
+    readonly property bool covered: presenter.active || trimming || shortcuts.shown || savePanel.active || hudView.shown
 
     /// The least width and height that the screens are laid out for.
     readonly property int leastSide: 280
@@ -71,6 +73,8 @@ Window {
     }
     onActiveFocusItemChanged: Qt.callLater(keepFocus)
     onCoveredChanged: focusScreen()
+    // Whoever has gone on to trim has seen what was said before.
+    onTrimmingChanged: if (trimming) notices.dismiss()
     Component.onCompleted: {
         started = true
         appear()
@@ -165,7 +169,7 @@ Window {
             Accessible.role: Accessible.Grouping
             focus: true
             // What is behind the trimmer is out of the keyboard's reach.
-            enabled: !trimmer.shown && !shortcuts.shown && !window.savePanel.active
+            enabled: !window.trimming && !shortcuts.shown && !window.savePanel.active
             // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
             Keys.onSpacePressed: event => {
                 if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
@@ -251,8 +255,14 @@ Window {
             id: trimmer
 
             stage: window.trimmers
-            // Whoever has gone on to trim has seen what was said before.
-            onShownChanged: if (shown) window.notices.dismiss()
+            url: "qrc:/Tavi/Trimming/TrimmerScreen.qml"
+        }
+
+        TrimmerOverlay {
+            id: audioTrim
+
+            stage: window.audioTrims
+            url: "qrc:/Tavi/Trimming/AudioTrimScreen.qml"
         }
 
         NoticeBar {

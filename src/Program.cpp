@@ -37,6 +37,7 @@
 #include "adapters/pulse/PulseConnection.h"
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "adapters/qt/QtTrash.h"
 #include "adapters/qt/TerminationSignals.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "adapters/quick/QuickPasteboard.h"
@@ -131,6 +132,7 @@ struct Platform {
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;
+    QtTrash trash;
 };
 
 /// The screens, and what only they share. Wired by the members' names.
@@ -217,14 +219,33 @@ struct Screens {
                               .notices = platform.notices,
                               .runLoop = platform.runLoop,
                               .exporter = exporter}};
+    AudioTrimStage audioTrims{{.exports = platform.media,
+                               .readers = platform.media,
+                               .players = platform.audioPlayers,
+                               .settings = platform.settings.store,
+                               .container = platform.container,
+                               .presenter = platform.presenter,
+                               .notices = platform.notices,
+                               .runLoop = platform.runLoop,
+                               .cloud = cloud}};
+    RecordingActions actions{{.table = table,
+                              .settings = platform.settings.store,
+                              .cloud = cloud,
+                              .sharing = sharing,
+                              .trash = platform.trash,
+                              .trimmers = trimmers,
+                              .audioTrims = audioTrims,
+                              .presenter = platform.presenter,
+                              .notices = platform.notices,
+                              .runLoop = platform.runLoop}};
     VoiceMemoVC library{{.settings = platform.settings.store,
                          .notifications = platform.notifications,
                          .remoteControl = platform.remoteControl,
-                         .trimmers = trimmers,
                          .notices = platform.notices,
                          .cloud = cloud.documents},
                         table,
-                        player};
+                        player,
+                        actions};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,
                         .runLoop = platform.runLoop,
@@ -281,6 +302,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("hudView"), QVariant::fromValue(&screens.platform.hudView)},
                                  {QStringLiteral("savePanel"), QVariant::fromValue(&screens.platform.savePanel)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
+                                 {QStringLiteral("audioTrims"), QVariant::fromValue(&screens.audioTrims)},
                                  {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},
                                  {QStringLiteral("x"), place.x()},
                                  {QStringLiteral("y"), place.y()},

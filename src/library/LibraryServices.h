@@ -5,7 +5,6 @@
 #include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
-#include "trimming/AudioTrimmerStage.h"
 
 namespace tavi {
 
@@ -14,7 +13,6 @@ struct LibraryServices {
     SettingsStore& settings;
     NotificationCenter& notifications;
     RemoteControl& remoteControl;
-    AudioTrimmerStage& trimmers;
     Notices& notices;
     CloudDocuments& cloud;
 };

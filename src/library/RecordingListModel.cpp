@@ -49,11 +49,29 @@ void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) 
     const auto hasSameName = [](const RecordingEntry& left, const RecordingEntry& right) {
         return left.nativeName() == right.nativeName();
     };
-    if (!std::equal(entries.begin(), entries.end(), m_entries.begin(), m_entries.end(), hasSameName)) {
+    const auto firstOther =
+        std::mismatch(entries.begin(), entries.end(), m_entries.begin(), m_entries.end(), hasSameName);
+    const auto lastOther =
+        std::mismatch(entries.rbegin(), std::make_reverse_iterator(firstOther.first), m_entries.rbegin(),
+                      std::make_reverse_iterator(firstOther.second), hasSameName);
+    const auto row = static_cast<int>(firstOther.first - entries.begin());
+    const auto come = lastOther.first.base() - firstOther.first;
+    const auto gone = lastOther.second.base() - firstOther.second;
+    if (come > 1 || gone > 1) {
         beginResetModel();
         m_entries = entries;
         endResetModel();
         return;
+    }
+    // At one place there is one more row, one less, or another one.
+    if (gone > come) {
+        beginRemoveRows({}, row, row);
+        m_entries.erase(m_entries.begin() + row);
+        endRemoveRows();
+    } else if (come > gone) {
+        beginInsertRows({}, row, row);
+        m_entries.insert(m_entries.begin() + row, entries[static_cast<std::size_t>(row)]);
+        endInsertRows();
     }
     const auto [first, last] = std::mismatch(entries.begin(), entries.end(), m_entries.begin());
     if (first == entries.end()) {

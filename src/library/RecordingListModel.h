@@ -28,8 +28,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows these entries. Where their names are those already shown, it tells only which rows say something else, so
-    /// that the view stays where it was scrolled to.
+    /// Shows these entries. Where their names are those already shown, or all but one, it tells only which rows say
+    /// something else, so that the view stays where it was scrolled to.
     void setEntries(const std::vector<RecordingEntry>& entries);
 
 private:

@@ -20,10 +20,14 @@ std::filesystem::path existing(const std::filesystem::path& path) {
 
 }  // namespace
 
-VoiceMemoVC::VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, QObject* parent)
-    : QObject(parent), m_services(services), m_table(table), m_player(player) {
+VoiceMemoVC::VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player,
+                         RecordingActions& actions, QObject* parent)
+    : QObject(parent), m_services(services), m_table(table), m_player(player), m_actions(actions) {
     m_services.remoteControl.setDelegate(this);
     connect(&m_table, &RecordingTable::reloaded, this, &VoiceMemoVC::follow);
+    connect(&m_actions, &RecordingActions::stopRequested, this, &VoiceMemoVC::stopFile);
+    connect(&m_actions, &RecordingActions::reloadRequested, this, &VoiceMemoVC::reloadData);
+    connect(&m_actions, &RecordingActions::rowRevealed, this, &VoiceMemoVC::rowRevealed);
     connect(&m_player, &PlayerPanel::finished, this, &VoiceMemoVC::audioPlayerDidFinishPlaying);
 }
 
@@ -142,18 +146,10 @@ void VoiceMemoVC::spacePressed(int row) {
     }
 }
 
-void VoiceMemoVC::trimRow(int row) {
-    const std::filesystem::path path = existing(m_table.pathOf(0, row));
-    if (path.empty()) {
-        return;
-    }
-    if (m_isPlaying) {
+void VoiceMemoVC::stopFile(const std::filesystem::path& path) {
+    if (path.empty() || path == m_player.urlPath()) {
         stopAudio();
     }
-    const RecordingEntry& entry = *m_table.entryOf(0, row);
-    const QVariantMap data{{entrykey::kDuration, entry.value(entrykey::kDuration)}};
-    AudioTrimmerViewController::presentAudioTrimmerController(m_services.trimmers, this, path.native(), data,
-                                                              entry.nativeName(), {});
 }
 
 void VoiceMemoVC::stopAudio() {

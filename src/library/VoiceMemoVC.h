@@ -5,6 +5,7 @@
 
 #include "library/LibraryServices.h"
 #include "library/PlayerPanel.h"
+#include "library/RecordingActions.h"
 #include "library/RecordingTable.h"
 
 namespace tavi {
@@ -19,6 +20,7 @@ class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_PROPERTY(QString cloudHeaderText READ cloudHeaderText NOTIFY outletsChanged)
     Q_PROPERTY(tavi::RecordingTable* table READ table CONSTANT)
     Q_PROPERTY(tavi::PlayerPanel* player READ player CONSTANT)
+    Q_PROPERTY(tavi::RecordingActions* actions READ actions CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
     Q_PROPERTY(int selectRow READ selectRow NOTIFY selectionChanged)
     Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY selectionChanged)
@@ -33,7 +35,8 @@ public:
     static constexpr int kNoRow = 500;
 
     /// All of it must outlive the screen.
-    VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, QObject* parent = nullptr);
+    VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, RecordingActions& actions,
+                QObject* parent = nullptr);
     ~VoiceMemoVC() override;
 
     QString title() const { return m_title; }
@@ -42,6 +45,7 @@ public:
     QString cloudHeaderText() const { return m_cloudHeaderText; }
     RecordingTable* table() const { return &m_table; }
     PlayerPanel* player() const { return &m_player; }
+    RecordingActions* actions() const { return &m_actions; }
     /// Row of the expanded recording; -1 for none.
     int selectedIndex() const { return m_selectedIndex; }
     /// Row whose icon is highlighted.
@@ -69,8 +73,6 @@ public Q_SLOTS:
     void playRecording(const QString& fileName);
     /// The space bar: plays or pauses what is loaded; without, plays the recording of a row.
     void spacePressed(int row);
-    /// Opens the trimmer with a row's recording; what plays is stopped. The list hears of a new file by "DataUpdated".
-    void trimRow(int row);
     void stopAudio();
     void playerClose();
     /// Slides the player's panel in and out.
@@ -104,6 +106,7 @@ private:
     void select(int row);
     /// After a change of the list the rows are again those of the recordings that they were.
     void follow();
+    void stopFile(const std::filesystem::path& path);
     void showTrimmed(const std::filesystem::path& path);
 
     Services m_services;
@@ -112,6 +115,7 @@ private:
     QString m_cloudHeaderText;
     RecordingTable& m_table;
     PlayerPanel& m_player;
+    RecordingActions& m_actions;
     QString m_section;
     int m_selectedIndex = -1;
     /// The native name of the expanded recording.

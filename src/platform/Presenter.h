@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointF>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -17,6 +18,11 @@ struct AlertAction {
     std::function<void()> handler = {};
     /// For one of several choices of which one holds at present: whether it is this one.
     std::optional<bool> isChosen = {};
+    /// In the place of handler where the alert has a text field: is given what that holds.
+    std::function<void(const QString& text)> textHandler = {};
+    /// For a sheet: the name of an image of the shell, and the key that does the same, as the user reads it.
+    QString image = {};
+    QString shortcut = {};
 };
 
 /// A text with buttons, in the middle of the window or as a sheet at its lower edge.
@@ -24,6 +30,11 @@ struct Alert {
     QString title;
     QString message;
     std::vector<AlertAction> actions;
+    /// What the alert's one text field holds at first; nothing for an alert without one.
+    std::optional<QString> text = {};
+    /// Where in the window a sheet has been asked for. In a wide window it opens there, as a menu, and leaves out the
+    /// action of style Cancel.
+    std::optional<QPointF> anchor = {};
 };
 
 /// Shows alerts and sheets over whatever is on screen. Main thread only.

@@ -32,6 +32,8 @@ QVariantList AlertPresenter::actions() const {
         for (const AlertAction& action : m_queue.front().alert.actions) {
             list.append(QVariantMap{
                 {QStringLiteral("title"), action.title},
+                {QStringLiteral("image"), action.image},
+                {QStringLiteral("shortcut"), action.shortcut},
                 {QStringLiteral("cancel"), action.style == AlertAction::Style::Cancel},
                 {QStringLiteral("destructive"), action.style == AlertAction::Style::Destructive},
                 {QStringLiteral("choice"), action.isChosen.has_value()},
@@ -62,15 +64,17 @@ int AlertPresenter::defaultAction() const {
     return usual >= 0 ? usual : cancel;
 }
 
-void AlertPresenter::choose(int action) {
+void AlertPresenter::choose(int action, const QString& text) {
     if (!isActive() || action < 0 || action >= static_cast<int>(m_queue.front().alert.actions.size())) {
         return;
     }
-    const auto handler = std::move(m_queue.front().alert.actions[static_cast<std::size_t>(action)].handler);
+    const AlertAction chosen = std::move(m_queue.front().alert.actions[static_cast<std::size_t>(action)]);
     m_queue.pop_front();
     Q_EMIT frontChanged();
-    if (handler) {
-        handler();
+    if (chosen.textHandler) {
+        chosen.textHandler(text);
+    } else if (chosen.handler) {
+        chosen.handler();
     }
 }
 

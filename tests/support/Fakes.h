@@ -114,7 +114,9 @@ public:
 /// A trash in a folder of its own, where there is one.
 class FakeTrash : public Trash {
 public:
-    explicit FakeTrash(std::filesystem::path trashFolder) : folder(std::move(trashFolder)) {}
+    explicit FakeTrash(std::filesystem::path trashFolder) : folder(std::move(trashFolder)) {
+        std::filesystem::create_directories(folder);
+    }
 
     Result<std::filesystem::path> moveToTrash(const std::filesystem::path& path) override {
         return isThere ? moved(path, folder / path.filename()) : failure(QStringLiteral("no trash"));

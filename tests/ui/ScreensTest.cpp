@@ -126,17 +126,14 @@ const State kStates[] = {
     {"unplayable", 1, "This file cannot be played",
      [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
     {"found", 1, "", [](Shell& s) { showLibrary(s), s.table.setSearchText(QStringLiteral("1")); }},
-    {"notice", 1, "",
+    {"menu", 1, "Trim to M4A|Rename|Upload to a drive", [](Shell& s) { showLibrary(s), s.tap("more"); }},
+    {"rowSheet", 1, "Trim|!Trim to M4A",
+     [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_F10, Qt::ShiftModifier); }},
+    {"rename", 1, "Rename Recording", [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_F2); }},
+    {"delete", 1, "Delete Recording", [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_Delete); }},
+    {"undo", 1, "Undo",
      [](Shell& s) {
-         showLibrary(s);
-         s.notices.postNotice(
-             {QStringLiteral("The recording called “Interview” was deleted."), QStringLiteral("Undo"), {}});
-     }},
-    {"hud", 0, "Please wait|!Cancel", [](Shell& s) { s.hudView.show({QStringLiteral("Please wait")}); }},
-    {"hudBar", 1, "Exporting|40 %|Cancel",
-     [](Shell& s) {
-         s.hudView.show({QStringLiteral("Exporting"), Progress::HudType::Bar, [] {}});
-         s.hudView.setShare(0.4);
+         showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_Delete), s.presenter.choose(1), s.runLoop.advance(0.2);
      }},
     {"save", 1, "Export|Home|STICK|Talks 2|Folder above|Cancel",
      [](Shell& s) {
@@ -446,6 +443,22 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     shell.key(Qt::Key_Return);
     EXPECT_FALSE(shell.library.isPanelShown());
     EXPECT_TRUE(list->hasActiveFocus()) << "the keyboard is not lost with the player";
+
+    // A row's actions: a right click and arrow keys lead to a new name, which Enter gives; Enter alone deletes nothing.
+    shell.key(Qt::Key_Home);
+    shell.drag(*list->property("currentItem").value<QQuickItem*>(), 0.0, Qt::RightButton);
+    for (const int key : {Qt::Key_Return, Qt::Key_Down, Qt::Key_Return}) {
+        shell.key(key);
+    }
+    EXPECT_TRUE(shell.item("field")->hasActiveFocus());
+    shell.key(Qt::Key_A, Qt::NoModifier, QStringLiteral("A"));
+    for (const int key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Delete, Qt::Key_Return}) {
+        shell.key(key);
+    }
+    shell.runLoop.advance(0.2);
+    EXPECT_EQ(shell.table.rowOf(0, "A.m4a"),
+              list->property("currentItem").value<QQuickItem*>()->property("row").toInt());
+    EXPECT_FALSE(shell.presenter.isActive());
 
     shell.window->resize(390, 600);
     for (int recording = 0; recording < 2; ++recording) {

@@ -69,20 +69,20 @@ public:
         settle();
     }
 
-    void mouse(QEvent::Type type, const QPointF& at, bool isDown) const {
-        QMouseEvent event(type, at, window->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                          isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    void mouse(QEvent::Type type, const QPointF& at, bool isDown, Qt::MouseButton button = Qt::LeftButton) const {
+        QMouseEvent event(type, at, window->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
+                          isDown ? button : Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(window, &event);
     }
 
     /// The mouse goes down in the item's middle, moves to the right in steps, and comes up again.
-    void drag(const QQuickItem& item, double movement) const {
+    void drag(const QQuickItem& item, double movement, Qt::MouseButton button = Qt::LeftButton) const {
         const QPointF from = item.mapToScene(item.boundingRect().center());
-        mouse(QEvent::MouseButtonPress, from, true);
+        mouse(QEvent::MouseButtonPress, from, true, button);
         for (int step = 1; step <= 4 && movement != 0.0; ++step) {
-            mouse(QEvent::MouseMove, from + QPointF(movement * step / 4.0, 0.0), true);
+            mouse(QEvent::MouseMove, from + QPointF(movement * step / 4.0, 0.0), true, button);
         }
-        mouse(QEvent::MouseButtonRelease, from + QPointF(movement, 0.0), false);
+        mouse(QEvent::MouseButtonRelease, from + QPointF(movement, 0.0), false, button);
         settle();
     }
     void tap(const char* name) const { drag(*item(name), 0.0); }
@@ -152,7 +152,7 @@ struct ShellScreens : FakeServices {
     SavePanel savePanel{runLoop, container.root(), {container.root() / "Media"}};
     FakeRecording fakeRecording{*this, presenter, tabBar, notices};
     AudioRecordVC& recording = fakeRecording.vc;
-    FakeLibrary fakeLibrary{*this, durations, notices};
+    FakeLibrary fakeLibrary{*this, durations, presenter, notices};
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
@@ -181,7 +181,8 @@ public:
              {QStringLiteral("notices"), QVariant::fromValue(&notices)},
              {QStringLiteral("hudView"), QVariant::fromValue(&hudView)},
              {QStringLiteral("savePanel"), QVariant::fromValue(&savePanel)},
-             {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
+             {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)},
+             {QStringLiteral("audioTrims"), QVariant::fromValue(&fakeLibrary.audioTrims)}});
     }
 
     void startRecording() {

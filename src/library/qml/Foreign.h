@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "library/PlayerPanel.h"
+#include "library/RecordingActions.h"
 #include "library/RecordingImport.h"
 #include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
@@ -14,6 +15,13 @@ struct VoiceMemoVCForeign {
     QML_FOREIGN(tavi::VoiceMemoVC)
     QML_NAMED_ELEMENT(VoiceMemoVC)
     QML_UNCREATABLE("The program has one.")
+};
+
+struct RecordingActionsForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::RecordingActions)
+    QML_NAMED_ELEMENT(RecordingActions)
+    QML_UNCREATABLE("The library screen has one.")
 };
 
 struct RecordingTableForeign {

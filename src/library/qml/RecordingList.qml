@@ -44,6 +44,24 @@ ListView {
             screen.didSelectRowAtIndexPath(0, currentItem.row)
     }
 
+    /// What a key does with the current row; false where it is none of these.
+    function act(key, isShifted) {
+        const actions = screen.actions
+        if (!currentItem || ![Qt.Key_F2, Qt.Key_Delete, Qt.Key_T, Qt.Key_Menu].includes(key) && !(key === Qt.Key_F10 && isShifted))
+            return false
+        positionViewAtIndex(currentIndex, ListView.Contain)
+        currentItem.aim()
+        if (key === Qt.Key_F2)
+            actions.kReNameAudio()
+        else if (key === Qt.Key_Delete)
+            actions.showDeletealert()
+        else if (key === Qt.Key_T)
+            actions.trimAudio()
+        else
+            currentItem.ask(Qt.point(currentItem.width / 2, currentItem.height / 2))
+        return true
+    }
+
     objectName: "tableView"
     focus: true
     activeFocusOnTab: true
@@ -89,10 +107,8 @@ ListView {
             go(-page)
         else if (event.key === Qt.Key_PageDown)
             go(page)
-        else if (event.key === Qt.Key_T && currentItem)
-            screen.trimRow(currentItem.row)
         else
-            event.accepted = false
+            event.accepted = act(event.key, event.modifiers & Qt.ShiftModifier)
     }
     Accessible.role: Accessible.List
     Accessible.name: screen.headerText

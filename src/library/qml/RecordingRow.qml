@@ -19,6 +19,18 @@ Item {
     readonly property bool chosen: expanded || screen.newRow === row
     readonly property bool narrow: width < 360
 
+    /// The recording that the next action is about.
+    function aim() {
+        ListView.view.currentIndex = index
+        screen.actions.aim("0", row, mapToItem(null, 0, 0, width, height))
+    }
+
+    /// The second way to the actions, at a point of the row.
+    function ask(at) {
+        aim()
+        screen.actions.accessoryButtonTapped(mapToItem(null, at.x, at.y))
+    }
+
     width: ListView.view.width
     height: narrow ? 60 : 64
     // A row that waits to be used again is nowhere.
@@ -57,6 +69,13 @@ Item {
             if (root.ListView.view.take(root.index))
                 root.screen.didSelectRowAtIndexPath(0, root.row)
         }
+        onLongPressed: root.ask(point.position)
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        acceptedDevices: PointerDevice.Mouse
+        onTapped: root.ask(point.position)
     }
 
     Rectangle {
@@ -86,7 +105,7 @@ Item {
 
         x: root.narrow ? Theme.margin : tile.x + tile.width + 12
         y: root.narrow ? 8 : 10
-        width: trim.x - x
+        width: more.x - x
         height: 23
         text: root.nameText
         font.pixelSize: 16
@@ -111,19 +130,20 @@ Item {
     }
 
     IconButton {
-        id: trim
+        id: more
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        objectName: "trim"
-        imageName: "trim.png"
-        imageSize: 20
+        objectName: "more"
+        imageName: "more.png"
         tint: Theme.light
-        name: qsTrId("a11y_trim").arg(root.nameText)
-        shortcut: "T"
-        // The list is one stop of the Tab key; T trims the current row.
+        name: qsTrId("a11y_more").arg(root.nameText)
+        // The list is one stop of the Tab key; the Menu key asks for the same.
         focusPolicy: Qt.NoFocus
-        onClicked: root.screen.trimRow(root.row)
+        onClicked: {
+            root.aim()
+            root.screen.actions.btnAccessoryViewClick(mapToItem(null, width / 2, height / 2))
+        }
     }
 
     Rectangle {

@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "trimming/AudioTrim.h"
+#include "trimming/AudioTrimStage.h"
 #include "trimming/AudioTrimmerStage.h"
 
 namespace tavi {
@@ -47,6 +48,13 @@ struct TrimExportForeign {
     QML_FOREIGN(tavi::TrimExport)
     QML_NAMED_ELEMENT(TrimExport)
     QML_UNCREATABLE("Trimmers have one.")
+};
+
+struct AudioTrimStageForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::AudioTrimStage)
+    QML_NAMED_ELEMENT(AudioTrimStage)
+    QML_UNCREATABLE("The program has one.")
 };
 
 struct AudioTrimForeign {

@@ -1,17 +1,19 @@
 import QtQuick
-import Tavi.Trimming
 
-/// Covers the window with the trimmer while its stage shows one.
+/// Covers the window with a trimmer while its stage shows one.
 Loader {
     id: overlay
 
-    required property AudioTrimmerStage stage
+    /// An AudioTrimmerStage or an AudioTrimStage.
+    required property QtObject stage
+    /// What shows the stage's screen.
+    required property url url
     readonly property bool shown: stage.screen !== null
 
     function follow() {
         // Not bound: the screen outlives what shows it.
         if (stage.screen !== null)
-            setSource("qrc:/Tavi/Trimming/TrimmerScreen.qml", { screen: stage.screen })
+            setSource(url, { screen: stage.screen })
         else
             source = ""
     }

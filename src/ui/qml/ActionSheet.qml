@@ -1,7 +1,8 @@
 import QtQuick
 import Tavi.Ui
 
-/// A sheet of choices at the lower edge, or in the middle of a wide window; the cancelling choice stands apart.
+/// A sheet of choices that slides in at the lower edge, or stands in the middle of a wide window; the cancelling choice
+/// stands apart.
 Rectangle {
     id: sheet
 
@@ -9,11 +10,26 @@ Rectangle {
     readonly property alias buttons: buttons
     readonly property bool wide: parent ? parent.width >= Theme.wideWidth : false
     readonly property int rowHeight: 48
+    /// What can be done with one thing, rather than what a setting may be: each choice has its image.
+    readonly property bool isMenu: presenter.anchored
+    /// How far it has slid in.
+    property real shown: 0
+    /// The choice with which it slides out.
+    property int chosen: -1
     readonly property int cancelIndex: presenter.actions.findIndex(action => action.cancel)
     readonly property int foot: cancelIndex >= 0 ? Theme.touch + 2 * Theme.gapWide : Theme.gap
 
+    function choose(index) {
+        if (!isMenu)
+            presenter.choose(index)
+        else if (chosen < 0) {
+            chosen = index
+            shown = 0
+        }
+    }
+
     anchors.horizontalCenter: parent.horizontalCenter
-    y: wide ? (parent.height - height) / 2 : parent.height - height + radius
+    y: wide ? (parent.height - height) / 2 : parent.height - (height - radius) * shown
     width: Math.min(parent.width, wide ? 400 : 480)
     height: Math.min(heading.height + choices.contentHeight + foot + (wide ? 0 : radius), parent.height - 2 * Theme.gapWide)
     radius: Theme.radiusSheet
@@ -21,6 +37,23 @@ Rectangle {
     border.color: Theme.control
     Accessible.role: Accessible.PopupMenu
     Accessible.name: presenter.title
+    Component.onCompleted: shown = 1
+    onShownChanged: if (shown === 0 && chosen >= 0) presenter.choose(chosen)
+
+    Behavior on shown {
+        enabled: !Theme.reducedMotion
+
+        SequentialAnimation {
+            PauseAnimation {
+                duration: sheet.isMenu && sheet.chosen < 0 ? 100 : 0
+            }
+
+            NumberAnimation {
+                duration: sheet.isMenu && sheet.chosen < 0 ? 500 : Theme.slide
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
 
     // A tap between the choices is not one beside the sheet.
     MouseArea {
@@ -44,12 +77,14 @@ Rectangle {
 
                 x: Theme.margin
                 width: parent.width - 2 * x
+                maximumLineCount: sheet.isMenu ? 1 : 100
                 visible: text !== ""
                 text: modelData
                 color: index === 0 ? Theme.light : Theme.label
                 font.weight: index === 0 ? Font.Medium : Font.Normal
-                wrapMode: Text.Wrap
-                horizontalAlignment: Text.AlignHCenter
+                wrapMode: sheet.isMenu ? Text.NoWrap : Text.Wrap
+                elide: sheet.isMenu ? Text.ElideMiddle : Text.ElideNone
+                horizontalAlignment: sheet.isMenu ? Text.AlignLeft : Text.AlignHCenter
                 Accessible.role: index === 0 ? Accessible.Heading : Accessible.StaticText
                 Accessible.name: text
             }
@@ -83,7 +118,7 @@ Rectangle {
                 width: sheet.width - 2 * x
                 height: modelData.cancel ? Theme.touch : sheet.rowHeight
                 objectName: "action" + index
-                onClicked: sheet.presenter.choose(index)
+                onClicked: sheet.choose(index)
                 onActiveFocusChanged: {
                     if (activeFocus && !modelData.cancel)
                         choices.contentY = Math.max(Math.min(choices.contentY, y), y + height - choices.height)

@@ -7,6 +7,8 @@ FocusScope {
 
     required property AlertPresenter presenter
     readonly property Repeater buttons: view.item?.buttons ?? null
+    /// A sheet has been asked for at a point, and there is room for it there.
+    readonly property bool besidePoint: presenter.sheet && presenter.anchored && width >= Theme.wideWidth
 
     function focusAction(index, reason) {
         if (buttons !== null && buttons.count > 0)
@@ -14,12 +16,18 @@ FocusScope {
     }
 
     function moveFocus(step) {
+        // The text field, if there is one, stands before the buttons.
+        const field = view.item?.field ?? null
         let current = -1
         for (let i = 0; i < buttons.count; ++i) {
             if (buttons.itemAt(i).activeFocus)
                 current = i
         }
-        focusAction(current < 0 ? 0 : current + step, Qt.TabFocusReason)
+        const next = current < 0 ? (step > 0 ? 0 : buttons.count - 1) : current + step
+        if (field !== null && current >= 0 && (next < 0 || next === buttons.count))
+            field.forceActiveFocus(Qt.TabFocusReason)
+        else
+            focusAction(next, Qt.TabFocusReason)
     }
 
     /// Brings the next or the last page of a long text.
@@ -33,6 +41,8 @@ FocusScope {
         // No choice of a sheet is likelier than the others: Enter does nothing before an arrow key has marked one.
         if (presenter.sheet)
             forceActiveFocus(Qt.PopupFocusReason)
+        else if (view.item?.field)
+            view.item.field.forceActiveFocus(Qt.PopupFocusReason)
         else if (presenter.active)
             focusAction(Math.max(presenter.defaultAction, 0), Qt.PopupFocusReason)
     }
@@ -65,7 +75,8 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: Theme.scrim
+        // Beside a menu the rest stays in sight.
+        color: overlay.besidePoint ? "transparent" : Theme.scrim
     }
 
     MouseArea {
@@ -83,7 +94,7 @@ FocusScope {
         id: view
 
         anchors.fill: parent
-        sourceComponent: overlay.presenter.sheet ? sheet : alert
+        sourceComponent: overlay.besidePoint ? menu : overlay.presenter.sheet ? sheet : alert
     }
 
     Component {
@@ -92,6 +103,7 @@ FocusScope {
         Item {
             readonly property alias buttons: panel.buttons
             readonly property alias words: panel.words
+            readonly property alias field: panel.field
 
             AlertView {
                 id: panel
@@ -108,6 +120,20 @@ FocusScope {
             readonly property alias buttons: panel.buttons
 
             ActionSheet {
+                id: panel
+
+                presenter: overlay.presenter
+            }
+        }
+    }
+
+    Component {
+        id: menu
+
+        Item {
+            readonly property alias buttons: panel.buttons
+
+            ContextMenu {
                 id: panel
 
                 presenter: overlay.presenter

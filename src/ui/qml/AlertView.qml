@@ -8,8 +8,11 @@ Rectangle {
     required property AlertPresenter presenter
     readonly property alias buttons: buttons
     readonly property alias words: words
+    /// The text field, where there is one; null where there is none.
+    readonly property Item field: typed.visible ? typed : null
     readonly property real available: parent ? parent.height - 2 * Theme.margin : 0
     readonly property int count: presenter.actions.length
+    readonly property int fieldRoom: presenter.hasField ? typed.height + Theme.margin : 0
     /// Two short titles fit beside each other.
     readonly property bool beside: {
         let widest = 0
@@ -18,9 +21,20 @@ Rectangle {
         return count === 2 && widest <= (grid.width - grid.spacing) / 2
     }
 
+    function choose(action) {
+        // What an input method still holds belongs to the text.
+        Qt.inputMethod.commit()
+        presenter.choose(action, typed.text)
+    }
+
+    function fill() {
+        typed.text = presenter.fieldText
+        typed.selectAll()
+    }
+
     anchors.centerIn: parent
     width: Math.min(parent.width - 2 * Theme.margin, 340)
-    height: words.height + grid.height + 2 * 20 + (words.height > 0 ? 20 : 0)
+    height: words.height + grid.height + 2 * 20 + (words.height > 0 ? 20 : 0) + fieldRoom
     radius: Theme.radiusSheet
     color: Theme.panel
     border.color: Theme.control
@@ -28,6 +42,16 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: presenter.title
     Accessible.description: presenter.message
+
+    Component.onCompleted: fill()
+
+    Connections {
+        target: view.presenter
+
+        function onFrontChanged() {
+            view.fill()
+        }
+    }
 
     Flickable {
         id: words
@@ -38,7 +62,7 @@ Rectangle {
         x: 20
         y: 20
         width: parent.width - 2 * x
-        height: Math.min(contentHeight, view.available - grid.height - 60)
+        height: Math.min(contentHeight, view.available - grid.height - 60 - view.fieldRoom)
         contentHeight: column.height
         clip: true
         interactive: contentHeight > height
@@ -82,6 +106,19 @@ Rectangle {
         x: words.x + words.width + 8
     }
 
+    TField {
+        id: typed
+
+        x: 20
+        y: grid.y - height - Theme.margin
+        width: parent.width - 2 * x
+        objectName: "field"
+        visible: view.presenter.hasField
+        Accessible.name: view.presenter.message
+        Keys.onReturnPressed: view.choose(view.presenter.defaultAction)
+        Keys.onEnterPressed: view.choose(view.presenter.defaultAction)
+    }
+
     Grid {
         id: grid
 
@@ -107,7 +144,7 @@ Rectangle {
                 text: modelData.title
                 kind: isDefault && !modelData.cancel ? TButton.Filled : TButton.Quiet
                 tint: modelData.destructive ? Theme.tint : Theme.text
-                onClicked: view.presenter.choose(index)
+                onClicked: view.choose(index)
             }
         }
     }

@@ -3,21 +3,21 @@ import Tavi.Ui
 import QtQuick.Templates as T
 
 /// One entry of a ContextMenu.
-T.MenuItem {
+T.Button {
     id: item
 
-    property string imageName
-    /// The key that does the same, as the user reads it.
-    property string shortcut
-    /// Takes something away.
-    property bool destructive: false
-    readonly property color tint: destructive ? Theme.tint : Theme.text
+    required property var modelData
+    readonly property color tint: modelData.destructive ? Theme.tint : Theme.text
 
-    implicitWidth: 220
-    implicitHeight: 40
+    implicitHeight: Theme.touch
+    text: modelData.title
     hoverEnabled: true
-    opacity: enabled ? 1.0 : Theme.disabledOpacity
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.MenuItem
     Accessible.name: text
+    Accessible.onPressAction: clicked()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     contentItem: Item {
         Icon {
@@ -25,7 +25,7 @@ T.MenuItem {
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20
-            name: item.imageName
+            name: item.modelData.image
             color: item.tint
         }
 
@@ -42,16 +42,20 @@ T.MenuItem {
         Label {
             id: keys
 
-            anchors.right: parent.right
-            anchors.rightMargin: 14
+            x: parent.width - width - 14
             height: parent.height
-            text: item.shortcut
+            text: item.modelData.shortcut
             font.pixelSize: Theme.textCaption
         }
     }
 
     background: Rectangle {
         radius: Theme.radiusTile
-        color: item.down ? Theme.control : item.highlighted ? Theme.controlHover : "transparent"
+        color: item.down ? Theme.control : item.hovered ? Theme.controlHover : "transparent"
+
+        FocusFrame {
+            control: item
+            inside: true
+        }
     }
 }

@@ -27,9 +27,9 @@ T.Button {
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20
-            visible: control.modelData.chosen
-            name: "check"
-            color: Theme.tint
+            visible: control.modelData.chosen || control.modelData.image !== ""
+            name: control.modelData.chosen ? "check" : control.modelData.image
+            color: control.modelData.chosen ? Theme.tint : control.tint
         }
 
         Label {

@@ -416,6 +416,147 @@
         <source></source>
         <translation>Bitte richten Sie Ihre Cloud in den Einstellungen ein.</translation>
     </message>
+    <!-- Actions of a recording -->
+    <message id="Rename">
+        <source></source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message id="open_in">
+        <source></source>
+        <translation>Öffnen mit</translation>
+    </message>
+    <message id="Trimming">
+        <source></source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message id="upload_drive">
+        <source></source>
+        <translation>Auf ein Laufwerk laden</translation>
+    </message>
+    <message id="trim_m4a">
+        <source></source>
+        <translation>Zu M4A zuschneiden</translation>
+    </message>
+    <message id="alert_dismiss">
+        <source></source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="menu_close">
+        <source></source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="a11y_more">
+        <source></source>
+        <translation>Aktionen für %1</translation>
+    </message>
+    <message id="action_gone">
+        <source></source>
+        <translation>„%1“ ist nicht mehr da.</translation>
+    </message>
+    <message id="rename_audio">
+        <source></source>
+        <translation>Aufnahme umbenennen</translation>
+    </message>
+    <message id="filename_msg">
+        <source></source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message id="error_rename">
+        <source></source>
+        <translation>Nicht umbenannt</translation>
+    </message>
+    <message id="file_notContain">
+        <source></source>
+        <translation>Ein Name darf eines nicht enthalten:</translation>
+    </message>
+    <message id="rename">
+        <source></source>
+        <translation>Nicht umbenannt</translation>
+    </message>
+    <message id="audio_file_name">
+        <source></source>
+        <translation>Bitte einen Namen für die Aufnahme eingeben.</translation>
+    </message>
+    <message id="file_exist">
+        <source></source>
+        <translation>Nicht umbenannt</translation>
+    </message>
+    <message id="audio_file_exist">
+        <source></source>
+        <translation>Es gibt schon eine Aufnahme mit diesem Namen.</translation>
+    </message>
+    <message id="rename_failed">
+        <source></source>
+        <translation>„%1“ behält seinen Namen: %2</translation>
+    </message>
+    <message id="delete_audio">
+        <source></source>
+        <translation>Aufnahme löschen</translation>
+    </message>
+    <message id="delete_msg">
+        <source></source>
+        <translation>„%1“ löschen?</translation>
+    </message>
+    <message id="delete_trashed">
+        <source></source>
+        <translation>„%1“ ist im Papierkorb.</translation>
+    </message>
+    <message id="delete_undo">
+        <source></source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="delete_undone_beside">
+        <source></source>
+        <translation>„%1“ ist vergeben: Die Aufnahme ist als „%2“ zurück.</translation>
+    </message>
+    <message id="delete_undo_failed">
+        <source></source>
+        <translation>„%1“ konnte nicht zurückgeholt werden: %2</translation>
+    </message>
+    <message id="delete_forever_msg">
+        <source></source>
+        <translation>„%1“ kann nicht in den Papierkorb. Endgültig löschen?</translation>
+    </message>
+    <message id="delete_forever">
+        <source></source>
+        <translation>Endgültig löschen</translation>
+    </message>
+    <message id="delete_failed">
+        <source></source>
+        <translation>„%1“ konnte nicht gelöscht werden: %2</translation>
+    </message>
+    <message id="trim_no_aac">
+        <source></source>
+        <translation>Eine aac-Datei kann nicht zugeschnitten werden</translation>
+    </message>
+    <message id="trim_no_mp3">
+        <source></source>
+        <translation>Eine mp3-Datei kann nicht zugeschnitten werden</translation>
+    </message>
+    <message id="ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="key_delete">
+        <source></source>
+        <translation>Entf</translation>
+    </message>
+    <message id="key_menu">
+        <source></source>
+        <translation>Menü</translation>
+    </message>
+    <message id="shortcut_rename">
+        <source></source>
+        <translation>Die markierte Aufnahme umbenennen</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>Die markierte Aufnahme löschen</translation>
+    </message>
+    <message id="shortcut_menu">
+        <source></source>
+        <translation>Alle Aktionen für die markierte Aufnahme</translation>
+    </message>
     <!-- Shell -->
     <message id="record_hint">
         <source></source>
@@ -824,10 +965,6 @@
     <message id="No">
         <source></source>
         <translation>Nein</translation>
-    </message>
-    <message id="a11y_trim">
-        <source></source>
-        <translation>%1 zuschneiden</translation>
     </message>
     <message id="session_return">
         <source></source>

@@ -415,6 +415,147 @@
         <source></source>
         <translation>Please set up your cloud in the settings.</translation>
     </message>
+    <!-- Actions of a recording -->
+    <message id="Rename">
+        <source></source>
+        <translation>Rename</translation>
+    </message>
+    <message id="open_in">
+        <source></source>
+        <translation>Open in</translation>
+    </message>
+    <message id="Trimming">
+        <source></source>
+        <translation>Trim</translation>
+    </message>
+    <message id="upload_drive">
+        <source></source>
+        <translation>Upload to a drive</translation>
+    </message>
+    <message id="trim_m4a">
+        <source></source>
+        <translation>Trim to M4A</translation>
+    </message>
+    <message id="alert_dismiss">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="menu_close">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="a11y_more">
+        <source></source>
+        <translation>Actions for %1</translation>
+    </message>
+    <message id="action_gone">
+        <source></source>
+        <translation>“%1” is no longer there.</translation>
+    </message>
+    <message id="rename_audio">
+        <source></source>
+        <translation>Rename Recording</translation>
+    </message>
+    <message id="filename_msg">
+        <source></source>
+        <translation>New name</translation>
+    </message>
+    <message id="error_rename">
+        <source></source>
+        <translation>Not Renamed</translation>
+    </message>
+    <message id="file_notContain">
+        <source></source>
+        <translation>A name cannot contain</translation>
+    </message>
+    <message id="rename">
+        <source></source>
+        <translation>Not Renamed</translation>
+    </message>
+    <message id="audio_file_name">
+        <source></source>
+        <translation>Type a name for the recording.</translation>
+    </message>
+    <message id="file_exist">
+        <source></source>
+        <translation>Not Renamed</translation>
+    </message>
+    <message id="audio_file_exist">
+        <source></source>
+        <translation>There is already a recording of this name.</translation>
+    </message>
+    <message id="rename_failed">
+        <source></source>
+        <translation>“%1” keeps its name: %2</translation>
+    </message>
+    <message id="delete_audio">
+        <source></source>
+        <translation>Delete Recording</translation>
+    </message>
+    <message id="delete_msg">
+        <source></source>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message id="delete_trashed">
+        <source></source>
+        <translation>“%1” is in the trash.</translation>
+    </message>
+    <message id="delete_undo">
+        <source></source>
+        <translation>Undo</translation>
+    </message>
+    <message id="delete_undone_beside">
+        <source></source>
+        <translation>“%1” is taken: it is back as “%2”.</translation>
+    </message>
+    <message id="delete_undo_failed">
+        <source></source>
+        <translation>“%1” could not be brought back: %2</translation>
+    </message>
+    <message id="delete_forever_msg">
+        <source></source>
+        <translation>“%1” cannot be moved to the trash. Delete it for good?</translation>
+    </message>
+    <message id="delete_forever">
+        <source></source>
+        <translation>Delete for Good</translation>
+    </message>
+    <message id="delete_failed">
+        <source></source>
+        <translation>“%1” could not be deleted: %2</translation>
+    </message>
+    <message id="trim_no_aac">
+        <source></source>
+        <translation>aac File Cannot be trimmed</translation>
+    </message>
+    <message id="trim_no_mp3">
+        <source></source>
+        <translation>mp3 File Cannot be trimmed</translation>
+    </message>
+    <message id="ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="key_delete">
+        <source></source>
+        <translation>Del</translation>
+    </message>
+    <message id="key_menu">
+        <source></source>
+        <translation>Menu</translation>
+    </message>
+    <message id="shortcut_rename">
+        <source></source>
+        <translation>Rename the marked recording</translation>
+    </message>
+    <message id="shortcut_delete">
+        <source></source>
+        <translation>Delete the marked recording</translation>
+    </message>
+    <message id="shortcut_menu">
+        <source></source>
+        <translation>All actions for the marked recording</translation>
+    </message>
     <!-- Shell -->
     <message id="record_hint">
         <source></source>
@@ -823,10 +964,6 @@
     <message id="No">
         <source></source>
         <translation>No</translation>
-    </message>
-    <message id="a11y_trim">
-        <source></source>
-        <translation>Trim %1</translation>
     </message>
     <message id="session_return">
         <source></source>

@@ -83,7 +83,8 @@ struct World : FakeServices {
         };
     }
 
-    FakeLibrary library{*this, durations, notices};
+    FakePresenter presenter;
+    FakeLibrary library{*this, durations, presenter, notices};
     VoiceMemoVC& vc = library.vc;
     RecordingTable& table = library.table;
     PlayerPanel& player = library.player;
@@ -96,7 +97,11 @@ const std::map<std::string, std::function<void(World&, double)>> kActions = {
     {"tap", [](World& w, double row) { w.vc.didSelectRowAtIndexPath(0, static_cast<int>(row)); }},
     {"play", [](World& w, double) { w.vc.playAudio(w.vc.selectedIndex(), w.player.btnplaypuas().selected); }},
     {"space", [](World& w, double row) { w.vc.spacePressed(static_cast<int>(row)); }},
-    {"trim", [](World& w, double row) { w.vc.trimRow(static_cast<int>(row)); }},
+    {"trim",
+     [](World& w, double row) {
+         w.library.actions.aim(QStringLiteral("0"), static_cast<int>(row), {});
+         w.library.actions.trimAudio();
+     }},
     {"rerecord",
      [](World& w, double) {
          w.assets.files["originalRecording.wav"] = {{11025, 11025}, 1, {}};
@@ -183,7 +188,7 @@ const struct {
     {kPlaying, "playerSpeaker playerSpeaker", "route=headset.png#c8252c0 session=record2 override=1"},
     {kPlaying, "playerSpeaker tap 0", "row=0/0 file=a.m4a at=0 of=01:00/60 on=01 session=play1"},
     {kPlaying, "trim 3", "row=-1/500 panel=00 file= heard=none at=0 rate=0 trimmer=d.wav"},
-    {kPlaying, "removeD trim 3", ""},
+    {kPlaying, "removeD trim 3", "notices=1action_gone"},
     {"tap 1 playerSpeaker trim 3", "rerecord", "route=headset.png0 session=play1 trimmer="},
     {kPlaying, "sort", "row=2/2"},
     {kPlaying, "add reloadData", "row=2/2"},
