@@ -18,6 +18,7 @@ Window {
     required property NoticeLine notices
     required property JHUD hudView
     required property SavePanel savePanel
+    required property QtObject appRater
     required property AudioTrimmerStage trimmers
     required property AudioTrimStage audioTrims
     /// Fades take the place of movements.
@@ -90,6 +91,12 @@ Window {
         target: Theme
         property: "window"
         value: Qt.size(stage.width, stage.height)
+    }
+
+    Binding {
+        target: window.appRater
+        property: "covered"
+        value: !window.started || window.away || window.covered
     }
 
     Connections {

@@ -26,9 +26,11 @@
 #include "adapters/dbus/DBusSessionEnd.h"
 #include "adapters/dbus/LogindSleep.h"
 #include "adapters/dbus/MprisRemoteControl.h"
+#include "adapters/desktop/AppstreamCatalogue.h"
 #include "adapters/desktop/DesktopDocumentInteraction.h"
 #include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
+#include "adapters/desktop/DesktopUrlOpener.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/plist/LibplistPropertyLists.h"
 #include "adapters/pulse/PulseAudioInput.h"
@@ -129,6 +131,9 @@ struct Platform {
     AlertPresenter presenter;
     NoticeLine notices{runLoop};
     JHUD hudView;
+    DesktopUrlOpener urlOpener{portal};
+    AppstreamCatalogue catalogue;
+    LockState lockState;
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;
@@ -246,10 +251,28 @@ struct Screens {
                         table,
                         player,
                         actions};
+                        player};
+    RatingStore ratingStore{platform.settings.standard};
+    AppRater appRater{{.store = ratingStore,
+                       .runLoop = platform.runLoop,
+                       .presenter = platform.presenter,
+                       .notices = platform.notices,
+                       .notifications = platform.notifications,
+                       .formatHold = platform.formatHold,
+                       .lockState = platform.lockState,
+                       .softwareStore = {.catalogue = platform.catalogue, .urlOpener = platform.urlOpener}}};
+    SupportRows supportRows{{.appRater = appRater,
+                             .urlOpener = platform.urlOpener,
+                             .mailComposer = platform.mailComposer,
+                             .notices = platform.notices,
+                             .settings = platform.settings.store,
+                             .audioSession = platform.audioSession}};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,
                         .runLoop = platform.runLoop,
-                        .presenter = platform.presenter}};
+                        .presenter = platform.presenter,
+                        .tabBar = platform.tabBar,
+                        .support = supportRows}};
     RecordingImport imports{{.container = platform.container,
                              .runLoop = platform.runLoop,
                              .notices = platform.notices,
@@ -262,7 +285,9 @@ struct Screens {
                           .audioSession = platform.audioSession,
                           .tabBar = platform.tabBar,
                           .objrecordVC = recording,
-                          .imports = imports}};
+                          .imports = imports,
+                          .hudView = platform.hudView,
+                          .appRater = appRater}};
 };
 
 /// How the window is painted, unless the environment says otherwise. Before the application is made.
@@ -278,6 +303,7 @@ void choosePainting() {
 }
 
 void describe(QGuiApplication& application) {
+    QCoreApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavi"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillfen.voicerecorder"));
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
@@ -301,6 +327,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
                                  {QStringLiteral("hudView"), QVariant::fromValue(&screens.platform.hudView)},
                                  {QStringLiteral("savePanel"), QVariant::fromValue(&screens.platform.savePanel)},
+                                 {QStringLiteral("appRater"), QVariant::fromValue(&screens.appRater)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
                                  {QStringLiteral("audioTrims"), QVariant::fromValue(&screens.audioTrims)},
                                  {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},

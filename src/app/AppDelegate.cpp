@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "app/RatingLaunch.h"
 #include "files/FileNames.h"
 
 namespace tavi {
@@ -18,11 +19,25 @@ QList<ShortcutItem> arrayOfDynamicShortcutItems() {
          QStringLiteral("voicememo")}};
 }
 
+AppDelegate* s_sharedDelegate = nullptr;
+
 bool hasScheme(const QUrl& url, QLatin1String scheme) {
     return url.scheme().compare(scheme, Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
+
+AppDelegate::AppDelegate(const Services& services) : m_services(services) {
+    s_sharedDelegate = this;
+}
+
+AppDelegate::~AppDelegate() {
+    s_sharedDelegate = nullptr;
+}
+
+AppDelegate* AppDelegate::initAppdelegate() {
+    return s_sharedDelegate;
+}
 
 bool AppDelegate::applicationDidFinishLaunching(const LaunchOptions& options) {
     setTheUserDefaultsValue();
@@ -31,6 +46,7 @@ bool AppDelegate::applicationDidFinishLaunching(const LaunchOptions& options) {
     m_services.audioSession.requestRecordPermission([](bool) {});
     createICloudFolder();
     m_services.settings.writeSortIfAbsent();
+    reportLaunch(m_services.appRater);
     createDynamicShortcut();
     return !checkIfAShortcutWasLaunchedAndSetItInAGlobalParam(options);
 }
@@ -102,6 +118,14 @@ std::optional<int> AppDelegate::viewControllerToBeLauched(const ShortcutItem& it
 void AppDelegate::applicationPerformActionForShortcutItem(const ShortcutItem& item,
                                                           std::function<void(bool)> completionHandler) {
     completionHandler(lauchVcWithShortcutItem(item));
+}
+
+void AppDelegate::showCustomProgressViewWithText(const QString& text) {
+    m_services.hudView.show({.text = text, .type = Progress::HudType::Ring, .cancel = {}});
+}
+
+void AppDelegate::hideCustomProgressView() {
+    m_services.hudView.hide();
 }
 
 bool AppDelegate::applicationOpenURL(const QUrl& url) {

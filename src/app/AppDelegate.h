@@ -8,9 +8,11 @@
 #include "platform/Application.h"
 #include "platform/AudioSession.h"
 #include "platform/IdleTimer.h"
+#include "platform/ProgressView.h"
 #include "platform/TabBar.h"
 #include "platform/UserDefaults.h"
 #include "recording/AudioRecordVC.h"
+#include "support/AppRater.h"
 
 namespace tavi {
 
@@ -28,9 +30,16 @@ public:
         TabBar& tabBar;
         AudioRecordVC& objrecordVC;
         RecordingImport& imports;
+        ProgressView& hudView;
+        AppRater& appRater;
     };
 
-    explicit AppDelegate(const Services& services) : m_services(services) {}
+    explicit AppDelegate(const Services& services);
+    ~AppDelegate() override;
+
+    /// The program's delegate; null before there is one. For what puts the program together alone: everybody else is
+    /// handed what they need.
+    static AppDelegate* initAppdelegate();
 
     /// What the screens read when they are built: defaults first, then the rest of the start-up. False when a quick
     /// action launched the program; it runs at the first activation.
@@ -46,6 +55,11 @@ public:
     bool applicationOpenURL(const QUrl& url) override;
     void applicationPerformActionForShortcutItem(const ShortcutItem& item,
                                                  std::function<void(bool)> completionHandler) override;
+
+    /// Covers the window with the text and a ring until hideCustomProgressView(). Any thread; both take effect later,
+    /// on the main thread, in their order.
+    void showCustomProgressViewWithText(const QString& text);
+    void hideCustomProgressView();
 
 private:
     void setTheUserDefaultsValue();

@@ -15,8 +15,9 @@ constexpr double kMaximumSkipSeconds = 60.0;
 constexpr double kSkipStep = 5.0;
 constexpr double kReloadDelaySeconds = 0.2;
 
-/// Sections with something behind them; the lock and support have nothing yet.
-constexpr qsizetype kShownSections = 5;
+/// All but the last of the headers have a section.
+constexpr qsizetype kShownSections = 7;
+constexpr int kRecordTab = 0;
 
 double sliderPosition(double seconds) {
     return std::clamp(seconds, kMinimumSkipSeconds, kMaximumSkipSeconds);
@@ -54,6 +55,10 @@ void SettingVC::viewWillAppear() {
     if (!m_rowsBuilt) {
         loadData();
     }
+}
+
+void SettingVC::dismissView() {
+    m_services.tabBar.setSelectedIndex(kRecordTab);
 }
 
 void SettingVC::loadData() {

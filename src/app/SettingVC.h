@@ -5,10 +5,12 @@
 #include <functional>
 #include <vector>
 
+#include "app/SupportRows.h"
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
+#include "platform/TabBar.h"
 
 namespace tavi {
 
@@ -34,6 +36,7 @@ class SettingVC : public QObject {
     Q_PROPERTY(bool isCloudSyncOn READ isCloudSyncOn NOTIFY rowsChanged)
     Q_PROPERTY(QString quickMailText READ quickMailText NOTIFY rowsChanged)
     Q_PROPERTY(bool isQuickMailOn READ isQuickMailOn NOTIFY rowsChanged)
+    Q_PROPERTY(tavi::SupportRows* support READ support CONSTANT)
 
 public:
     /// What the screen works with; all of it must outlive the screen.
@@ -42,6 +45,8 @@ public:
         FormatHold& formatHold;
         RunLoop& runLoop;
         Presenter& presenter;
+        TabBar& tabBar;
+        SupportRows& support;
     };
 
     explicit SettingVC(const Services& services, QObject* parent = nullptr);
@@ -66,10 +71,13 @@ public:
     bool isCloudSyncOn() const { return m_isCloudSyncOn; }
     QString quickMailText() const { return m_quickMailText; }
     bool isQuickMailOn() const { return m_isQuickMailOn; }
+    SupportRows* support() const { return &m_services.support; }
 
 public Q_SLOTS:
     void viewDidLoad();
     void viewWillAppear();
+    /// The bar's button: leaves the settings for the recording screen.
+    void dismissView();
     /// Builds all rows anew.
     void loadData();
     /// Shows the sheet, unless type and quality are held. What is chosen in a sheet that stands when they become held

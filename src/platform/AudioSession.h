@@ -51,6 +51,8 @@ public:
     /// What sound comes out of, as the server said last: "Headphones", "Headset", "Receiver" (the earpiece of a phone)
     /// or "Speaker", else the server's own words. Fails when no server has said it.
     virtual Result<QString> currentRoute() const = 0;
+    /// The sound server and its version, as it says them itself; empty where none has said it.
+    virtual QString serverName() const = 0;
     /// Chooses between the ports of a device that has several. Speaker is its loudspeaker, also with headphones plugged
     /// in. None is, to play and record, the headphones or else the earpiece; in category Playback, what it was before
     /// this program changed it. Has no effect on a device without a choice; fails when no server answers.

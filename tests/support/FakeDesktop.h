@@ -235,7 +235,7 @@ private:
     }
 
     inline static const QStringList kRequests{QStringLiteral("ComposeEmail"), QStringLiteral("OpenFile"),
-                                              QStringLiteral("SaveFile")};
+                                              QStringLiteral("OpenURI"), QStringLiteral("SaveFile")};
     inline static const QStringList kPaths{QStringLiteral("/org/freedesktop"), QStringLiteral("/org/gnome")};
     inline static const QString kSessionPath = QStringLiteral("/org/freedesktop/login1/session/_31");
     inline static const QString kSession = QStringLiteral("org.freedesktop.login1.Session");

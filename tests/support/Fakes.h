@@ -164,6 +164,7 @@ public:
         inputsListener ? inputsListener() : void();
     }
     Result<QString> currentRoute() const override { return route; }
+    QString serverName() const override { return server; }
     Result<void> overrideOutputAudioPort(PortOverride port) override {
         overrides.push_back(port);
         return categoryResult;
@@ -186,6 +187,7 @@ public:
     QString preferredInput;
     std::function<void()> inputsListener;
     Result<QString> route = QStringLiteral("Speaker");
+    QString server = QStringLiteral("Sound 1.0");
     /// What was asked for, in its order.
     std::vector<PortOverride> overrides;
 };

@@ -144,7 +144,14 @@ const State kStates[] = {
          s.savePanel.presentForExport("/2024_Mar_05_14_03_59.m4a", [](const auto&) {});
          s.runLoop.drain();
      }},
-    {"settings", 2, "", {}},
+    {"settings", 2, "Rate This App|More Apps|Report a Problem|Done", {}},
+    {"settingsEnd", 2, "", [](Shell& s) { s.settle(), s.item("reportBug")->forceActiveFocus(Qt::TabFocusReason); }},
+    {"rating", 0, "Do You Like This Recorder?|No, Thanks|Rate It Now|Ask Me Later",
+     [](Shell& s) {
+         s.rating.store.setStoreIdentifier(QStringLiteral("com.example.store"));
+         s.rating.rater.showRater();
+         s.runLoop.advance(AppRater::kMoment);
+     }},
     {"settingsHeld", 2, "", [](Shell& s) { s.formatHold.setHeld(true); }},
     {"sheet", 2, "", [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
     {"alert", 0, "",

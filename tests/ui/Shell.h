@@ -17,6 +17,7 @@
 #include "library/RecordingImport.h"
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
+#include "support/FakeSupport.h"
 #include "ui/AlertPresenter.h"
 #include "ui/JHUD.h"
 #include "ui/NoticeLine.h"
@@ -157,7 +158,19 @@ struct ShellScreens : FakeServices {
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
     RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
-    SettingVC settingVC{{.settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter}};
+    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    SupportRows supportRows{{.appRater = rating.rater,
+                             .urlOpener = rating.urlOpener,
+                             .mailComposer = fakeRecording.mail,
+                             .notices = notices,
+                             .settings = settings,
+                             .audioSession = session}};
+    SettingVC settingVC{{.settings = settings,
+                         .formatHold = formatHold,
+                         .runLoop = runLoop,
+                         .presenter = presenter,
+                         .tabBar = tabBar,
+                         .support = supportRows}};
 };
 
 /// The program's window with its screens.
@@ -183,6 +196,8 @@ public:
              {QStringLiteral("savePanel"), QVariant::fromValue(&savePanel)},
              {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)},
              {QStringLiteral("audioTrims"), QVariant::fromValue(&fakeLibrary.audioTrims)}});
+             {QStringLiteral("appRater"), QVariant::fromValue(&rating.rater)},
+             {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 
     void startRecording() {

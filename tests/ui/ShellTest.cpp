@@ -222,6 +222,40 @@ TEST(Alerts, QueueAndAnswerKeys) {
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
 }
 
+TEST(Rating, WaitsUntilNothingStandsBeforeTheScreens) {
+    Shell shell;
+    const auto isCovered = [&shell] { return (shell.settle(), shell.rating.rater.isCovered()); };
+    EXPECT_FALSE(isCovered());
+    shell.presenter.presentActionSheet({QStringLiteral("Sheet"), {}, {}});
+    EXPECT_TRUE(isCovered());
+    shell.presenter.dismiss();
+    shell.hudView.show({QStringLiteral("Wait")});
+    EXPECT_TRUE(isCovered());
+    shell.hudView.hide();
+    EXPECT_FALSE(isCovered());
+    shell.key(Qt::Key_F1);
+    EXPECT_TRUE(isCovered());
+    shell.key(Qt::Key_Escape);
+    shell.trim(addTalk(shell));
+    EXPECT_TRUE(isCovered());
+    shell.trimmers.screen()->btnCancelTapped();
+    shell.runLoop.drain();
+    EXPECT_FALSE(isCovered());
+    shell.window->hide();
+    EXPECT_TRUE(isCovered());
+    shell.window->show();
+    EXPECT_FALSE(isCovered());
+
+    shell.rating.rater.options().preferredLanguage = QStringLiteral("de");
+    shell.rating.store.setStoreIdentifier(QStringLiteral("com.example.store"));
+    shell.rating.rater.showRater();
+    shell.runLoop.advance(AppRater::kMoment);
+    shell.settle();
+    EXPECT_TRUE(shell.words().contains("Jetzt bewerten"));
+    shell.key(Qt::Key_Escape);
+    EXPECT_TRUE(shell.rating.store.isDontShowAgain()) << "whoever sends it away is not asked again";
+}
+
 TEST(Hud, CoversTheScreensUntilItIsHidden) {
     Shell shell;
     int cancels = 0;

@@ -88,6 +88,10 @@ Result<QString> PulseAudioSession::currentRoute() const {
     return route.isEmpty() ? Result<QString>(tl::unexpected(pulseError(PA_ERR_CONNECTIONREFUSED))) : route;
 }
 
+QString PulseAudioSession::serverName() const {
+    return m_connection->serverName();
+}
+
 Result<void> PulseAudioSession::overrideOutputAudioPort(PortOverride port) {
     Result<void> server = waitForServer();
     if (server) {

@@ -31,6 +31,7 @@ public:
     void setPreferredInput(const QString& uid) override;
     void setInputsListener(std::function<void()> listener) override;
     Result<QString> currentRoute() const override;
+    QString serverName() const override;
     Result<void> overrideOutputAudioPort(PortOverride port) override;
 
 private:

@@ -173,6 +173,11 @@ QByteArray PulseConnection::sourceName() const {
     return !preferred.isEmpty() ? preferred : !m_chosenSource.isEmpty() ? m_chosenSource : "@DEFAULT_SOURCE@";
 }
 
+QString PulseConnection::serverName() const {
+    const std::lock_guard lock(m_mutex);
+    return m_state == State::Ready ? m_serverName : QString();
+}
+
 void PulseConnection::perform(std::function<void()> work) {
     {
         const std::lock_guard lock(m_mutex);
@@ -325,6 +330,11 @@ void PulseConnection::refresh() {
             }
             if (info != nullptr && info->default_sink_name != nullptr) {
                 self.m_arrivingSinks.defaultName = info->default_sink_name;
+            }
+            if (info != nullptr) {
+                const std::lock_guard lock(self.m_mutex);
+                self.m_serverName = QStringLiteral("%1 %2").arg(QString::fromUtf8(info->server_name),
+                                                                QString::fromUtf8(info->server_version));
             }
             self.m_serverQuery.finish();
         },

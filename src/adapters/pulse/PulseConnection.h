@@ -58,6 +58,8 @@ public:
     void setInputsListener(std::function<void()> listener);
     /// What sound comes out of, as the server said last; empty without a server. Any thread.
     QString route() const;
+    /// The server's name and version; empty without a server. Any thread.
+    QString serverName() const;
     /// Runs work on the loop's thread, in order. Any thread.
     void perform(std::function<void()> work);
 
@@ -105,6 +107,7 @@ private:
     QString m_route;
     PulseInputs m_inputs;
     std::function<void()> m_inputsListener;
+    QString m_serverName;
     std::vector<std::function<void()>> m_pending;
 
     PulseMainloopHandle m_loop;

@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "app/SettingVC.h"
+#include "app/SupportRows.h"
 
 namespace tavi {
 
@@ -10,6 +11,13 @@ struct SettingVCForeign {
     Q_GADGET
     QML_FOREIGN(tavi::SettingVC)
     QML_NAMED_ELEMENT(SettingVC)
+    QML_UNCREATABLE("The program has one.")
+};
+
+struct SupportRowsForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::SupportRows)
+    QML_NAMED_ELEMENT(SupportRows)
     QML_UNCREATABLE("The program has one.")
 };
 

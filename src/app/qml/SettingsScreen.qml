@@ -37,6 +37,18 @@ FocusScope {
             TitleBar {
                 width: parent.width
                 text: root.screen.title
+                endWidth: dismiss.width
+
+                TButton {
+                    id: dismiss
+
+                    anchors.right: parent.right
+                    anchors.rightMargin: Theme.margin - horizontalPadding
+                    objectName: "dismiss"
+                    text: qsTrId("settings_done")
+                    kind: TButton.Tint
+                    onClicked: root.screen.dismissView()
+                }
             }
 
             SectionHeader {
@@ -84,11 +96,8 @@ FocusScope {
                 onSlid: value => root.screen.rewindSliderChange(value)
             }
 
-            Rectangle {
-                x: 52
-                width: parent.width - x
-                height: 1
-                color: Theme.line
+            RowLine {
+                width: parent.width
             }
 
             SkipRow {
@@ -126,6 +135,43 @@ FocusScope {
                 text: root.screen.quickMailText
                 on: root.screen.isQuickMailOn
                 onTurned: on => root.screen.autoQuickMail(on)
+            }
+
+            SectionHeader {
+                width: parent.width
+                text: root.screen.headerTexts[6] ?? ""
+            }
+
+            SettingsRow {
+                objectName: "rate"
+                imageName: "15.png"
+                width: parent.width
+                text: root.screen.support.rateText
+                onClicked: root.screen.support.rate()
+            }
+
+            RowLine {
+                width: parent.width
+            }
+
+            SettingsRow {
+                objectName: "moreApps"
+                imageName: "16.png"
+                width: parent.width
+                text: root.screen.support.moreAppsText
+                onClicked: root.screen.support.moreApps()
+            }
+
+            RowLine {
+                width: parent.width
+            }
+
+            SettingsRow {
+                objectName: "reportBug"
+                imageName: "17.png"
+                width: parent.width
+                text: root.screen.support.reportBugText
+                onClicked: root.screen.support.reportBug()
             }
         }
     }

@@ -4,6 +4,8 @@ import Tavi.Ui
 /// The title above a screen.
 Item {
     property alias text: label.text
+    /// How much of the right end a button has.
+    property real endWidth: 0
 
     implicitHeight: 44
 
@@ -12,7 +14,7 @@ Item {
 
         anchors.fill: parent
         anchors.leftMargin: Theme.margin
-        anchors.rightMargin: Theme.margin
+        anchors.rightMargin: Theme.margin + parent.endWidth
         font.pixelSize: Theme.textTitle
         font.weight: Font.Light
         elide: Text.ElideRight

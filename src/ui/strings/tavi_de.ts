@@ -148,7 +148,7 @@
     </message>
     <message id="gmail">
         <source></source>
-        <translation>support@quillfen.com</translation>
+        <translation>%1</translation>
     </message>
     <message id="issue_recorder">
         <source></source>
@@ -185,6 +185,47 @@
     <message id="Cancel">
         <source></source>
         <translation>Abbrechen</translation>
+    </message>
+    <!-- Support -->
+    <message id="MessageTitle">
+        <source></source>
+        <translation>Gefällt Ihnen dieser Rekorder?</translation>
+    </message>
+    <message id="Message">
+        <source></source>
+        <translation>Eine Bewertung hilft anderen, ihn zu finden. Sie dauert eine Minute.</translation>
+    </message>
+    <message id="NoButtonTitle">
+        <source></source>
+        <translation>Nein, danke</translation>
+    </message>
+    <message id="NowButtonTitle">
+        <source></source>
+        <translation>Jetzt bewerten</translation>
+    </message>
+    <message id="LaterButtonTitle">
+        <source></source>
+        <translation>Später fragen</translation>
+    </message>
+    <message id="rate_no_store">
+        <source></source>
+        <translation>Kein Programm auf diesem Rechner öffnet Seiten einer Softwareverwaltung.</translation>
+    </message>
+    <message id="report_no_mail">
+        <source></source>
+        <translation>Kein Mailprogramm hat den Bericht angenommen. Bitte schreiben Sie an %1.</translation>
+    </message>
+    <message id="report_no_server">
+        <source></source>
+        <translation>keiner</translation>
+    </message>
+    <message id="report_facts">
+        <source></source>
+        <translation>&#10;&#10;Version: %1&#10;System: %2&#10;Tonserver: %3&#10;Format: %4&#10;</translation>
+    </message>
+    <message id="settings_done">
+        <source></source>
+        <translation>Fertig</translation>
     </message>
     <!-- Recording -->
     <message id="lbl_recording">

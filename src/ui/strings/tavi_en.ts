@@ -147,7 +147,7 @@
     </message>
     <message id="gmail">
         <source></source>
-        <translation>support@quillfen.com</translation>
+        <translation>%1</translation>
     </message>
     <message id="issue_recorder">
         <source></source>
@@ -184,6 +184,47 @@
     <message id="Cancel">
         <source></source>
         <translation>Cancel</translation>
+    </message>
+    <!-- Support -->
+    <message id="MessageTitle">
+        <source></source>
+        <translation>Do You Like This Recorder?</translation>
+    </message>
+    <message id="Message">
+        <source></source>
+        <translation>A rating helps others to find it. It takes a minute.</translation>
+    </message>
+    <message id="NoButtonTitle">
+        <source></source>
+        <translation>No, Thanks</translation>
+    </message>
+    <message id="NowButtonTitle">
+        <source></source>
+        <translation>Rate It Now</translation>
+    </message>
+    <message id="LaterButtonTitle">
+        <source></source>
+        <translation>Ask Me Later</translation>
+    </message>
+    <message id="rate_no_store">
+        <source></source>
+        <translation>No program on this computer opens pages of a software centre.</translation>
+    </message>
+    <message id="report_no_mail">
+        <source></source>
+        <translation>No mail program took the report. Please write to %1.</translation>
+    </message>
+    <message id="report_no_server">
+        <source></source>
+        <translation>none</translation>
+    </message>
+    <message id="report_facts">
+        <source></source>
+        <translation>&#10;&#10;Version: %1&#10;System: %2&#10;Sound server: %3&#10;Format: %4&#10;</translation>
+    </message>
+    <message id="settings_done">
+        <source></source>
+        <translation>Done</translation>
     </message>
     <!-- Recording -->
     <message id="lbl_recording">

@@ -6,9 +6,11 @@
 
 #include "adapters/dbus/DBusIdleTimer.h"
 #include "adapters/dbus/DBusSessionEnd.h"
+#include "adapters/desktop/AppstreamCatalogue.h"
 #include "adapters/desktop/DesktopDocumentInteraction.h"
 #include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
+#include "adapters/desktop/DesktopUrlOpener.h"
 #include "files/FileUri.h"
 #include "support/EventLoop.h"
 #include "support/FakeDesktop.h"
@@ -353,6 +355,84 @@ TEST_F(DocumentsTest, TheFileManagerShowsAFileElseXdgOpenItsFolder) {
     EXPECT_EQ(show(), QStringLiteral("ok"));
     EXPECT_EQ(m_desktop.shown, QStringList{QString::fromStdString(fileUri(m_file))});
     EXPECT_TRUE(m_desktop.shown[0].endsWith(QLatin1String("/-a%20%25%FF%0A.m4a")));
+}
+
+/// Programs that are asked and answer; each writes down how it is called.
+class CommandTest : public ProgramsTest {
+protected:
+    void install(const char* name, const char* answer) {
+        const QString path = m_programs.filePath(QString::fromLatin1(name));
+        QFile::remove(path);
+        write(path, QByteArray("#!/bin/sh\necho \"$@\" > \"${0%/*}/call\"\n").append(answer).constData());
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    template <class Ask>
+    static QVariant answer(const Ask& ask) {
+        std::optional<QVariant> found;
+        ask([&found](const auto& answer) { found = QVariant::fromValue(answer); });
+        EXPECT_FALSE(found) << "before it returns";
+        EXPECT_TRUE(spinUntil([&found] { return found.has_value(); }));
+        return found.value_or(QVariant());
+    }
+
+    static constexpr std::chrono::milliseconds kLimit{300};
+};
+
+TEST_F(CommandTest, AddressesAreOpenedByTheProgramOfTheirScheme) {
+    DesktopUrlOpener opener(m_portal, kLimit);
+    const QUrl url(QStringLiteral("appstream://com.example.store"));
+    const auto canOpen = [&] {
+        return answer([&](const auto& completion) { opener.canOpenURL(url, completion); }).toBool();
+    };
+    EXPECT_FALSE(canOpen()) << "there is no xdg-mime";
+    for (const auto& [script, can] : {std::pair{"echo org.example.Software.desktop", true},
+                                      {"echo", false},
+                                      {"echo a.desktop; exit 4", false},
+                                      {"exec /bin/sleep 1000", false}}) {
+        install("xdg-mime", script);
+        EXPECT_EQ(canOpen(), can) << script;
+        EXPECT_EQ(lastCall(), QStringLiteral("query default x-scheme-handler/appstream\n"));
+    }
+    own(kPortal);
+    opener.openURL(QUrl(QStringLiteral("-e")));
+    opener.openURL(url);
+    settle();
+    EXPECT_EQ(m_desktop.request, (QStringList{QStringLiteral("OpenURI"), QString(), url.toString()}));
+    disown(kPortal);
+    addProgram(QStringLiteral("xdg-open"));
+    opener.openURL(url);
+    EXPECT_TRUE(spinUntil([this, &url] { return lastCall() == url.toString() + QLatin1Char('\n'); }));
+}
+
+TEST_F(CommandTest, TheCatalogueKnowsThePrograms) {
+    const auto lookUp = [](AppstreamCatalogue& catalogue, const char* identifier) {
+        return answer([&](const auto& completion) {
+                   catalogue.lookUp(QString::fromLatin1(identifier), QStringLiteral("tr"), completion);
+               })
+            .toString()
+            .toStdString();
+    };
+    AppstreamCatalogue catalogue(kLimit);
+    EXPECT_EQ(lookUp(catalogue, "a"), "") << "there is no appstreamcli";
+    for (const auto& [script, found] :
+         {std::pair{
+              "echo '<?xml version=\"1.0\"?><component><name>N</name><id> a.b </id><p><id>c</id></p></component>'",
+              "a.b"},
+          {"echo '<components><component><id>a</id></component></components>'", ""},
+          {"echo '<component><name'", ""},
+          {"echo '<component><id>a</id></component>'; exit 4", ""},
+          {"exec /bin/sleep 1000", ""}}) {
+        install("appstreamcli", script);
+        EXPECT_EQ(lookUp(catalogue, "com.example.a"), found) << script;
+        EXPECT_EQ(lastCall(), QStringLiteral("dump com.example.a\n"));
+    }
+    std::make_unique<AppstreamCatalogue>()->lookUp(QStringLiteral("a"), {},
+                                                   [](const QString&) { ADD_FAILURE() << "after it is gone"; });
+    // The real one, on the catalogue of this machine.
+    qputenv("PATH", m_path);
+    AppstreamCatalogue real;
+    EXPECT_EQ(lookUp(real, "org.freedesktop.appstream.cli"), "org.freedesktop.appstream.cli");
+    EXPECT_EQ(lookUp(real, "org.example.nothing"), "");
 }
 
 }  // namespace

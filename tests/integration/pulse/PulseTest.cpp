@@ -259,6 +259,7 @@ TEST_F(Pulse, TheSessionFollowsTheServer) {
     EXPECT_TRUE(isPermitted(m_session));
     EXPECT_TRUE(setCategory());
     EXPECT_TRUE(m_session.isInputAvailable());
+    EXPECT_TRUE(m_session.serverName().startsWith(QStringLiteral("pulseaudio "))) << qPrintable(m_session.serverName());
     m_server.describeSpeaker("Desk");
     EXPECT_TRUE(QTest::qWaitFor([&route] { return route() == QLatin1String("Desk"); }));
     // There is nothing to choose from.

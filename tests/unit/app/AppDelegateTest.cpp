@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include "support/FakeRecording.h"
+#include "support/FakeSupport.h"
 
 namespace tavi::test {
 
@@ -27,6 +28,8 @@ protected:
     FakeRecording recording{*this, presenter, tabBar, notices};
     AudioRecordVC& screen = recording.vc;
     RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
+    FakeProgressView hud;
+    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
     AppDelegate delegate{{.application = application,
                           .idleTimer = idleTimer,
                           .settings = settings,
@@ -35,7 +38,9 @@ protected:
                           .audioSession = session,
                           .tabBar = tabBar,
                           .objrecordVC = screen,
-                          .imports = imports}};
+                          .imports = imports,
+                          .hudView = hud,
+                          .appRater = rating.rater}};
 };
 
 }  // namespace
@@ -58,7 +63,11 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     const QList<ShortcutItem> own{{QStringLiteral("Other"), QStringLiteral("Other"), {}, {}}};
     application.setShortcutItems(own);
     delegate.applicationDidFinishLaunching({});
-    EXPECT_EQ(defaults.writes, (QStringList{settingskey::kSort, QStringLiteral("synchronize")}));
+    EXPECT_EQ(defaults.writes.join(QLatin1Char(' ')),
+              QStringLiteral("Sort synchronize launchCount synchronize firstLaunchKey synchronize"));
+    rating.rater.setCovered(false);
+    runLoop.advance(AppRater::kMoment);
+    EXPECT_EQ(rating.catalogue.asked.size(), 1) << "the second launch asks for a rating";
     EXPECT_EQ(application.shortcutItems(), own);
 
     sharedDefaults.writes.clear();
@@ -68,6 +77,16 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_EQ(QDir(container.documentsPath()).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(sharedDefaults.writes, (QStringList{settingskey::kAppStart, QStringLiteral("synchronize")}));
     EXPECT_FALSE(sharedDefaults.boolForKey(settingskey::kAppStart));
+}
+
+TEST_F(AppDelegateTest, CoversTheWindowWithWhatIsWaitedFor) {
+    ASSERT_EQ(AppDelegate::initAppdelegate(), &delegate);
+    AppDelegate::initAppdelegate()->showCustomProgressViewWithText(QStringLiteral("Wait"));
+    ASSERT_TRUE(hud.progress);
+    EXPECT_EQ(hud.progress->text, QStringLiteral("Wait"));
+    EXPECT_TRUE(hud.progress->type == Progress::HudType::Ring && !hud.progress->cancel);
+    delegate.hideCustomProgressView();
+    EXPECT_FALSE(hud.progress);
 }
 
 TEST_F(AppDelegateTest, ALaunchingQuickActionRunsOnceAtActivation) {

@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 #include "support/FakeServices.h"
+#include "support/FakeSupport.h"
 
 namespace tavi::test {
 namespace {
@@ -15,8 +16,12 @@ struct OtherTexts : QTranslator {
     OtherTexts() { QCoreApplication::installTranslator(this); }
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* key, const char*, int) const override {
-        const bool isSlider = qstrcmp(key, "rewind") == 0 || qstrcmp(key, "forward") == 0;
-        return QStringLiteral("Wort ") + QLatin1String(key) + QLatin1String(isSlider ? " %1" : "");
+        const QByteArray name(key);
+        const bool isFilled = name == "rewind" || name == "forward" || name == "gmail" || name == "report_no_mail";
+        return QStringLiteral("Wort ") + QLatin1String(key) +
+               QLatin1String(isFilled                 ? " %1"
+                             : name == "report_facts" ? " %1 %2 %3 %4"
+                                                      : "");
     }
 };
 
@@ -49,8 +54,21 @@ protected:
 
     const OtherTexts texts;
     FakePresenter presenter;
-    SettingVC::Services services{
-        .settings = settings, .formatHold = formatHold, .runLoop = runLoop, .presenter = presenter};
+    FakeTabBar tabBar;
+    FakeMailComposer mail;
+    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    SupportRows support{{.appRater = rating.rater,
+                         .urlOpener = rating.urlOpener,
+                         .mailComposer = mail,
+                         .notices = notices,
+                         .settings = settings,
+                         .audioSession = session}};
+    SettingVC::Services services{.settings = settings,
+                                 .formatHold = formatHold,
+                                 .runLoop = runLoop,
+                                 .presenter = presenter,
+                                 .tabBar = tabBar,
+                                 .support = support};
     SettingVC vc{services};
     std::string told;
 };
@@ -69,10 +87,10 @@ TEST_F(SettingVCTest, RowsShowWhatIsStoredAndStoreTheirSliders) {
         EXPECT_EQ((std::pair{vc.rewindValue(), vc.forwardValue()}), (std::pair{rewind, forward}));
         EXPECT_EQ((std::pair{settings.storedRewindSeconds(), settings.storedForwardSeconds()}),
                   (std::pair{rewind, forward}));
-        EXPECT_EQ((vc.headerTexts() << vc.title() << vc.fileType() << vc.quality() << vc.sectionarray().mid(5))
+        EXPECT_EQ((vc.headerTexts() << vc.title() << vc.fileType() << vc.quality() << vc.sectionarray().mid(7))
                       .join(QLatin1Char(' ')),
                   QStringLiteral("Wort recording_type Wort recording_quality Wort audio_setting Wort icloud_sync "
-                                 "Wort mail Wort Settings caf Low data_security support feature"));
+                                 "Wort mail Wort data_security Wort support Wort Settings caf Low feature"));
         EXPECT_TRUE(vc.isCloudSyncOn() && vc.isQuickMailOn());
     }
 }
@@ -171,6 +189,44 @@ TEST_F(SettingVCTest, SwitchesAreStoredNegated) {
         EXPECT_EQ(defaults.boolForKey(QStringLiteral("QuickMail")), !on);
         EXPECT_EQ((std::pair{vc.isCloudSyncOn(), vc.isQuickMailOn()}), (std::pair{on, on}));
     }
+}
+
+TEST_F(SettingVCTest, SupportIsAskedForAndNothingIsOpened) {
+    tabBar.index = 2;
+    vc.dismissView();
+    EXPECT_EQ(tabBar.index, 0);
+    for (int taps = 1; taps <= 3; ++taps) {
+        support.rate();
+        support.moreApps();
+        runLoop.advance(AppRater::kMoment);
+        EXPECT_EQ(rating.store.launchCount(), taps);
+        rating.rater.setCovered(false);
+    }
+    EXPECT_EQ(rating.catalogue.asked.size(), 1) << "two launches are enough";
+    EXPECT_EQ(rating.urlOpener.asked, QStringList(3, QStringLiteral("https://apps.tavi.invalid/")));
+    EXPECT_TRUE(rating.urlOpener.opened.isEmpty());
+
+    settings.setAudioFileType(QStringLiteral("caf"));
+    settings.setAudioQualityType(QStringLiteral("Low"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2"));
+    support.reportBug();
+    const MailMessage& report = mail.messages.back();
+    EXPECT_EQ(report.subject, QStringLiteral("Wort bug_report"));
+    EXPECT_EQ(report.recipient, QStringLiteral("Wort gmail support@tavi.invalid"));
+    for (const QString& fact : {QStringLiteral("Wort issue_recorder"), QStringLiteral("1.2"), session.server,
+                                QSysInfo::prettyProductName(), QStringLiteral("caf, Low, 8000 Hz × 1")}) {
+        EXPECT_TRUE(report.body.contains(fact)) << qPrintable(fact) << qPrintable(report.body);
+    }
+    EXPECT_TRUE(notices.posted.empty());
+    session.server.clear();
+    mail.result = failure(QStringLiteral("no"));
+    support.reportBug();
+    EXPECT_TRUE(mail.messages.back().body.contains(QStringLiteral("Wort report_no_server")));
+    mail.canSend = false;
+    support.reportBug();
+    EXPECT_EQ(mail.messages.size(), 2U);
+    ASSERT_EQ(notices.posted.size(), 2U);
+    EXPECT_EQ(notices.posted[0].text, notices.posted[1].text);
 }
 
 TEST_F(SettingVCTest, AChoiceAfterTheScreenIsGoneDoesNothing) {

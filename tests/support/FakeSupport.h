@@ -1,0 +1,79 @@
+#pragma once
+
+#include "app/settings/FormatHold.h"
+#include "platform/LockState.h"
+#include "support/AppRater.h"
+#include "support/Fakes.h"
+#include "support/ManualRunLoop.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+
+class FakeStoreReview : public StoreReview {
+public:
+    void requestReview() override { ++requests; }
+
+    int requests = 0;
+};
+
+/// Finds the identifier, when the test says so.
+class FakeStoreCatalogue : public StoreCatalogue {
+public:
+    void lookUp(const QString& bundle, const QString& countryCode,
+                std::function<void(const QString&)> completion) override {
+        asked << bundle + QLatin1Char(' ') + countryCode;
+        waiting.push_back(std::move(completion));
+    }
+    void answer() {
+        for (const auto& completion : std::exchange(waiting, {})) {
+            completion(identifier);
+        }
+    }
+
+    QString identifier = QStringLiteral("com.example.store");
+    QStringList asked;
+    std::vector<std::function<void(const QString&)>> waiting;
+};
+
+/// Opens what it is said to be able to open, and keeps what it was asked.
+class FakeUrlOpener : public UrlOpener {
+public:
+    explicit FakeUrlOpener(RunLoop& runLoop) : m_runLoop(runLoop) {}
+
+    void canOpenURL(const QUrl& url, std::function<void(bool)> completion) override {
+        asked << url.toString();
+        m_runLoop.dispatchMain([completion = std::move(completion), can = canOpen] { completion(can); });
+    }
+    void openURL(const QUrl& url) override { opened << url.toString(); }
+
+    bool canOpen = true;
+    QStringList asked;
+    QStringList opened;
+
+private:
+    RunLoop& m_runLoop;
+};
+
+/// A rater with all that it needs.
+struct FakeRating {
+    FakeRating(UserDefaults& defaults, RunLoop& runLoop, Presenter& presenter, Notices& notices,
+               NotificationCenter& notifications, const FormatHold& formatHold)
+        : store(defaults),
+          urlOpener(runLoop),
+          rater({.store = store,
+                 .runLoop = runLoop,
+                 .presenter = presenter,
+                 .notices = notices,
+                 .notifications = notifications,
+                 .formatHold = formatHold,
+                 .lockState = lockState,
+                 .softwareStore = {.catalogue = catalogue, .urlOpener = urlOpener}}) {}
+
+    RatingStore store;
+    LockState lockState;
+    FakeStoreCatalogue catalogue;
+    FakeUrlOpener urlOpener;
+    AppRater rater;
+};
+
+}  // namespace tavi::test
