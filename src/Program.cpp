@@ -251,7 +251,6 @@ struct Screens {
                         table,
                         player,
                         actions};
-                        player};
     RatingStore ratingStore{platform.settings.standard};
     AppRater appRater{{.store = ratingStore,
                        .runLoop = platform.runLoop,

@@ -194,10 +194,9 @@ public:
              {QStringLiteral("notices"), QVariant::fromValue(&notices)},
              {QStringLiteral("hudView"), QVariant::fromValue(&hudView)},
              {QStringLiteral("savePanel"), QVariant::fromValue(&savePanel)},
+             {QStringLiteral("appRater"), QVariant::fromValue(&rating.rater)},
              {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)},
              {QStringLiteral("audioTrims"), QVariant::fromValue(&fakeLibrary.audioTrims)}});
-             {QStringLiteral("appRater"), QVariant::fromValue(&rating.rater)},
-             {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)}});
     }
 
     void startRecording() {
