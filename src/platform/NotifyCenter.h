@@ -11,8 +11,8 @@ class NotifyCenter {
 public:
     virtual ~NotifyCenter() = default;
 
-    /// Posts to every observer of that name, those of this program included. A name that the service cannot carry, such
-    /// as one with the character U+0000, is posted to nobody.
+    /// Posts to every observer of that name, those of this program included. A name that is no
+    /// text, as with half a surrogate pair, is posted to nobody.
     virtual void postNotification(const QString& name) = 0;
     /// Calls for every notification of that name, in the order of posting; the same observer may have many names, and
     /// one callback a name.
