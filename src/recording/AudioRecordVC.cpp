@@ -1,9 +1,13 @@
 #include "recording/AudioRecordVC.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QPointer>
+#include <cerrno>
+#include <system_error>
 
 #include "files/PathText.h"
 #include "library/utility/DateTexts.h"
@@ -376,6 +380,14 @@ void AudioRecordVC::finishBeforeTermination() {
         m_audioRecorder->waitUntilFinished();
     }
     m_services.sessionFile.finishBeforeTermination();
+}
+
+void AudioRecordVC::removeFile(const std::filesystem::path& name) const {
+    if (::unlink((m_services.container.documentsPath() / name).c_str()) == 0) {
+        qCInfo(lcRecording, "delete file");
+    } else {
+        qCInfo(lcRecording, "Could not delete file -:%s ", std::generic_category().message(errno).c_str());
+    }
 }
 
 }  // namespace tavi

@@ -108,6 +108,8 @@ public:
 
     /// Attaches the companions' channel; it is listened to from the next appearance on. Nothing attaches one by itself.
     void setWormhole(MessageListening* wormhole) { m_wormhole = wormhole; }
+    /// Removes the file of that name from the documents folder; only the log says whether it could be.
+    void removeFile(const std::filesystem::path& name) const;
     /// Saves a session that still runs, and waits until it and any earlier one are in the documents folder.
     void finishBeforeTermination();
     /// Has what was captured brought to the disk before the delay is over.

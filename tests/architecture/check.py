@@ -22,7 +22,7 @@ MODULES = {
     "app/cli": [
         "cloud", "library", "recording", "trimming", "trimming/waves", "trimming/waves/qml",
         "API/AudioTrimmerController/EZAudio", "app/settings", "files", "library/utility"],
-    "library/utility": ["files"],
+    "library/utility": ["files", "support"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": ["files"],
     "watch": ["files"],
@@ -48,7 +48,7 @@ LIBRARIES = [
     (re.compile(r"^plist/"), {"adapters/plist"}),
     (re.compile(r"^(libsecret/|sodium|glib|gio/)"), {"adapters/secret"}),
     (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
-    (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "main"}),
+    (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "adapters/network", "main"}),
 ]
 # Modules in plain C++: no header that they include brings Qt. One header of theirs is for those who do know Qt.
 PLAIN = {ENGINE, "sound", "files"}

@@ -19,6 +19,7 @@
 #include "platform/Notices.h"
 #include "platform/Presenter.h"
 #include "platform/ProgressView.h"
+#include "platform/Reachability.h"
 #include "platform/RemoteControl.h"
 #include "platform/SessionEnd.h"
 #include "platform/TabBar.h"
@@ -87,6 +88,13 @@ public:
 
     std::vector<Notice> posted;
     std::vector<Work*> works;
+};
+
+class FakeReachability : public Reachability {
+public:
+    std::optional<ReachabilityFlags> flagsOfZeroAddress() const override { return flags; }
+
+    std::optional<ReachabilityFlags> flags;
 };
 
 class FakeProgressView : public ProgressView {

@@ -8,12 +8,15 @@
 #include <optional>
 
 #include "library/utility/DateTexts.h"
+#include "support/CheckConnection.h"
 
 namespace tavi {
 
 namespace {
 
 constexpr double kMegabytesPerByte = 0.00000095367431640625;
+constexpr int kThin = 100;
+constexpr int kLight = 300;
 constexpr double kKilobytesPerMegabyte = 1024.0;
 
 std::optional<struct stat> attributesOf(const std::filesystem::path& path) {
@@ -68,6 +71,38 @@ QString Utility::fixed(double value, int decimals) {
 
 void Utility::showAlrtWithTitle(const QString& title, const QString& message, Presenter& presenter) {
     presenter.presentAlert(Alert{title, message, {AlertAction{qtTrId("OK")}}});
+}
+
+void Utility::showNetworkError(Presenter& presenter) {
+    showAlrtWithTitle(qtTrId("Network Error"), qtTrId("Please check your internet connection"), presenter);
+}
+
+bool Utility::connectedToNetwork(const Reachability& reachability) {
+    CheckConnection connection(reachability);
+    connection.start();
+    return connection.checkIntenetRechable();
+}
+
+void Utility::formatTheFileNameLabel(LabelStyle& label) {
+    label.numberOfLines = 1;
+    label.fontSize = 15.0;
+    label.textColor = getColor(QStringLiteral("aaaaaa"));
+    label.isUserInteractionEnabled = true;
+}
+
+void Utility::formatDetailFileName(LabelStyle& label) {
+    label.fontSize = 13.0;
+    label.fontWeight = kThin;
+    label.textColor = {1.0, 1.0, 1.0, 0.6};
+    label.isUserInteractionEnabled = true;
+}
+
+void Utility::setNavigationBar(NavigationBarStyle& bar) {
+    bar = {.ground = {.alpha = 0.0},
+           .titleSize = 22.0,
+           .titleWeight = kLight,
+           .titleColor = getColor(QStringLiteral("a1a1a1")),
+           .hasShadow = false};
 }
 
 }  // namespace tavi

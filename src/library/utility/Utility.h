@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/Presenter.h"
+#include "platform/Reachability.h"
 
 namespace tavi {
 
@@ -16,6 +17,28 @@ struct Color {
     double alpha = 1.0;
 
     bool operator==(const Color&) const = default;
+};
+
+/// How a label is written. A letter weight is one of QFont's; the background is clear.
+struct LabelStyle {
+    int numberOfLines = 0;
+    double fontSize = 17.0;
+    int fontWeight = 400;
+    Color textColor = {};
+    bool isUserInteractionEnabled = false;
+
+    bool operator==(const LabelStyle&) const = default;
+};
+
+/// How a screen's bar is drawn, whatever is scrolled below it: its title, on a ground that shows through to black.
+struct NavigationBarStyle {
+    Color ground = {.alpha = 0.0};
+    double titleSize = 17.0;
+    int titleWeight = 400;
+    Color titleColor = {};
+    bool hasShadow = true;
+
+    bool operator==(const NavigationBarStyle&) const = default;
 };
 
 /// Operations that several screens share; no state.
@@ -38,8 +61,17 @@ public:
     /// A number with that many decimals and a point, whatever the locale; ties go to the even digit, as printf(3) has
     /// it.
     static QString fixed(double value, int decimals);
+    /// Styles the label of a recording's name: one line, light grey.
+    static void formatTheFileNameLabel(LabelStyle& label);
+    /// Styles the label of a recording's details.
+    static void formatDetailFileName(LabelStyle& label);
+    static void setNavigationBar(NavigationBarStyle& bar);
     /// Shows an alert with one "OK" button.
     static void showAlrtWithTitle(const QString& title, const QString& message, Presenter& presenter);
+    /// Says that there is no network, in such an alert.
+    static void showNetworkError(Presenter& presenter);
+    /// Whether there is a way into the network right now; one that needs a connection first is none.
+    static bool connectedToNetwork(const Reachability& reachability);
 };
 
 }  // namespace tavi

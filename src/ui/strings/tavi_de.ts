@@ -187,6 +187,14 @@
         <translation>Abbrechen</translation>
     </message>
     <!-- Support -->
+    <message id="Network Error">
+        <source></source>
+        <translation>Netzwerkfehler</translation>
+    </message>
+    <message id="Please check your internet connection">
+        <source></source>
+        <translation>Bitte prüfen Sie Ihre Internetverbindung</translation>
+    </message>
     <message id="MessageTitle">
         <source></source>
         <translation>Gefällt Ihnen dieser Rekorder?</translation>

@@ -186,6 +186,14 @@
         <translation>Cancel</translation>
     </message>
     <!-- Support -->
+    <message id="Network Error">
+        <source></source>
+        <translation>Network Error</translation>
+    </message>
+    <message id="Please check your internet connection">
+        <source></source>
+        <translation>Please check your internet connection</translation>
+    </message>
     <message id="MessageTitle">
         <source></source>
         <translation>Do You Like This Recorder?</translation>

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "library/utility/DateTexts.h"
+#include "support/Fakes.h"
 #include "support/TemporaryContainer.h"
 
 namespace tavi::test {
@@ -44,6 +45,34 @@ TEST(UtilityTest, datesReadAsTheLocaleSpellsThem) {
     }
     const QString hostile = QStringLiteral("2024_1/2") + QChar() + QStringLiteral("_05");
     EXPECT_EQ(pathComponent(hostile), QStringLiteral("2024_1-2_05"));
+}
+
+TEST(UtilityTest, aNetworkIsThereWhereNothingHasToBeDoneForIt) {
+    FakeReachability network;
+    EXPECT_FALSE(Utility::connectedToNetwork(network)) << "cannot be read";
+    for (const bool isReachable : {false, true}) {
+        for (const bool isRequired : {false, true}) {
+            network.flags = {isReachable, isRequired};
+            EXPECT_EQ(Utility::connectedToNetwork(network), isReachable && !isRequired);
+        }
+    }
+    FakePresenter presenter;
+    Utility::showNetworkError(presenter);
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    EXPECT_EQ(presenter.alerts[0].title + presenter.alerts[0].message + presenter.alerts[0].actions.at(0).title,
+              QStringLiteral("Network ErrorPlease check your internet connectionOK"));
+}
+
+TEST(UtilityTest, labelsAndBarsAreWrittenAlike) {
+    LabelStyle name;
+    LabelStyle detail;
+    NavigationBarStyle bar;
+    Utility::formatTheFileNameLabel(name);
+    Utility::formatDetailFileName(detail);
+    Utility::setNavigationBar(bar);
+    EXPECT_EQ(name, (LabelStyle{1, 15.0, 400, Utility::getColor(QStringLiteral("aaaaaa")), true}));
+    EXPECT_EQ(detail, (LabelStyle{0, 13.0, 100, {1.0, 1.0, 1.0, 0.6}, true}));
+    EXPECT_EQ(bar, (NavigationBarStyle{{.alpha = 0.0}, 22.0, 300, Utility::getColor(QStringLiteral("a1a1a1")), false}));
 }
 
 }  // namespace
