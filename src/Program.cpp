@@ -107,6 +107,7 @@ struct Platform {
     SettingsFiles settings{container};
     FormatHold formatHold{container};
     MediaLibrary media;
+    QtTrash trash;
     QtRunLoop runLoop;
     std::shared_ptr<PulseConnection> pulse = std::make_shared<PulseConnection>();
     PulseAudioSession audioSession{pulse};
@@ -137,7 +138,6 @@ struct Platform {
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;
-    QtTrash trash;
 };
 
 /// The screens, and what only they share. Wired by the members' names.
@@ -232,10 +232,10 @@ struct Screens {
                                .presenter = platform.presenter,
                                .notices = platform.notices,
                                .runLoop = platform.runLoop,
-                               .cloud = cloud}};
+                               .cloud = cloud.documents}};
     RecordingActions actions{{.table = table,
                               .settings = platform.settings.store,
-                              .cloud = cloud,
+                              .cloud = cloud.documents,
                               .sharing = sharing,
                               .trash = platform.trash,
                               .trimmers = trimmers,

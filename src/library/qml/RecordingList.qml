@@ -117,8 +117,14 @@ ListView {
         target: list.screen
 
         function onRowRevealed(row) {
-            list.currentIndex = list.screen.table.shownIndex(row)
-            list.positionViewAtIndex(list.currentIndex, ListView.Center)
+            const index = list.screen.table.shownIndex(row)
+            if (index < 0)
+                return
+            list.currentIndex = index
+            const y = list.currentItem ? list.currentItem.y - list.contentY : -1
+            // What is in sight stays where it is.
+            if (y < list.stayingHeight || y + list.currentItem.height > list.height - list.footRoom)
+                list.positionViewAtIndex(index, ListView.Center)
         }
     }
 }

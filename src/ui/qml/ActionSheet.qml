@@ -40,6 +40,16 @@ Rectangle {
     Component.onCompleted: shown = 1
     onShownChanged: if (shown === 0 && chosen >= 0) presenter.choose(chosen)
 
+    Connections {
+        target: sheet.presenter
+
+        // Another sheet that has waited for its turn.
+        function onFrontChanged() {
+            sheet.chosen = -1
+            sheet.shown = 1
+        }
+    }
+
     Behavior on shown {
         enabled: !Theme.reducedMotion
 
