@@ -55,7 +55,11 @@
 #include "library/RecordingSharing.h"
 #include "library/RecordingTable.h"
 #include "library/VoiceMemoVC.h"
+#include "passcode/ApplicationDelegateGuard.h"
 #include "passcode/FXKeychain.h"
+#include "passcode/MailComposerGuard.h"
+#include "passcode/NoticesGuard.h"
+#include "passcode/RemoteControlGuard.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
 #include "recording/SessionGuard.h"
@@ -83,6 +87,7 @@ const QString kWindow = QStringLiteral("qrc:/Tavi/Main.qml");
 struct Platform {
     Platform(const AppContainer& folders, const QString& busName)
         : container(folders), application(bus, QDBusConnection::systemBus(), busName) {
+        application.setLockState(lockState);
         claimName();
         FXKeychain::setDefaultPorts(keychain, propertyLists);
     }
@@ -103,6 +108,7 @@ struct Platform {
 
     const AppContainer& container;
     QDBusConnection bus = QDBusConnection::sessionBus();
+    LockState lockState;
     DBusApplication application;
     SettingsFiles settings{container};
     FormatHold formatHold{container};
@@ -119,22 +125,24 @@ struct Platform {
     DBusSessionEnd sessionEnd{bus, qtTrId("session_end_reason")};
     LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
     PortalRequests portal{bus};
-    DesktopMailComposer mailComposer{portal};
+    DesktopMailComposer desktopMail{portal};
+    MailComposerGuard mailComposer{desktopMail, lockState};
     DesktopDocumentInteraction documentInteraction{bus, portal};
     SavePanel savePanel{runLoop};
     DesktopDocumentPicker documentPicker{portal, qtTrId("save_title"), savePanel};
     QuickPasteboard pasteboard;
-    MprisRemoteControl remoteControl{bus};
+    MprisRemoteControl mpris{bus};
+    RemoteControlGuard remoteControl{mpris, lockState};
     SystemKeychain keychain{StorePlaces::of(container), runLoop};
     LibplistPropertyLists propertyLists;
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;
     AlertPresenter presenter;
-    NoticeLine notices{runLoop};
+    NoticeLine noticeLine{runLoop};
+    NoticesGuard notices{noticeLine, lockState};
     JHUD hudView;
     DesktopUrlOpener urlOpener{portal};
     AppstreamCatalogue catalogue;
-    LockState lockState;
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;
@@ -143,8 +151,9 @@ struct Platform {
 /// The screens, and what only they share. Wired by the members' names.
 struct Screens {
     explicit Screens(Platform& services) : platform(services) {
-        platform.announcements.follow(platform.notices, &NoticeLine::noticeChanged,
-                                      [this] { return platform.notices.text(); });
+        platform.announcements.follow(platform.noticeLine, &NoticeLine::noticeChanged, [this] {
+            return platform.lockState.isLocked() ? QString() : platform.noticeLine.text();
+        });
         platform.announcements.follow(platform.hudView, &JHUD::shownChanged,
                                       [this] { return platform.hudView.text(); });
         platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
@@ -287,6 +296,7 @@ struct Screens {
                           .imports = imports,
                           .hudView = platform.hudView,
                           .appRater = appRater}};
+    ApplicationDelegateGuard guardedDelegate{delegate, platform.lockState};
 };
 
 /// How the window is painted, unless the environment says otherwise. Before the application is made.
@@ -323,7 +333,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},
-                                 {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.notices)},
+                                 {QStringLiteral("notices"), QVariant::fromValue(&screens.platform.noticeLine)},
                                  {QStringLiteral("hudView"), QVariant::fromValue(&screens.platform.hudView)},
                                  {QStringLiteral("savePanel"), QVariant::fromValue(&screens.platform.savePanel)},
                                  {QStringLiteral("appRater"), QVariant::fromValue(&screens.appRater)},
@@ -409,10 +419,10 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
     }
     connectWindow(window, *screens);
     keepPlace(window, platform->settings.standard);
-    platform->application.setDelegate(&screens->delegate);
+    platform->application.setDelegate(&screens->guardedDelegate);
     platform->application.setWindow(window);
     for (const QUrl& url : request.urls) {
-        screens->delegate.applicationOpenURL(url);
+        screens->guardedDelegate.applicationOpenURL(url);
     }
     platform->application.launchFinished();
     return QGuiApplication::exec();

@@ -8,17 +8,24 @@
 #include "Output.h"
 #include "Program.h"
 #include "SettingsFiles.h"
+#include "Terminal.h"
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
+#include "adapters/dbus/LockObject.h"
 #include "adapters/folder/FolderListing.h"
+#include "adapters/plist/LibplistPropertyLists.h"
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtAppContainer.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
+#include "adapters/secret/SystemKeychain.h"
 #include "app/cli/CommandLine.h"
+#include "app/cli/CommandLock.h"
 #include "app/cli/OpenFiles.h"
 #include "files/FileError.h"
+#include "passcode/FXKeychain.h"
+#include "passcode/PasscodeStore.h"
 #include "ui/Texts.h"
 
 namespace tavi {
@@ -72,17 +79,50 @@ int runBesideOther(int& argc, char** argv, const ProgramRequest& request, const 
         return reportFailure({lockError.text + QStringLiteral(" Without a session bus it cannot be told.")});
     }
     const auto handed = handOver(bus, busName, activationOf(request));
-    return handed ? EXIT_SUCCESS : reportFailure(handed.error());
+    if (!handed) {
+        const auto& [isLocked, error] = handed.error();
+        return reportFailure(error, isLocked ? kLockedExitCode : EXIT_FAILURE);
+    }
+    return EXIT_SUCCESS;
+}
+
+/// Whether the lock lets a command through that prints and ends.
+Result<void> passLockOf(SettingsStore& settings, RunLoop& runLoop, const QString& busName,
+                        const AppContainer& container) {
+    // Long enough for the password of a keyring.
+    constexpr auto kPatience = std::chrono::minutes(1);
+    QLoggingCategory::setFilterRules(QStringLiteral("tavi.keychain.info=false"));
+    return passLock({.isProtectionOn = [&] { return settings.isPasscodeProtectionOn(); },
+                     .isInstanceLocked = [&] { return isInstanceLocked(QDBusConnection::sessionBus(), busName); },
+                     .askForPasscode = [] { return askOnTerminal(qtTrId("command_passcode")); },
+                     .whyWrong =
+                         [&](const QString& passcode) {
+                             SystemKeychain keychain(StorePlaces::of(container), runLoop, kPatience);
+                             const LibplistPropertyLists propertyLists;
+                             FXKeychain values(keychain, propertyLists, kBundleIdentifier);
+                             const PasscodeStore store(settings, values, runLoop.clock());
+                             if (store.isPasscodeCorrect(passcode)) {
+                                 return QString();
+                             }
+                             const QString why = store.whyNoneIsCorrect();
+                             return why.isEmpty() ? qtTrId("command_passcode_wrong") : why;
+                         }});
 }
 
 /// Does without the window what prints and ends.
-int runPrinting(int& argc, char** argv, const PrintingCommand& command, const QString& busName,
+int runPrinting(int& argc, char** argv, const CommandLine& line, const QString& busName,
                 const AppContainer& container) {
     QCoreApplication application(argc, argv);
     installTexts(application);
     SettingsFiles settings(container);
     MediaLibrary media;
     QtRunLoop runLoop;
+    const auto& command = std::get<PrintingCommand>(line.command);
+    if (isGuardedByLock(line, container)) {
+        if (const auto passed = passLockOf(settings.store, runLoop, busName, container); !passed) {
+            return reportFailure(passed.error(), kLockedExitCode);
+        }
+    }
     QuickDisplayRefreshes refreshes;
     NotificationCenter notifications;
     QObject::connect(&notifications, &NotificationCenter::posted, &notifications,
@@ -122,8 +162,8 @@ int run(int& argc, char** argv) {
         return reportFailure(container.error());
     }
     const QString busName = busNameForContainer(line->container);
-    if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
-        return runPrinting(argc, argv, *command, busName, **container);
+    if (std::holds_alternative<PrintingCommand>(line->command)) {
+        return runPrinting(argc, argv, *line, busName, **container);
     }
     auto request = std::get<ProgramRequest>(line->command);
     const bool isForFiles = !request.files.empty();

@@ -28,6 +28,11 @@ inline bool hasOwnScheme(const QUrl& url) {
     return std::find(kOwnSchemes.begin(), kOwnSchemes.end(), url.scheme()) != kOwnSchemes.end();
 }
 
+/// Whether a companion asks by it to start or stop recording, which it may while the program is locked.
+inline bool isForRecording(const QUrl& url) {
+    return hasOwnScheme(url) && url.scheme() != kOwnSchemes.back();
+}
+
 /// Names under which the life cycle is posted to the NotificationCenter, after the delegate has heard of it.
 namespace applicationnotification {
 inline const QString kDidFinishLaunching = QStringLiteral("UIApplicationDidFinishLaunchingNotification");

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "adapters/dbus/DBusApplication.h"
+#include "adapters/dbus/LockObject.h"
 
 namespace tavi {
 
@@ -28,6 +29,11 @@ void ApplicationObject::Open(const QStringList& uris, const QVariantMap& platfor
             return;
         }
     }
+    const auto isForLibrary = [](const QUrl& url) { return hasOwnScheme(url) && !isForRecording(url); };
+    if (m_application.isLocked() && !urls.isEmpty() && std::all_of(urls.begin(), urls.end(), isForLibrary)) {
+        refuseLocked(activationToken(platformData));
+        return;
+    }
     m_application.whenLaunched([app = &m_application, urls, token = activationToken(platformData)] {
         app->activate(token);
         app->open(urls);
@@ -50,10 +56,22 @@ void ApplicationObject::ActivateAction(const QString& name, const QVariantList&,
         m_application.whenLaunched([app = &m_application] { Q_EMIT app->refreshRequested(); });
         return;
     }
+    if (m_application.isLocked() && !m_application.isRecordingAction(name)) {
+        refuseLocked(activationToken(platformData));
+        return;
+    }
     m_application.whenLaunched([app = &m_application, name, token = activationToken(platformData)] {
         app->activate(token);
         app->performAction(name);
     });
+}
+
+void ApplicationObject::refuseLocked(const QString& token) {
+    // Where the passcode can be entered.
+    m_application.whenLaunched([app = &m_application, token] { app->activate(token); });
+    if (calledFromDBus()) {
+        sendErrorReply(kLockedError, QStringLiteral("The recorder is locked. Enter the passcode in its window."));
+    }
 }
 
 void ApplicationObject::refuse(const QString& why) {

@@ -10,7 +10,8 @@ namespace tavi {
 class DBusApplication;
 
 /// The program's object on the bus: turns the methods of org.freedesktop.Application (Desktop Entry 1.5 of
-/// freedesktop.org) into calls of the application. Main thread.
+/// freedesktop.org) into calls of the application. While that is locked, what would show the library answers with
+/// kLockedError, and the window is shown all the same. Main thread.
 class ApplicationObject : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -29,6 +30,7 @@ public Q_SLOTS:
 
 private:
     void refuse(const QString& why);
+    void refuseLocked(const QString& activationToken);
 
     DBusApplication& m_application;
 };

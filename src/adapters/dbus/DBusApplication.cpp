@@ -6,6 +6,7 @@
 
 #include "adapters/dbus/ApplicationObject.h"
 #include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/LockObject.h"
 #include "adapters/dbus/SessionLock.h"
 #include "adapters/dbus/WindowState.h"
 #include "files/FileUri.h"
@@ -44,12 +45,18 @@ DBusApplication::~DBusApplication() {
     }
 }
 
+void DBusApplication::setLockState(const LockState& lockState) {
+    m_lockState = &lockState;
+    new LockObject(m_busObject.get(), lockState);
+}
+
 DBusApplication::Claim DBusApplication::claim() {
     if (!m_sessionBus.isConnected()) {
         return Claim::NoBus;
     }
     // The object comes first: with the name come the calls.
-    m_sessionBus.registerObject(kApplicationObjectPath, m_busObject.get(), QDBusConnection::ExportAllSlots);
+    m_sessionBus.registerObject(kApplicationObjectPath, m_busObject.get(),
+                                QDBusConnection::ExportAllSlots | QDBusConnection::ExportAdaptors);
     return m_sessionBus.registerService(m_busName) ? Claim::First : Claim::AlreadyRunning;
 }
 
@@ -107,6 +114,10 @@ bool DBusApplication::isAction(const QString& name) const {
 
 bool DBusApplication::isRefresh(const QString& name) {
     return isSame(name, kRefreshAction);
+}
+
+bool DBusApplication::isRecordingAction(const QString& name) const {
+    return isSame(name, kStopAction) || isSame(name, QLatin1String("record"));
 }
 
 void DBusApplication::performAction(const QString& name) {

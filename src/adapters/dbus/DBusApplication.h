@@ -8,6 +8,7 @@
 
 #include "adapters/dbus/LifeCycle.h"
 #include "platform/Application.h"
+#include "platform/LockState.h"
 
 class QWindow;
 
@@ -39,6 +40,8 @@ public:
     DBusApplication(const QDBusConnection& sessionBus, const QDBusConnection& systemBus, const QString& busName);
     ~DBusApplication() override;
 
+    /// By which callers are refused what would show the library. It outlives this. Once, before claim().
+    void setLockState(const LockState& lockState);
     /// Puts the object on the bus and asks for the name.
     Claim claim();
     /// The main window, whose state makes the life cycle. Needs a QGuiApplication. The window may go before this does.
@@ -65,6 +68,8 @@ private:
     void open(const QList<QUrl>& urls);
     bool isAction(const QString& name) const;
     static bool isRefresh(const QString& name);
+    bool isRecordingAction(const QString& name) const;
+    bool isLocked() const { return m_lockState != nullptr && m_lockState->isLocked(); }
     void performAction(const QString& name);
     const ShortcutItem* shortcutItemFor(const QString& action) const;
     /// Looks at window and session once the events at hand have been dealt with: what changes only for a moment, as
@@ -77,6 +82,7 @@ private:
     QDBusConnection m_sessionBus;
     QString m_busName;
     ApplicationDelegate* m_delegate = nullptr;
+    const LockState* m_lockState = nullptr;
     QList<ShortcutItem> m_shortcutItems;
     bool m_launched = false;
     bool m_hadFocus = false;

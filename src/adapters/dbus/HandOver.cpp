@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 #include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/LockObject.h"
 
 namespace tavi {
 
@@ -78,8 +79,8 @@ void waitForOwner(const QDBusConnection& sessionBus, const QString& busName, std
 
 }  // namespace
 
-Result<void> handOver(const QDBusConnection& sessionBus, const QString& busName, const ActivationRequest& request,
-                      std::chrono::milliseconds patience) {
+tl::expected<void, HandOverRefusal> handOver(const QDBusConnection& sessionBus, const QString& busName,
+                                             const ActivationRequest& request, std::chrono::milliseconds patience) {
     waitForOwner(sessionBus, busName, patience);
     QDBusMessage message = messageFor(busName, request);
     message.setAutoStartService(false);
@@ -92,8 +93,10 @@ Result<void> handOver(const QDBusConnection& sessionBus, const QString& busName,
     if (answer.type() == QDBusMessage::ReplyMessage) {
         return {};
     }
-    return failure(
-        QStringLiteral("The instance that is already running did not take the request: %1").arg(answer.errorMessage()));
+    const bool isLocked = answer.errorName() == kLockedError;
+    const QString text = QStringLiteral("The instance that is already running did not take the request: %1");
+    return tl::unexpected(HandOverRefusal{
+        .isLocked = isLocked, .error = {isLocked ? answer.errorMessage() : text.arg(answer.errorMessage())}});
 }
 
 void tellOfChange(const QDBusConnection& sessionBus, const QString& busName) {

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 #include "app/cli/Cloud.h"
@@ -26,7 +27,8 @@ namespace {
 constexpr const char* kFooter =
     "tavi COMMAND --help says what a command takes.\n"
     "\n"
-    "Exit status: 0 when it worked, 1 when it failed, 2 when the command line is wrong.\n"
+    "Exit status: 0 when it worked, 1 when it failed, 2 when the command line is wrong,\n"
+    "3 when the recorder is locked.\n"
     "\n"
     "Examples:\n"
     "  tavi record                         start recording, or pause and resume\n"
@@ -176,6 +178,9 @@ std::pair<CLI::App*, std::shared_ptr<Options>> Grammar::addPrinting(CLI::App& pa
     CLI::App* command = parent.add_subcommand(name, summary);
     command->group("Commands that print and end");
     command->callback([this, options] {
+        if constexpr (std::is_same_v<Options, WaveformOptions> || std::is_same_v<Options, TrimOptions>) {
+            m_line.soundFile = options->file;
+        }
         m_line.command =
             PrintingCommand([options](const CommandServices& services) { return outputOf(run(*options, services)); });
     });

@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -32,6 +33,8 @@ using PrintingCommand = std::function<Result<CommandOutput>(const CommandService
 struct CommandLine {
     /// Folder below which everything is stored, as it was given; empty for the user's own folders.
     std::filesystem::path container;
+    /// The one file that the command looks at; nothing where it looks at the recordings and settings.
+    std::optional<std::filesystem::path> soundFile;
     /// The text is that of "--help" or "--version".
     std::variant<ProgramRequest, PrintingCommand, QByteArray> command;
 };

@@ -1221,5 +1221,14 @@
         <source></source>
         <translation>Die Code-Sperre konnte etwas nicht speichern und behält es, bis das Programm endet. %1</translation>
     </message>
+    <!-- The passcode on a terminal -->
+    <message id="command_passcode">
+        <source></source>
+        <translation>Code: </translation>
+    </message>
+    <message id="command_passcode_wrong">
+        <source></source>
+        <translation>das ist nicht der Code</translation>
+    </message>
 </context>
 </TS>

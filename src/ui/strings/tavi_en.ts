@@ -1220,5 +1220,14 @@
         <source></source>
         <translation>The passcode lock could not store something, and keeps it until the program ends. %1</translation>
     </message>
+    <!-- The passcode on a terminal -->
+    <message id="command_passcode">
+        <source></source>
+        <translation>Passcode: </translation>
+    </message>
+    <message id="command_passcode_wrong">
+        <source></source>
+        <translation>this is not the passcode</translation>
+    </message>
 </context>
 </TS>

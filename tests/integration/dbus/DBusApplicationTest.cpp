@@ -1,4 +1,5 @@
 #include "adapters/dbus/DBusApplication.h"
+#include "adapters/dbus/LockObject.h"
 
 #include <gmock/gmock.h>
 
@@ -9,6 +10,7 @@
 #include <QRasterWindow>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <future>
 #include <thread>
 
 #include "adapters/dbus/BusNames.h"
@@ -72,14 +74,14 @@ protected:
                            std::chrono::milliseconds patience = std::chrono::seconds(20)) {
         const QDBusConnection second = m_bus.connect();
         std::atomic<bool> done = false;
-        Result<void> result;
+        tl::expected<void, HandOverRefusal> result;
         std::thread caller([&] {
             result = handOver(second, m_name, request, patience);
             done = true;
         });
         EXPECT_TRUE(spinUntil([&done] { return done.load(); }));
         caller.join();
-        return result ? "ok" : result.error().text.toStdString();
+        return result ? "ok" : (result.error().isLocked ? "locked: " : "") + result.error().error.text.toStdString();
     }
 
     /// Waits until the delegate has been told exactly this, all in all since the last time.
@@ -135,6 +137,34 @@ TEST_F(DBusApplicationTest, ASecondStartHandsOverToTheFirst) {
     EXPECT_THAT(handedOver({Kind::Action, {}, QStringLiteral("dance")}), ::testing::HasSubstr("no action “dance”"));
     EXPECT_THAT(handedOver({Kind::Open, {QStringLiteral("a.wav")}, {}}), ::testing::HasSubstr("“a.wav”"));
     EXPECT_TRUE(m_delegate.calls.isEmpty());
+}
+
+TEST_F(DBusApplicationTest, RefusesTheLibraryWhileLockedAndRecordsAllTheSame) {
+    LockState lock;
+    m_application.setLockState(lock);
+    ASSERT_EQ(m_application.claim(), DBusApplication::Claim::First);
+    const auto isLocked = [this, bus = m_bus.connect()] {
+        std::future<std::optional<bool>> answer =
+            std::async(std::launch::async, [&] { return isInstanceLocked(bus, m_name); });
+        spinUntil([&] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+        return answer.get();
+    };
+    EXPECT_EQ(isLocked(), false);
+    lock.setLocked(true);
+    EXPECT_EQ(isLocked(), true);
+    m_application.launchFinished();
+    const std::pair<ActivationRequest, const char*> rows[] = {
+        {{Kind::Action, {}, QStringLiteral("library")}, "locked: The recorder is locked."},
+        {{Kind::Action, {}, QStringLiteral("Recordings")}, "locked: The recorder is locked."},
+        {{Kind::Open, {QStringLiteral("TaviliteConnect:")}, {}}, "locked: The recorder is locked."},
+        {{Kind::Action, {}, QStringLiteral("Record")}, "ok"},
+        {{Kind::Open, {QStringLiteral("TaviRecordStop:")}, {}}, "ok"},
+        {{}, "ok"}};
+    for (const auto& [request, answer] : rows) {
+        EXPECT_THAT(handedOver(request), ::testing::StartsWith(answer));
+    }
+    expectCalls("shortcut Record, open tavirecordstop:");
+    EXPECT_EQ(isInstanceLocked(PrivateBus::none(), m_name), std::nullopt);
 }
 
 TEST_F(DBusApplicationTest, WhateverIsAskedShowsAHiddenWindow) {

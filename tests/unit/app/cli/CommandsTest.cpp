@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "app/cli/CommandLine.h"
+#include "app/cli/CommandLock.h"
 #include "app/cli/OpenFiles.h"
 #include "files/LockedFolder.h"
 #include "library/RecordingEntry.h"
@@ -90,6 +91,47 @@ TEST_F(CommandsTest, TheCloudIsAFolderThatExists) {
     EXPECT_TRUE(existsAt(folder)) << "what is in it stays";
 }
 
+TEST_F(CommandsTest, TheLockGuardsAllButSoundFilesElsewhere) {
+    const std::string mine = addSound("mine.wav", {}).toStdString();
+    const QTemporaryDir elsewhere;
+    const std::string link = elsewhere.path().toStdString() + "/link.wav";
+    std::filesystem::create_symlink(mine, link);
+    const std::pair<std::string, bool> rows[] = {{"list", true},
+                                                 {"set|Sort|1", true},
+                                                 {"waveform|" + mine, true},
+                                                 {"trim|--from|0|--to|1|" + mine, true},
+                                                 {"waveform|" + link, true},
+                                                 {"waveform|" + container.unsavedPath().string() + "/a/../b.wav", true},
+                                                 {"waveform|" + elsewhere.path().toStdString() + "/a.wav", false},
+                                                 {"trim|--from|0|--to|1|a.wav", false},
+                                                 {"waveform|" + container.documentsPath().string() + "2/a.wav", false}};
+    for (const auto& [words, isGuarded] : rows) {
+        const auto line = parseCommandLine(QByteArray::fromStdString(words).split('|'));
+        EXPECT_EQ(isGuardedByLock(line.value(), container), isGuarded) << words;
+    }
+}
+
+TEST(PassLock, AsksTheRunningProgramAndElseForThePasscode) {
+    struct Row {
+        bool isProtectionOn;
+        std::optional<bool> isInstanceLocked;
+        std::optional<QString> typed;
+        const char* answer;
+    };
+    const Row rows[] = {{false, true, {}, ""},
+                        {true, true, QStringLiteral("0042"), "locked: enter the passcode in the recorder's window"},
+                        {true, false, {}, ""},
+                        {true, {}, {}, "locked: the passcode can only be entered on a terminal"},
+                        {true, {}, QStringLiteral("1"), "locked: no"},
+                        {true, {}, QStringLiteral("0042"), ""}};
+    for (const Row& row : rows) {
+        const auto passed = passLock(
+            {[&] { return row.isProtectionOn; }, [&] { return row.isInstanceLocked; }, [&] { return row.typed; },
+             [](const QString& text) { return text == QStringLiteral("0042") ? QString() : QStringLiteral("no"); }});
+        EXPECT_EQ(passed ? QString() : passed.error().text, QString::fromUtf8(row.answer));
+    }
+}
+
 TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
     const std::string noSeconds = " is a number of seconds from 0 to 60, not “";
     // The first start comes after a first setting and leaves it alone.
@@ -104,6 +146,7 @@ TEST_F(CommandsTest, SettingsAreReadAndWrittenByTheirKind) {
                 {"get|QuickMail", "true\n"},
                 {"set|AudioQualityType|Größe", "! AudioQualityType is Low, Medium, High, not “Größe”"},
                 {"set|AudioQualityType|Low", ""},
+                {"set|PasscodeProtectionEnabled|NO", "! “PasscodeProtectionEnabled” is not a setting"},
                 {"set|AudioQualityType|High", ""},
                 {"get|AudioQualityType", "High\n"},
                 {"get|Sort", "1\n"},
