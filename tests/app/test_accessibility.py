@@ -50,11 +50,30 @@ class AccessibilityTest(test_app.AppTest):
         write_tone(self.documents / "Meeting.wav", 500, 1.0)
         self.start()
         self.expect_tree("record")
-        for name, *keys in (("library", "ctrl+2"), ("player", "Down", "Return"), ("closed", "Escape"), ("trimmer", "t"),
+        for name, *keys in (("library", "ctrl+2"), ("player", "Down", "Return"), ("closed", "Escape"),
+                            ("actions", "shift+F10"), ("rename", "Down", "Return"), ("trimmer", "Escape", "t"),
                             ("settings", "Escape", "ctrl+3"), ("choices", "Return"), ("shortcuts", "Escape", "F1")):
             with self.subTest(name):
                 self.desktop.keys(*keys)
                 self.expect_tree(name)
+
+    def test_keys_rename_and_delete_a_recording_and_bring_it_back(self):
+        trash = self.container.with_suffix(".data")
+        trash.mkdir()
+        self.desktop.environment["XDG_DATA_HOME"] = str(trash)
+        self.documents.mkdir(parents=True)
+        sound = write_tone(self.documents / "memo.wav", 1000, 1.0).read_bytes()
+        talk = self.documents / "talk.wav"
+        self.start("library")
+        for says, *keys in (("'memo.wav'",), ("'Rename'", "Down", "shift+F10"), ("'Rename Recording'", "Down", "Return"),
+                            ("'talk.wav'", *"talk", "Return"), ("'Delete Recording'", "Delete"), ("'Undo'", "Right", "Return")):
+            self.desktop.keys(*keys) if keys else None
+            self.wait(lambda: says in self.tree(), says)
+        self.assertEqual(self.recordings(), [])
+        self.wait(lambda: "'Undo' focused" in self.tree() or self.desktop.keys("Tab"), "the keyboard at the button")
+        self.desktop.keys("Return")
+        self.wait(talk.exists, "the recording to be back")
+        self.assertEqual(talk.read_bytes(), sound)
 
     def test_what_is_announced(self):
         said = self.container.with_suffix(".said")
