@@ -514,6 +514,10 @@ TEST_F(AudioRecordVCTest, TheEndOfTheProgramWaitsForTheRecording) {
         finishSaving();
         EXPECT_EQ(documents().size(), saved) << letter;
     }
+    for (int removals = 0; removals < 2; ++removals) {
+        screen.removeFile(documents().first().toStdString() + (removals == 1 ? ".none" : ""));
+        EXPECT_EQ(documents().size(), saved - 1);
+    }
 }
 
 }  // namespace tavi::test
