@@ -95,7 +95,7 @@ void measure(const QSize& size) {
     AudioTrimmerViewController::presentAudioTrimmerController(stage, nullptr, path.native(), {}, "talk.wav", {});
     window->grabWindow();
     std::printf("figure: first-picture-%dx%d %.2f ms\n", size.width(), size.height(), millisecondsSince(asked));
-    while (stage.screen()->isLoading()) {
+    while (stage.screen()->source()->isLoading()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     settle();

@@ -22,8 +22,6 @@ Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
 
 constexpr int kRecordTab = 0;
 constexpr int kSettingsTab = 2;
-/// In dBFS. A quiet room is louder than what a muted microphone hears.
-constexpr double kNothingHeard = -60.0;
 constexpr double kLoudest = 0.0;
 constexpr double kSilence = -160.0;
 constexpr double kZeroPoint = -45.0;
@@ -184,7 +182,7 @@ void AudioRecordVC::resumeRecording() {
 void AudioRecordVC::pauseRecording() {
     m_audioRecorder->pause();
     m_clock.stopTimer();
-    forgetLevels();
+    m_level.forget();
     setState(State::Paused);
 }
 
@@ -257,19 +255,9 @@ void AudioRecordVC::waveViewUpdate() {
             m_watch.look(*m_audioRecorder);
             m_microphone.setInUse(m_audioRecorder->inputName());
         }
-        m_level = static_cast<double>(m_audioRecorder->averagePowerForChannel(0));
-        m_waveViewMirror.startWavingWithValue(m_level);
-        m_silentReadings = m_level < kNothingHeard ? m_silentReadings + 1 : 0;
-        m_readingsSinceClip = m_audioRecorder->takeClipped() ? 0 : m_readingsSinceClip + 1;
-        Q_EMIT levelChanged();
+        m_level.read(*m_audioRecorder);
+        m_waveViewMirror.startWavingWithValue(m_level.value());
     }
-}
-
-void AudioRecordVC::forgetLevels() {
-    m_level = kSilence;
-    m_silentReadings = 0;
-    m_readingsSinceClip = kClipReadings;
-    Q_EMIT levelChanged();
 }
 
 void AudioRecordVC::showSettings() {
@@ -302,7 +290,7 @@ void AudioRecordVC::endSession(bool enablesTabBar) {
     }
     ++m_ends;
     m_clock.stopTimer();
-    forgetLevels();
+    m_level.forget();
     m_microphone.setInUse({});
     if (isRecording()) {
         m_lastTime = lblTimer().text;

@@ -15,6 +15,7 @@
 #include "recording/MicrophoneChoice.h"
 #include "recording/MicrophoneWatch.h"
 #include "recording/RecordingCloud.h"
+#include "recording/RecordingLevel.h"
 #include "recording/SessionClock.h"
 #include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
@@ -38,9 +39,7 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(bool isRecordingRunning READ isRecordingRunning NOTIFY outletsChanged)
     Q_PROPERTY(bool isDismissable READ isDismissable NOTIFY outletsChanged)
     Q_PROPERTY(bool isIdle READ isIdle NOTIFY outletsChanged)
-    Q_PROPERTY(bool isClipping READ isClipping NOTIFY levelChanged)
-    Q_PROPERTY(bool isSilent READ isSilent NOTIFY levelChanged)
-    Q_PROPERTY(double level READ level NOTIFY levelChanged)
+    Q_PROPERTY(tavi::RecordingLevel* level READ level CONSTANT)
     Q_PROPERTY(QString lastName READ lastName NOTIFY outletsChanged)
     Q_PROPERTY(QString lastTime READ lastTime NOTIFY outletsChanged)
 
@@ -94,12 +93,7 @@ public:
     /// Whether the tabs are still locked though nothing is recorded or saved. The stop action unlocks them.
     bool isDismissable() const;
     bool isIdle() const { return m_state == State::Idle; }
-    /// Whether the input was too loud within the last second and a half.
-    bool isClipping() const { return m_readingsSinceClip < kClipReadings; }
-    /// Whether nothing was heard for ten seconds.
-    bool isSilent() const { return m_silentReadings >= kSilentReadings; }
-    /// The level that was read last, in dBFS.
-    double level() const { return m_level; }
+    RecordingLevel* level() { return &m_level; }
     /// The recording that was saved last since the program began, and its time on the clock; empty where there is none.
     QString lastName() const { return m_lastName; }
     QString lastTime() const { return m_lastTime; }
@@ -132,15 +126,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     void outletsChanged();
     void clockChanged();
-    void levelChanged();
     /// The user asks to hear the recording of that name.
     void playRequested(const QString& fileName);
 
 private:
-    /// Of the ten that are taken in a second.
-    static constexpr int kClipReadings = 15;
-    static constexpr int kSilentReadings = 100;
-
     void audioRecorderDidFinishRecording(AudioRecorder& recorder, const std::optional<Error>& error) override;
 
     void permissionAnswered(bool granted);
@@ -153,7 +142,6 @@ private:
     void stopFromWatch();
     void endSession(bool enablesTabBar);
     void didSave(const QString& fileName);
-    void forgetLevels();
 
     void createDirAtSharedContainerPath() const;
     void initWaveViewMirror();
@@ -169,6 +157,7 @@ private:
     WaveView m_waveViewMirror;
     std::unique_ptr<AudioRecorder> m_audioRecorder;
     SessionClock m_clock{m_services.runLoop};
+    RecordingLevel m_level;
     MicrophoneWatch m_watch{m_services.notices};
     MicrophoneChoice m_microphone{{.audioSession = m_services.audioSession,
                                    .settings = m_services.settings,
@@ -182,9 +171,6 @@ private:
     /// Base name of the session that was stopped last.
     QString m_name;
 
-    double m_level = -160.0;
-    int m_silentReadings = 0;
-    int m_readingsSinceClip = kClipReadings;
     QString m_lastName;
     QString m_lastTime;
     QString m_lblFileType;

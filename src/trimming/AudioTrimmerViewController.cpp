@@ -11,6 +11,14 @@
 
 namespace tavi {
 
+namespace {
+
+std::filesystem::path pathOf(const std::string& url) {
+    return QByteArray::fromStdString(url).replace("file://", "").toStdString();
+}
+
+}  // namespace
+
 void AudioTrimmerViewController::presentAudioTrimmerController(AudioTrimmerStage& stage, QObject* presenter,
                                                                const std::string& strUrl, const QVariantMap& dicGetData,
                                                                const std::filesystem::path& getFfName,
@@ -30,11 +38,15 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
     : QObject(parent),
       m_services(services),
       m_input(std::move(input)),
+      m_source({.exports = services.exports, .waveforms = services.waveforms, .runLoop = services.runLoop},
+               pathOf(m_input.getUrl)),
       m_audioPlot(EZAudioPlot::init(services.refreshes)),
-      m_player({.players = services.players, .notices = services.notices, .runLoop = services.runLoop}, filePath(),
+      m_player({.players = services.players, .notices = services.notices, .runLoop = services.runLoop}, m_source.path(),
                m_selection),
       m_export(services.exports, services.runLoop),
       m_recorder(services.recorder, services.exports, services.runLoop, services.container.documentsPath()) {
+    connect(&m_source, &TrimSource::assetLoaded, this, &AudioTrimmerViewController::didLoadAsset);
+    connect(&m_source, &TrimSource::waveformLoaded, this, &AudioTrimmerViewController::didLoadWaveform);
     connect(&m_selection, &TrimSelection::panned, &m_player, &TrimPlayer::stopAudioPlayer);
     connect(&m_export, &TrimExport::changed, this, &AudioTrimmerViewController::busyChanged);
     connect(&m_recorder, &ScratchRecorder::recorded, this, &AudioTrimmerViewController::didRecord);
@@ -45,18 +57,11 @@ AudioTrimmerViewController::AudioTrimmerViewController(const Services& services,
 }
 
 AudioTrimmerViewController::~AudioTrimmerViewController() {
-    if (m_isLoading) {
-        m_services.waveforms.cancel();
-    }
     if (m_isDismissed) {
         m_export.waitUntilFinished();
     } else {
         m_export.cancel();
     }
-}
-
-std::filesystem::path AudioTrimmerViewController::filePath() const {
-    return QByteArray::fromStdString(m_input.getUrl).replace("file://", "").toStdString();
 }
 
 QString AudioTrimmerViewController::fileText() const {
@@ -68,11 +73,6 @@ ButtonOutlet AudioTrimmerViewController::btnEditTrimmedVideo() const {
     button.title = m_areEditingControlsHidden ? qtTrId("trimmer_edit") : qtTrId("trimmer_trim");
     button.selected = m_areEditingControlsHidden;
     return button;
-}
-
-QString AudioTrimmerViewController::problem() const {
-    const bool isUnreadable = m_asset && m_asset->audioTracks.empty();
-    return isUnreadable ? qtTrId("trimmer_unreadable") : QString();
 }
 
 void AudioTrimmerViewController::viewDidLoad() {
@@ -88,59 +88,26 @@ void AudioTrimmerViewController::setupAudioPlot() {
     m_audioPlot->setShouldFill(true);
     m_audioPlot->setShouldMirror(true);
     m_audioPlot->setShouldOptimizeForRealtimePlot(false);
-    if (!m_waveform.empty()) {
-        // The recording is never changed: it need not be read again.
-        m_audioPlot->updateBuffer(m_waveform.data(), static_cast<quint32>(m_waveform.size()));
-    } else if (!m_isLoading && !m_isDismissed) {
-        loadFile();
+    if (const std::vector<float>& points = m_source.points(); !points.empty()) {
+        m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
+    } else if (!m_isDismissed) {
+        m_source.load();
     }
 }
 
-void AudioTrimmerViewController::loadFile() {
-    m_isLoading = true;
-    Q_EMIT outletsChanged();
-    const QPointer<AudioTrimmerViewController> self(this);
-    // A length that no header tells takes reading all of the file.
-    m_services.runLoop.dispatchBackground([self, services = m_services, path = filePath()] {
-        const Asset asset = services.exports.assetWithURL(path);
-        services.runLoop.dispatchMain([self, asset] {
-            if (self) {
-                self->didLoadAsset(asset);
-            }
-        });
-    });
-    m_services.waveforms.load(filePath(), [self](const std::vector<float>& points) {
-        if (self) {
-            self->didLoadWaveform(points);
-        }
-    });
-}
-
-void AudioTrimmerViewController::didLoadAsset(const Asset& asset) {
-    m_asset = asset;
-    m_lblTotalDuration = trimrules::timeFormatted(asset.duration.seconds(), true);
-    m_selection.setAudioDuration(asset.duration.seconds());
+void AudioTrimmerViewController::didLoadAsset() {
+    const double seconds = m_source.asset()->duration.seconds();
+    m_lblTotalDuration = trimrules::timeFormatted(seconds, true);
+    m_selection.setAudioDuration(seconds);
     Q_EMIT outletsChanged();
 }
 
-void AudioTrimmerViewController::didLoadWaveform(const std::vector<float>& points) {
-    m_isLoading = false;
-    m_waveform = points;
+void AudioTrimmerViewController::didLoadWaveform() {
+    const std::vector<float>& points = m_source.points();
     if (!points.empty()) {
         m_audioPlot->setGain(fittingGain(points));
         m_audioPlot->updateBuffer(points.data(), static_cast<quint32>(points.size()));
     }
-    Q_EMIT waveformChanged();
-    Q_EMIT outletsChanged();
-}
-
-QList<qreal> AudioTrimmerViewController::waveform() const {
-    const float gain = fittingGain(m_waveform);
-    QList<qreal> levels;
-    for (const float point : m_waveform) {
-        levels.append(static_cast<qreal>(std::min(point * gain, 1.0F)));
-    }
-    return levels;
 }
 
 void AudioTrimmerViewController::resetAudioPlayer() {
@@ -155,11 +122,11 @@ void AudioTrimmerViewController::trimAudioWithCompletion(std::function<void()> c
         m_strTrimmedAudioURL = trimrules::outputPath(m_services.container.documentsPath(),
                                                      m_services.runLoop.clock().now(), m_input.getFileName);
     }
-    if (!m_asset) {
+    if (!m_source.asset()) {
         return;
     }
     m_export.start(
-        *m_asset, m_strTrimmedAudioURL, trimrules::outputFileType(m_input.getFileName), m_selection.times(),
+        *m_source.asset(), m_strTrimmedAudioURL, trimrules::outputFileType(m_input.getFileName), m_selection.times(),
         [this, completion = std::move(completion)](AssetExportStatus status) { exportEnded(status, completion); });
 }
 
@@ -194,7 +161,7 @@ void AudioTrimmerViewController::btnUploadTapped() {
 }
 
 void AudioTrimmerViewController::done() {
-    if (!existsAt(filePath())) {
+    if (!existsAt(m_source.path())) {
         return;
     }
     m_player.stopAudioPlayer();
@@ -235,9 +202,7 @@ void AudioTrimmerViewController::btnCancelTapped() {
 void AudioTrimmerViewController::dismissAudioTrimmer(const std::filesystem::path& path) {
     m_isDismissed = true;
     // The next trimmer loads its waveform with the same loader, while this one may still wait for its export.
-    if (std::exchange(m_isLoading, false)) {
-        m_services.waveforms.cancel();
-    }
+    m_source.giveUp();
     m_recorder.close();
     if (m_input.completionBlock) {
         m_input.completionBlock(!path.empty(), path);

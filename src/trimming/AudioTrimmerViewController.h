@@ -2,13 +2,12 @@
 
 #include <QObject>
 #include <memory>
-#include <optional>
-#include <vector>
 
 #include "trimming/ScratchRecorder.h"
 #include "trimming/TrimExport.h"
 #include "trimming/TrimPlayer.h"
 #include "trimming/TrimSelection.h"
+#include "trimming/TrimSource.h"
 #include "trimming/TrimZoom.h"
 #include "trimming/TrimmerInput.h"
 
@@ -22,7 +21,7 @@ class AudioTrimmerViewController : public QObject {
     Q_PROPERTY(tavi::EZAudioPlot* audioPlot READ audioPlot CONSTANT)
     Q_PROPERTY(tavi::TrimSelection* selection READ selection CONSTANT)
     Q_PROPERTY(tavi::TrimZoom* zoom READ zoom CONSTANT)
-    Q_PROPERTY(QList<qreal> waveform READ waveform NOTIFY waveformChanged)
+    Q_PROPERTY(tavi::TrimSource* source READ source CONSTANT)
     Q_PROPERTY(tavi::TrimPlayer* player READ player CONSTANT)
     Q_PROPERTY(tavi::TrimExport* exporter READ exporter CONSTANT)
     Q_PROPERTY(QString fileText READ fileText CONSTANT)
@@ -32,10 +31,6 @@ class AudioTrimmerViewController : public QObject {
     Q_PROPERTY(bool areEditingControlsHidden READ areEditingControlsHidden NOTIFY outletsChanged)
     Q_PROPERTY(bool isRecordingViewHidden READ isRecordingViewHidden NOTIFY outletsChanged)
     Q_PROPERTY(bool isEditingViewHidden READ isEditingViewHidden NOTIFY outletsChanged)
-    Q_PROPERTY(bool isLoading READ isLoading NOTIFY outletsChanged)
-    Q_PROPERTY(bool canExport READ canExport NOTIFY outletsChanged)
-    /// Why the recording cannot be trimmed, in one line; empty where it can.
-    Q_PROPERTY(QString problem READ problem NOTIFY outletsChanged)
 
 public:
     using Services = TrimmerServices;
@@ -56,8 +51,7 @@ public:
     EZAudioPlot* audioPlot() { return m_audioPlot.get(); }
     TrimSelection* selection() { return &m_selection; }
     TrimZoom* zoom() { return &m_zoom; }
-    /// How loud the recording is from place to place, from 0 to 1; empty until it is known.
-    QList<qreal> waveform() const;
+    TrimSource* source() { return &m_source; }
     TrimPlayer* player() { return &m_player; }
     TrimExport* exporter() { return &m_export; }
     QString fileText() const;
@@ -68,10 +62,6 @@ public:
     bool areEditingControlsHidden() const { return m_areEditingControlsHidden; }
     bool isRecordingViewHidden() const { return m_isRecordingViewHidden; }
     bool isEditingViewHidden() const { return !m_isRecordingViewHidden; }
-    bool isLoading() const { return m_isLoading; }
-    /// Whether the recording has been looked at and holds sound.
-    bool canExport() const { return m_asset && !m_asset->audioTracks.empty(); }
-    QString problem() const;
     /// Whether an export or a recording has not ended yet.
     bool isBusy() const { return m_export.isRunning() || m_recorder.isBusy(); }
 
@@ -96,16 +86,13 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void outletsChanged();
-    void waveformChanged();
     /// The screen is to leave; comes again with every further closing.
     void dismissed();
     void busyChanged();
 
 private:
-    std::filesystem::path filePath() const;
-    void loadFile();
-    void didLoadAsset(const Asset& asset);
-    void didLoadWaveform(const std::vector<float>& points);
+    void didLoadAsset();
+    void didLoadWaveform();
     void setupAudioPlot();
     void resetAudioPlayer();
     void trimAudioWithCompletion(std::function<void()> completion);
@@ -118,17 +105,15 @@ private:
 
     Services m_services;
     Input m_input;
+    TrimSource m_source;
     std::unique_ptr<EZAudioPlot> m_audioPlot;
     TrimSelection m_selection;
     TrimZoom m_zoom{m_selection};
     TrimPlayer m_player;
     TrimExport m_export;
     ScratchRecorder m_recorder;
-    std::optional<Asset> m_asset;
-    std::vector<float> m_waveform;
     std::filesystem::path m_strTrimmedAudioURL;
     QString m_lblTotalDuration;
-    bool m_isLoading = false;
     bool m_isAudioTrimmed = false;
     bool m_areEditingControlsHidden = false;
     bool m_isDoneHidden = false;

@@ -20,4 +20,11 @@ struct MicrophoneChoiceForeign {
     QML_UNCREATABLE("The record screen has one.")
 };
 
+struct RecordingLevelForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::RecordingLevel)
+    QML_NAMED_ELEMENT(RecordingLevel)
+    QML_UNCREATABLE("The record screen has one.")
+};
+
 }  // namespace tavi

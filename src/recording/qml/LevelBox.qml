@@ -11,7 +11,7 @@ Rectangle {
     /// What assistive technology reads as the level, in decibels.
     readonly property real from: -160
     readonly property real to: 0
-    readonly property real value: screen.level
+    readonly property real value: screen.level.value
 
     radius: Theme.radiusWave
     color: Theme.well
@@ -55,7 +55,7 @@ Rectangle {
     Row {
         x: parent.width - width - 10
         y: 8
-        visible: box.screen.isClipping
+        visible: box.screen.level.isClipping
         spacing: 6
 
         Rectangle {
@@ -80,7 +80,7 @@ Rectangle {
         x: Theme.gapWide
         y: parent.height - height - Theme.gapWide
         width: parent.width - 2 * x
-        visible: box.screen.isSilent
+        visible: box.screen.level.isSilent
         text: qsTrId("record_silent")
         color: Theme.light
         font.pixelSize: Theme.textDetail

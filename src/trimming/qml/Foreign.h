@@ -22,6 +22,13 @@ struct AudioTrimmerViewControllerForeign {
     QML_UNCREATABLE("The stage has one while it is shown.")
 };
 
+struct TrimSourceForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::TrimSource)
+    QML_NAMED_ELEMENT(TrimSource)
+    QML_UNCREATABLE("Trimmers have one.")
+};
+
 struct TrimSelectionForeign {
     Q_GADGET
     QML_FOREIGN(tavi::TrimSelection)

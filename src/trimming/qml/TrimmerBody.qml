@@ -101,7 +101,7 @@ FocusScope {
         filled: true
         name: root.screen.player.isPlaying ? qsTrId("a11y_pause") : qsTrId("trimmer_play")
         shortcut: qsTrId("key_space")
-        enabled: root.screen.problem === ""
+        enabled: root.screen.source.problem === ""
         focus: true
         onClicked: root.screen.btnPlayPauseTapped()
     }

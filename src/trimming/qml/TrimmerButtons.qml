@@ -56,7 +56,7 @@ Item {
         horizontalPadding: root.filling ? 4 : 16
         imageName: root.withImages ? "trim" : ""
         imageFirst: true
-        enabled: root.screen.canExport
+        enabled: root.screen.source.canExport
         Accessible.checkable: true
         Accessible.checked: root.screen.btnEditTrimmedVideo.selected
         onClicked: root.screen.btnEditTrimmedVideoTapped()

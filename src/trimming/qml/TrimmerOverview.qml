@@ -24,7 +24,7 @@ Rectangle {
         anchors.bottomMargin: 4
         barWidth: 1
         gap: 0
-        levels: root.screen.waveform
+        levels: root.screen.source.waveform
         color: Theme.trimEdge
         restColor: Theme.dim
         from: root.screen.areEditingControlsHidden ? 0 : root.selection.leftThumbX / root.selection.containerWidth

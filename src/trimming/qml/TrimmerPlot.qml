@@ -66,9 +66,9 @@ Item {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.margin, implicitWidth)
             objectName: "problem"
-            text: root.screen.problem || (root.screen.isLoading ? qsTrId("trimmer_loading") : "")
+            text: root.screen.source.problem || (root.screen.source.isLoading ? qsTrId("trimmer_loading") : "")
             visible: text !== ""
-            color: root.screen.problem ? Theme.tint : Theme.label
+            color: root.screen.source.problem ? Theme.tint : Theme.label
             elide: Text.ElideRight
             maximumLineCount: 1
             Accessible.role: Accessible.StaticText

@@ -90,7 +90,7 @@ FocusScope {
                 visible: !root.screen.isDoneHidden
                 text: qsTrId("trimmer_done")
                 kind: TButton.Filled
-                enabled: root.screen.canExport
+                enabled: root.screen.source.canExport
                 onClicked: root.screen.btnUploadTapped()
             }
 

@@ -306,7 +306,7 @@ TEST_F(AudioRecordVCTest, WhatIsTooLoudOrNotHeardIsSaidForAWhile) {
     const auto hear = [this](int tenths, float power) {
         recorders.last()->capture(100, power);
         runLoop.advance(tenths * 0.1);
-        return std::pair(screen.isClipping(), screen.isSilent());
+        return std::pair(screen.level()->isClipping(), screen.level()->isSilent());
     };
     EXPECT_EQ(hear(1, 0.0F), std::pair(true, false));
     EXPECT_EQ(hear(14, -30.0F), std::pair(true, false));
@@ -316,7 +316,7 @@ TEST_F(AudioRecordVCTest, WhatIsTooLoudOrNotHeardIsSaidForAWhile) {
     EXPECT_EQ(hear(1, -30.0F), std::pair(false, false));
     EXPECT_EQ(hear(120, -70.0F), std::pair(false, true));
     tapRecord();
-    EXPECT_FALSE(screen.isSilent()) << "paused";
+    EXPECT_FALSE(screen.level()->isSilent()) << "paused";
 }
 
 TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {

@@ -267,7 +267,7 @@ TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWasAndAnothe
 TEST_F(AudioTrimmerTest, WhatCannotBeReadIsNotTrimmed) {
     container.addDocument("text.txt", "text");
     AudioTrimmerViewController& screen = open("text.txt");
-    EXPECT_FALSE(screen.problem().isEmpty());
+    EXPECT_FALSE(screen.source()->problem().isEmpty());
     screen.btnPlayPauseTapped();
     screen.selection()->nudge(true, 1.0);
     screen.btnUploadTapped();
