@@ -1,11 +1,12 @@
 import QtQuick
 import Tavi.Library
+import Tavi.Passcode
 import Tavi.Recording
 import Tavi.Settings
 import Tavi.Trimming
 import Tavi.Ui
 
-/// The window: three tabs, and notices and alerts above them.
+/// The window: three tabs, notices and alerts above them, and the passcode lock above all.
 Window {
     id: window
 
@@ -21,11 +22,14 @@ Window {
     required property QtObject appRater
     required property AudioTrimmerStage trimmers
     required property AudioTrimStage audioTrims
+    required property PasscodeCoordinator passcode
     /// Fades take the place of movements.
     property bool reducedMotion: false
+    /// The passcode lock is before everything: nothing else is drawn, has the keyboard or is told to screen readers.
+    readonly property bool locked: lock.shown
     readonly property bool trimming: trimmer.shown || audioTrim.shown
     /// Something covers the screens and takes the keys.
-    readonly property bool covered: presenter.active || trimming || shortcuts.shown || savePanel.active || hudView.shown
+    readonly property bool covered: locked || presenter.active || trimming || shortcuts.shown || savePanel.active || hudView.shown
 
     /// The least width and height that the screens are laid out for.
     readonly property int leastSide: 280
@@ -76,6 +80,7 @@ Window {
     onCoveredChanged: focusScreen()
     // Whoever has gone on to trim has seen what was said before.
     onTrimmingChanged: if (trimming) notices.dismiss()
+    onLockedChanged: if (!locked) appear()
     Component.onCompleted: {
         started = true
         appear()
@@ -157,11 +162,12 @@ Window {
         onActivated: shortcuts.open()
     }
 
-    /// All that is seen. Where the window is smaller than anything can be laid out in, as with very large text on a small
-    /// phone, it is laid out for the least size and shown smaller.
+    /// All that is seen but for the lock. Where the window is smaller than anything can be laid out in, as with very large
+    /// text on a small phone, it is laid out for the least size and shown smaller.
     Item {
         id: stage
 
+        visible: !window.locked
         width: window.width / window.fit
         height: window.height / window.fit
         scale: window.fit
@@ -292,6 +298,8 @@ Window {
         }
 
         Loader {
+            id: saving
+
             anchors.fill: parent
             active: window.savePanel.active
             focus: active && !window.hudView.shown && !window.presenter.active
@@ -323,5 +331,18 @@ Window {
                 presenter: window.presenter
             }
         }
+    }
+
+    PasscodeLayer {
+        id: lock
+
+        objectName: "lock"
+        width: stage.width
+        height: stage.height
+        scale: stage.scale
+        transformOrigin: Item.TopLeft
+        coordinator: window.passcode
+        front: [overlay, hud, saving].find(layer => layer.active)
+               ?? [shortcuts, audioTrim, trimmer].find(layer => layer.shown) ?? null
     }
 }

@@ -59,6 +59,7 @@
 #include "passcode/FXKeychain.h"
 #include "passcode/MailComposerGuard.h"
 #include "passcode/NoticesGuard.h"
+#include "passcode/PasscodeCoordinator.h"
 #include "passcode/RemoteControlGuard.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
@@ -86,7 +87,9 @@ const QString kWindow = QStringLiteral("qrc:/Tavi/Main.qml");
 /// What the screens work with: an adapter for each port, and the shell.
 struct Platform {
     Platform(const AppContainer& folders, const QString& busName)
-        : container(folders), application(bus, QDBusConnection::systemBus(), busName) {
+        : container(folders),
+          application(bus, QDBusConnection::systemBus(), busName,
+                      {.systemSleep = systemSleep, .notifications = notifications}) {
         application.setLockState(lockState);
         claimName();
         FXKeychain::setDefaultPorts(keychain, propertyLists);
@@ -109,6 +112,8 @@ struct Platform {
     const AppContainer& container;
     QDBusConnection bus = QDBusConnection::sessionBus();
     LockState lockState;
+    LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
+    NotificationCenter notifications;
     DBusApplication application;
     SettingsFiles settings{container};
     FormatHold formatHold{container};
@@ -123,7 +128,6 @@ struct Platform {
     FilePlayers audioPlayers{media, media, audioOutputs, runLoop};
     DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
     DBusSessionEnd sessionEnd{bus, qtTrId("session_end_reason")};
-    LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
     PortalRequests portal{bus};
     DesktopMailComposer desktopMail{portal};
     MailComposerGuard mailComposer{desktopMail, lockState};
@@ -136,7 +140,6 @@ struct Platform {
     SystemKeychain keychain{StorePlaces::of(container), runLoop};
     LibplistPropertyLists propertyLists;
     QuickDisplayRefreshes refreshes;
-    NotificationCenter notifications;
     AlertPresenter presenter;
     NoticeLine noticeLine{runLoop};
     NoticesGuard notices{noticeLine, lockState};
@@ -151,11 +154,15 @@ struct Platform {
 /// The screens, and what only they share. Wired by the members' names.
 struct Screens {
     explicit Screens(Platform& services) : platform(services) {
+        QObject::connect(&keychain, &FXKeychain::troubleChanged, &passcode,
+                         &PasscodeCoordinator::secureStoreTroubleChanged);
+        // Nothing is spoken that cannot be seen.
         platform.announcements.follow(platform.noticeLine, &NoticeLine::noticeChanged, [this] {
             return platform.lockState.isLocked() ? QString() : platform.noticeLine.text();
         });
-        platform.announcements.follow(platform.hudView, &JHUD::shownChanged,
-                                      [this] { return platform.hudView.text(); });
+        platform.announcements.follow(platform.hudView, &JHUD::shownChanged, [this] {
+            return platform.lockState.isLocked() ? QString() : platform.hudView.text();
+        });
         platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
             return recording.lblRecording().hidden ? QString() : recording.lblRecording().text;
         });
@@ -275,12 +282,20 @@ struct Screens {
                              .notices = platform.notices,
                              .settings = platform.settings.store,
                              .audioSession = platform.audioSession}};
+    FXKeychain& keychain = FXKeychain::defaultKeychain();
+    PasscodeCoordinator passcode{{.settings = platform.settings.store,
+                                  .keychain = keychain,
+                                  .notifications = platform.notifications,
+                                  .runLoop = platform.runLoop,
+                                  .presenter = platform.presenter,
+                                  .lockState = platform.lockState}};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,
                         .runLoop = platform.runLoop,
                         .presenter = platform.presenter,
                         .tabBar = platform.tabBar,
-                        .support = supportRows}};
+                        .support = supportRows,
+                        .passcode = passcode}};
     RecordingImport imports{{.container = platform.container,
                              .runLoop = platform.runLoop,
                              .notices = platform.notices,
@@ -295,7 +310,8 @@ struct Screens {
                           .objrecordVC = recording,
                           .imports = imports,
                           .hudView = platform.hudView,
-                          .appRater = appRater}};
+                          .appRater = appRater,
+                          .passcode = passcode}};
     ApplicationDelegateGuard guardedDelegate{delegate, platform.lockState};
 };
 
@@ -339,6 +355,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
                                  {QStringLiteral("appRater"), QVariant::fromValue(&screens.appRater)},
                                  {QStringLiteral("trimmers"), QVariant::fromValue(&screens.trimmers)},
                                  {QStringLiteral("audioTrims"), QVariant::fromValue(&screens.audioTrims)},
+                                 {QStringLiteral("passcode"), QVariant::fromValue(&screens.passcode)},
                                  {QStringLiteral("reducedMotion"), qEnvironmentVariableIsSet("TAVI_REDUCED_MOTION")},
                                  {QStringLiteral("x"), place.x()},
                                  {QStringLiteral("y"), place.y()},
@@ -410,6 +427,9 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
     const QQmlComponent reading(&engine, QUrl(kWindow), QQmlComponent::Asynchronous);
 
     platform.emplace(container, busName);
+    if (platform->settings.store.isPasscodeProtectionOn()) {
+        platform->keychain.prepare();
+    }
     screens.emplace(*platform);
     const LastMoment lastMoment([&delegate = screens->delegate] { delegate.applicationWillTerminate(); });
     screens->delegate.applicationDidFinishLaunching({request.shortcutType});

@@ -6,6 +6,7 @@
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_LibraryPlugin)
+Q_IMPORT_QML_PLUGIN(Tavi_PasscodePlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_RecordingPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_SettingsPlugin)
 Q_IMPORT_QML_PLUGIN(Tavi_TrimmingPlugin)

@@ -41,6 +41,8 @@ AppDelegate* AppDelegate::initAppdelegate() {
 
 bool AppDelegate::applicationDidFinishLaunching(const LaunchOptions& options) {
     setTheUserDefaultsValue();
+    m_services.passcode.activatePasscodeProtection();
+    setPasscodeStyle(m_services.passcode.appearance);
     setAppStart(true);
     // On purpose a refusal shows nothing here: the recording screen asks again, and says so, when it matters.
     m_services.audioSession.requestRecordPermission([](bool) {});
@@ -55,6 +57,27 @@ void AppDelegate::setTheUserDefaultsValue() {
     m_services.settings.writeFirstLaunchValues();
     // The screen must not lock while a recording is in progress.
     m_services.idleTimer.setIdleTimerDisabled(true);
+}
+
+void AppDelegate::setPasscodeStyle(PasscodeAppearance& appearance) {
+    const QString accent = QStringLiteral("#c8252c");
+    const QString black = QStringLiteral("#000000");
+    const QString letters = QStringLiteral("Avenir-Book");
+    PasscodeButtonStyle style;
+    style.lineColor = style.titleColor = style.selectedFillColor = accent;
+    style.fillColor = QStringLiteral("#00000000");
+    style.selectedLineColor = style.selectedTitleColor = black;
+    style.titleFont = {letters, 35.0};
+    appearance.buttonStyleProvider = {};
+    appearance.buttonStyleProvider.addStyle(style, PasscodeButtonStyleProvider::kAllButtons);
+    appearance.instructionsLabelFont = {letters, 20.0};
+    appearance.instructionsLabelColor = accent;
+    appearance.cancelOrDeleteButtonFont = {letters, 15.0};
+    appearance.cancelOrDeleteButtonColor = QStringLiteral("#ff0000");
+    appearance.backgroundColor = black;
+    appearance.logo = QStringLiteral("wp_white.png");
+    appearance.passcodeViewFillColor = accent;
+    appearance.passcodeViewLineColor = accent;
 }
 
 void AppDelegate::setAppStart(bool started) {

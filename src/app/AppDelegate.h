@@ -4,6 +4,7 @@
 
 #include "app/settings/SettingsStore.h"
 #include "library/RecordingImport.h"
+#include "passcode/PasscodeCoordinator.h"
 #include "platform/AppContainer.h"
 #include "platform/Application.h"
 #include "platform/AudioSession.h"
@@ -32,6 +33,7 @@ public:
         RecordingImport& imports;
         ProgressView& hudView;
         AppRater& appRater;
+        PasscodeCoordinator& passcode;
     };
 
     explicit AppDelegate(const Services& services);
@@ -44,6 +46,9 @@ public:
     /// What the screens read when they are built: defaults first, then the rest of the start-up. False when a quick
     /// action launched the program; it runs at the first activation.
     bool applicationDidFinishLaunching(const LaunchOptions& options);
+
+    /// The entry screen in the program's own colours and letters.
+    static void setPasscodeStyle(PasscodeAppearance& appearance);
 
     void applicationDidBecomeActive() override;
     void applicationWillResignActive() override {}

@@ -51,6 +51,7 @@ void SettingVC::viewDidLoad() {
 }
 
 void SettingVC::viewWillAppear() {
+    showPasscode(m_services.passcode.isPasscodeProtectionOn());
     // Rows that stand stay as they are: a moved slider keeps the label that its move gave it.
     if (!m_rowsBuilt) {
         loadData();
@@ -76,6 +77,8 @@ void SettingVC::loadData() {
     m_isCloudSyncOn = m_services.settings.isCloudSyncOn();
     m_quickMailText = qtTrId("Quick_Mail");
     m_isQuickMailOn = m_services.settings.isQuickMailOn();
+    m_passcodeText = qtTrId("passcode_lock");
+    m_changePassText = qtTrId("change_pass");
     buildSliderRows();
     Q_EMIT rowsChanged();
     Q_EMIT slidersChanged();
@@ -184,6 +187,36 @@ void SettingVC::hideShowiClound(bool on) {
 void SettingVC::autoQuickMail(bool on) {
     m_services.settings.setQuickMailOn(on);
     m_isQuickMailOn = m_services.settings.isQuickMailOn();
+    Q_EMIT rowsChanged();
+}
+
+void SettingVC::updateSwitch(bool on) {
+    m_isPasscodeSwitchOn = on;
+    const auto show = [self = QPointer(this)](bool enabled) {
+        if (self) {
+            self->showPasscode(enabled);
+            self->loadData();
+        }
+    };
+    if (on) {
+        m_services.passcode.setupNewPasscodeWithCompletion(show);
+    } else {
+        m_services.passcode.disablePasscodeProtectionWithCompletion([show](bool success) { show(!success); });
+    }
+    Q_EMIT rowsChanged();
+}
+
+void SettingVC::changePasscode() {
+    m_services.passcode.changePasscodeWithCompletion([self = QPointer(this)](bool success) {
+        if (self && success) {
+            self->loadData();
+        }
+    });
+}
+
+void SettingVC::showPasscode(bool enabled) {
+    m_passcodeEnabled = enabled;
+    m_isPasscodeSwitchOn = enabled;
     Q_EMIT rowsChanged();
 }
 

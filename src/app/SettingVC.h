@@ -8,6 +8,7 @@
 #include "app/SupportRows.h"
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
+#include "passcode/PasscodeCoordinator.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
@@ -37,6 +38,10 @@ class SettingVC : public QObject {
     Q_PROPERTY(QString quickMailText READ quickMailText NOTIFY rowsChanged)
     Q_PROPERTY(bool isQuickMailOn READ isQuickMailOn NOTIFY rowsChanged)
     Q_PROPERTY(tavi::SupportRows* support READ support CONSTANT)
+    Q_PROPERTY(QString passcodeText READ passcodeText NOTIFY rowsChanged)
+    Q_PROPERTY(QString changePassText READ changePassText NOTIFY rowsChanged)
+    Q_PROPERTY(bool passcodeEnabled READ passcodeEnabled NOTIFY rowsChanged)
+    Q_PROPERTY(bool isPasscodeSwitchOn READ isPasscodeSwitchOn NOTIFY rowsChanged)
 
 public:
     /// What the screen works with; all of it must outlive the screen.
@@ -47,6 +52,7 @@ public:
         Presenter& presenter;
         TabBar& tabBar;
         SupportRows& support;
+        PasscodeCoordinator& passcode;
     };
 
     explicit SettingVC(const Services& services, QObject* parent = nullptr);
@@ -72,6 +78,12 @@ public:
     QString quickMailText() const { return m_quickMailText; }
     bool isQuickMailOn() const { return m_isQuickMailOn; }
     SupportRows* support() const { return &m_services.support; }
+    QString passcodeText() const { return m_passcodeText; }
+    QString changePassText() const { return m_changePassText; }
+    /// Whether the passcode can be changed.
+    bool passcodeEnabled() const { return m_passcodeEnabled; }
+    /// Ahead of passcodeEnabled() while the passcode is asked for.
+    bool isPasscodeSwitchOn() const { return m_isPasscodeSwitchOn; }
 
 public Q_SLOTS:
     void viewDidLoad();
@@ -90,6 +102,9 @@ public Q_SLOTS:
     /// The user turned a switch.
     void hideShowiClound(bool on);
     void autoQuickMail(bool on);
+    /// The user turned the switch of the passcode lock: it goes back where the passcode is not given.
+    void updateSwitch(bool on);
+    void changePasscode();
 
 Q_SIGNALS:
     void rowsChanged();
@@ -101,6 +116,7 @@ private:
     void storeWaiting();
     void buildSliderRows();
     void loadDataSoon();
+    void showPasscode(bool enabled);
 
     Services m_services;
     bool m_rowsBuilt = false;
@@ -119,6 +135,10 @@ private:
     bool m_isCloudSyncOn = false;
     QString m_quickMailText;
     bool m_isQuickMailOn = false;
+    QString m_passcodeText;
+    QString m_changePassText;
+    bool m_passcodeEnabled = false;
+    bool m_isPasscodeSwitchOn = false;
 };
 
 }  // namespace tavi

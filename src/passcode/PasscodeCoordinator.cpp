@@ -19,8 +19,19 @@ void complete(PasscodeCoordinator::Completion& block, bool success) {
 
 }  // namespace
 
+PasscodeCoordinator* PasscodeCoordinator::s_shared = nullptr;
+
 PasscodeCoordinator::PasscodeCoordinator(const Services& services, QObject* parent)
-    : QObject(parent), m_services(services), m_store(services.settings, services.keychain, services.runLoop.clock()) {}
+    : QObject(parent), m_services(services), m_store(services.settings, services.keychain, services.runLoop.clock()) {
+    s_shared = this;
+}
+
+PasscodeCoordinator::~PasscodeCoordinator() {
+    disableSubscriptions();
+    if (s_shared == this) {
+        s_shared = nullptr;
+    }
+}
 
 void PasscodeCoordinator::togglePasscodeProtection(bool on) {
     m_store.setPasscodeProtectionOn(on);
@@ -32,11 +43,12 @@ void PasscodeCoordinator::togglePasscodeProtection(bool on) {
 }
 
 void PasscodeCoordinator::activatePasscodeProtection() {
-    // The screen in the old window may be what asks for this.
-    if (auto* const old = std::exchange(m_passcodeWindow, new PasscodeWindow(this))) {
+    auto* const old = std::exchange(m_passcodeWindow, new PasscodeWindow(this));
+    Q_EMIT passcodeWindowChanged();
+    if (old != nullptr) {
+        // Its screen may be what asks for this.
         old->deleteLater();
     }
-    Q_EMIT passcodeWindowChanged();
     const bool isOn = isPasscodeProtectionOn();
     if (!std::exchange(m_isActivated, true)) {
         setCovered(isOn);

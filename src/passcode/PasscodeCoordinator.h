@@ -46,7 +46,10 @@ public:
     };
 
     explicit PasscodeCoordinator(const Services& services, QObject* parent = nullptr);
-    ~PasscodeCoordinator() override { disableSubscriptions(); }
+    ~PasscodeCoordinator() override;
+
+    /// The program's one; null before it is made and once it is gone.
+    static PasscodeCoordinator* sharedCoordinator() { return s_shared; }
 
     /// How the entry screen looks from its next appearance on.
     PasscodeAppearance appearance;
@@ -105,6 +108,8 @@ private:
     bool isUnlocking() const;
     void setCovered(bool covered);
     void updateLockState();
+
+    static PasscodeCoordinator* s_shared;
 
     Services m_services;
     PasscodeStore m_store;

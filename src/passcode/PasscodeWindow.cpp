@@ -6,10 +6,11 @@ namespace tavi {
 
 void PasscodeWindow::setRootViewController(PasscodeViewController* controller) {
     controller->setParent(this);
-    if (auto* const old = std::exchange(m_rootViewController, controller)) {
+    auto* const old = std::exchange(m_rootViewController, controller);
+    Q_EMIT changed();
+    if (old != nullptr) {
         old->deleteLater();
     }
-    Q_EMIT changed();
 }
 
 void PasscodeWindow::show() {

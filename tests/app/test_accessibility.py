@@ -18,7 +18,7 @@ BUS = "/usr/libexec/at-spi-bus-launcher"
 DATES = re.compile(r"\d\d [A-Z][a-z]{2},? ?\d{4}( \| \d\d:\d\d [AP]M)?")
 
 
-class AccessibilityTest(test_app.AppTest):
+class ReaderTest(test_app.AppTest):
     """A screen reader, on an accessibility bus of its own."""
 
     @classmethod
@@ -44,6 +44,8 @@ class AccessibilityTest(test_app.AppTest):
         except AssertionError:
             self.assertEqual(self.tree(), expected)
 
+
+class Reading(ReaderTest):
     def test_what_every_screen_says(self):
         self.documents.mkdir(parents=True)
         write_tone(self.documents / "Harbour.wav", 1000, 2.0)

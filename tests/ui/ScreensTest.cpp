@@ -99,6 +99,16 @@ void presentAlert(Shell& shell, const QString& message) {
                                    {QStringLiteral("Delete"), AlertAction::Style::Destructive}}});
 }
 
+void unlock(Shell& shell) {
+    showLibrary(shell);
+    shell.notices.postNotice({QStringLiteral("Saved as Secret"), {}, {}});
+    shell.passcode.togglePasscodeProtection(true);
+    shell.notifications.postNotification(applicationnotification::kWillEnterForeground);
+    shell.settle();
+    shell.key(Qt::Key_4, Qt::NoModifier, QStringLiteral("4"));
+    shell.key(Qt::Key_2, Qt::KeypadModifier, QStringLiteral("2"));
+}
+
 const State kStates[] = {
     {"idle", 0, "Record|Tap the red button to record|Desk|Microphone: Desk|!Too loud", {}},
     {"microphone", 0, "Microphone|Default of the system|Headset",
@@ -176,6 +186,24 @@ const State kStates[] = {
          s.runLoop.advance(0.1);
      }},
     {"trimmerRecording", 1, "", [](Shell& s) { trim(s), s.trimmers.screen()->btnResetAudioTapped(); }},
+    {"passcodeUnlock", 1, "Enter your passcode|2 of 4 digits entered|Delete|!Cancel", unlock},
+    {"passcodeVerify", 2, "Enter your passcode|Cancel",
+     [](Shell& s) { s.passcode.disablePasscodeProtectionWithCompletion({}); }},
+    {"passcodeSetup", 2, "Enter a new passcode|0 of 4 digits entered|Cancel",
+     [](Shell& s) { s.passcode.setupNewPasscodeWithCompletion({}); }},
+    {"passcodeChange", 2, "Enter your old passcode|Cancel",
+     [](Shell& s) { s.passcode.changePasscodeWithCompletion({}); }},
+    {"passcodeTrouble", 1, "The keyring that keeps your passcode is locked. Unlock it, and then try again.",
+     [](Shell& s) {
+         s.keychain.troubleText =
+             QStringLiteral("The keyring that keeps your passcode is locked. Unlock it, and then try again.");
+         unlock(s);
+     }},
+    {"passcodeCover", 1, "Locked|!Enter your passcode",
+     [](Shell& s) {
+         unlock(s);
+         s.notifications.postNotification(applicationnotification::kDidEnterBackground);
+     }},
     {"trimmerUnreadable", 1, "", [](Shell& s) { s.trim(s.container.addDocument("text.txt", "text")); }},
 };
 

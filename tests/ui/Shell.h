@@ -13,10 +13,13 @@
 #include <set>
 #include <string>
 
+#include "app/AppDelegate.h"
 #include "app/SettingVC.h"
 #include "library/RecordingImport.h"
+#include "platform/LockState.h"
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
+#include "support/FakeSecureStore.h"
 #include "support/FakeSupport.h"
 #include "ui/AlertPresenter.h"
 #include "ui/JHUD.h"
@@ -165,12 +168,21 @@ struct ShellScreens : FakeServices {
                              .notices = notices,
                              .settings = settings,
                              .audioSession = session}};
+    FakeSecureStore keychain;
+    LockState lockState;
+    PasscodeCoordinator passcode{{.settings = settings,
+                                  .keychain = keychain,
+                                  .notifications = notifications,
+                                  .runLoop = runLoop,
+                                  .presenter = presenter,
+                                  .lockState = lockState}};
     SettingVC settingVC{{.settings = settings,
                          .formatHold = formatHold,
                          .runLoop = runLoop,
                          .presenter = presenter,
                          .tabBar = tabBar,
-                         .support = supportRows}};
+                         .support = supportRows,
+                         .passcode = passcode}};
 };
 
 /// The program's window with its screens.
@@ -182,6 +194,8 @@ public:
         if (prepare) {
             prepare(*this);
         }
+        passcode.activatePasscodeProtection();
+        AppDelegate::setPasscodeStyle(passcode.appearance);
         show(
             "import QtQuick\nimport Tavi\nimport Tavi.Ui\nMain { reducedMotion: true; Component.onCompleted: "
             "Theme.fade = 0 }",
@@ -196,7 +210,8 @@ public:
              {QStringLiteral("savePanel"), QVariant::fromValue(&savePanel)},
              {QStringLiteral("appRater"), QVariant::fromValue(&rating.rater)},
              {QStringLiteral("trimmers"), QVariant::fromValue(&trimmers)},
-             {QStringLiteral("audioTrims"), QVariant::fromValue(&fakeLibrary.audioTrims)}});
+             {QStringLiteral("audioTrims"), QVariant::fromValue(&fakeLibrary.audioTrims)},
+             {QStringLiteral("passcode"), QVariant::fromValue(&passcode)}});
     }
 
     void startRecording() {

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QTimer>
 #include <utility>
 
 #include "adapters/dbus/ApplicationObject.h"
@@ -17,6 +18,7 @@ namespace tavi {
 namespace {
 
 constexpr QLatin1String kStopAction("stop");
+constexpr std::chrono::milliseconds kTimeToDraw(200);
 
 bool isSame(const QString& a, QLatin1String b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
@@ -25,12 +27,18 @@ bool isSame(const QString& a, QLatin1String b) {
 }  // namespace
 
 DBusApplication::DBusApplication(const QDBusConnection& sessionBus, const QDBusConnection& systemBus,
-                                 const QString& busName)
+                                 const QString& busName, const Services& services)
     : m_sessionBus(sessionBus),
       m_busName(busName),
+      m_services(services),
       m_busObject(std::make_unique<ApplicationObject>(*this)),
       m_sessionLock(std::make_unique<SessionLock>(sessionBus, systemBus)) {
     connect(m_sessionLock.get(), &SessionLock::changed, this, &DBusApplication::updateLifeCycleSoon);
+    connect(&m_services.systemSleep, &SystemSleep::willSleep, this, &DBusApplication::prepareForSleep);
+    connect(&m_services.systemSleep, &SystemSleep::hasWoken, this, [this] {
+        m_isAsleep = false;
+        updateLifeCycleSoon();
+    });
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
         if (m_launched) {
             deliver(m_lifeCycle.terminate());
@@ -67,6 +75,7 @@ void DBusApplication::setWindow(QWindow* window) {
 }
 
 void DBusApplication::launchFinished() {
+    m_services.notifications.postNotification(applicationnotification::kDidFinishLaunching);
     m_launched = true;
     for (const auto& call : std::exchange(m_waiting, {})) {
         call();
@@ -160,32 +169,48 @@ void DBusApplication::updateLifeCycleSoon() {
 void DBusApplication::updateLifeCycle() {
     m_updateIsComing = false;
     if (m_launched && m_window) {
-        deliver(m_lifeCycle.update({m_window->isShown(), m_window->hasFocus(), m_sessionLock->isLocked()}));
+        deliver(m_lifeCycle.update({m_window->isShown(), m_window->hasFocus(), m_sessionLock->isLocked(), m_isAsleep}));
     }
+}
+
+void DBusApplication::prepareForSleep(const std::shared_ptr<void>& delay) {
+    // Now, and not soon: afterwards nothing is done any more.
+    m_isAsleep = true;
+    updateLifeCycle();
+    // What the window shows from then on is drawn before.
+    QTimer::singleShot(kTimeToDraw, this, [delay] {});
 }
 
 void DBusApplication::deliver(const std::vector<LifeCycle::Event>& events) {
     for (const LifeCycle::Event event : events) {
-        if (m_delegate == nullptr) {
-            return;
+        if (m_delegate != nullptr) {
+            tellDelegate(event);
         }
-        switch (event) {
-            case LifeCycle::Event::DidBecomeActive:
-                m_delegate->applicationDidBecomeActive();
-                break;
-            case LifeCycle::Event::WillResignActive:
-                m_delegate->applicationWillResignActive();
-                break;
-            case LifeCycle::Event::DidEnterBackground:
-                m_delegate->applicationDidEnterBackground();
-                break;
-            case LifeCycle::Event::WillEnterForeground:
-                m_delegate->applicationWillEnterForeground();
-                break;
-            case LifeCycle::Event::WillTerminate:
-                m_delegate->applicationWillTerminate();
-                break;
+        if (event == LifeCycle::Event::DidEnterBackground) {
+            m_services.notifications.postNotification(applicationnotification::kDidEnterBackground);
+        } else if (event == LifeCycle::Event::WillEnterForeground) {
+            m_services.notifications.postNotification(applicationnotification::kWillEnterForeground);
         }
+    }
+}
+
+void DBusApplication::tellDelegate(LifeCycle::Event event) {
+    switch (event) {
+        case LifeCycle::Event::DidBecomeActive:
+            m_delegate->applicationDidBecomeActive();
+            break;
+        case LifeCycle::Event::WillResignActive:
+            m_delegate->applicationWillResignActive();
+            break;
+        case LifeCycle::Event::DidEnterBackground:
+            m_delegate->applicationDidEnterBackground();
+            break;
+        case LifeCycle::Event::WillEnterForeground:
+            m_delegate->applicationWillEnterForeground();
+            break;
+        case LifeCycle::Event::WillTerminate:
+            m_delegate->applicationWillTerminate();
+            break;
     }
 }
 

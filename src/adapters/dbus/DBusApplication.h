@@ -9,6 +9,8 @@
 #include "adapters/dbus/LifeCycle.h"
 #include "platform/Application.h"
 #include "platform/LockState.h"
+#include "platform/NotificationCenter.h"
+#include "platform/SystemSleep.h"
 
 class QWindow;
 
@@ -36,8 +38,15 @@ public:
         NoBus,
     };
 
+    /// Where the life cycle comes from beside the buses, and where it goes; both must outlive this.
+    struct Services {
+        SystemSleep& systemSleep;
+        NotificationCenter& notifications;
+    };
+
     /// busName is that of busNameForContainer(). Either bus may be unconnected.
-    DBusApplication(const QDBusConnection& sessionBus, const QDBusConnection& systemBus, const QString& busName);
+    DBusApplication(const QDBusConnection& sessionBus, const QDBusConnection& systemBus, const QString& busName,
+                    const Services& services);
     ~DBusApplication() override;
 
     /// By which callers are refused what would show the library. It outlives this. Once, before claim().
@@ -77,15 +86,19 @@ private:
     void updateLifeCycleSoon();
     void updateLifeCycle();
     void deliver(const std::vector<LifeCycle::Event>& events);
+    void tellDelegate(LifeCycle::Event event);
+    void prepareForSleep(const std::shared_ptr<void>& delay);
     void onWindowChanged();
 
     QDBusConnection m_sessionBus;
     QString m_busName;
+    Services m_services;
     ApplicationDelegate* m_delegate = nullptr;
     const LockState* m_lockState = nullptr;
     QList<ShortcutItem> m_shortcutItems;
     bool m_launched = false;
     bool m_hadFocus = false;
+    bool m_isAsleep = false;
     bool m_updateIsComing = false;
     std::vector<std::function<void()>> m_waiting;
     LifeCycle m_lifeCycle;

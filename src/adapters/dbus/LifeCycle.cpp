@@ -41,7 +41,7 @@ std::vector<LifeCycle::Event> LifeCycle::terminate() {
 }
 
 LifeCycle::State LifeCycle::target(const Input& input) const {
-    if (!input.windowShown || input.sessionLocked) {
+    if (!input.windowShown || input.sessionLocked || input.asleep) {
         return State::Background;
     }
     return input.focused || !m_everFocused ? State::Active : State::Inactive;

@@ -6,8 +6,8 @@ namespace tavi {
 
 /// Decides from the window's and the session's state which calls of the life cycle are due. A pure state machine.
 ///
-/// The program is in the background while its window is not shown (minimised, hidden, or no longer exposed) or the
-/// session is locked; otherwise it is active with the focus and inactive without. A window system that has never given
+/// This is the one place that says what background and foreground are. The program is in the background while its window
+/// is not shown (minimised, hidden, or no longer exposed), the session is locked or the machine sleeps; otherwise it is active with the focus and inactive without. A window system that has never given
 /// it the focus, as an X server without a window manager, cannot take it away either: there, shown is active.
 class LifeCycle {
 public:
@@ -18,6 +18,8 @@ public:
         bool windowShown = false;
         bool focused = false;
         bool sessionLocked = false;
+        /// Asleep, or about to be.
+        bool asleep = false;
     };
 
     /// Takes the present state and returns what it causes, in order. The first time that the window is shown counts as

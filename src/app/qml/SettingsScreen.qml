@@ -139,6 +139,34 @@ FocusScope {
 
             SectionHeader {
                 width: parent.width
+                text: root.screen.headerTexts[5] ?? ""
+            }
+
+            TSwitch {
+                objectName: "passcodeLock"
+                imageName: "14.png"
+                width: parent.width
+                text: root.screen.passcodeText
+                on: root.screen.isPasscodeSwitchOn
+                onTurned: on => root.screen.updateSwitch(on)
+            }
+
+            RowLine {
+                width: parent.width
+                visible: root.screen.passcodeEnabled
+            }
+
+            SettingsRow {
+                objectName: "changePass"
+                imageName: "passcode.png"
+                width: parent.width
+                visible: root.screen.passcodeEnabled
+                text: root.screen.changePassText
+                onClicked: root.screen.changePasscode()
+            }
+
+            SectionHeader {
+                width: parent.width
                 text: root.screen.headerTexts[6] ?? ""
             }
 

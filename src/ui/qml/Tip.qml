@@ -11,7 +11,8 @@ Loader {
     /// As the user reads it, such as "Ctrl+F"; empty where no key does the same.
     property string shortcut
 
-    active: control.hovered && control.enabled && !control.down && text !== ""
+    // A control that has gone, with the screen around it, may still count as hovered.
+    active: control.visible && control.hovered && control.enabled && !control.down && text !== ""
     sourceComponent: T.ToolTip {
         id: popup
 

@@ -100,16 +100,20 @@ protected:
     FakeDesktop m_desktop{m_desktopSide, {FakeDesktop::screenSaver(), FakeDesktop::login()}};
     QString m_name = busNameForContainer({});
     RecordingDelegate m_delegate;
-    DBusApplication m_application{m_bus.connect(), m_bus.connect(), m_name};
+    SystemSleep m_sleep;
+    NotificationCenter m_notifications;
+    DBusApplication m_application{m_bus.connect(), m_bus.connect(), m_name, {m_sleep, m_notifications}};
 };
 
 TEST_F(DBusApplicationTest, ASecondStartHandsOverToTheFirst) {
     EXPECT_THAT(handedOver({}, std::chrono::milliseconds(1)),
                 ::testing::StartsWith("The instance that is already running did not take"));
     ASSERT_EQ(m_application.claim(), DBusApplication::Claim::First);
-    EXPECT_EQ(DBusApplication(m_bus.connect(), PrivateBus::none(), m_name).claim(),
+    const DBusApplication::Services services{m_sleep, m_notifications};
+    EXPECT_EQ(DBusApplication(m_bus.connect(), PrivateBus::none(), m_name, services).claim(),
               DBusApplication::Claim::AlreadyRunning);
-    EXPECT_EQ(DBusApplication(PrivateBus::none(), PrivateBus::none(), m_name).claim(), DBusApplication::Claim::NoBus);
+    EXPECT_EQ(DBusApplication(PrivateBus::none(), PrivateBus::none(), m_name, services).claim(),
+              DBusApplication::Claim::NoBus);
     QRasterWindow window;
     m_application.setWindow(&window);
 
@@ -240,7 +244,10 @@ TEST_F(DBusApplicationTest, TheDesktopsTokensGoWithTheRequest) {
     qunsetenv("DESKTOP_STARTUP_ID");
 }
 
-TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
+TEST_F(DBusApplicationTest, FollowsWindowSessionAndSleep) {
+    QStringList posted;
+    QObject::connect(&m_notifications, &NotificationCenter::posted,
+                     [&posted](const QString& name) { posted << name.mid(13).chopped(12); });
     QRasterWindow window;
     m_application.setWindow(&window);
     m_application.launchFinished();
@@ -267,6 +274,14 @@ TEST_F(DBusApplicationTest, FollowsWindowAndSession) {
     m_desktop.emitSessionSignal(QStringLiteral("Lock"));
     m_desktop.setLockedHint(false);
     m_desktop.emitSessionSignal(QStringLiteral("Unlock"));
+    expectCalls("foreground, active");
+    posted.erase(posted.begin() + 3, posted.end());
+    EXPECT_EQ(posted, (QStringList{QStringLiteral("DidFinishLaunching"), QStringLiteral("DidEnterBackground"),
+                                   QStringLiteral("WillEnterForeground")}));
+    Q_EMIT m_sleep.willSleep(nullptr);
+    EXPECT_EQ(posted.size(), 4) << "before anything else is done";
+    expectCalls("resign, background");
+    Q_EMIT m_sleep.hasWoken(1.0);
     expectCalls("foreground, active");
     QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit");
     window.hide();

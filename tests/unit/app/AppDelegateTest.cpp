@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include "support/FakeRecording.h"
+#include "support/FakeSecureStore.h"
 #include "support/FakeSupport.h"
 
 namespace tavi::test {
@@ -30,6 +31,9 @@ protected:
     RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
     FakeProgressView hud;
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    FakeSecureStore keychain;
+    LockState lockState;
+    PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
     AppDelegate delegate{{.application = application,
                           .idleTimer = idleTimer,
                           .settings = settings,
@@ -40,13 +44,16 @@ protected:
                           .objrecordVC = screen,
                           .imports = imports,
                           .hudView = hud,
-                          .appRater = rating.rater}};
+                          .appRater = rating.rater,
+                          .passcode = passcode}};
 };
 
 }  // namespace
 
 TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
+    settings.setPasscodeProtectionOn(true);
     EXPECT_TRUE(delegate.applicationDidFinishLaunching({}));
+    EXPECT_TRUE(lockState.isLocked());
     EXPECT_EQ(settings.audioFileType() + settings.audioQualityType(), QStringLiteral("m4aMedium"));
     EXPECT_FALSE(settings.isQuickMailOn() || settings.isCloudSyncOn());
     EXPECT_EQ(settings.sort(), 1);

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+#include "support/FakeSecureStore.h"
 #include "support/FakeServices.h"
 #include "support/FakeSupport.h"
 
@@ -63,12 +64,16 @@ protected:
                          .notices = notices,
                          .settings = settings,
                          .audioSession = session}};
+    FakeSecureStore keychain;
+    LockState lockState;
+    PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
     SettingVC::Services services{.settings = settings,
                                  .formatHold = formatHold,
                                  .runLoop = runLoop,
                                  .presenter = presenter,
                                  .tabBar = tabBar,
-                                 .support = support};
+                                 .support = support,
+                                 .passcode = passcode};
     SettingVC vc{services};
     std::string told;
 };
