@@ -79,7 +79,7 @@ std::optional<QByteArray> FXKeychain::encoded(const QVariant& value) const {
         return std::nullopt;
     }
     if (value.typeId() == QMetaType::QString) {
-        const std::optional<QByteArray> bytes = bytesOf(value.toString());
+        std::optional<QByteArray> bytes = bytesOf(value.toString());
         // A text that would be read as a property list is stored as one that holds it, on purpose: so it stays a text.
         if (!bytes || !bytes->startsWith(kMark) || !m_propertyLists.propertyListWithData(*bytes)) {
             return bytes;

@@ -189,7 +189,7 @@ StoreAnswer KeyringStore::answerTo(const StoreRequest& request) {
 
 StoreAnswer KeyringStore::inOwnContext(const std::function<StoreAnswer()>& work) {
     g_main_context_push_thread_default(m_context.get());
-    const StoreAnswer answer = work();
+    StoreAnswer answer = work();
     while (g_main_context_iteration(m_context.get(), FALSE) != FALSE) {
     }
     g_main_context_pop_thread_default(m_context.get());

@@ -19,6 +19,11 @@ constexpr qsizetype kIdentifierSize = 16;
 
 using Request = StoreRequest::Kind;
 
+KeychainQuery queryOf(const SealedFileStore::Items::key_type& parts) {
+    const auto& [account, service, group] = parts;
+    return {account, service, group};
+}
+
 QByteArray newIdentifier() {
     QByteArray bytes(kIdentifierSize, Qt::Uninitialized);
     randombytes_buf(bytes.data(), static_cast<std::size_t>(bytes.size()));
@@ -36,7 +41,7 @@ StoreAnswer unavailable(const StoreTrouble& trouble) {
 }  // namespace
 
 tl::expected<std::optional<QByteArray>, StoreTrouble> StoreChoice::identifier() const {
-    const auto file = readPrivateFile(m_places.keyring());
+    auto file = readPrivateFile(m_places.keyring());
     if (!file || !*file) {
         return file;
     }
@@ -66,7 +71,7 @@ StoreTrouble StoreChoice::moveToKeyring() {
     m_keyring.setContainer(identifier);
     StoreTrouble trouble;
     for (const auto& [parts, attributes] : *items) {
-        const KeychainQuery query = std::make_from_tuple<KeychainQuery>(parts);
+        const KeychainQuery query = queryOf(parts);
         StoreAnswer answer = m_keyring.perform({.kind = Request::Put, .query = query, .attributes = attributes});
         if (answer.status == KeychainStatus::Success) {
             answer = m_keyring.perform({.kind = Request::Fetch, .query = query});
@@ -81,7 +86,7 @@ StoreTrouble StoreChoice::moveToKeyring() {
     }
     if (trouble.kind != StoreTrouble::Kind::None) {
         for (const auto& [parts, attributes] : *items) {
-            m_keyring.perform({.kind = Request::Remove, .query = std::make_from_tuple<KeychainQuery>(parts)});
+            m_keyring.perform({.kind = Request::Remove, .query = queryOf(parts)});
         }
         return trouble;
     }

@@ -34,7 +34,7 @@ Result<void> passLock(const LockQuestions& questions) {
     }
     const std::optional<QString> passcode = questions.askForPasscode();
     if (!passcode) {
-        return failure(QStringLiteral("locked: the passcode can only be entered on a terminal"));
+        return failure(QStringLiteral("locked: the passcode has to be entered on a terminal"));
     }
     const QString why = questions.whyWrong(*passcode);
     return why.isEmpty() ? Result<void>() : failure(QStringLiteral("locked: ") + why);

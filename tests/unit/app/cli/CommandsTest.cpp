@@ -121,7 +121,7 @@ TEST(PassLock, AsksTheRunningProgramAndElseForThePasscode) {
     const Row rows[] = {{false, true, {}, ""},
                         {true, true, QStringLiteral("0042"), "locked: enter the passcode in the recorder's window"},
                         {true, false, {}, ""},
-                        {true, {}, {}, "locked: the passcode can only be entered on a terminal"},
+                        {true, {}, {}, "locked: the passcode has to be entered on a terminal"},
                         {true, {}, QStringLiteral("1"), "locked: no"},
                         {true, {}, QStringLiteral("0042"), ""}};
     for (const Row& row : rows) {
