@@ -104,6 +104,7 @@ void RecordingActions::btnAccessoryViewClick(const QPointF& at) {
     }
     Q_EMIT stopRequested({});
     std::vector<AlertAction> items = sharedItems();
+    items.push_back(item("share_show", "folder", &RecordingActions::showInFolder));
     items.push_back(item("trim_m4a", "trim-m4a", &RecordingActions::trimToM4a));
     items.push_back({qtTrId("menu_close"), AlertAction::Style::Cancel});
     presentItems(std::move(items), at);
@@ -352,6 +353,23 @@ void RecordingActions::uploadToIcloudDocuments() {
     if (const auto file = target()) {
         m_services.sharing.upload(file->path);
     }
+}
+
+void RecordingActions::showInFolder() {
+    if (const auto file = target()) {
+        m_services.sharing.showInFolder(file->path);
+    }
+}
+
+void RecordingActions::copyToClipboard() {
+    if (const auto file = target()) {
+        m_services.sharing.copyToClipboard({file->path});
+    }
+}
+
+QVariantMap RecordingActions::dragged() {
+    const auto file = target();
+    return file ? RecordingSharing::formats({file->path}) : QVariantMap();
 }
 
 }  // namespace tavi

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QRectF>
+#include <QVariantMap>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -59,6 +60,10 @@ public Q_SLOTS:
     void openInButtonClicked();
     void emailAudioFile();
     void uploadToIcloudDocuments();
+    void showInFolder();
+    void copyToClipboard();
+    /// The recording as other programs take it in a drag, by the names of formats; nothing where it has gone.
+    QVariantMap dragged();
 
 Q_SIGNALS:
     /// What plays is to stop; with a path, only where it is that file.

@@ -2,6 +2,7 @@
 
 import itertools
 import json
+import os
 import pathlib
 import re
 import signal
@@ -263,6 +264,28 @@ class Trimming(AppTest):
         self.wait(lambda: len(self.recordings()) == 2, "nothing but the two recordings")
         self.assertAlmostEqual(probe(made)["duration"], 17.5, delta=0.001)
         self.assertEqual(memo.read_bytes(), before)
+
+
+class Sharing(AppTest):
+    def test_keys_copy_a_recording_and_export_it_where_no_desktop_asks(self):
+        name = os.fsdecode(b"memo %\xff\n.wav")
+        self.documents.mkdir(parents=True)
+        memo = write_tone(self.documents / name, 1000, 1.0)
+        home = self.container.with_suffix(".home")
+        home.mkdir()
+        self.desktop.environment["HOME"] = str(home)
+        self.start("library")
+        shown = self.wait_shown()
+        self.desktop.keys("Down", "ctrl+c")
+        address = f"file://{self.documents}/memo%20%25%FF%0A.wav"
+        for kind, wanted in (("text/uri-list", address + "\r\n"), ("x-special/gnome-copied-files", "copy\n" + address)):
+            read = lambda: self.desktop.run("xclip", "-o", "-selection", "clipboard", "-t", kind, check=False).stdout
+            self.wait(lambda: read() == wanted.replace("\r", ""), f"{kind} on the clipboard")
+        self.desktop.keys("ctrl+e")
+        self.wait_change(shown, "the question where to", 20_000)
+        self.desktop.keys("Return")
+        self.wait(lambda: (home / name).exists(), "the copy")
+        self.assertEqual((home / name).read_bytes(), memo.read_bytes())
 
 
 class CommandLine(AppTest):

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <private/qeventpoint_p.h>
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -76,6 +77,9 @@ public:
     void mouse(QEvent::Type type, const QPointF& at, bool isDown, Qt::MouseButton button = Qt::LeftButton) const {
         QMouseEvent event(type, at, window->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
                           isDown ? button : Qt::NoButton, Qt::NoModifier);
+        // Where it went down, which a real mouse says with every movement.
+        m_pressed = type == QEvent::MouseButtonPress ? window->mapToGlobal(at) : m_pressed;
+        QMutableEventPoint::setGlobalPressPosition(event.point(0), m_pressed);
         QCoreApplication::sendEvent(window, &event);
     }
 
@@ -128,6 +132,9 @@ public:
 
     QQmlApplicationEngine engine;
     QQuickWindow* window = nullptr;
+
+private:
+    mutable QPointF m_pressed;
 };
 
 /// A recording of 75 seconds; one second of noise stands for all of it.

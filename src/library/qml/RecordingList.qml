@@ -45,13 +45,21 @@ ListView {
     }
 
     /// What a key does with the current row; false where it is none of these.
-    function act(key, isShifted) {
+    function act(key, modifiers) {
         const actions = screen.actions
-        if (!currentItem || ![Qt.Key_F2, Qt.Key_Delete, Qt.Key_T, Qt.Key_Menu].includes(key) && !(key === Qt.Key_F10 && isShifted))
+        const withControl = modifiers & Qt.ControlModifier
+        const isKnown = withControl ? [Qt.Key_C, Qt.Key_E].includes(key)
+                                    : [Qt.Key_F2, Qt.Key_Delete, Qt.Key_T, Qt.Key_Menu].includes(key)
+                                      || key === Qt.Key_F10 && (modifiers & Qt.ShiftModifier)
+        if (!currentItem || !isKnown)
             return false
         positionViewAtIndex(currentIndex, ListView.Contain)
         currentItem.aim()
-        if (key === Qt.Key_F2)
+        if (key === Qt.Key_C)
+            actions.copyToClipboard()
+        else if (key === Qt.Key_E)
+            actions.uploadToIcloudDocuments()
+        else if (key === Qt.Key_F2)
             actions.kReNameAudio()
         else if (key === Qt.Key_Delete)
             actions.showDeletealert()
@@ -108,7 +116,7 @@ ListView {
         else if (event.key === Qt.Key_PageDown)
             go(page)
         else
-            event.accepted = act(event.key, event.modifiers & Qt.ShiftModifier)
+            event.accepted = act(event.key, event.modifiers)
     }
     Accessible.role: Accessible.List
     Accessible.name: screen.headerText

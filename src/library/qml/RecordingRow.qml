@@ -31,6 +31,25 @@ Item {
         screen.actions.accessoryButtonTapped(mapToItem(null, at.x, at.y))
     }
 
+    /// Hands the recording to whatever program it is let go over.
+    function drag() {
+        aim()
+        Drag.mimeData = screen.actions.dragged()
+        if (Object.keys(Drag.mimeData).length === 0)
+            return
+        const begin = picture => {
+            if (pull.active) {
+                Drag.imageSource = picture
+                Drag.active = true
+            }
+        }
+        if (!tile.grabToImage(result => begin(result.url)))
+            begin("")
+    }
+
+    Drag.dragType: Drag.Automatic
+    // The recording stays: nothing that is dropped is moved away.
+    Drag.supportedActions: Qt.CopyAction
     width: ListView.view.width
     height: narrow ? 60 : 64
     // A row that waits to be used again is nowhere.
@@ -69,7 +88,23 @@ Item {
             if (root.ListView.view.take(root.index))
                 root.screen.didSelectRowAtIndexPath(0, root.row)
         }
-        onLongPressed: root.ask(point.position)
+        // Who drags a row holds it for long, too.
+        onLongPressed: if (!pull.active) root.ask(point.position)
+    }
+
+    /// With the mouse a row goes to other programs, as in file managers; touch scrolls.
+    DragHandler {
+        id: pull
+
+        target: null
+        acceptedDevices: PointerDevice.Mouse
+        grabPermissions: PointerHandler.CanTakeOverFromAnything
+        onActiveChanged: {
+            if (active)
+                root.drag()
+            else
+                root.Drag.active = false
+        }
     }
 
     TapHandler {

@@ -19,6 +19,8 @@ FocusScope {
         ["T", qsTrId("shortcut_trim")],
         ["F2", qsTrId("shortcut_rename")],
         [qsTrId("key_delete"), qsTrId("shortcut_delete")],
+        [ctrl("C"), qsTrId("shortcut_copy")],
+        [ctrl("E"), qsTrId("shortcut_export")],
         [qsTrId("key_menu"), qsTrId("shortcut_menu")],
         ["+ −", qsTrId("shortcut_zoom")],
         [qsTrId("key_escape"), qsTrId("shortcut_close")],

@@ -372,6 +372,18 @@
         <source></source>
         <translation>Exportieren</translation>
     </message>
+    <message id="share_show">
+        <source></source>
+        <translation>Im Ordner anzeigen</translation>
+    </message>
+    <message id="shortcut_copy">
+        <source></source>
+        <translation>Die markierte Aufnahme kopieren</translation>
+    </message>
+    <message id="shortcut_export">
+        <source></source>
+        <translation>Die markierte Aufnahme exportieren</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud nicht verfügbar</translation>

@@ -371,6 +371,18 @@
         <source></source>
         <translation>Export</translation>
     </message>
+    <message id="share_show">
+        <source></source>
+        <translation>Show in Folder</translation>
+    </message>
+    <message id="shortcut_copy">
+        <source></source>
+        <translation>Copy the marked recording</translation>
+    </message>
+    <message id="shortcut_export">
+        <source></source>
+        <translation>Export the marked recording</translation>
+    </message>
     <message id="cloud_unavail">
         <source></source>
         <translation>Cloud Unavailable</translation>

@@ -67,7 +67,7 @@ protected:
     int revealed = -1;
 };
 
-TEST_F(RecordingActionsTest, MenuAndSheetOfferTheSameAndTheMenuOneMore) {
+TEST_F(RecordingActionsTest, MenuAndSheetOfferTheSameAndTheMenuMore) {
     const std::vector<std::string> items{"Rename", "Delete", "open_in", "mail", "Trimming", "upload_drive"};
     for (const bool isMenu : {false, true}) {
         for (const std::string& item : items) {
@@ -77,8 +77,9 @@ TEST_F(RecordingActionsTest, MenuAndSheetOfferTheSameAndTheMenuOneMore) {
             isMenu ? actions.btnAccessoryViewClick({380.0, 90.0}) : actions.accessoryButtonTapped({380.0, 90.0});
             EXPECT_EQ(library.vc.isPlaying(), !isMenu) << "the menu stops what plays";
             std::vector<std::string> titles = items;
-            titles.insert(titles.end(), isMenu ? 2 : 1, isMenu ? "trim_m4a" : "alert_dismiss");
-            titles.back() = isMenu ? "menu_close" : "alert_dismiss";
+            const std::vector<std::string> own{"share_show", "trim_m4a", "menu_close"};
+            titles.insert(titles.end(), own.begin(), isMenu ? own.end() : own.begin());
+            titles.resize(isMenu ? 9 : 7, "alert_dismiss");
             ASSERT_EQ(presenter.sheets.size(), 1U);
             std::vector<std::string> offered;
             for (const AlertAction& action : presenter.sheets[0].actions) {
@@ -108,6 +109,14 @@ TEST_F(RecordingActionsTest, MenuAndSheetOfferTheSameAndTheMenuOneMore) {
     EXPECT_EQ(library.mail.messages.size(), 2U);
     aim("b.wav");
     actions.btnAccessoryViewClick({});
+    choose(presenter.sheets, "share_show");
+    EXPECT_THAT(library.documents.shown, ElementsAre(file));
+    actions.copyToClipboard();
+    ASSERT_NE(library.pasteboard.data, nullptr);
+    const QString list = QStringLiteral("text/uri-list");
+    EXPECT_EQ(actions.dragged().value(list).toByteArray(), library.pasteboard.data->data(list));
+    said();
+    actions.btnAccessoryViewClick({});
     choose(presenter.sheets, "trim_m4a");
     ASSERT_NE(library.audioTrims.screen(), nullptr);
     EXPECT_EQ(library.audioTrims.screen()->lblFileName(), QStringLiteral("b"));
@@ -134,7 +143,8 @@ TEST_F(RecordingActionsTest, TheTargetIsTheFileWhateverComesToItsPlace) {
     for (const auto act :
          {&RecordingActions::kReNameAudio, &RecordingActions::showDeletealert, &RecordingActions::deleteAudio,
           &RecordingActions::trimAudio, &RecordingActions::trimToM4a, &RecordingActions::openInButtonClicked,
-          &RecordingActions::emailAudioFile, &RecordingActions::uploadToIcloudDocuments}) {
+          &RecordingActions::emailAudioFile, &RecordingActions::uploadToIcloudDocuments,
+          &RecordingActions::showInFolder, &RecordingActions::copyToClipboard}) {
         (actions.*act)();
         EXPECT_THAT(said(), ElementsAre("action_gone"));
     }
