@@ -181,7 +181,7 @@ QString AppRater::getLocalisedStringForKey(const char* key) const {
     QTranslator preferred;
     if (!m_options.preferredLanguage.isEmpty() &&
         preferred.load(QStringLiteral(":/strings/tavi_") + m_options.preferredLanguage)) {
-        const QString text = preferred.translate(nullptr, key);
+        QString text = preferred.translate(nullptr, key);
         if (!text.isEmpty()) {
             return text;
         }
