@@ -93,10 +93,6 @@ struct Platform {
         application.setLockState(lockState);
         claimName();
         FXKeychain::setDefaultPorts(keychain, propertyLists);
-        if (settings.store.isPasscodeProtectionOn()) {
-            // It is asked soon; meanwhile the window is built.
-            keychain.prepare();
-        }
     }
 
     void claimName() {

@@ -110,14 +110,13 @@ Result<void> passLockOf(SettingsStore& settings, RunLoop& runLoop, const QString
 }
 
 /// Does without the window what prints and ends.
-int runPrinting(int& argc, char** argv, const CommandLine& line, const QString& busName,
+int runPrinting(int& argc, char** argv, const CommandLine& line, const PrintingCommand& command, const QString& busName,
                 const AppContainer& container) {
     QCoreApplication application(argc, argv);
     installTexts(application);
     SettingsFiles settings(container);
     MediaLibrary media;
     QtRunLoop runLoop;
-    const auto& command = std::get<PrintingCommand>(line.command);
     if (isGuardedByLock(line, container)) {
         if (const auto passed = passLockOf(settings.store, runLoop, busName, container); !passed) {
             return reportFailure(passed.error(), kLockedExitCode);
@@ -162,8 +161,8 @@ int run(int& argc, char** argv) {
         return reportFailure(container.error());
     }
     const QString busName = busNameForContainer(line->container);
-    if (std::holds_alternative<PrintingCommand>(line->command)) {
-        return runPrinting(argc, argv, *line, busName, **container);
+    if (const auto* command = std::get_if<PrintingCommand>(&line->command)) {
+        return runPrinting(argc, argv, *line, *command, busName, **container);
     }
     auto request = std::get<ProgramRequest>(line->command);
     const bool isForFiles = !request.files.empty();

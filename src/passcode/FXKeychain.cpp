@@ -64,8 +64,11 @@ void FXKeychain::setDefaultPorts(Keychain& keychain, const PropertyLists& proper
 
 FXKeychain& FXKeychain::defaultKeychain() {
     // Left to the end of the process: its ports are gone by then.
-    static auto* const s_default =
-        new FXKeychain(*defaultPorts().keychain, *defaultPorts().propertyLists, kBundleIdentifier);
+    static auto* const s_default = [] {
+        const DefaultPorts& ports = defaultPorts();
+        Q_ASSERT(ports.keychain != nullptr && ports.propertyLists != nullptr);
+        return new FXKeychain(*ports.keychain, *ports.propertyLists, kBundleIdentifier);
+    }();
     return *s_default;
 }
 

@@ -11,7 +11,8 @@ namespace fs = std::filesystem;
 /// Whether the path leads to something below the folder; also where nobody can tell.
 bool isBelow(const fs::path& path, const fs::path& folder) {
     std::error_code error;
-    const fs::path whole = fs::weakly_canonical(fs::absolute(path), error);
+    const fs::path absolute = fs::absolute(path, error);
+    const fs::path whole = error ? fs::path() : fs::weakly_canonical(absolute, error);
     const fs::path start = error ? fs::path() : fs::weakly_canonical(folder, error);
     return error || std::mismatch(start.begin(), start.end(), whole.begin(), whole.end()).first == start.end();
 }
