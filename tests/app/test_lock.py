@@ -1,7 +1,11 @@
 """Locks the program and looks at it from outside: test_lock.py PROGRAM [OPTION OF unittest...]"""
 
+import contextlib
+import os
 import pathlib
+import pty
 import signal
+import subprocess
 import sys
 import unittest
 
@@ -15,6 +19,9 @@ SESSION = "/org/freedesktop/login1/session/auto"
 
 class Lock(test_accessibility.ReaderTest):
     """With a login manager on the private bus."""
+
+    PLAYER = test_app.Playing.PLAYER
+    player = test_app.Playing.player
 
     @classmethod
     def setUpClass(cls):
@@ -94,6 +101,68 @@ class Lock(test_accessibility.ReaderTest):
         settings.write_text(settings.read_text().replace("PasscodeProtectionEnabled=YES", "PasscodeProtectionEnabled=NO"))
         self.start()
         self.wait_for_words("push button 'Record'")
+
+    def on_terminal(self, typed, *arguments):
+        """The exit code of a command on a terminal of its own, and what that shows."""
+        process, terminal = pty.fork()
+        if process == 0:
+            os.execve(test_app.PROGRAM, [test_app.PROGRAM, "--container", str(self.container), *arguments],
+                      self.desktop.environment)
+        shown = b""
+        with open(terminal, "r+b", buffering=0) as file:
+            while not shown.endswith(b": "):
+                shown += file.read(1)
+            file.write(typed + b"\n")
+            # A terminal that nobody has open any more reads as an error.
+            with contextlib.suppress(OSError):
+                while more := file.read(1000):
+                    shown += more
+        return os.waitstatus_to_exitcode(os.waitpid(process, 0)[1]), shown
+
+    def test_nothing_leaves_the_locked_program(self):
+        self.documents.mkdir(parents=True)
+        secret = write_tone(self.documents / "Secret.wav", 1000, 60.0)
+        app = self.start()
+        self.set_up("2580")
+        self.desktop.keys("ctrl+2")
+        self.wait_for_words("Secret")
+        self.desktop.keys("Down", "Return")
+        metadata = lambda: self.desktop.run("gdbus", "call", "--session", "--dest", "org.mpris.MediaPlayer2.tavi", "--object-path",
+                                            "/org/mpris/MediaPlayer2", "--method", "org.freedesktop.DBus.Properties.GetAll",
+                                            self.PLAYER, check=False).stdout
+        self.wait(lambda: "Secret" in metadata() and "'Playing'" in metadata(), "the recording to play")
+
+        self.session("Lock")
+        self.wait(lambda: "Secret" not in metadata(), "the title to go")
+        self.assertRegex(metadata(), r"'PlaybackStatus': <'Playing'>")
+        self.assertRegex(metadata(), r"'mpris:length': <int64 0>")
+        self.assertRegex(metadata(), r"'Position': <int64 0>")
+        for press in ("Next", "Pause", "Play", "PlayPause"):
+            self.player("", self.PLAYER, press)
+        self.assertRegex(metadata(), r"'PlaybackStatus': <'Paused'>")
+        for arguments in (("list",), ("get", "Sort"), ("set", "Sort", "2"), ("waveform", secret), ("library",), ("recover",)):
+            self.assert_fails("locked", *arguments, status=3)
+        self.tavi("waveform", self.tone)
+        self.tavi(self.tone)
+        self.tavi("record")
+        self.play_while_recording()
+        self.tavi("stop")
+        self.wait_saved(2)
+        self.session("Unlock")
+        self.unlock("2580")
+        self.wait(lambda: (self.documents / "tone.wav").exists(), "the file that waited")
+        self.wait(lambda: "Secret" in metadata(), "the title to come back")
+        self.assertIn("Secret.wav", self.tavi("list").stdout)
+
+        self.desktop.stop(app)
+        alone = subprocess.run([test_app.PROGRAM, "--container", self.container, "list"], env=self.desktop.environment,
+                               capture_output=True, start_new_session=True)
+        self.assertEqual((alone.returncode, alone.stdout), (3, b""))
+        self.tavi("waveform", self.tone)
+        for digits, status in ((b"2581", 3), (b"2580", 0)):
+            code, shown = self.on_terminal(digits, "list")
+            self.assertEqual((code, b"Secret" in shown), (status, status == 0), shown)
+            self.assertNotIn(digits, shown)
 
 
 if __name__ == "__main__":
