@@ -44,6 +44,8 @@ public:
     virtual Result<void> willRemove(const std::filesystem::path& name) = 0;
     /// The user renames a file that may be here or not. Said before it is renamed here.
     virtual Result<void> willMove(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
+    /// It could not be renamed here.
+    virtual void didNotMove(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 };
 
 }  // namespace tavi

@@ -184,7 +184,11 @@ void FolderCloud::moveItem(const std::filesystem::path& from, const std::filesys
                     return {};
                 }
             }
-            return moveWithoutReplacing(from, to);
+            const Result<void> moved = moveWithoutReplacing(from, to);
+            if (!moved && mirror != nullptr) {
+                mirror->didNotMove(from.filename(), to.filename());
+            }
+            return moved;
         },
         std::move(completion));
 }

@@ -5,9 +5,9 @@
 #include <set>
 
 #include "adapters/folder/FolderDocument.h"
-#include "adapters/folder/FolderListing.h"
 #include "adapters/folder/FolderThread.h"
 #include "files/FileDescriptor.h"
+#include "files/FolderListing.h"
 #include "platform/CloudMirror.h"
 #include "platform/FileCoordinator.h"
 #include "platform/MetadataQuery.h"

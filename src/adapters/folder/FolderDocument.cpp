@@ -5,10 +5,10 @@
 #include <utility>
 #include <vector>
 
-#include "adapters/folder/FolderListing.h"
 #include "files/ConflictNames.h"
 #include "files/DurableFile.h"
 #include "files/FileContents.h"
+#include "files/FolderListing.h"
 #include "files/PathText.h"
 #include "files/PositionedIo.h"
 

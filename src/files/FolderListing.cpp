@@ -1,4 +1,4 @@
-#include "adapters/folder/FolderListing.h"
+#include "files/FolderListing.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,0 +1,198 @@
+#include "adapters/webdav/DavClient.h"
+
+#include <QAuthenticator>
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QEventLoop>
+#include <QHostAddress>
+#include <QNetworkReply>
+#include <utility>
+
+namespace tavi {
+
+namespace {
+
+constexpr int kStallMilliseconds = 30'000;
+/// Of an answer that is kept in memory: a listing of a hundred thousand files.
+constexpr qint64 kLongestAnswer = 64LL << 20;
+constexpr char kProperties[] =
+    "<?xml version=\"1.0\" encoding=\"utf-8\"?><D:propfind xmlns:D=\"DAV:\"><D:prop><D:resourcetype/>"
+    "<D:getcontentlength/><D:getetag/><D:getlastmodified/></D:prop></D:propfind>";
+
+/// Contents as a device that can be read again.
+class ContentsDevice : public QIODevice {
+public:
+    explicit ContentsDevice(FileContents contents) : m_contents(std::move(contents)) {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    qint64 size() const override { return static_cast<qint64>(m_contents.size()); }
+
+protected:
+    qint64 readData(char* data, qint64 length) override {
+        const std::size_t count =
+            m_contents.read(data, static_cast<std::size_t>(length), static_cast<std::uint64_t>(pos()));
+        // Cut short since it was opened: the request fails, and nothing shorter is sent as if it were whole.
+        return count == 0 && pos() < size() ? -1 : static_cast<qint64>(count);
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    FileContents m_contents;
+};
+
+}  // namespace
+
+DavClient::DavClient(Account account) : m_account(std::move(account)) {
+    m_manager.setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+    connect(&m_manager, &QNetworkAccessManager::authenticationRequired, this,
+            [this](QNetworkReply* reply, QAuthenticator* authenticator) {
+                // Once: a server that refuses them is not asked again.
+                if (!reply->property("asked").toBool()) {
+                    reply->setProperty("asked", true);
+                    authenticator->setUser(m_account.user);
+                    authenticator->setPassword(m_account.password);
+                }
+            });
+}
+
+void DavClient::abort() {
+    m_isAborted = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_reply != nullptr ? m_reply->abort() : void(); }, Qt::QueuedConnection);
+}
+
+Error DavClient::lastError() const {
+    switch (m_last.status) {
+        case 0:
+            return {m_last.error.isEmpty() ? QStringLiteral("The server does not answer.") : m_last.error};
+        case 401:
+        case 403:
+            return {QStringLiteral("The server refuses the user or the password.")};
+        case 404:
+            return {QStringLiteral("The folder is not on the server.")};
+        case 507:
+            return {QStringLiteral("The server is full.")};
+        default:
+            return {QStringLiteral("The server answers with status %1.").arg(m_last.status)};
+    }
+}
+
+QUrl DavClient::urlOf(const std::filesystem::path& name) const {
+    return QUrl::fromEncoded(
+        m_account.folder.toEncoded() + QByteArray::fromStdString(name.native()).toPercentEncoding(), QUrl::StrictMode);
+}
+
+DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
+                            const QList<std::pair<QByteArray, QByteArray>>& headers, QIODevice* upload,
+                            const std::function<bool(const QByteArray&)>& sink) {
+    m_last = {};
+    if (m_isAborted) {
+        return m_last;
+    }
+    QNetworkRequest question(url);
+    question.setTransferTimeout(kStallMilliseconds);
+    question.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    question.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    question.setRawHeader("Accept-Encoding", "identity");
+    for (const auto& [name, value] : headers) {
+        question.setRawHeader(name, value);
+    }
+    if (upload != nullptr) {
+        question.setHeader(QNetworkRequest::ContentLengthHeader, upload->size());
+    }
+    const std::unique_ptr<QNetworkReply> reply(m_manager.sendCustomRequest(question, verb, upload));
+    m_reply = reply.get();
+    DavReply answer;
+    bool isRefused = false;
+    const auto take = [&] {
+        const QByteArray bytes = reply->readAll();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        if (sink && status == 200) {
+            isRefused = isRefused || !sink(bytes);
+        } else {
+            answer.body += bytes;
+            isRefused = isRefused || answer.body.size() > kLongestAnswer;
+        }
+        isRefused ? reply->abort() : void();
+    };
+    QEventLoop loop;
+    connect(reply.get(), &QNetworkReply::readyRead, this, take);
+    connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    if (!reply->isFinished()) {
+        loop.exec();
+    }
+    if (!isRefused && reply->isOpen()) {
+        take();
+    }
+    m_reply = nullptr;
+    answer.status = isRefused ? 0 : reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool isBroken = reply->error() != QNetworkReply::NoError && answer.succeeded();
+    if (isBroken || answer.status == 0) {
+        // The status of an answer that was cut off says nothing.
+        answer.status = 0;
+        answer.error = reply->errorString();
+    }
+    answer.retryAfter = reply->rawHeader("Retry-After").toInt();
+    m_last = answer;
+    return answer;
+}
+
+DavReply DavClient::propfind(const QUrl& url, const QByteArray& depth) {
+    QBuffer body;
+    body.setData(kProperties, sizeof(kProperties) - 1);
+    body.open(QIODevice::ReadOnly);
+    return request("PROPFIND", url, {{"Depth", depth}, {"Content-Type", "application/xml; charset=utf-8"}}, &body, {});
+}
+
+Result<DavFiles> DavClient::list() {
+    const DavReply reply = propfind(m_account.folder, "1");
+    return reply.status == 207
+               ? readListing(reply.body,
+                             QByteArray::fromPercentEncoding(m_account.folder.path(QUrl::FullyEncoded).toLatin1()))
+               : tl::unexpected(lastError());
+}
+
+Result<std::optional<DavFile>> DavClient::stat(const std::filesystem::path& name) {
+    const DavReply reply = propfind(urlOf(name), "0");
+    if (reply.status == 404 || reply.status == 410) {
+        return std::optional<DavFile>();
+    }
+    return reply.status == 207 ? readFile(reply.body) : tl::unexpected(lastError());
+}
+
+Result<void> DavClient::makeFolder() {
+    const DavReply reply = request("MKCOL", m_account.folder, {}, nullptr, {});
+    return reply.succeeded() || reply.status == 405 ? Result<void>() : tl::unexpected(lastError());
+}
+
+void DavClient::put(const std::filesystem::path& name, const FileContents& contents) {
+    ContentsDevice device(contents);
+    request("PUT", urlOf(name), {{"If-None-Match", "*"}, {"Content-Type", "application/octet-stream"}}, &device, {});
+}
+
+void DavClient::move(const std::filesystem::path& from, const std::filesystem::path& to) {
+    request("MOVE", urlOf(from), {{"Destination", urlOf(to).toEncoded()}, {"Overwrite", "F"}}, nullptr, {});
+}
+
+void DavClient::remove(const std::filesystem::path& name) {
+    request("DELETE", urlOf(name), {}, nullptr, {});
+}
+
+Result<QByteArray> DavClient::get(const std::filesystem::path& name, qint64 size,
+                                  const std::function<bool(const QByteArray&)>& sink) {
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    qint64 count = 0;
+    const DavReply reply = request("GET", urlOf(name), {}, nullptr, [&](const QByteArray& bytes) {
+        hash.addData(bytes);
+        count += bytes.size();
+        return (size < 0 || count <= size) && (!sink || sink(bytes));
+    });
+    if (reply.status != 200) {
+        return tl::unexpected(lastError());
+    }
+    // A chunked answer that is cut off looks whole.
+    return size < 0 || count == size ? Result<QByteArray>(hash.result())
+                                     : failure(QStringLiteral("The server has sent only a part of a file."));
+}
+
+}  // namespace tavi

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QUrl>
+#include <atomic>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "adapters/webdav/DavListing.h"
+#include "files/FileContents.h"
+#include "platform/Error.h"
+
+class QNetworkReply;
+
+namespace tavi {
+
+/// What came of a request. Status 0 says that there was no answer.
+struct DavReply {
+    int status = 0;
+    QByteArray body;
+    QString error;
+    /// Seconds that the server asks to be left alone.
+    int retryAfter = 0;
+
+    bool succeeded() const { return status >= 200 && status < 300; }
+};
+
+/// One folder on a WebDAV server (RFC 4918), asked one thing at a time; each call waits for the server, at most half a
+/// minute without a byte. On the thread that made it, but for abort().
+///
+/// A status is not believed where contents are at stake: whoever moves or writes looks afterwards what is there.
+/// Redirects are not followed, a certificate that Qt refuses is refused, and credentials go to this origin alone.
+class DavClient : public QObject {
+    Q_OBJECT
+
+public:
+    struct Account {
+        /// Of the folder, with a slash at its end.
+        QUrl folder;
+        QString user;
+        QString password;
+    };
+
+    explicit DavClient(Account account);
+
+    /// Ends what is under way, and all that is asked for from now on. Any thread.
+    void abort();
+    bool isAborted() const { return m_isAborted; }
+    /// The last answer, for what is to be said when something fails.
+    const DavReply& lastReply() const { return m_last; }
+    /// That in words.
+    Error lastError() const;
+
+    Result<DavFiles> list();
+    /// Nothing where there is no such file.
+    Result<std::optional<DavFile>> stat(const std::filesystem::path& name);
+    Result<void> makeFolder();
+    /// Writes a new name. The answer is not to be believed.
+    void put(const std::filesystem::path& name, const FileContents& contents);
+    /// Moves to a name that nothing has. The answer is not to be believed.
+    void move(const std::filesystem::path& from, const std::filesystem::path& to);
+    void remove(const std::filesystem::path& name);
+    /// Reads all of a file; hands on what arrives until the sink says false. SHA-256 of it, where all of it has come.
+    Result<QByteArray> get(const std::filesystem::path& name, qint64 size,
+                           const std::function<bool(const QByteArray&)>& sink);
+
+private:
+    QUrl urlOf(const std::filesystem::path& name) const;
+    DavReply request(const QByteArray& verb, const QUrl& url, const QList<std::pair<QByteArray, QByteArray>>& headers,
+                     QIODevice* upload, const std::function<bool(const QByteArray&)>& sink);
+    DavReply propfind(const QUrl& url, const QByteArray& depth);
+
+    Account m_account;
+    QNetworkAccessManager m_manager;
+    QNetworkReply* m_reply = nullptr;
+    std::atomic<bool> m_isAborted = false;
+    DavReply m_last;
+};
+
+}  // namespace tavi

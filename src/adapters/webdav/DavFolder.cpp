@@ -1,0 +1,195 @@
+#include "adapters/webdav/DavFolder.h"
+
+#include <QRandomGenerator>
+
+#include "files/ConflictNames.h"
+
+namespace tavi {
+
+namespace {
+
+/// Hidden from every list, and never the same twice.
+std::filesystem::path scrapName(const char* kind, const std::filesystem::path& name = {}) {
+    QRandomGenerator* random = QRandomGenerator::system();
+    std::filesystem::path made = QStringLiteral(".tavi-%1-%2%3")
+                                     .arg(QLatin1String(kind))
+                                     .arg(random->generate64(), 16, 16, QLatin1Char('0'))
+                                     .arg(random->generate64(), 16, 16, QLatin1Char('0'))
+                                     .toStdString();
+    if (!name.empty()) {
+        made += "-" + name.native().substr(0, 150);
+    }
+    return made;
+}
+
+tl::unexpected<Error> notWritten() {
+    return failure(QStringLiteral("The cloud's journal cannot be written."));
+}
+
+}  // namespace
+
+Result<QByteArray> DavFolder::hashOf(const Path& name, const DavFile& file) {
+    return m_client.get(name, file.size, {});
+}
+
+Result<bool> DavFolder::moveAndLook(const Path& from, const Path& to) {
+    m_client.move(from, to);
+    const auto source = m_client.stat(from);
+    const auto target = source ? m_client.stat(to) : source;
+    if (!target) {
+        return tl::unexpected(target.error());
+    }
+    return !*source && *target;
+}
+
+Result<std::filesystem::path> DavFolder::sendPart(const FileContents& contents) {
+    const Path part = scrapName("part");
+    if (!m_journal.addScrap(part, {})) {
+        return notWritten();
+    }
+    m_client.put(part, contents);
+    const Error error = m_client.lastError();
+    const auto there = m_client.stat(part);
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    if (!*there || (*there)->size != static_cast<qint64>(contents.size())) {
+        // What is there of it goes with a later pass: an answer that was lost may still be on its way.
+        return tl::unexpected(error);
+    }
+    return part;
+}
+
+Result<DavFolder::Uploaded> DavFolder::publish(const Path& part, const Path& name, const QByteArray& hash) {
+    const Result<bool> moved = moveAndLook(part, name);
+    if (!moved) {
+        return tl::unexpected(moved.error());
+    }
+    const auto there = m_client.stat(name);
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    if (!*there) {
+        return failure(QStringLiteral("The server has not kept a file."));
+    }
+    const auto found = hashOf(name, **there);
+    if (!found) {
+        return tl::unexpected(found.error());
+    }
+    if (*found == hash) {
+        m_journal.dropScrap(part);
+        return Uploaded{Outcome::Done, **there};
+    }
+    return Uploaded{Outcome::Taken, **there};
+}
+
+Result<DavFolder::Uploaded> DavFolder::create(const Path& name, const FileContents& contents, const QByteArray& hash) {
+    const auto there = m_client.stat(name);
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    if (*there) {
+        return Uploaded{Outcome::Taken, **there};
+    }
+    const auto part = sendPart(contents);
+    return part ? publish(*part, name, hash) : tl::unexpected(part.error());
+}
+
+Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileContents& contents, const QByteArray& hash,
+                                               const QByteArray& seenHash) {
+    const auto part = sendPart(contents);
+    if (!part) {
+        return tl::unexpected(part.error());
+    }
+    const Path aside = scrapName("old", name);
+    if (!m_journal.addScrap(aside, name)) {
+        return notWritten();
+    }
+    const auto moved = moveAndLook(name, aside);
+    const auto old = moved ? m_client.stat(aside) : Result<std::optional<DavFile>>(tl::unexpected(moved.error()));
+    if (!old) {
+        return tl::unexpected(old.error());
+    }
+    if (!*old) {
+        m_journal.dropScrap(aside);
+        return Uploaded{Outcome::Taken, {}};
+    }
+    const auto oldHash = hashOf(aside, **old);
+    if (!oldHash) {
+        return tl::unexpected(oldHash.error());
+    }
+    if (*oldHash != seenHash) {
+        // Somebody else's version. It goes back; where its name is taken by now, a later pass gives it another.
+        const auto back = moveAndLook(aside, name);
+        back.value_or(false) ? m_journal.dropScrap(aside) : false;
+        return Uploaded{Outcome::Taken, {}};
+    }
+    auto published = publish(*part, name, hash);
+    if (published && published->outcome == Outcome::Done) {
+        m_client.remove(aside);
+        m_journal.dropScrap(aside);
+    }
+    return published;
+}
+
+Result<DavFolder::Outcome> DavFolder::discard(const Path& name, const QByteArray& seenHash) {
+    const Path trash = scrapName("trash", name);
+    const auto moved = moveAndLook(name, trash);
+    const auto there = moved ? m_client.stat(trash) : Result<std::optional<DavFile>>(tl::unexpected(moved.error()));
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    if (!*there) {
+        return Outcome::Taken;
+    }
+    const auto hash = hashOf(trash, **there);
+    if (hash && !seenHash.isEmpty() && *hash != seenHash) {
+        moveAndLook(trash, name);
+        return Outcome::Taken;
+    }
+    return Outcome::Done;
+}
+
+Result<DavFolder::Outcome> DavFolder::rename(const Path& from, const Path& to) {
+    const auto moved = moveAndLook(from, to);
+    if (!moved) {
+        return tl::unexpected(moved.error());
+    }
+    return *moved ? Outcome::Done : Outcome::Taken;
+}
+
+Result<void> DavFolder::recover() {
+    for (const auto& [name, original] : m_journal.scraps()) {
+        if (name.is_absolute()) {
+            continue;
+        }
+        // Not by the listing, in which some servers leave out what is hidden.
+        const auto there = m_client.stat(name);
+        const auto other = there && *there && !original.empty() ? m_client.stat(original) : there;
+        if (!other) {
+            return tl::unexpected(other.error());
+        }
+        if (!*there) {
+            // A request whose answer was lost may still make it: it stays hidden then.
+            m_journal.dropScrap(name);
+            continue;
+        }
+        if (original.empty()) {
+            // Ours, and what it was made of is here.
+            m_client.remove(name);
+            m_journal.dropScrap(name);
+            continue;
+        }
+        // Where both are there the new version has been published, or somebody else has written one: the old one stays
+        // under a name that is seen.
+        const std::string random = name.native().substr(name.native().find('-', 6) + 1, 6);
+        const auto kept = moveAndLook(name, *other ? conflictName(original, "old", random) : original);
+        if (!kept) {
+            return tl::unexpected(kept.error());
+        }
+        *kept ? m_journal.dropScrap(name) : false;
+    }
+    return {};
+}
+
+}  // namespace tavi

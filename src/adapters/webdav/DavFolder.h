@@ -1,0 +1,54 @@
+#pragma once
+
+#include "adapters/webdav/DavClient.h"
+#include "adapters/webdav/SyncJournal.h"
+
+namespace tavi {
+
+/// Changes to one folder of a server that lose nothing on any server, be it interrupted at any moment: contents come
+/// under a name of their own, are read back, and take a name only where nothing has it; what was there steps aside
+/// first and is looked at. Neither a status nor an entity tag is believed. On the client's thread; waits.
+class DavFolder {
+public:
+    using Path = std::filesystem::path;
+    /// How a change ended that was not an error.
+    enum class Outcome {
+        Done,
+        /// The name is taken, or holds what nobody here has seen; there all is as it was.
+        Taken,
+    };
+    struct Uploaded {
+        Outcome outcome = Outcome::Done;
+        /// What has the name now.
+        DavFile file;
+    };
+
+    /// All of them must outlive it.
+    DavFolder(DavClient& client, SyncJournal& journal) : m_client(client), m_journal(journal) {}
+
+    /// Writes contents of that hash under a name that nothing has.
+    Result<Uploaded> create(const Path& name, const FileContents& contents, const QByteArray& hash);
+    /// Writes them in the place of contents of the other hash.
+    Result<Uploaded> replace(const Path& name, const FileContents& contents, const QByteArray& hash,
+                             const QByteArray& seenHash);
+    /// Moves a file of that hash to a name for what was thrown away, where it stays.
+    Result<Outcome> discard(const Path& name, const QByteArray& seenHash);
+    /// Renames, replacing nothing.
+    Result<Outcome> rename(const Path& from, const Path& to);
+    /// Puts right what was interrupted.
+    Result<void> recover();
+
+private:
+    /// The name of contents that are whole on the server and have no name of their own yet.
+    Result<Path> sendPart(const FileContents& contents);
+    /// Gives a part its name. Whatever is answered, it looks: what has the name must have the hash.
+    Result<Uploaded> publish(const Path& part, const Path& name, const QByteArray& hash);
+    /// Moves and looks: whether the file is at its new name, and no more at the old one.
+    Result<bool> moveAndLook(const Path& from, const Path& to);
+    Result<QByteArray> hashOf(const Path& name, const DavFile& file);
+
+    DavClient& m_client;
+    SyncJournal& m_journal;
+};
+
+}  // namespace tavi

@@ -1,0 +1,354 @@
+#include "adapters/webdav/SyncPass.h"
+
+#include <QCryptographicHash>
+#include <set>
+
+#include "files/ConflictNames.h"
+#include "files/DurableFile.h"
+#include "files/FileMove.h"
+#include "files/FileNames.h"
+#include "files/PathText.h"
+#include "files/PositionedIo.h"
+
+namespace tavi {
+
+namespace {
+
+/// As many files as a user removes on another device within a minute; more at once look like an accident.
+constexpr int kHandful = 5;
+/// How often a file has to be missing in the listing: one that is stale lacks it once.
+constexpr int kMissings = 2;
+
+SyncSide sideOf(bool exists, const QByteArray& version, const QByteArray& known) {
+    return !exists ? SyncSide::Missing : version == known ? SyncSide::Same : SyncSide::Other;
+}
+
+Result<void> errnoFailure(int error) {
+    return failure(QString::fromStdString(writeErrorText(error)));
+}
+
+}  // namespace
+
+std::optional<QByteArray> hashOf(const FileContents& contents) {
+    constexpr std::size_t kBlock = 1024 * 1024;
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    QByteArray block(static_cast<qsizetype>(kBlock), '\0');
+    std::uint64_t offset = 0;
+    while (offset < contents.size()) {
+        const std::size_t count = contents.read(block.data(), kBlock, offset);
+        if (count == 0) {
+            return std::nullopt;
+        }
+        hash.addData(QByteArrayView(block.constData(), static_cast<qsizetype>(count)));
+        offset += count;
+    }
+    return hash.result();
+}
+
+Result<DavFiles> SyncPass::look() {
+    auto files = m_services.client.list();
+    if (!files && m_services.client.lastReply().status == 404 && !m_services.journal.isMarked() &&
+        m_services.client.makeFolder()) {
+        files = m_services.client.list();
+    }
+    if (!files) {
+        return files;
+    }
+    // Without the mark it is another folder, an empty mount point, or a server that knows nothing of it. Some list no
+    // hidden files.
+    const auto marked = files->contains(kContainerMark) ? Result<std::optional<DavFile>>(DavFile())
+                                                        : m_services.client.stat(kContainerMark);
+    if (!marked) {
+        return tl::unexpected(marked.error());
+    }
+    if (!*marked) {
+        if (m_services.journal.isMarked()) {
+            return failure(QStringLiteral("The folder on the server is not the one that it was."));
+        }
+        m_services.client.put(kContainerMark, FileContents("Tavi\n"));
+        const auto mark = m_services.client.stat(kContainerMark);
+        if (!mark || !*mark) {
+            return tl::unexpected(m_services.client.lastError());
+        }
+    }
+    if (!m_services.journal.setMarked()) {
+        return failure(QStringLiteral("The cloud's journal cannot be written."));
+    }
+    if (const auto recovered = m_dav.recover(); !recovered) {
+        return tl::unexpected(recovered.error());
+    }
+    return files;
+}
+
+Result<void> SyncPass::sendMoves(DavFiles& files) {
+    for (const auto& [from, to] : m_services.journal.moves()) {
+        if (existsAt(m_services.folder / from)) {
+            // It is about to be renamed here.
+            continue;
+        }
+        SyncEntry entry = m_services.journal.entry(from);
+        const auto source = files.find(from);
+        if (source != files.end() && source->second.version() == entry.remote && !files.contains(to)) {
+            const auto moved = m_dav.rename(from, to);
+            if (!moved) {
+                return tl::unexpected(moved.error());
+            }
+            if (*moved == DavFolder::Outcome::Done) {
+                files[to] = source->second;
+                files.erase(source);
+                m_services.journal.put(to, entry);
+                m_services.journal.forget(from);
+            }
+        }
+        // What did not move there is here under its new name, and goes there as a new file.
+        m_services.journal.dropMove(from, to);
+    }
+    return {};
+}
+
+SyncSituation SyncPass::situationOf(const File& file) const {
+    return {.isAgreed = file.entry.isAgreed(),
+            .local =
+                sideOf(file.local.has_value(), file.local ? localVersion(*file.local) : QByteArray(), file.entry.local),
+            .remote =
+                sideOf(file.remote.has_value(), file.remote ? file.remote->version() : QByteArray(), file.entry.remote),
+            .isRemovedHere = file.entry.isRemovedHere,
+            .isWanted = file.entry.isWanted};
+}
+
+MirrorState SyncPass::stateOf(const File& file, SyncAction action) {
+    switch (action) {
+        case SyncAction::Upload:
+        case SyncAction::ReplaceRemote:
+        case SyncAction::Compare:
+            return MirrorState::Waiting;
+        case SyncAction::Download:
+            return MirrorState::Arriving;
+        default:
+            return file.local ? MirrorState::There : MirrorState::OnlyThere;
+    }
+}
+
+SyncOutcome SyncPass::run() {
+    SyncOutcome outcome;
+    const auto failed = [&](const Error& error) {
+        outcome.error = error.text;
+        outcome.retryAfter = m_services.client.lastReply().retryAfter;
+        return outcome;
+    };
+    auto files = look();
+    if (const auto moved = files ? sendMoves(*files) : tl::unexpected(files.error()); !moved) {
+        return failed(moved.error());
+    }
+    // After the server's: a file that appears here meanwhile is new, never one that was removed.
+    const FolderListing listing = listFolder(m_services.folder);
+    std::map<Path, File> all;
+    for (const auto& [name, entry] : m_services.journal.entries()) {
+        all[name].entry = entry;
+    }
+    for (const auto& [name, identity] : listing) {
+        all[name].local = identity;
+    }
+    for (const auto& [name, file] : *files) {
+        name.native().front() != '.' ? void(all[name].remote = file) : void();
+    }
+    std::vector<std::pair<File*, SyncAction>> work;
+    States states;
+    for (auto& [name, file] : all) {
+        file.name = name;
+        const SyncAction action = decide(situationOf(file));
+        outcome.vanished += action == SyncAction::RemoveLocal ? 1 : 0;
+        work.emplace_back(&file, action);
+        states[name] = stateOf(file, action);
+    }
+    m_services.tellAll(states);
+    outcome.isInStep = true;
+    outcome.vanished = outcome.vanished > kHandful ? outcome.vanished : 0;
+    for (auto& [file, action] : work) {
+        if (m_services.client.isAborted()) {
+            return failed({QStringLiteral("It was interrupted.")});
+        }
+        if (action == SyncAction::RemoveLocal && outcome.vanished > 0) {
+            outcome.isInStep = false;
+            continue;
+        }
+        // One file that cannot be read or written holds up no other; a server that does not answer does.
+        if (const auto done = act(*file, action); !done) {
+            outcome.isInStep = false;
+            failed(done.error());
+            if (m_services.client.lastReply().status == 0) {
+                return outcome;
+            }
+        }
+    }
+    return outcome;
+}
+
+Result<void> SyncPass::act(File& file, SyncAction action) {
+    switch (action) {
+        case SyncAction::Nothing:
+            if (file.entry.missing > 0) {
+                file.entry.missing = 0;
+                m_services.journal.put(file.name, file.entry);
+            }
+            return {};
+        case SyncAction::Forget:
+            m_services.journal.forget(file.name);
+            setState(file.name, std::nullopt);
+            return {};
+        case SyncAction::Offer:
+            if (file.entry.isRemovedHere) {
+                // It has changed since it was removed: it is there again, and can be asked for.
+                m_services.journal.setRemovedHere(file.name, false);
+            }
+            if (file.entry.isAgreed() || file.entry.remote != file.remote->version()) {
+                SyncEntry offered;
+                offered.remote = file.remote->version();
+                m_services.journal.put(file.name, offered);
+            }
+            return {};
+        case SyncAction::Upload:
+        case SyncAction::ReplaceRemote:
+            return upload(file);
+        case SyncAction::Download:
+        case SyncAction::ReplaceLocal:
+            return download(file);
+        case SyncAction::Compare:
+            return compare(file);
+        case SyncAction::RemoveRemote:
+            return removeRemote(file);
+        case SyncAction::RemoveLocal:
+            return removeLocal(file);
+    }
+    return {};
+}
+
+Result<void> SyncPass::agree(File& file, const DavFile& remote, const QByteArray& hash) {
+    file.entry.local = localVersion(*file.local);
+    file.entry.remote = remote.version();
+    file.entry.hash = hash;
+    file.entry.missing = 0;
+    if (!m_services.journal.put(file.name, file.entry)) {
+        return failure(QStringLiteral("The cloud's journal cannot be written."));
+    }
+    setState(file.name, MirrorState::There);
+    return {};
+}
+
+Result<void> SyncPass::upload(File& file) {
+    const auto contents = FileContents::ofFile(m_services.folder / file.name);
+    const auto hash = contents ? hashOf(*contents) : std::nullopt;
+    if (!hash) {
+        return failure(QStringLiteral("%1 cannot be read.").arg(pathText(file.name)));
+    }
+    setState(file.name, MirrorState::Sending);
+    const auto uploaded = file.remote ? m_dav.replace(file.name, *contents, *hash, file.entry.hash)
+                                      : m_dav.create(file.name, *contents, *hash);
+    setState(file.name, MirrorState::Waiting);
+    if (!uploaded) {
+        return tl::unexpected(uploaded.error());
+    }
+    if (uploaded->outcome == DavFolder::Outcome::Taken) {
+        return stepAside(file);
+    }
+    if (FileIdentity::at(m_services.folder / file.name) != file.local) {
+        // It has changed while it was sent: what was sent is agreed on, and the rest follows.
+        agree(file, uploaded->file, *hash);
+        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+    }
+    return agree(file, uploaded->file, *hash);
+}
+
+Result<void> SyncPass::download(File& file) {
+    const Path path = m_services.folder / file.name;
+    const Path hidden = m_services.folder / ("." + file.name.native());
+    DurableFile part = DurableFile::create(hidden);
+    if (!part.isValid()) {
+        return errnoFailure(errno);
+    }
+    setState(file.name, MirrorState::Arriving);
+    std::int64_t offset = 0;
+    int error = 0;
+    const auto hash = m_services.client.get(file.name, file.remote->size, [&](const QByteArray& bytes) {
+        const WriteResult written =
+            writeFully(systemPwrite(), part.fd(), bytes.constData(), static_cast<std::size_t>(bytes.size()), offset);
+        offset += bytes.size();
+        error = written.error;
+        return error == 0;
+    });
+    error = error != 0 || !hash ? error : part.synchronize();
+    if (error != 0) {
+        return errnoFailure(error);
+    }
+    const auto after = hash ? m_services.client.stat(file.name) : tl::unexpected(hash.error());
+    if (!after) {
+        return tl::unexpected(after.error());
+    }
+    if (!*after || (*after)->version() != file.remote->version()) {
+        // It was replaced while it came: neither the one nor the other.
+        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+    }
+    const auto stamp = m_services.now().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")).toStdString();
+    const auto replaced =
+        replaceSeen(path, part.temporaryPath(), file.local,
+                    m_services.folder / conflictName(file.name, stamp, m_services.device.toStdString()));
+    if (!replaced) {
+        return tl::unexpected(errorOf(replaced.error()));
+    }
+    synchronizeFolder(m_services.folder);
+    file.local = FileIdentity::at(path);
+    return file.local ? agree(file, *file.remote, *hash) : errnoFailure(ENOENT);
+}
+
+Result<void> SyncPass::compare(File& file) {
+    const auto contents = FileContents::ofFile(m_services.folder / file.name);
+    const auto here = contents ? hashOf(*contents) : std::nullopt;
+    const auto there = m_services.client.get(file.name, file.remote->size, {});
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    return here == *there ? agree(file, *file.remote, *there) : stepAside(file);
+}
+
+Result<void> SyncPass::stepAside(const File& file) {
+    const auto stamp = m_services.now().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")).toStdString();
+    const Path other = freePath(m_services.folder / conflictName(file.name, stamp, m_services.device.toStdString()));
+    if (const int error = renameWithoutReplacing(m_services.folder / file.name, other); error != 0) {
+        return errnoFailure(error);
+    }
+    // The one from here is new now, and goes there; the one from there is asked for.
+    m_services.journal.put(file.name, {});
+    m_services.journal.setWanted(file.name, true);
+    return failure(QStringLiteral("%1 was changed on two devices: both are kept.").arg(pathText(file.name)));
+}
+
+Result<void> SyncPass::removeRemote(File& file) {
+    const auto discarded = m_dav.discard(file.name, file.entry.hash);
+    if (!discarded) {
+        return tl::unexpected(discarded.error());
+    }
+    m_services.journal.forget(file.name);
+    setState(file.name, std::nullopt);
+    return {};
+}
+
+Result<void> SyncPass::removeLocal(File& file) {
+    ++file.entry.missing;
+    m_services.journal.put(file.name, file.entry);
+    const auto there = m_services.client.stat(file.name);
+    if (!there) {
+        return tl::unexpected(there.error());
+    }
+    if (*there || file.entry.missing < kMissings) {
+        return failure(QStringLiteral("%1 is looked for again.").arg(pathText(file.name)));
+    }
+    const auto trashed = m_services.trash.moveToTrash(m_services.folder / file.name);
+    if (!trashed) {
+        return tl::unexpected(trashed.error());
+    }
+    m_services.journal.forget(file.name);
+    setState(file.name, std::nullopt);
+    return {};
+}
+
+}  // namespace tavi
