@@ -173,7 +173,8 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
-    Cloud cloud{platform.container, platform.settings.standard, platform.runLoop, platform.notifications};
+    Cloud cloud{platform.container, platform.settings.standard, platform.runLoop, platform.notifications,
+                platform.keychain};
     RecordingCloud recordingCloud{{.documents = cloud.documents,
                                    .settings = platform.settings.store,
                                    .presenter = platform.presenter,

@@ -3,8 +3,10 @@
 #include <QLoggingCategory>
 #include <chrono>
 #include <cstdio>
+#include <iostream>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
+#include "Cloud.h"
 #include "Output.h"
 #include "Program.h"
 #include "SettingsFiles.h"
@@ -22,8 +24,6 @@
 #include "app/cli/CommandLine.h"
 #include "app/cli/CommandLock.h"
 #include "app/cli/OpenFiles.h"
-#include "files/FileError.h"
-#include "files/FolderListing.h"
 #include "passcode/FXKeychain.h"
 #include "passcode/PasscodeStore.h"
 #include "ui/Texts.h"
@@ -33,6 +33,8 @@ namespace tavi {
 namespace {
 
 const auto g_start = std::chrono::steady_clock::now();
+/// Long enough for the password of a keyring.
+constexpr auto kPatience = std::chrono::minutes(1);
 
 /// With TAVI_TRACE in the environment, debug messages go to standard error as "trace: TEXT MICROSECONDS-SINCE-START".
 void installTrace() {
@@ -89,8 +91,6 @@ int runBesideOther(int& argc, char** argv, const ProgramRequest& request, const 
 /// Whether the lock lets a command through that prints and ends.
 Result<void> passLockOf(SettingsStore& settings, RunLoop& runLoop, const QString& busName,
                         const AppContainer& container) {
-    // Long enough for the password of a keyring.
-    constexpr auto kPatience = std::chrono::minutes(1);
     QLoggingCategory::setFilterRules(QStringLiteral("tavi.keychain.info=false"));
     return passLock({.isProtectionOn = [&] { return settings.isPasscodeProtectionOn(); },
                      .isInstanceLocked = [&] { return isInstanceLocked(QDBusConnection::sessionBus(), busName); },
@@ -107,6 +107,25 @@ Result<void> passLockOf(SettingsStore& settings, RunLoop& runLoop, const QString
                              const QString why = store.whyNoneIsCorrect();
                              return why.isEmpty() ? qtTrId("command_passcode_wrong") : why;
                          }});
+}
+
+CloudCommands cloudCommands(const std::function<SystemKeychain()>& keychain, const AppContainer& container) {
+    return {.prepare =
+                [keychain, &container](const CloudAccount& account, const QString& password) {
+                    SystemKeychain secrets = keychain();
+                    return prepareCloud(account, password, container, secrets);
+                },
+            .sync =
+                [keychain, &container](const CloudAccount& account) {
+                    SystemKeychain secrets = keychain();
+                    return syncCloud(account, container, secrets);
+                },
+            .askForPassword =
+                [] {
+                    const auto typed = askOnTerminal(QStringLiteral("Password: "));
+                    std::string line;
+                    return typed ? *typed : QString::fromStdString(std::getline(std::cin, line) ? line : std::string());
+                }};
 }
 
 /// Does without the window what prints and ends.
@@ -126,21 +145,18 @@ int runPrinting(int& argc, char** argv, const CommandLine& line, const PrintingC
     NotificationCenter notifications;
     QObject::connect(&notifications, &NotificationCenter::posted, &notifications,
                      [&busName] { tellOfChange(QDBusConnection::sessionBus(), busName); });
-    const auto output =
-        command({.container = container,
-                 .suites = {.standard = settings.standard, .shared = settings.shared},
-                 .runLoop = runLoop,
-                 .durations = media,
-                 .files = media,
-                 .converters = media,
-                 .exports = media,
-                 .repair = media,
-                 .refreshes = refreshes,
-                 .notifications = notifications,
-                 .markCloudFolder = [](const std::filesystem::path& folder) -> Result<void> {
-                     const int error = markContainer(folder);
-                     return error == 0 ? Result<void>() : failure(QString::fromStdString(writeErrorText(error)));
-                 }});
+    const auto keychain = [&] { return SystemKeychain(StorePlaces::of(container), runLoop, kPatience); };
+    const auto output = command({.container = container,
+                                 .suites = {.standard = settings.standard, .shared = settings.shared},
+                                 .runLoop = runLoop,
+                                 .durations = media,
+                                 .files = media,
+                                 .converters = media,
+                                 .exports = media,
+                                 .repair = media,
+                                 .refreshes = refreshes,
+                                 .notifications = notifications,
+                                 .cloud = cloudCommands(keychain, container)});
     if (!output) {
         return reportFailure(output.error());
     }

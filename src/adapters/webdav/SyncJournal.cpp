@@ -31,6 +31,11 @@ SyncEntry entryOf(const QSqlQuery& query, int first) {
     return entry;
 }
 
+/// No name on a server has a slash.
+std::filesystem::path nameOf(SyncJournal::Fact fact) {
+    return fact == SyncJournal::Fact::IsMarked ? "/marked" : "/listed";
+}
+
 }  // namespace
 
 QByteArray localVersion(const FileIdentity& identity) {
@@ -157,13 +162,12 @@ bool SyncJournal::dropScrap(const Path& name) {
     return execute(QStringLiteral("DELETE FROM scraps WHERE name = ?"), {bytesOf(name)});
 }
 
-bool SyncJournal::isMarked() {
-    return scraps().contains("/marked");
+bool SyncJournal::isKnown(Fact fact) {
+    return scraps().contains(nameOf(fact));
 }
 
-bool SyncJournal::setMarked() {
-    // No name on a server has a slash.
-    return addScrap("/marked", "/");
+bool SyncJournal::know(Fact fact) {
+    return isKnown(fact) || addScrap(nameOf(fact), "/");
 }
 
 }  // namespace tavi

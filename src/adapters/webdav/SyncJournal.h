@@ -64,9 +64,11 @@ public:
     bool addScrap(const Path& name, const Path& original);
     bool dropScrap(const Path& name);
 
-    /// Whether the server's folder has been marked as this account's.
-    bool isMarked();
-    bool setMarked();
+    /// What has been found out about the server's folder for good: that it has been marked as this account's, and that
+    /// its listing has the mark.
+    enum class Fact { IsMarked, ListsMark };
+    bool isKnown(Fact fact);
+    bool know(Fact fact);
 
 private:
     explicit SyncJournal(const Path& path) : m_path(QString::fromStdString(path.native())) {}

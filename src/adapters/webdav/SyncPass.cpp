@@ -47,22 +47,24 @@ std::optional<QByteArray> hashOf(const FileContents& contents) {
 
 Result<DavFiles> SyncPass::look() {
     auto files = m_services.client.list();
-    if (!files && m_services.client.lastReply().status == 404 && !m_services.journal.isMarked() &&
-        m_services.client.makeFolder()) {
+    if (!files && m_services.client.lastReply().status == 404 &&
+        !m_services.journal.isKnown(SyncJournal::Fact::IsMarked) && m_services.client.makeFolder()) {
         files = m_services.client.list();
     }
     if (!files) {
         return files;
     }
     // Without the mark it is another folder, an empty mount point, or a server that knows nothing of it. Some list no
-    // hidden files.
-    const auto marked = files->contains(kContainerMark) ? Result<std::optional<DavFile>>(DavFile())
-                                                        : m_services.client.stat(kContainerMark);
+    // hidden files; of one that does the listing counts, and not what it says of the mark alone.
+    const bool isListed = files->contains(kContainerMark);
+    const bool counts = isListed || m_services.journal.isKnown(SyncJournal::Fact::ListsMark);
+    const auto marked = counts ? Result<std::optional<DavFile>>(isListed ? std::optional(DavFile()) : std::nullopt)
+                               : m_services.client.stat(kContainerMark);
     if (!marked) {
         return tl::unexpected(marked.error());
     }
     if (!*marked) {
-        if (m_services.journal.isMarked()) {
+        if (m_services.journal.isKnown(SyncJournal::Fact::IsMarked)) {
             return failure(QStringLiteral("The folder on the server is not the one that it was."));
         }
         m_services.client.put(kContainerMark, FileContents("Tavi\n"));
@@ -71,7 +73,8 @@ Result<DavFiles> SyncPass::look() {
             return tl::unexpected(m_services.client.lastError());
         }
     }
-    if (!m_services.journal.setMarked()) {
+    if (!m_services.journal.know(SyncJournal::Fact::IsMarked) ||
+        (isListed && !m_services.journal.know(SyncJournal::Fact::ListsMark))) {
         return failure(QStringLiteral("The cloud's journal cannot be written."));
     }
     if (const auto recovered = m_dav.recover(); !recovered) {

@@ -14,17 +14,17 @@ namespace {
 constexpr int kShortestPause = 60;
 constexpr int kLongestPause = 3600;
 
-bool mayHavePassword(const QUrl& url) {
-    const bool isHere = url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
-    return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty() &&
-           (url.scheme() == QLatin1String("https") || (url.scheme() == QLatin1String("http") && isHere));
-}
-
 Result<void> notWritten() {
     return failure(QStringLiteral("The cloud's journal cannot be written."));
 }
 
 }  // namespace
+
+bool mayHavePassword(const QUrl& url) {
+    const bool isHere = url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
+    return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty() &&
+           (url.scheme() == QLatin1String("https") || (url.scheme() == QLatin1String("http") && isHere));
+}
 
 Result<std::unique_ptr<WebDavMirror>> WebDavMirror::create(const Place& place, Trash& trash) {
     if (!mayHavePassword(place.account.folder)) {

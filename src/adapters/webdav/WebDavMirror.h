@@ -9,6 +9,9 @@
 
 namespace tavi {
 
+/// Whether a password may be sent to an address: https, or http to this machine, and none in the address itself.
+bool mayHavePassword(const QUrl& url);
+
 /// Keeps a folder of this machine in step with a folder on a WebDAV server, on a thread of its own, for as long as it
 /// lives: at once when something changes here, and by looking there every minute, less often the longer nothing
 /// changes, up to an hour. Without a network what is to be done waits in the journal.
@@ -21,8 +24,8 @@ public:
         QString device;
     };
 
-    /// Fails where the journal cannot be written, or the address is not one that a password may be sent to: https, or
-    /// http to this machine. The trash must outlive it, and is called on its thread.
+    /// Fails where the journal cannot be written, or the address may not have a password. The trash must outlive it,
+    /// and is called on its thread.
     static Result<std::unique_ptr<WebDavMirror>> create(const Place& place, Trash& trash);
     /// Waits for what is under way to be given up, which is at once.
     ~WebDavMirror() override;

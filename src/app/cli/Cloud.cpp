@@ -22,17 +22,30 @@ Result<QByteArray> stored(const CloudAccount& account, bool isOn, const CommandS
 }  // namespace
 
 Result<QByteArray> run(const CloudConnectOptions& options, const CommandServices& services) {
-    std::error_code error;
     CloudAccount account;
-    account.kind = CloudAccount::Kind::Folder;
-    account.folder = std::filesystem::canonical(options.place, error);
-    if (error || !std::filesystem::is_directory(account.folder, error)) {
-        return failure(QStringLiteral("no folder: %1").arg(pathText(options.place)));
+    QString password;
+    if (options.place.starts_with("https://") || options.place.starts_with("http://")) {
+        account.kind = CloudAccount::Kind::Server;
+        account.address = QString::fromStdString(options.place);
+        account.address += account.address.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
+        account.user = QString::fromStdString(options.user);
+        password = account.user.isEmpty() ? QString() : services.cloud.askForPassword();
+    } else {
+        std::error_code error;
+        account.kind = CloudAccount::Kind::Folder;
+        account.folder = std::filesystem::canonical(options.place, error);
+        if (error || !std::filesystem::is_directory(account.folder, error)) {
+            return failure(QStringLiteral("no folder: %1").arg(pathText(options.place)));
+        }
     }
-    if (const Result<void> marked = services.markCloudFolder(account.folder); !marked) {
-        return tl::unexpected(marked.error());
+    if (const Result<void> prepared = services.cloud.prepare(account, password); !prepared) {
+        return tl::unexpected(prepared.error());
     }
     return stored(account, true, services);
+}
+
+Result<QByteArray> run(const CloudSyncOptions& /*options*/, const CommandServices& services) {
+    return services.cloud.sync(CloudAccount::of(services.suites.standard)).map([] { return QByteArray(); });
 }
 
 Result<QByteArray> run(const CloudDisconnectOptions& /*options*/, const CommandServices& services) {

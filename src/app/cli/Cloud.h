@@ -7,10 +7,15 @@
 
 namespace tavi {
 
-/// "tavi cloud connect FOLDER": the folder, which exists and which another program keeps in sync, is the user's cloud.
+/// "tavi cloud connect PLACE [--user NAME]": the user's cloud is a folder, which exists and which another program keeps
+/// in sync, or a folder on a WebDAV server, by its address. It is asked at once.
 struct CloudConnectOptions {
     std::string place;
+    std::string user;
 };
+
+/// "tavi cloud sync": has this machine and the server agree. Fails where they do not, or the program is running.
+struct CloudSyncOptions {};
 
 /// "tavi cloud disconnect": there is no cloud any more. What is in it stays.
 struct CloudDisconnectOptions {};
@@ -22,6 +27,7 @@ struct CloudStatusOptions {
 
 /// They print what is the case afterwards. The running program takes another cloud when it starts next.
 Result<QByteArray> run(const CloudConnectOptions& options, const CommandServices& services);
+Result<QByteArray> run(const CloudSyncOptions& options, const CommandServices& services);
 Result<QByteArray> run(const CloudDisconnectOptions& options, const CommandServices& services);
 Result<QByteArray> run(const CloudStatusOptions& options, const CommandServices& services);
 

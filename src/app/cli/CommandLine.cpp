@@ -234,9 +234,11 @@ void Grammar::addImport() {
 void Grammar::addCloud() {
     CLI::App* cloud = m_app.add_subcommand("cloud", "say where the cloud is, and ask about it");
     cloud->group("Commands that print and end")->require_subcommand(1);
-    const auto [connect, place] =
-        addPrinting<CloudConnectOptions>(*cloud, "connect", "keep recordings in a folder that another program syncs");
-    connect->add_option("FOLDER", place->place, "the folder")->required();
+    const auto [connect, place] = addPrinting<CloudConnectOptions>(
+        *cloud, "connect", "keep recordings in a folder that another program syncs,\nor on a WebDAV server");
+    connect->add_option("PLACE", place->place, "the folder, or the address of one on a server")->required();
+    connect->add_option("--user", place->user, "of the server; the password is asked for")->type_name("NAME");
+    addPrinting<CloudSyncOptions>(*cloud, "sync", "have this machine and the server agree");
     addPrinting<CloudDisconnectOptions>(*cloud, "disconnect", "keep recordings on this machine only");
     const auto [status, how] = addPrinting<CloudStatusOptions>(*cloud, "status", "print where the cloud is");
     status->add_flag("--json", how->json, "as JSON");

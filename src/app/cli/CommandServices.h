@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "app/settings/SettingsStore.h"
+#include "cloud/CloudAccount.h"
 #include "platform/AppContainer.h"
 #include "platform/AssetExportSession.h"
 #include "platform/AudioConverter.h"
@@ -41,6 +42,16 @@ struct CommandOutput {
     QStringList failures = {};
 };
 
+/// What the commands on the cloud ask for.
+struct CloudCommands {
+    /// Makes the place the cloud's, and keeps the password.
+    std::function<Result<void>(const CloudAccount& account, const QString& password)> prepare;
+    /// Has both sides of a server's account agree.
+    std::function<Result<void>(const CloudAccount& account)> sync;
+    /// From the terminal, or a line of standard input.
+    std::function<QString()> askForPassword;
+};
+
 /// What the commands that print and end work with. All of it outlives the command.
 struct CommandServices {
     const AppContainer& container;
@@ -54,8 +65,7 @@ struct CommandServices {
     DisplayRefreshes& refreshes;
     /// Has the running program hear that the recordings have changed.
     NotificationCenter& notifications;
-    /// Makes a folder that exists the cloud's.
-    std::function<Result<void>(const std::filesystem::path&)> markCloudFolder;
+    CloudCommands cloud;
 };
 
 }  // namespace tavi

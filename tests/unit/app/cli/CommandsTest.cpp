@@ -9,6 +9,7 @@
 #include "app/cli/CommandLock.h"
 #include "app/cli/OpenFiles.h"
 #include "files/LockedFolder.h"
+#include "files/PathText.h"
 #include "library/RecordingEntry.h"
 #include "support/FakeAudioFileRepair.h"
 #include "support/FakeServices.h"
@@ -28,20 +29,25 @@ protected:
     std::string tavi(const QByteArray& words) {
         const auto line = parseCommandLine(words.split('|'));
         const auto printed = line.and_then([this](const CommandLine& parsed) {
-            return std::get<PrintingCommand>(parsed.command)({.container = container,
-                                                              .suites = {.standard = defaults, .shared = shared},
-                                                              .runLoop = runLoop,
-                                                              .durations = durations,
-                                                              .files = files,
-                                                              .converters = converters,
-                                                              .exports = assets,
-                                                              .repair = repair,
-                                                              .refreshes = refreshes,
-                                                              .notifications = notifications,
-                                                              .markCloudFolder = [this](const auto& folder) {
-                                                                  marked.push_back(folder);
-                                                                  return Result<void>();
-                                                              }});
+            return std::get<PrintingCommand>(parsed.command)(
+                {.container = container,
+                 .suites = {.standard = defaults, .shared = shared},
+                 .runLoop = runLoop,
+                 .durations = durations,
+                 .files = files,
+                 .converters = converters,
+                 .exports = assets,
+                 .repair = repair,
+                 .refreshes = refreshes,
+                 .notifications = notifications,
+                 .cloud = {
+                     .prepare =
+                         [this](const CloudAccount& account, const QString& password) {
+                             prepared.push_back(account.token() + QLatin1Char(' ') + password);
+                             return Result<void>();
+                         },
+                     .sync = [](const CloudAccount&) { return Result<void>(failure(QStringLiteral("not in step"))); },
+                     .askForPassword = [] { return QStringLiteral("secret"); }}});
         });
         if (!printed) {
             return "! " + printed.error().text.toStdString();
@@ -71,23 +77,27 @@ protected:
 
     FakeUserDefaults shared;
     FakeAudioFileRepair repair;
-    std::vector<std::filesystem::path> marked;
+    QStringList prepared;
 };
 
 }  // namespace
 
-TEST_F(CommandsTest, TheCloudIsAFolderThatExists) {
+TEST_F(CommandsTest, TheCloudIsAFolderThatExistsOrAServer) {
     const std::filesystem::path folder = std::filesystem::canonical(container.cachesPath());
     expectSaid({{"cloud|status", "no cloud\n"}, {"cloud|connect|/nowhere", "! no folder: /nowhere"}});
-    EXPECT_TRUE(marked.empty());
+    EXPECT_TRUE(prepared.empty());
     const QByteArray connect = "cloud|connect|" + QByteArray::fromStdString(folder.native());
     expectSaid({{connect, folder.native() + '\n'},
                 {"get|Iclound", "false\n"},
                 {"set|Iclound|YES", ""},
                 {"cloud|status", folder.native() + " (off)\n"},
                 {"cloud|status|--json", "{\"on\":false,\"place\":\"" + folder.native() + "\"}\n"},
+                {"cloud|disconnect", "no cloud\n"},
+                {"cloud|connect|https://h/f|--user|u", "https://h/f/\n"},
+                {"cloud|sync", "! not in step"},
                 {"cloud|disconnect", "no cloud\n"}});
-    EXPECT_EQ(marked, std::vector{folder});
+    EXPECT_EQ(prepared, QStringList({QLatin1Char('@') + pathText(folder) + QLatin1Char(' '),
+                                     QStringLiteral("u@https://h/f/ secret")}));
     EXPECT_TRUE(existsAt(folder)) << "what is in it stays";
 }
 
