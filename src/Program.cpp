@@ -300,7 +300,9 @@ struct Screens {
     RecordingImport imports{{.container = platform.container,
                              .runLoop = platform.runLoop,
                              .notices = platform.notices,
-                             .presenter = platform.presenter}};
+                             .presenter = platform.presenter,
+                             .settings = platform.settings.store,
+                             .cloud = cloud.documents}};
     AppDelegate delegate{{.application = platform.application,
                           .idleTimer = platform.idleTimer,
                           .settings = platform.settings.store,

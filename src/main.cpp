@@ -19,6 +19,7 @@
 #include "adapters/qt/MediaLibrary.h"
 #include "adapters/qt/QtAppContainer.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "adapters/qt/QtTrash.h"
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "adapters/secret/SystemKeychain.h"
 #include "app/cli/CommandLine.h"
@@ -142,6 +143,7 @@ int runPrinting(int& argc, char** argv, const CommandLine& line, const PrintingC
         }
     }
     QuickDisplayRefreshes refreshes;
+    QtTrash trash;
     NotificationCenter notifications;
     QObject::connect(&notifications, &NotificationCenter::posted, &notifications,
                      [&busName] { tellOfChange(QDBusConnection::sessionBus(), busName); });
@@ -154,6 +156,7 @@ int runPrinting(int& argc, char** argv, const CommandLine& line, const PrintingC
                                  .converters = media,
                                  .exports = media,
                                  .repair = media,
+                                 .trash = trash,
                                  .refreshes = refreshes,
                                  .notifications = notifications,
                                  .cloud = cloudCommands(keychain, container)});
@@ -191,7 +194,7 @@ int run(int& argc, char** argv) {
     if (!lock) {
         const auto& [isHeld, error] = lock.error();
         const int exitCode = isHeld ? runBesideOther(argc, argv, request, busName, error) : reportFailure(error);
-        return exitCode != EXIT_SUCCESS ? exitCode : opened.exitCode;
+        return exitCode != EXIT_SUCCESS ? exitCode : reportEach(opened.refusals, opened.exitCode);
     }
     return runProgram(argc, argv, request, busName, **container);
 }

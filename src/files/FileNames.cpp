@@ -7,6 +7,11 @@
 
 namespace tavi {
 
+bool isRecordingName(const std::filesystem::path& name) {
+    const bool isName = name.has_filename() && !name.has_parent_path() && name != "." && name != "..";
+    return isName && name != foldername::kCloud && name != foldername::kInbox && name != foldername::kPrivateInbox;
+}
+
 std::filesystem::path folderOf(const std::filesystem::path& path) {
     return path.has_parent_path() ? path.parent_path() : ".";
 }

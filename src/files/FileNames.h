@@ -15,6 +15,9 @@ inline constexpr std::string_view kInbox = "Inbox";
 inline constexpr std::string_view kPrivateInbox = "PrivateInbox";
 }  // namespace foldername
 
+/// Whether a recording can have that name: it is one name, and of none of these folders.
+bool isRecordingName(const std::filesystem::path& name);
+
 /// The folder in which a path's last name lies: "." for a path of one name.
 std::filesystem::path folderOf(const std::filesystem::path& path);
 

@@ -5,16 +5,17 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "files/DurableFile.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
 #include "files/LockedFolder.h"
+#include "files/PositionedIo.h"
 
 namespace tavi::importinbox {
 
@@ -24,6 +25,7 @@ namespace fs = std::filesystem;
 
 /// How the folders are named that are made here.
 constexpr std::string_view kOwn = "tavi-import-";
+constexpr std::size_t kBlock = std::size_t{1} << 20;
 
 /// Whether something is a folder, and no link to one.
 bool isFolder(const fs::path& path) {
@@ -90,12 +92,6 @@ fs::path inboxFolderOf(const fs::path& documents, const fs::path& file) {
     return end == inbox.end() ? folder : fs::path();
 }
 
-/// Names among the recordings that are no recording's.
-bool isReserved(const fs::path& name) {
-    constexpr std::array kNames{foldername::kCloud, foldername::kInbox, foldername::kPrivateInbox};
-    return std::find(kNames.begin(), kNames.end(), name.native()) != kNames.end();
-}
-
 /// Gives a file in "Inbox" its name among the recordings. 0 or an errno value.
 int moveOver(const fs::path& file, const fs::path& to) {
     struct stat attributes = {};
@@ -126,7 +122,7 @@ int refusal(const fs::path& documents, const fs::path& file) {
     if (::access(file.c_str(), R_OK) != 0) {
         return errno;
     }
-    return isReserved(file.filename()) || existsAt(documents / file.filename()) ? EEXIST : 0;
+    return !isRecordingName(file.filename()) || existsAt(documents / file.filename()) ? EEXIST : 0;
 }
 
 int bringIn(const fs::path& documents, const fs::path& file, const CopyWatch& watch) {
@@ -151,7 +147,7 @@ int takeOver(const fs::path& documents, const fs::path& file) {
         return EISDIR;
     }
     const fs::path to = documents / name;
-    const int error = isReserved(name) ? EEXIST : folder.empty() ? copyItem(file, to) : moveOver(file, to);
+    const int error = !isRecordingName(name) ? EEXIST : folder.empty() ? copyItem(file, to) : moveOver(file, to);
     // What could not be copied, and is nowhere else, stays.
     const bool isDone = error == 0 || error == EEXIST;
     if (isDone && folder.filename() == foldername::kInbox) {
@@ -162,6 +158,29 @@ int takeOver(const fs::path& documents, const fs::path& file) {
         fs::remove_all(folder, ignored);
     }
     return error;
+}
+
+int save(const fs::path& documents, const fs::path& name, const FileContents& data) {
+    if (!isRecordingName(name)) {
+        return EINVAL;
+    }
+    DurableFile file = DurableFile::create(documents / name);
+    if (!file.isValid()) {
+        return errno;
+    }
+    std::vector<char> block(kBlock);
+    for (std::uint64_t offset = 0; offset < data.size();) {
+        const std::size_t count = data.read(block.data(), block.size(), offset);
+        if (count == 0) {
+            return EIO;
+        }
+        if (const int error =
+                writeFully(::pwrite, file.fd(), block.data(), count, static_cast<std::int64_t>(offset)).error) {
+            return error;
+        }
+        offset += count;
+    }
+    return file.publish();
 }
 
 void removeLeftovers(const fs::path& documents) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "files/FileContents.h"
 #include "files/FileCopy.h"
 
 // How a file comes in among the recordings, by way of the folder "Inbox". Any thread; each takes as long as the disks
@@ -21,6 +22,10 @@ int takeOver(const std::filesystem::path& documents, const std::filesystem::path
 
 /// Whether bringIn() would refuse a file, as far as can be told at once: 0 or its errno value.
 int refusal(const std::filesystem::path& documents, const std::filesystem::path& file);
+
+/// Writes a new recording of that name, whole or not at all. 0 or an errno value: EEXIST where the name is taken,
+/// EINVAL where no recording can have it.
+int save(const std::filesystem::path& documents, const std::filesystem::path& name, const FileContents& data);
 
 /// Removes the folders that bringIn() of processes that were killed has left. Those of others in "Inbox" stay.
 void removeLeftovers(const std::filesystem::path& documents);

@@ -54,6 +54,12 @@ int respell(const std::filesystem::path& file, const std::filesystem::path& newP
     return error;
 }
 
+/// A typed name as the file system has it. One that is no text, left as it was offered, stays what it is.
+std::string bytesOf(const std::filesystem::path& file, const QString& typed) {
+    const std::string name = file.filename();
+    return typed == nameToEdit(file) ? name.substr(0, extensionPlace(name)) : nativePath(typed).native();
+}
+
 }  // namespace
 
 QString nameToEdit(const std::filesystem::path& file) {
@@ -62,21 +68,26 @@ QString nameToEdit(const std::filesystem::path& file) {
 }
 
 std::filesystem::path renamedPath(const std::filesystem::path& file, const QString& typed) {
+    return renamedPath(file, bytesOf(file, typed));
+}
+
+std::filesystem::path renamedPath(const std::filesystem::path& file, const std::string& typed) {
     const std::string name = file.filename();
-    const std::size_t place = extensionPlace(name);
-    // A name that is no text, left as it was offered, stays what it is.
-    const std::string stem = typed == nameToEdit(file) ? name.substr(0, place) : nativePath(typed).native();
-    return file.parent_path() / (stem + name.substr(place));
+    return file.parent_path() / (typed + name.substr(extensionPlace(name)));
 }
 
 NewNameFault faultOfNewName(const std::filesystem::path& file, const QString& typed) {
-    if (typed.contains(QLatin1Char('/'))) {
+    return faultOfNewName(file, bytesOf(file, typed));
+}
+
+NewNameFault faultOfNewName(const std::filesystem::path& file, const std::string& typed) {
+    if (typed.find('/') != std::string::npos) {
         return NewNameFault::HasSlash;
     }
-    if (typed.isEmpty()) {
+    if (typed.empty()) {
         return NewNameFault::IsEmpty;
     }
-    if (nativePath(typed) == file.filename()) {
+    if (typed == file.filename()) {
         return NewNameFault::IsOldName;
     }
     const std::filesystem::path newPath = renamedPath(file, typed);

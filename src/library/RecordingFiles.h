@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <filesystem>
+#include <string>
 
 #include "platform/Error.h"
 
@@ -28,10 +29,13 @@ QString nameToEdit(const std::filesystem::path& file);
 
 /// Where the recording would be under a typed name: in its folder, with the extension that it has, if it has one.
 std::filesystem::path renamedPath(const std::filesystem::path& file, const QString& typed);
+/// The same of a name in the file system's bytes.
+std::filesystem::path renamedPath(const std::filesystem::path& file, const std::string& typed);
 
 /// Looks at the file system. Names are compared exactly, and no character but the slash is refused. On a file system
 /// that takes small and capital letters for the same, a name that differs in them alone is not taken.
 NewNameFault faultOfNewName(const std::filesystem::path& file, const QString& typed);
+NewNameFault faultOfNewName(const std::filesystem::path& file, const std::string& typed);
 
 /// Gives a file its new path, and replaces nothing, whatever comes there meanwhile. The error is the system's words.
 /// Waits for no disk. Any thread.

@@ -1,5 +1,7 @@
 #include "library/RecordingImport.h"
 
+#include <unistd.h>
+
 #include <QLoggingCategory>
 #include <QPointer>
 #include <algorithm>
@@ -10,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "files/FileNames.h"
 #include "files/FileUri.h"
 #include "files/PathText.h"
 #include "library/ImportInbox.h"
@@ -90,6 +93,52 @@ void RecordingImport::openOtherAppFile(const QUrl& url) {
         [self = QPointer(this), &runLoop, file = pathOf(url), documents = m_services.container.documentsPath()] {
             if (const int error = importinbox::takeOver(documents, file); error != 0 && error != EEXIST) {
                 qCInfo(lcImport, "%s: %s", file.c_str(), std::generic_category().message(error).c_str());
+            }
+            runLoop.dispatchMain([self] {
+                if (self) {
+                    Q_EMIT self->imported();
+                }
+            });
+        });
+}
+
+void RecordingImport::saveImagesInIPhoneWithName(const FileContents& data, const std::filesystem::path& name) {
+    RunLoop& runLoop = m_services.runLoop;
+    runLoop.dispatchBackground(
+        [self = QPointer(this), &runLoop, data, name, documents = m_services.container.documentsPath()] {
+            const int error = importinbox::save(documents, name, data);
+            runLoop.dispatchMain([self, data, name, error] {
+                if (self) {
+                    self->didSave(data, name, error);
+                }
+            });
+        });
+}
+
+void RecordingImport::didSave(const FileContents& data, const std::filesystem::path& name, int error) {
+    if (error != 0) {
+        // What has that name is somebody else's.
+        m_services.notices.postNotice({qtTrId("import_failed").arg(lineText(name), reasonOf(error))});
+        return;
+    }
+    Q_EMIT imported();
+    if (m_services.settings.isICloudSyncOn()) {
+        m_services.cloud.saveAndCloseDocumentWithName(
+            name, data, [self = QPointer(this), name](const auto&, const FileContents&, const auto& cloudError) {
+                if (self && !cloudError) {
+                    self->removeFile(name);
+                }
+            });
+    }
+}
+
+void RecordingImport::removeFile(const std::filesystem::path& name) {
+    RunLoop& runLoop = m_services.runLoop;
+    runLoop.dispatchBackground(
+        [self = QPointer(this), &runLoop, name, file = m_services.container.documentsPath() / name] {
+            const int error = !isRecordingName(name) ? EINVAL : ::unlink(file.c_str()) != 0 ? errno : 0;
+            if (error != 0) {
+                qCInfo(lcImport, "Could not delete file -:%s ", std::generic_category().message(error).c_str());
             }
             runLoop.dispatchMain([self] {
                 if (self) {

@@ -6,6 +6,9 @@
 #include <filesystem>
 #include <memory>
 
+#include "app/settings/SettingsStore.h"
+#include "cloud/CloudDocuments.h"
+#include "files/FileContents.h"
 #include "platform/AppContainer.h"
 #include "platform/Notices.h"
 #include "platform/Presenter.h"
@@ -31,6 +34,8 @@ public:
         RunLoop& runLoop;
         Notices& notices;
         Presenter& presenter;
+        SettingsStore& settings;
+        CloudDocuments& cloud;
     };
 
     explicit RecordingImport(const Services& services, QObject* parent = nullptr);
@@ -40,6 +45,12 @@ public:
     /// Copies the file of a URL to the recordings, fails silently where its name is taken, and removes the whole folder
     /// that held it, if that lies in "Inbox".
     void openOtherAppFile(const QUrl& url);
+
+    /// Saves data as a new recording of that name, and where "iCloudSync" is on hands it to the cloud and removes the
+    /// local copy once the cloud has it. A name that is taken keeps its file, and one line says so.
+    void saveImagesInIPhoneWithName(const FileContents& data, const std::filesystem::path& name);
+    /// Removes the file of that name among the recordings, in the background. A failure is logged.
+    void removeFile(const std::filesystem::path& name);
 
 public Q_SLOTS:
     /// Takes in files from anywhere. Further ones join those that are still being copied.
@@ -56,6 +67,7 @@ Q_SIGNALS:
 private:
     struct Batch;
 
+    void didSave(const FileContents& data, const std::filesystem::path& name, int error);
     void startNext();
     void showLine();
     void showProgress(const std::shared_ptr<Batch>& batch, double fraction);

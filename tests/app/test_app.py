@@ -314,6 +314,98 @@ class CommandLine(AppTest):
         self.assert_fails(r"^tavi: Cannot make the lock file “.*/instance\.lock”: .*\n$", "record")
 
 
+class Importing(AppTest):
+    """The desktop knows the program by its entry; its home is a private one."""
+
+    ENTRY = pathlib.Path(__file__).resolve().parents[2] / "packaging" / f"{NAME}.desktop"
+    # A file of each type, by its extension, as FFmpeg writes it: its codec.
+    TYPES = {"audio/aac": ("aac", "aac"), "audio/ac3": ("ac3", "ac3"), "audio/basic": ("au", "pcm_s16be"),
+             "audio/flac": ("flac", "flac"), "audio/mp2": ("mp2", "mp2"), "audio/mp4": ("m4a", "aac"),
+             "audio/mpeg": ("mp3", "libmp3lame"), "audio/x-aifc": ("aifc", "pcm_s16be -f aiff"),
+             "audio/x-aiff": ("aiff", "pcm_s16be"), "audio/x-m4b": ("m4b", "aac -f ipod"),
+             "audio/x-matroska": ("mka", "flac"), "audio/x-ms-wma": ("wma", "wmav2"), "audio/x-opus+ogg": ("opus", "libopus"),
+             "audio/x-speex+ogg": ("spx", "libspeex"), "audio/x-tta": ("tta", "tta"),
+             "audio/x-vorbis+ogg": ("ogg", "libvorbis"), "audio/x-wav": ("wav", "pcm_s16le"),
+             "audio/x-wavpack": ("wv", "wavpack")}
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        home = cls.desktop.folder / "home"
+        cls.desktop.environment |= {"HOME": str(home), "XDG_DATA_HOME": f"{home}/data", "XDG_CONFIG_HOME": f"{home}/config",
+                                    "XDG_CACHE_HOME": f"{home}/cache"}
+        applications = home / "data/applications"
+        applications.mkdir(parents=True)
+        (applications / cls.ENTRY.name).write_text(cls.ENTRY.read_text().replace("Exec=tavi", f"Exec={PROGRAM}"))
+
+    def test_each_type_of_the_desktop_entry_is_one_that_plays(self):
+        listed = re.search(r"^MimeType=(.*)$", self.ENTRY.read_text(), re.MULTILINE).group(1).split(";")
+        self.assertEqual({name for name in listed if name.startswith("audio/")}, set(self.TYPES))
+        for name, (extension, codec) in self.TYPES.items():
+            with self.subTest(name=name):
+                sound = self.desktop.folder / f"sample.{extension}"
+                self.desktop.run("ffmpeg", "-v", "error", "-nostdin", "-f", "lavfi", "-i", "sine=f=1000:d=2", "-strict", "-2",
+                                 "-c:a", *codec.split(), sound)
+                self.assertIn(f": {name}\n", self.desktop.run("gio", "info", "-a", "standard::content-type", sound).stdout)
+                self.tavi("import", sound)
+                heard = self.tavi("waveform", self.documents / sound.name, "--points", "4").stdout.split()
+                self.assertAlmostEqual(float(heard[0]), 0.088, delta=0.01)
+        for entry in json.loads(self.tavi("list", "--json").stdout):
+            self.assertRegex(entry["duration"], "^00:0[12]$", entry["filename"])
+
+    def test_files_come_in_from_the_desktop_and_the_terminal(self):
+        files = [write_tone(self.desktop.folder / name, 1000, 0.1) for name in ("first.wav", "second.wav", "third.wav", "list")]
+        # Where the program has no container, its name on the bus is that of the desktop entry.
+        self.documents = pathlib.Path(self.desktop.environment["HOME"]) / "Music/Voice Recordings"
+        tavi = lambda *arguments: self.desktop.run(PROGRAM, *arguments, check=False)
+        wait_in = lambda file: self.wait(lambda: (self.documents / file.name).exists(), f"{file.name} among the recordings")
+        left = self.documents / "Inbox/tavi-import-killed/half.wav"
+        left.parent.mkdir(parents=True)
+        left.write_text("half")
+        app = self.desktop.spawn(PROGRAM, files[0], log=self.log)
+        self.addCleanup(self.desktop.stop, app)
+        self.desktop.window(app)
+        wait_in(files[0])
+        self.wait(lambda: not left.parent.exists(), "what a killed import left to go")
+        self.wait(lambda: NAME in self.bus_names(), "the name on the bus")
+        self.desktop.run("gio", "mime", "audio/x-wav", f"{NAME}.desktop")
+        self.desktop.run("gio", "open", files[1])
+        wait_in(files[1])
+        self.assertEqual(tavi(files[2]).returncode, 0)
+        wait_in(files[2])
+        shown = self.wait_shown()
+        self.assertEqual(tavi("import", files[3]).stdout, f"{self.documents}/list\n")
+        shown = self.wait_change(shown, "the fourth recording")
+        again = tavi(*files[:3])
+        self.assertEqual((again.returncode, again.stderr.count(": there is a recording of that name already\n")), (1, 3))
+        for words in (("import", files[0], "/etc"), ("rename", "first.wav", "second"), ("delete", "nobody"),
+                      ("export", "first.wav", files[0])):
+            self.assertEqual((tavi(*words).returncode, tavi(*words).stdout), (1, ""), words)
+        self.assertEqual(tavi("rename", "--", "list", "-x").returncode, 0)
+        self.assertEqual(tavi("export", "-x", self.desktop.folder).returncode, 2)
+        self.assertEqual(tavi("export", "--", "-x", self.desktop.folder).returncode, 0)
+        self.assertEqual((self.desktop.folder / "-x").read_bytes(), files[3].read_bytes())
+        self.assertEqual(tavi("delete", "third.wav").returncode, 0)
+        trash = self.desktop.run("gio", "trash", "--list", check=False)
+        self.assertEqual(tavi("delete", "--permanently", "--", "-x").returncode, 0)
+        self.wait_change(shown, "the two that are left")
+        self.assertEqual([path.name for path in self.recordings()], ["first.wav", "second.wav"])
+        self.assertTrue((self.documents.parents[1] / "data/Trash/files/third.wav").exists(), trash)
+
+    def test_an_import_that_is_killed_leaves_nothing_among_the_recordings(self):
+        large = self.desktop.folder / "large.wav"
+        with open(large, "wb") as file:
+            file.truncate(1 << 30)
+        copying = self.desktop.spawn(PROGRAM, "--container", self.container, "import", large, log=self.log)
+        inbox = self.documents / "Inbox"
+        self.wait(lambda: list(inbox.glob("tavi-import-*/.*")), "the copy to begin")
+        self.assertEqual(self.desktop.stop(copying, signal.SIGKILL), -signal.SIGKILL)
+        self.assertEqual(self.recordings(), [])
+        self.tavi("import", self.tone)
+        self.assertEqual([path.name for path in self.recordings()], [self.tone.name])
+        self.assertEqual(list(inbox.iterdir()), [])
+
+
 class WithoutServices(AppTest):
     """There is no sound server and no bus."""
 

@@ -167,7 +167,12 @@ struct ShellScreens : FakeServices {
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
-    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
+    RecordingImport imports{{.container = container,
+                             .runLoop = runLoop,
+                             .notices = notices,
+                             .presenter = presenter,
+                             .settings = settings,
+                             .cloud = cloud}};
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
     SupportRows supportRows{{.appRater = rating.rater,
                              .urlOpener = rating.urlOpener,

@@ -13,6 +13,7 @@
 #include "app/cli/Get.h"
 #include "app/cli/Import.h"
 #include "app/cli/List.h"
+#include "app/cli/Recordings.h"
 #include "app/cli/Recover.h"
 #include "app/cli/Set.h"
 #include "app/cli/Trim.h"
@@ -93,6 +94,9 @@ private:
     void addWaveform();
     void addTrim();
     void addImport();
+    void addRename();
+    void addDelete();
+    void addExport();
     void addCloud();
     Result<CommandLine> finish();
 
@@ -156,6 +160,9 @@ Grammar::Grammar() {
     addImport();
     addWaveform();
     addTrim();
+    addRename();
+    addDelete();
+    addExport();
     addCloud();
     for (CLI::App* command : m_app.get_subcommands({})) {
         command->footer(std::string());
@@ -229,6 +236,24 @@ void Grammar::addTrim() {
 void Grammar::addImport() {
     const auto [command, options] = addPrinting<ImportOptions>("import", "copy sound files among the recordings");
     command->add_option("FILE", options->files, "the sound files")->required();
+}
+
+void Grammar::addRename() {
+    const auto [command, options] = addPrinting<RenameOptions>("rename", "give a recording another name");
+    command->add_option("NAME", options->name, "the recording, as the list names it")->required();
+    command->add_option("NEW", options->newName, "its new name; the extension stays")->required();
+}
+
+void Grammar::addDelete() {
+    const auto [command, options] = addPrinting<DeleteOptions>("delete", "move recordings to the trash");
+    command->add_option("NAME", options->names, "the recordings, as the list names them")->required();
+    command->add_flag("--permanently", options->permanently, "delete for good, past the trash");
+}
+
+void Grammar::addExport() {
+    const auto [command, options] = addPrinting<ExportOptions>("export", "copy a recording to another place");
+    command->add_option("NAME", options->name, "the recording, as the list names it")->required();
+    command->add_option("TO", options->to, "a new file, or a folder")->required();
 }
 
 void Grammar::addCloud() {

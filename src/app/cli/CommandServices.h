@@ -14,6 +14,7 @@
 #include "platform/ExtAudioFile.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RunLoop.h"
+#include "platform/Trash.h"
 #include "platform/UserDefaults.h"
 
 namespace tavi {
@@ -62,6 +63,7 @@ struct CommandServices {
     AudioConverters& converters;
     AssetExportSessions& exports;
     AudioFileRepair& repair;
+    Trash& trash;
     DisplayRefreshes& refreshes;
     /// Has the running program hear that the recordings have changed.
     NotificationCenter& notifications;

@@ -21,8 +21,9 @@ OpenFiles resolveFiles(ProgramRequest& request, const AppContainer& container) {
         if (error != 0) {
             const bool isWord = !isThere && !file.has_parent_path();
             isWrongWord = isWrongWord || isWord;
-            opened.failures += isWord ? QStringLiteral("there is no command and no file “%1”").arg(lineText(file))
-                                      : failureOf(file, fileErrorText(error)).value().text;
+            (isThere ? opened.refusals : opened.failures) +=
+                isWord ? QStringLiteral("there is no command and no file “%1”").arg(lineText(file))
+                       : failureOf(file, fileErrorText(error)).value().text;
             opened.exitCode = isWrongWord ? kUsageExitCode : EXIT_FAILURE;
         }
     }

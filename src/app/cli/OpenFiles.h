@@ -9,8 +9,10 @@ namespace tavi {
 
 /// What can be said at once of the files that the program is to open.
 struct OpenFiles {
-    /// Why a file cannot be imported, a line each.
+    /// The files that are not there, a line each.
     QStringList failures;
+    /// Why others cannot be imported. It tells names of recordings: not before a locked program has let the request in.
+    QStringList refusals;
     /// What the program ends with where it has nothing else to do.
     int exitCode = 0;
 };

@@ -1,6 +1,7 @@
 #include "app/cli/Recover.h"
 
 #include "files/PathText.h"
+#include "library/utility/Notifications.h"
 #include "recording/RecordingRescue.h"
 
 namespace tavi {
@@ -28,9 +29,14 @@ QString lineOf(const Rescued& rescued) {
 Result<QByteArray> run(const RecoverOptions& /*options*/, const CommandServices& services) {
     QString lines;
     bool isAllSaved = true;
+    bool hasSaved = false;
     for (const Rescued& rescued : RecordingRescue::rescueAll(services.container, services.repair)) {
         lines += lineOf(rescued);
+        hasSaved = hasSaved || rescued.outcome == Rescued::Outcome::Saved;
         isAllSaved = isAllSaved && rescued.outcome != Rescued::Outcome::Kept;
+    }
+    if (hasSaved) {
+        services.notifications.postNotification(kDataUpdatedNotification);
     }
     if (!isAllSaved) {
         return failure(QStringLiteral("not all could be recovered\n") + lines.trimmed());

@@ -31,6 +31,10 @@ tl::unexpected<Error> failureOf(const std::filesystem::path& path, const QString
     return failure(lineText(path) + QStringLiteral(": ") + why);
 }
 
+QString systemText(int error) {
+    return QString::fromStdString(std::generic_category().message(error));
+}
+
 QString fileErrorText(int error) {
     switch (error) {
         case EEXIST:
@@ -42,7 +46,7 @@ QString fileErrorText(int error) {
         case EBUSY:
             return QStringLiteral("it is being written");
         default:
-            return QString::fromStdString(std::generic_category().message(error));
+            return systemText(error);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "app/cli/SoundFile.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
+#include "library/utility/Notifications.h"
 #include "trimming/TrimRules.h"
 
 namespace tavi {
@@ -66,6 +67,7 @@ Result<QByteArray> run(const TrimOptions& options, const CommandServices& servic
     if ((*session)->status() != AssetExportStatus::Completed) {
         return failureOf(output, (*session)->error().text);
     }
+    services.notifications.postNotification(kDataUpdatedNotification);
     return QByteArray::fromStdString(output.native()) + '\n';
 }
 

@@ -20,6 +20,7 @@ inline constexpr QLatin1String kSort("Sort");
 inline constexpr QLatin1String kRewindSong("RewindSong");
 inline constexpr QLatin1String kForwardSong("ForwardSong");
 inline constexpr QLatin1String kThemeColor("ThemeColor");
+inline constexpr QLatin1String kICloudSync("iCloudSync");
 inline constexpr QLatin1String kMicrophone("Microphone");
 inline constexpr QLatin1String kMicrophoneName("MicrophoneName");
 inline constexpr QLatin1String kPasscodeProtectionEnabled("PasscodeProtectionEnabled");
@@ -81,6 +82,9 @@ public:
     QString microphone() const;
     QString microphoneName() const;
     void setMicrophone(const QString& uid, const QString& name);
+
+    /// Whether what is imported goes to the cloud alone. Nothing writes it.
+    bool isICloudSyncOn() const { return m_defaults.boolForKey(settingskey::kICloudSync); }
 
     /// Whether the library tints its buttons for a white ground.
     bool isThemeWhite() const;

@@ -28,7 +28,12 @@ protected:
     FakePresenter presenter;
     FakeRecording recording{*this, presenter, tabBar, notices};
     AudioRecordVC& screen = recording.vc;
-    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
+    RecordingImport imports{{.container = container,
+                             .runLoop = runLoop,
+                             .notices = notices,
+                             .presenter = presenter,
+                             .settings = settings,
+                             .cloud = cloud}};
     FakeProgressView hud;
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
     FakeSecureStore keychain;

@@ -10,6 +10,7 @@
 #include "files/FileUri.h"
 #include "files/LockedFolder.h"
 #include "library/ImportInbox.h"
+#include "support/FakeCloudDocuments.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
@@ -70,7 +71,15 @@ protected:
     ManualRunLoop runLoop;
     FakeNotices notices;
     FakePresenter presenter;
-    RecordingImport imports{{.container = container, .runLoop = runLoop, .notices = notices, .presenter = presenter}};
+    FakeUserDefaults defaults;
+    SettingsStore settings{defaults};
+    FakeCloudDocuments cloud{runLoop};
+    RecordingImport imports{{.container = container,
+                             .runLoop = runLoop,
+                             .notices = notices,
+                             .presenter = presenter,
+                             .settings = settings,
+                             .cloud = cloud}};
     const fs::path documents = container.documentsPath();
     const fs::path inbox = documents / "Inbox";
     const fs::path outside = container.root() / "outside";
@@ -207,6 +216,40 @@ TEST_F(RecordingImportTest, LongImportsShowHowFarTheyAreAndCanBeGivenUp) {
         EXPECT_EQ(fs::exists(documents / "large.wav"), !isGivenUp);
         EXPECT_THAT(filesIn(inbox), IsEmpty());
     }
+}
+
+TEST_F(RecordingImportTest, SavesDataUnderAFreeNameAndLeavesItToTheCloudOnlyOnceThatHasIt) {
+    const FileContents data(std::string(3 << 20, 'x'));
+    const auto save = [&](const char* name) {
+        imports.saveImagesInIPhoneWithName(data, name);
+        runLoop.drain();
+        return fs::exists(documents / name);
+    };
+    EXPECT_TRUE(save("a.wav"));
+    EXPECT_EQ(fs::file_size(documents / "a.wav"), data.size());
+    EXPECT_THAT(cloud.saves, IsEmpty());
+    defaults.setObject(true, settingskey::kICloudSync);
+    write(outside / "b.wav");
+    write(documents / "taken.wav");
+    for (const char* name : {"taken.wav", "../outside/b.wav", "Inbox"}) {
+        save(name);
+        EXPECT_THAT(lastNotice(), ::testing::StartsWith(std::string("failed ") + name));
+    }
+    EXPECT_EQ(read(documents / "taken.wav") + read(outside / "b.wav"), "soundsound");
+    EXPECT_FALSE(save("c.wav"));
+    EXPECT_EQ(cloud.files["c.wav"].size(), data.size());
+    cloud.error = CloudError{};
+    EXPECT_TRUE(save("d.wav")) << "it is nowhere else";
+    cloud.hasAccount = false;
+    EXPECT_TRUE(save("e.wav"));
+
+    for (const char* name : {"a.wav", "../outside/b.wav", "Inbox/x", "none"}) {
+        write(inbox / "x");
+        imports.removeFile(name);
+        runLoop.drain();
+    }
+    EXPECT_FALSE(fs::exists(documents / "a.wav"));
+    EXPECT_TRUE(fs::exists(outside / "b.wav") && fs::exists(inbox / "x"));
 }
 
 TEST_F(RecordingImportTest, CleansUpAfterAKilledImportAndNothingElse) {

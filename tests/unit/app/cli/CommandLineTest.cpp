@@ -79,6 +79,9 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"trim|a|--from|-1|--to|1", "! --from: “-1” is no number of seconds"},
         {"trim|a|--from|1|--to", "? --to"},
         {"import", "? FILE"},
+        {"delete|--permanently", "? NAME"},
+        {"rename|a|b|c", "? c"},
+        {"export|a", "? TO"},
         {"file://elsewhere/a.wav", "! “file://elsewhere/a.wav” is no file on this machine"},
         {"https://example.org/", "! the scheme of “https://example.org/” is not one that the recorder opens"},
         {"TaviRecordStop:|stop", "! files or URLs and commands do not go together"},
@@ -102,7 +105,7 @@ TEST(CommandLine, HelpAndManualPageTellTheSame) {
     const QString manual = QString::fromUtf8(file.readAll()).remove(QLatin1Char('\\'));
     const QString help = helpOf({});
     const QStringList commands = allMatches(help.section(QLatin1String("\nCommands"), 1), "^  ([a-z]+)  ");
-    ASSERT_EQ(commands.size(), 11);
+    ASSERT_EQ(commands.size(), 14);
     const QString described = manual.section(QLatin1String(".SS"), 1).section(QLatin1String(".SH"), 0, 0);
     EXPECT_EQ(allMatches(described, "^\\.TP\n\\.BR?I? \"?([a-z]+)"), commands);
     for (const QString& command : commands) {

@@ -38,6 +38,7 @@ protected:
                  .converters = converters,
                  .exports = assets,
                  .repair = repair,
+                 .trash = trash,
                  .refreshes = refreshes,
                  .notifications = notifications,
                  .cloud = {
@@ -78,6 +79,7 @@ protected:
     FakeUserDefaults shared;
     FakeAudioFileRepair repair;
     QStringList prepared;
+    FakeTrash trash{container.root() / "trash"};
 };
 
 }  // namespace
@@ -304,10 +306,59 @@ TEST_F(CommandsTest, ImportsCopiesAndSaysWhyNot) {
     for (int i = 0; i < 4; ++i) {
         auto request = std::get<ProgramRequest>(parseCommandLine(given[i].split('|'))->command);
         const OpenFiles opened = resolveFiles(request, container);
-        EXPECT_EQ(opened.failures.join(QLatin1Char('\n')).toStdString(), expected[i].first);
+        EXPECT_EQ((opened.failures + opened.refusals).join(QLatin1Char('\n')).toStdString(), expected[i].first);
         EXPECT_EQ(opened.exitCode, expected[i].second);
         EXPECT_EQ(request.urls.size(), i < 2 ? 0 : 1);
+        EXPECT_EQ(opened.refusals.size(), request.urls.size()) << "it tells a name before the lock is passed";
     }
+}
+
+TEST_F(CommandsTest, RenamesDeletesAndExportsByTheFilesNames) {
+    int changes = 0;
+    QObject::connect(&notifications, &NotificationCenter::posted, &notifications, [&changes] { ++changes; });
+    const std::string documents = container.documentsPath().native() + '/';
+    const std::string root = container.root().native() + '/';
+    std::filesystem::create_directories(root + "trash");
+    for (const char* name : {"a.m4a", "b.m4a", "c\xff.m4a", "-d", "Inbox"}) {
+        std::ofstream(documents + name) << "sound";
+    }
+    std::filesystem::create_directory(documents + "folder");
+    std::ofstream(documents + "folder/x") << "x";
+    const std::string taken = ": there is a recording of that name already";
+    const std::string none = ": that is no name of a recording";
+    const QByteArray to = QByteArray::fromStdString(root);
+    expectSaid({{"rename|a.m4a|b", "! " + documents + "b.m4a" + taken},
+                {"rename|a.m4a|a", "! " + documents + "a.m4a" + taken},
+                {"rename|a.m4a|a.m4a", documents + "a.m4a\n"},
+                {"rename|a.m4a|x/y", "! x/y: a name holds no “/”"},
+                {"rename|a.m4a|", "! a.m4a: the new name is empty"},
+                {"rename|nobody|x", "! nobody: there is no such recording"},
+                {"rename|Inbox|x", "! Inbox" + none},
+                {"rename|../a|x", "! ../a" + none},
+                {"rename|..|x", "! .." + none},
+                {"rename|a.m4a|" + QByteArray(252, 'x'),
+                 "! " + documents + std::string(252, 'x') + ".m4a: File name too long"},
+                {"export|a.m4a|" + to + "none/x", "! " + root + "none/x: No such file or directory"},
+                {"export|folder|" + to + "x", "! " + documents + "folder: Is a directory"}});
+    EXPECT_EQ(changes, 0);
+    expectSaid({{"rename|c\xff.m4a|e\xfe", documents + "e\uFFFD.m4a\n"},
+                {"rename|a.m4a|t\n.m4a", documents + "t?.m4a\n"},
+                {"export|t\n.m4a|" + to, root + "t?.m4a\n"},
+                {"export|t\n.m4a|" + to, "! " + root + "t?.m4a: File exists"},
+                {"export|e\xfe.m4a|" + to + "f\xfe", root + "f\uFFFD\n"}});
+    EXPECT_EQ(std::filesystem::file_size(root + "t\n.m4a") + std::filesystem::file_size(root + "f\xfe"), 10U);
+    EXPECT_EQ(changes, 4);
+
+    expectSaid({{"delete|e\xfe.m4a|nobody|folder", "! nobody: there is no such recording"},
+                {"delete|--permanently|--|-d", ""}});
+    EXPECT_TRUE(std::filesystem::exists(root + "trash/e\xfe.m4a") && std::filesystem::exists(root + "trash/folder/x"));
+    EXPECT_FALSE(std::filesystem::exists(documents + "-d") || std::filesystem::exists(root + "trash/-d"));
+    EXPECT_EQ(changes, 6);
+    trash.isThere = false;
+    expectSaid({{"delete|b.m4a", "! b.m4a: the trash does not take it (no trash); --permanently deletes it"},
+                {"delete|--permanently|b.m4a|t\n.m4a|..", "! .." + none}});
+    EXPECT_EQ(changes, 7);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(documents), {}), 1);
 }
 
 TEST_F(CommandsTest, RecoverSaysWhatBecameOfEach) {
