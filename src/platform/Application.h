@@ -64,8 +64,8 @@ public:
 /// The program as the desktop sees it. Main thread only.
 ///
 /// It is active while its window has the focus, and in the background while the window is minimised or hidden, the
-/// session is locked or the machine sleeps. A start is followed by applicationDidBecomeActive() even where the desktop keeps the focus
-/// elsewhere.
+/// session is locked or the machine sleeps. A start is followed by applicationDidBecomeActive() even where the desktop
+/// keeps the focus elsewhere.
 class Application {
 public:
     virtual ~Application() = default;

@@ -6,9 +6,10 @@ namespace tavi {
 
 /// Decides from the window's and the session's state which calls of the life cycle are due. A pure state machine.
 ///
-/// This is the one place that says what background and foreground are. The program is in the background while its window
-/// is not shown (minimised, hidden, or no longer exposed), the session is locked or the machine sleeps; otherwise it is active with the focus and inactive without. A window system that has never given
-/// it the focus, as an X server without a window manager, cannot take it away either: there, shown is active.
+/// This is the one place that says what background and foreground are. The program is in the background while its
+/// window is not shown (minimised, hidden, or no longer exposed), the session is locked or the machine sleeps;
+/// otherwise it is active with the focus and inactive without. A window system that has never given it the focus, as an
+/// X server without a window manager, cannot take it away either: there, shown is active.
 class LifeCycle {
 public:
     enum class Event { DidBecomeActive, WillResignActive, DidEnterBackground, WillEnterForeground, WillTerminate };
