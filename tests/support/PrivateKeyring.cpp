@@ -3,7 +3,7 @@
 #include <signal.h>
 
 #include <QDBusConnectionInterface>
-#include <QDBusInterface>
+#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusReply>
 #include <QDBusVariant>
@@ -42,6 +42,13 @@ QDBusConnection PrivateKeyring::connection() {
     return m_bus->connect();
 }
 
+QDBusMessage PrivateKeyring::ask(const QString& path, const QString& interface, const QString& method,
+                                 const QVariantList& arguments) {
+    QDBusMessage message = QDBusMessage::createMethodCall(kService, path, interface, method);
+    message.setArguments(arguments);
+    return connection().call(message);
+}
+
 void PrivateKeyring::kill() {
     if (m_daemon) {
         m_daemon->kill();
@@ -54,10 +61,9 @@ void PrivateKeyring::setHanging(bool hanging) {
 }
 
 void PrivateKeyring::lock() {
-    QDBusInterface service(kService, QStringLiteral("/org/freedesktop/secrets"),
-                           QStringLiteral("org.freedesktop.Secret.Service"), connection());
     const QDBusMessage answer =
-        service.call(QStringLiteral("Lock"), QVariant::fromValue(QList<QDBusObjectPath>{QDBusObjectPath(kCollection)}));
+        ask(QStringLiteral("/org/freedesktop/secrets"), QStringLiteral("org.freedesktop.Secret.Service"),
+            QStringLiteral("Lock"), {QVariant::fromValue(QList<QDBusObjectPath>{QDBusObjectPath(kCollection)})});
     if (answer.type() != QDBusMessage::ReplyMessage) {
         qFatal("the keyring does not lock: %s", qPrintable(answer.errorMessage()));
     }
@@ -74,9 +80,9 @@ void PrivateKeyring::beginAnew() {
 }
 
 int PrivateKeyring::itemCount() {
-    QDBusInterface collection(kService, kCollection, QStringLiteral("org.freedesktop.DBus.Properties"), connection());
-    const QDBusReply<QDBusVariant> items = collection.call(
-        QStringLiteral("Get"), QStringLiteral("org.freedesktop.Secret.Collection"), QStringLiteral("Items"));
+    const QDBusReply<QDBusVariant> items =
+        ask(kCollection, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
+            {QStringLiteral("org.freedesktop.Secret.Collection"), QStringLiteral("Items")});
     return static_cast<int>(qdbus_cast<QList<QDBusObjectPath>>(items.value().variant()).size());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusMessage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -30,6 +31,9 @@ public:
 
 private:
     QDBusConnection connection();
+    /// The answer, once it is there.
+    QDBusMessage ask(const QString& path, const QString& interface, const QString& method,
+                     const QVariantList& arguments);
 
     std::optional<PrivateBus> m_bus = std::make_optional<PrivateBus>();
     QTemporaryDir m_home;

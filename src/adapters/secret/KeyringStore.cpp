@@ -62,7 +62,13 @@ SecretItem* firstOf(GList* items) {
 
 KeyringStore::KeyringStore() : m_cancellable(g_cancellable_new()), m_context(g_main_context_new()) {}
 
-KeyringStore::~KeyringStore() = default;
+KeyringStore::~KeyringStore() {
+    // What the library still has to clean up it does in the context.
+    inOwnContext([this] {
+        m_service.reset();
+        return StoreAnswer();
+    });
+}
 
 bool KeyringStore::answers() {
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");

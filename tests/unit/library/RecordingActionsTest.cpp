@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <functional>
 
 #include "support/FakeLibrary.h"
 
@@ -140,12 +141,14 @@ TEST_F(RecordingActionsTest, TheTargetIsTheFileWhateverComesToItsPlace) {
     fs::remove(file);
     library.vc.reloadData();
     EXPECT_EQ(actions.Buttontag(), -1);
-    for (const auto act :
-         {&RecordingActions::kReNameAudio, &RecordingActions::showDeletealert, &RecordingActions::deleteAudio,
-          &RecordingActions::trimAudio, &RecordingActions::trimToM4a, &RecordingActions::openInButtonClicked,
-          &RecordingActions::emailAudioFile, &RecordingActions::uploadToIcloudDocuments,
-          &RecordingActions::showInFolder, &RecordingActions::copyToClipboard}) {
-        (actions.*act)();
+    const std::function<void(RecordingActions&)> acts[] = {
+        &RecordingActions::kReNameAudio,   &RecordingActions::showDeletealert,
+        &RecordingActions::deleteAudio,    &RecordingActions::trimAudio,
+        &RecordingActions::trimToM4a,      &RecordingActions::openInButtonClicked,
+        &RecordingActions::emailAudioFile, &RecordingActions::uploadToIcloudDocuments,
+        &RecordingActions::showInFolder,   &RecordingActions::copyToClipboard};
+    for (const auto& act : acts) {
+        act(actions);
         EXPECT_THAT(said(), ElementsAre("action_gone"));
     }
     actions.btnAccessoryViewClick({});
