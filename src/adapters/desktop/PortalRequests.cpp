@@ -32,7 +32,9 @@ PortalRequests::PortalRequests(const QDBusConnection& sessionBus, std::chrono::m
     m_watcher.setConnection(m_bus);
     m_watcher.addWatchedService(kService);
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) { onOwnerChanged(newOwner); });
+            [this](const QString&, const QString& oldOwner, const QString& newOwner) {
+                onOwnerChanged(oldOwner, newOwner);
+            });
 }
 
 void PortalRequests::ask(const QString& interface, const QString& method, const QVariantList& arguments,
@@ -106,12 +108,12 @@ void PortalRequests::onResponse(quint32 response, const QVariantMap& results, co
     finish(message.path(), outcomes[std::min(response, 2U)], results);
 }
 
-void PortalRequests::onOwnerChanged(const QString& newOwner) {
+void PortalRequests::onOwnerChanged(const QString& oldOwner, const QString& newOwner) {
     for (const auto& completion : std::as_const(m_versions)) {
         completion(0);
     }
-    // Requests do not outlive the portal that made them.
-    for (const QString& path : m_requests.keys()) {
+    // Requests do not outlive the portal that made them. One that a request has just started has made none yet.
+    for (const QString& path : oldOwner.isEmpty() ? QStringList() : m_requests.keys()) {
         finish(path, Outcome::Failed);
     }
     if (!newOwner.isEmpty()) {

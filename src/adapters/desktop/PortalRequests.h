@@ -57,7 +57,7 @@ private Q_SLOTS:
     void onResponse(quint32 response, const QVariantMap& results, const QDBusMessage& message);
 
 private:
-    void onOwnerChanged(const QString& newOwner);
+    void onOwnerChanged(const QString& oldOwner, const QString& newOwner);
     void askVersion(const QString& interface);
     void onAnswer(const QString& expectedPath, QDBusPendingCallWatcher& answer);
     void expectResponse(const QString& path, const Completion& completion);
