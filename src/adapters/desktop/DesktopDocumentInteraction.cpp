@@ -38,6 +38,12 @@ void DesktopDocumentInteraction::presentOpenInMenu(const std::filesystem::path& 
 }
 
 void DesktopDocumentInteraction::showInFolder(const std::filesystem::path& path, Completion completion) {
+    if (!m_bus.isConnected()) {
+        // A call without a bus is never said to be finished.
+        QMetaObject::invokeMethod(
+            this, [this, path, completion] { openWithXdgOpen(folderOf(path), completion); }, Qt::QueuedConnection);
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));

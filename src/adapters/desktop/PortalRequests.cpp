@@ -39,6 +39,12 @@ PortalRequests::PortalRequests(const QDBusConnection& sessionBus, std::chrono::m
 
 void PortalRequests::ask(const QString& interface, const QString& method, const QVariantList& arguments,
                          QVariantMap options, const Completion& completion) {
+    if (!m_bus.isConnected()) {
+        // A call without a bus is never said to be finished.
+        QMetaObject::invokeMethod(
+            this, [completion] { completion(Outcome::Unavailable, {}); }, Qt::QueuedConnection);
+        return;
+    }
     const QString token = QStringLiteral("tavi%1").arg(++m_lastToken);
     options.insert(QStringLiteral("handle_token"), token);
     // The portal makes the request's path of the caller's name and the token, so that the response, which may come
