@@ -256,6 +256,9 @@ void RecordingActions::trashed(const Target& target, const Result<std::filesyste
                                        }});
         return;
     }
+    if (!isStill(target)) {
+        return tell("action_gone", target.path);
+    }
     m_services.presenter.presentAlert(
         {qtTrId("delete_audio"),
          qtTrId("delete_forever_msg").arg(name),
