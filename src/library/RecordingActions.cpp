@@ -133,8 +133,9 @@ void RecordingActions::kReNameAudio() {
         return;
     }
     AlertAction accept{qtTrId("OK")};
-    accept.textHandler = [self = QPointer(this)](const QString& typed) {
-        if (self) {
+    accept.textHandler = [self = QPointer(this), path = file->path](const QString& typed) {
+        // A finger held on another row while this was asked means that one.
+        if (self && self->m_target.path == path) {
             self->rename(typed);
         }
     };
@@ -201,14 +202,16 @@ void RecordingActions::showDeletealert() {
     if (!file) {
         return;
     }
-    m_services.presenter.presentAlert({qtTrId("delete_audio"),
-                                       qtTrId("delete_msg").arg(pathText(file->path.filename())),
-                                       {{qtTrId("No"), AlertAction::Style::Cancel},
-                                        {qtTrId("Delete"), AlertAction::Style::Destructive, [self = QPointer(this)] {
-                                             if (self) {
-                                                 self->deleteAudio();
-                                             }
-                                         }}}});
+    m_services.presenter.presentAlert(
+        {qtTrId("delete_audio"),
+         qtTrId("delete_msg").arg(pathText(file->path.filename())),
+         {{qtTrId("No"), AlertAction::Style::Cancel},
+          {qtTrId("Delete"), AlertAction::Style::Destructive, [self = QPointer(this), path = file->path] {
+               // As with a new name.
+               if (self && self->m_target.path == path) {
+                   self->deleteAudio();
+               }
+           }}}});
 }
 
 void RecordingActions::deleteAudio() {
