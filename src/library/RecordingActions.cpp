@@ -61,8 +61,9 @@ std::optional<RecordingActions::Target> RecordingActions::target() {
 }
 
 void RecordingActions::tell(const char* id, const std::filesystem::path& path, const QString& reason) const {
-    const QString text = qtTrId(id).arg(pathText(path.filename()));
-    m_services.notices.postNotice({reason.isEmpty() ? text : text.arg(reason)});
+    const QString name = pathText(path.filename());
+    // Both at once: a name may hold what looks like the place of the other.
+    m_services.notices.postNotice({reason.isEmpty() ? qtTrId(id).arg(name) : qtTrId(id).arg(name, reason)});
 }
 
 void RecordingActions::reloadSoon() {
