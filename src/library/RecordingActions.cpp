@@ -36,6 +36,7 @@ void RecordingActions::aim(const QString& section, int row, const QRectF& place)
     m_place = place;
     m_target.path = m_services.table.pathOf(section.toInt(), row);
     m_target.identity = FileIdentity::at(m_target.path).value_or(FileIdentity());
+    m_target.isInCloud = section == QLatin1String("1");
 }
 
 void RecordingActions::follow() {
@@ -220,9 +221,6 @@ void RecordingActions::deleteAudio() {
     if (!file) {
         return;
     }
-    if (m_Section == QLatin1String("1") && m_services.settings.isCloudSyncOn()) {
-        deleteInCloud(file->path.filename());
-    }
     Q_EMIT stopRequested(file->path);
     RunLoop& runLoop = m_services.runLoop;
     runLoop.dispatchBackground([self = QPointer(this), &runLoop, &trash = m_services.trash, file = *file] {
@@ -248,10 +246,18 @@ void RecordingActions::deleteInCloud(const std::filesystem::path& name) {
     });
 }
 
+/// The file has gone. Only now does its document: whoever answers the second question with "No" keeps both.
+void RecordingActions::removed(const Target& target) {
+    if (target.isInCloud && m_services.settings.isCloudSyncOn()) {
+        deleteInCloud(target.path.filename());
+    }
+    reloadSoon();
+}
+
 void RecordingActions::trashed(const Target& target, const Result<std::filesystem::path>& place) {
     const QString name = pathText(target.path.filename());
     if (place) {
-        reloadSoon();
+        removed(target);
         m_services.notices.postNotice({qtTrId("delete_trashed").arg(name), qtTrId("delete_undo"),
                                        [self = QPointer(this), place = *place, path = target.path] {
                                            if (self) {
@@ -300,10 +306,11 @@ void RecordingActions::deleteForGood(const Target& target) {
     if (!isStill(target)) {
         return tell("action_gone", target.path);
     }
-    if (const auto removed = recordingfiles::remove(target.path); !removed) {
-        tell("delete_failed", target.path, removed.error().text);
+    if (const auto done = recordingfiles::remove(target.path); !done) {
+        tell("delete_failed", target.path, done.error().text);
+        return reloadSoon();
     }
-    reloadSoon();
+    removed(target);
 }
 
 void RecordingActions::btnTrmmingClick() {

@@ -80,6 +80,7 @@ private:
     struct Target {
         std::filesystem::path path;
         FileIdentity identity;
+        bool isInCloud = false;
     };
 
     /// What is meant, if it is still there; says so if not.
@@ -89,6 +90,7 @@ private:
     void rename(const QString& typed);
     void renameInCloud(const std::filesystem::path& oldName, const std::filesystem::path& newName);
     void deleteInCloud(const std::filesystem::path& name);
+    void removed(const Target& target);
     void trashed(const Target& target, const Result<std::filesystem::path>& place);
     void undo(const std::filesystem::path& trashed, const std::filesystem::path& path);
     void deleteForGood(const Target& target);
