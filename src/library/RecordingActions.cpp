@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <utility>
 
+#include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/RecordingFiles.h"
 #include "library/utility/Utility.h"
@@ -167,6 +168,10 @@ void RecordingActions::rename(const QString& typed) {
             break;
     }
     const std::filesystem::path newPath = recordingfiles::renamedPath(file->path, typed);
+    if (!isRecordingName(newPath.filename())) {
+        // Of a folder that the program keeps, be it there or not: no list would show the recording.
+        return Utility::showAlrtWithTitle(qtTrId("file_exist"), qtTrId("audio_file_exist"), m_services.presenter);
+    }
     if (const auto renamed = recordingfiles::rename(file->path, newPath); !renamed) {
         return tell("rename_failed", file->path, renamed.error().text);
     }
