@@ -167,6 +167,9 @@ Window {
     Item {
         id: stage
 
+        /// To screen readers.
+        property bool untold: window.locked
+
         visible: !window.locked
         width: window.width / window.fit
         height: window.height / window.fit

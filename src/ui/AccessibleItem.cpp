@@ -32,6 +32,11 @@ public:
         return role.isValid() ? static_cast<QAccessible::Role>(role.toInt()) : QAccessibleQuickItem::role();
     }
 
+    QString text(QAccessible::Text kind) const override {
+        return isUntold() ? QString() : QAccessibleQuickItem::text(kind);
+    }
+    using QAccessibleQuickItem::text;
+
     int childCount() const override { return isCovered() ? 0 : QAccessibleQuickItem::childCount(); }
     QAccessibleInterface* child(int index) const override {
         return isCovered() ? nullptr : QAccessibleQuickItem::child(index);
@@ -41,10 +46,21 @@ public:
     }
 
     QVariant minimumValue() const override { return item()->property("from"); }
-    QVariant maximumValue() const override { return item()->property("to"); }
+    QVariant maximumValue() const override { return isUntold() ? QVariant(0.0) : item()->property("to"); }
+    QVariant currentValue() const override { return isUntold() ? QVariant(0.0) : QAccessibleQuickItem::currentValue(); }
+    void setCurrentValue(const QVariant& value) override {
+        if (!isUntold()) {
+            QAccessibleQuickItem::setCurrentValue(value);
+        }
+    }
 
 protected:
     void* interface_cast(QAccessible::InterfaceType type) override {
+        // A value keeps its interface, as changes of it are told to whoever has one; it neither says nor takes any
+        // then.
+        if (isUntold() && type != QAccessible::ValueInterface) {
+            return nullptr;
+        }
         if (type == QAccessible::ValueInterface && minimumValue().isValid() && maximumValue().isValid()) {
             return static_cast<QAccessibleValueInterface*>(this);
         }
@@ -52,7 +68,18 @@ protected:
     }
 
 private:
-    bool isCovered() const { return item()->property("covered").toBool(); }
+    bool isCovered() const { return item()->property("covered").toBool() || isUntold(); }
+
+    /// Whether this is below an item that keeps everything in it to itself. Items that cannot be seen stay in the tree
+    /// with all that they say, and who has found one before can still press it.
+    bool isUntold() const {
+        for (const QQuickItem* one = item(); one != nullptr; one = one->parentItem()) {
+            if (one->property("untold").toBool()) {
+                return true;
+            }
+        }
+        return false;
+    }
 };
 
 /// What QAccessible asks for each class of an object, from its own to QObject; it owns what it is given.
