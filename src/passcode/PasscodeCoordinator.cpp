@@ -60,6 +60,8 @@ void PasscodeCoordinator::activatePasscodeProtection() {
 
 void PasscodeCoordinator::deactivatePasscodeProtection() {
     disableSubscriptions();
+    // Digits that were right may be judged just after the program went to the background; its return is not heard now.
+    setCovered(false);
 }
 
 void PasscodeCoordinator::subscribeToNotifications() {

@@ -51,11 +51,11 @@ protected:
     }
 
     PasscodeViewController& screen() { return *coordinator.passcodeWindow()->rootViewController(); }
-    void type(const char* digits) {
+    void type(const char* digits, double seconds = 0.1) {
         for (const char digit : std::string_view(digits)) {
             screen().typed(QString(QLatin1Char(digit)));
         }
-        runLoop.advance(0.1);
+        runLoop.advance(seconds);
     }
     /// What is on display: the number of the entry screen's type, or "-", and "c" below a cover.
     std::string shown() {
@@ -164,6 +164,9 @@ TEST_F(PasscodeCoordinatorTest, WorkflowsTellHowTheyEndAndTheBackgroundEndsThemU
         {"off, wrong", {disable, [this] { type("1111"); }}, " 1 5678 on"},
         {"off, wrong, cancelled", {disable, [this] { type("1111"); }, cancel}, "N - 5678 on"},
         {"off, left", {disable, [this] { leave(), comeBack(); }, [this] { type("5678"); }}, "+- - 5678 on"},
+        {"off, left before it is judged",
+         {disable, [this] { type("5678", 0.0), leave(), runLoop.advance(0.1), comeBack(); }},
+         "+-Y - 5678 off"},
         {"off", {disable, [this] { type("5678"); }}, "Y - 5678 off"},
         {"left while off", {[this] { leave(), comeBack(); }}, " - 5678 off"},
         {"set-up, left while off", {setup, [this] { leave(), comeBack(); }}, " 2 5678 off"},
