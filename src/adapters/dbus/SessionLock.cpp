@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
 namespace tavi {
@@ -74,6 +75,10 @@ void SessionLock::watchScreenSaver(QDBusConnection sessionBus) {
     // Desktops disagree on the object's path, so signals count from any.
     sessionBus.connect(kScreenSaver, QString(), kScreenSaver, QStringLiteral("ActiveChanged"), this,
                        SLOT(onScreenSaverActiveChanged(bool)));
+    // One that has died says no more that it is over.
+    auto* watcher =
+        new QDBusServiceWatcher(kScreenSaver, sessionBus, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { onScreenSaverActiveChanged(false); });
     whenAnswered<bool>(ask(sessionBus, kScreenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"), kScreenSaver,
                            QStringLiteral("GetActive"), {}),
                        this, [this](bool active) { onScreenSaverActiveChanged(active); });

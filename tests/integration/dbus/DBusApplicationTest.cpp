@@ -309,6 +309,12 @@ TEST_F(DBusApplicationTest, ALockIsKnownFromTheStartAndAMereRequestEndsWhenTheUs
     ASSERT_TRUE(becomes(lock, true));
     lock.userIsBack();
     EXPECT_FALSE(lock.isLocked());
+
+    m_desktop.setScreenSaverActive(true);
+    SessionLock saved(m_bus.connect(), PrivateBus::none());
+    ASSERT_TRUE(becomes(saved, true));
+    m_desktop.disown(FakeDesktop::screenSaver());
+    EXPECT_TRUE(becomes(saved, false));
 }
 
 TEST_F(DBusApplicationTest, TheMachineSleepsOnceNobodyHoldsItUp) {
