@@ -36,7 +36,14 @@ LogindSleep::LogindSleep(const QDBusConnection& systemBus, const QString& reason
     }
     m_bus.connect(kLogin, kPath, kManager, QStringLiteral("PrepareForSleep"), this, SLOT(onPrepareForSleep(bool)));
     auto* watcher = new QDBusServiceWatcher(kLogin, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &LogindSleep::inhibit);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+        // It knows of no sleep that the one before it has begun, and will not tell of its end.
+        if (m_isAsleep) {
+            onPrepareForSleep(false);
+        } else {
+            inhibit();
+        }
+    });
     inhibit();
 }
 
