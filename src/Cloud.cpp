@@ -7,6 +7,7 @@
 #include <QLoggingCategory>
 #include <QSysInfo>
 
+#include "files/FileNames.h"
 #include "files/FolderListing.h"
 
 namespace tavi {
@@ -20,7 +21,7 @@ constexpr int kMostPasses = 4;
 /// The folder on this machine that is kept in step with a server.
 std::filesystem::path folderFor(const CloudAccount& account, const AppContainer& container) {
     const QByteArray hash = QCryptographicHash::hash(account.token().toUtf8(), QCryptographicHash::Sha256);
-    return container.unsavedPath().parent_path() / "Cloud" / hash.toHex().first(16).toStdString();
+    return container.unsavedPath().parent_path() / kMirrorsFolder / hash.toHex().first(16).toStdString();
 }
 
 KeychainQuery passwordQuery(const CloudAccount& account) {

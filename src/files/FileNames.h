@@ -15,6 +15,9 @@ inline constexpr std::string_view kInbox = "Inbox";
 inline constexpr std::string_view kPrivateInbox = "PrivateInbox";
 }  // namespace foldername
 
+/// The folder beside that of the unsaved recordings with what is kept in step with servers.
+inline constexpr std::string_view kMirrorsFolder = "Cloud";
+
 /// Whether a recording can have that name: it is one name, and of none of these folders.
 bool isRecordingName(const std::filesystem::path& name);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "files/FileNames.h"
+
 namespace tavi {
 
 namespace {
@@ -22,7 +24,8 @@ bool isBelow(const fs::path& path, const fs::path& folder) {
 bool isGuardedByLock(const CommandLine& line, const AppContainer& container) {
     const auto holdsFile = [&line](const fs::path& folder) { return isBelow(*line.soundFile, folder); };
     return !line.soundFile || holdsFile(container.documentsPath()) || holdsFile(container.unsavedPath()) ||
-           holdsFile(container.cachesPath()) || holdsFile(container.temporaryPath());
+           holdsFile(container.cachesPath()) || holdsFile(container.temporaryPath()) ||
+           holdsFile(container.unsavedPath().parent_path() / kMirrorsFolder);
 }
 
 Result<void> passLock(const LockQuestions& questions) {

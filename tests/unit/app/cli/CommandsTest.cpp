@@ -108,15 +108,17 @@ TEST_F(CommandsTest, TheLockGuardsAllButSoundFilesElsewhere) {
     const QTemporaryDir elsewhere;
     const std::string link = elsewhere.path().toStdString() + "/link.wav";
     std::filesystem::create_symlink(mine, link);
-    const std::pair<std::string, bool> rows[] = {{"list", true},
-                                                 {"set|Sort|1", true},
-                                                 {"waveform|" + mine, true},
-                                                 {"trim|--from|0|--to|1|" + mine, true},
-                                                 {"waveform|" + link, true},
-                                                 {"waveform|" + container.unsavedPath().string() + "/a/../b.wav", true},
-                                                 {"waveform|" + elsewhere.path().toStdString() + "/a.wav", false},
-                                                 {"trim|--from|0|--to|1|a.wav", false},
-                                                 {"waveform|" + container.documentsPath().string() + "2/a.wav", false}};
+    const std::pair<std::string, bool> rows[] = {
+        {"list", true},
+        {"set|Sort|1", true},
+        {"waveform|" + mine, true},
+        {"trim|--from|0|--to|1|" + mine, true},
+        {"waveform|" + link, true},
+        {"waveform|" + container.unsavedPath().string() + "/a/../b.wav", true},
+        {"waveform|" + container.unsavedPath().string() + "/../Cloud/1/b.wav", true},
+        {"waveform|" + elsewhere.path().toStdString() + "/a.wav", false},
+        {"trim|--from|0|--to|1|a.wav", false},
+        {"waveform|" + container.documentsPath().string() + "2/a.wav", false}};
     for (const auto& [words, isGuarded] : rows) {
         const auto line = parseCommandLine(QByteArray::fromStdString(words).split('|'));
         EXPECT_EQ(isGuardedByLock(line.value(), container), isGuarded) << words;
