@@ -134,20 +134,31 @@ Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileConte
 
 Result<DavFolder::Outcome> DavFolder::discard(const Path& name, const QByteArray& seenHash) {
     const Path trash = scrapName("trash", name);
+    // Until it has been looked at it may be somebody else's version: a later pass puts it back.
+    if (!m_journal.addScrap(trash, name)) {
+        return notWritten();
+    }
     const auto moved = moveAndLook(name, trash);
     const auto there = moved ? m_client.stat(trash) : Result<std::optional<DavFile>>(tl::unexpected(moved.error()));
     if (!there) {
         return tl::unexpected(there.error());
     }
     if (!*there) {
+        m_journal.dropScrap(trash);
         return Outcome::Taken;
     }
-    const auto hash = hashOf(trash, **there);
-    if (hash && !seenHash.isEmpty() && *hash != seenHash) {
-        moveAndLook(trash, name);
-        return Outcome::Taken;
+    if (!seenHash.isEmpty()) {
+        const auto hash = hashOf(trash, **there);
+        if (!hash) {
+            return tl::unexpected(hash.error());
+        }
+        if (*hash != seenHash) {
+            const auto back = moveAndLook(trash, name);
+            back.value_or(false) ? m_journal.dropScrap(trash) : false;
+            return Outcome::Taken;
+        }
     }
-    return Outcome::Done;
+    return m_journal.dropScrap(trash) ? Result<Outcome>(Outcome::Done) : notWritten();
 }
 
 Result<DavFolder::Outcome> DavFolder::rename(const Path& from, const Path& to) {
