@@ -42,6 +42,8 @@ public:
     virtual Result<void> willEvict(const std::filesystem::path& name) = 0;
     /// The user removes a file, be it here or not: it is to go elsewhere, too. Said before it goes here.
     virtual Result<void> willRemove(const std::filesystem::path& name) = 0;
+    /// It could not be removed here.
+    virtual void didNotRemove(const std::filesystem::path& name) = 0;
     /// The user renames a file that may be here or not. Said before it is renamed here.
     virtual Result<void> willMove(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
     /// It could not be renamed here.

@@ -165,6 +165,9 @@ void FolderCloud::removeItem(const std::filesystem::path& url, Completion comple
                 }
             }
             const auto trashed = trash.moveToTrash(url);
+            if (!trashed && mirror != nullptr) {
+                mirror->didNotRemove(url.filename());
+            }
             return trashed ? Result<void>() : tl::unexpected(trashed.error());
         },
         std::move(completion));

@@ -231,7 +231,9 @@ Result<void> SyncPass::agree(File& file, const DavFile& remote, const QByteArray
     file.entry.remote = remote.version();
     file.entry.hash = hash;
     file.entry.missing = 0;
-    if (!m_services.journal.put(file.name, file.entry)) {
+    // What was removed here is here again: if it is missing later, that is no removal.
+    if (!m_services.journal.put(file.name, file.entry) ||
+        (file.entry.isRemovedHere && !m_services.journal.setRemovedHere(file.name, false))) {
         return failure(QStringLiteral("The cloud's journal cannot be written."));
     }
     setState(file.name, MirrorState::There);

@@ -152,6 +152,10 @@ Result<void> WebDavMirror::willRemove(const std::filesystem::path& name) {
     return noted(m_journal->setRemovedHere(name, true));
 }
 
+void WebDavMirror::didNotRemove(const std::filesystem::path& name) {
+    m_journal->setRemovedHere(name, false);
+}
+
 Result<void> WebDavMirror::willMove(const std::filesystem::path& from, const std::filesystem::path& to) {
     {
         const std::lock_guard lock(m_mutex);

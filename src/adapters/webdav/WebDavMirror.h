@@ -36,6 +36,7 @@ public:
     Result<void> download(const std::filesystem::path& name) override;
     Result<void> willEvict(const std::filesystem::path& name) override;
     Result<void> willRemove(const std::filesystem::path& name) override;
+    void didNotRemove(const std::filesystem::path& name) override;
     Result<void> willMove(const std::filesystem::path& from, const std::filesystem::path& to) override;
 
     void didNotMove(const std::filesystem::path& from, const std::filesystem::path& to) override;
