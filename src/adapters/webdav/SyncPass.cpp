@@ -347,6 +347,10 @@ Result<void> SyncPass::removeLocal(File& file) {
     if (*there || file.entry.missing < kMissings) {
         return failure(QStringLiteral("%1 is looked for again.").arg(pathText(file.name)));
     }
+    if (FileIdentity::at(m_services.folder / file.name) != file.local) {
+        // Saved since the pass began: not what was removed there.
+        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+    }
     const auto trashed = m_services.trash.moveToTrash(m_services.folder / file.name);
     if (!trashed) {
         return tl::unexpected(trashed.error());
