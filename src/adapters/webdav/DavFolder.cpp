@@ -169,7 +169,8 @@ Result<DavFolder::Outcome> DavFolder::rename(const Path& from, const Path& to) {
     return *moved ? Outcome::Done : Outcome::Taken;
 }
 
-Result<void> DavFolder::recover() {
+Result<bool> DavFolder::recover() {
+    bool hasMoved = false;
     for (const auto& [name, original] : m_journal.scraps()) {
         if (name.is_absolute()) {
             continue;
@@ -199,8 +200,9 @@ Result<void> DavFolder::recover() {
             return tl::unexpected(kept.error());
         }
         *kept ? m_journal.dropScrap(name) : false;
+        hasMoved = true;
     }
-    return {};
+    return hasMoved;
 }
 
 }  // namespace tavi

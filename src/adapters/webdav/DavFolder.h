@@ -35,8 +35,8 @@ public:
     Result<Outcome> discard(const Path& name, const QByteArray& seenHash);
     /// Renames, replacing nothing.
     Result<Outcome> rename(const Path& from, const Path& to);
-    /// Puts right what was interrupted.
-    Result<void> recover();
+    /// Puts right what was interrupted. Whether files that are seen have changed by that.
+    Result<bool> recover();
 
 private:
     /// The name of contents that are whole on the server and have no name of their own yet.

@@ -77,10 +77,12 @@ Result<DavFiles> SyncPass::look() {
         (isListed && !m_services.journal.know(SyncJournal::Fact::ListsMark))) {
         return failure(QStringLiteral("The cloud's journal cannot be written."));
     }
-    if (const auto recovered = m_dav.recover(); !recovered) {
+    const auto recovered = m_dav.recover();
+    if (!recovered) {
         return tl::unexpected(recovered.error());
     }
-    return files;
+    // What was put right is not in the listing from before.
+    return *recovered ? m_services.client.list() : files;
 }
 
 Result<void> SyncPass::sendMoves(DavFiles& files) {
