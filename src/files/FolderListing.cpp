@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <system_error>
 
 #include "files/DurableFile.h"
 #include "files/FileDescriptor.h"
@@ -20,7 +19,7 @@ bool isContainer(const std::filesystem::path& container) {
     return FileIdentity::at(container / kContainerMark).has_value();
 }
 
-FolderListing listFolder(const std::filesystem::path& folder) {
+FolderListing listFolder(const std::filesystem::path& folder, std::error_code* failure) {
     FolderListing listing;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -31,6 +30,9 @@ FolderListing listFolder(const std::filesystem::path& folder) {
             S_ISREG(attributes.st_mode)) {
             listing.emplace(path.filename(), FileIdentity(attributes));
         }
+    }
+    if (failure != nullptr) {
+        *failure = error;
     }
     return listing;
 }

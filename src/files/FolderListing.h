@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <system_error>
 #include <vector>
 
 #include "files/FileIdentity.h"
@@ -17,6 +18,7 @@ bool isContainer(const std::filesystem::path& container);
 
 /// Ordinary files in a folder by name, but for hidden ones: those are in the making.
 using FolderListing = std::map<std::filesystem::path, FileIdentity>;
-FolderListing listFolder(const std::filesystem::path& folder);
+/// Where it cannot be read to its end, what was read so far; the error says so then, where one is given.
+FolderListing listFolder(const std::filesystem::path& folder, std::error_code* failure = nullptr);
 
 }  // namespace tavi

@@ -146,7 +146,12 @@ SyncOutcome SyncPass::run() {
         return failed(moved.error());
     }
     // After the server's: a file that appears here meanwhile is new, never one that was removed.
-    const FolderListing listing = listFolder(m_services.folder);
+    std::error_code unread;
+    const FolderListing listing = listFolder(m_services.folder, &unread);
+    if (unread) {
+        // What is not seen here is not missing.
+        return failed({QString::fromStdString(unread.message())});
+    }
     std::map<Path, File> all;
     for (const auto& [name, entry] : m_services.journal.entries()) {
         all[name].entry = entry;
