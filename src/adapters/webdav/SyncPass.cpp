@@ -29,14 +29,14 @@ Result<void> errnoFailure(int error) {
 
 }  // namespace
 
-std::optional<QByteArray> hashOf(const FileContents& contents) {
+std::optional<QByteArray> hashOf(const FileContents& contents, const DavClient& client) {
     constexpr std::size_t kBlock = 1024 * 1024;
     QCryptographicHash hash(QCryptographicHash::Sha256);
     QByteArray block(static_cast<qsizetype>(kBlock), '\0');
     std::uint64_t offset = 0;
     while (offset < contents.size()) {
         const std::size_t count = contents.read(block.data(), kBlock, offset);
-        if (count == 0) {
+        if (count == 0 || client.isAborted()) {
             return std::nullopt;
         }
         hash.addData(QByteArrayView(block.constData(), static_cast<qsizetype>(count)));
@@ -249,7 +249,7 @@ Result<void> SyncPass::agree(File& file, const DavFile& remote, const QByteArray
 
 Result<void> SyncPass::upload(File& file) {
     const auto contents = FileContents::ofFile(m_services.folder / file.name);
-    const auto hash = contents ? hashOf(*contents) : std::nullopt;
+    const auto hash = contents ? hashOf(*contents, m_services.client) : std::nullopt;
     if (!hash) {
         return failure(QStringLiteral("%1 cannot be read.").arg(pathText(file.name)));
     }
@@ -314,12 +314,15 @@ Result<void> SyncPass::download(File& file) {
 
 Result<void> SyncPass::compare(File& file) {
     const auto contents = FileContents::ofFile(m_services.folder / file.name);
-    const auto here = contents ? hashOf(*contents) : std::nullopt;
+    const auto here = contents ? hashOf(*contents, m_services.client) : std::nullopt;
+    if (!here) {
+        return failure(QStringLiteral("%1 cannot be read.").arg(pathText(file.name)));
+    }
     const auto there = m_services.client.get(file.name, file.remote->size, {});
     if (!there) {
         return tl::unexpected(there.error());
     }
-    return here == *there ? agree(file, *file.remote, *there) : stepAside(file);
+    return *here == *there ? agree(file, *file.remote, *there) : stepAside(file);
 }
 
 Result<void> SyncPass::stepAside(const File& file) {

@@ -76,7 +76,7 @@ private:
     DavFolder m_dav;
 };
 
-/// SHA-256 of contents; nothing where they could not be read to their end.
-std::optional<QByteArray> hashOf(const FileContents& contents);
+/// SHA-256 of contents; nothing where they could not be read to their end, or the client is aborted.
+std::optional<QByteArray> hashOf(const FileContents& contents, const DavClient& client);
 
 }  // namespace tavi
