@@ -272,6 +272,10 @@ Result<void> SyncPass::upload(File& file) {
 }
 
 Result<void> SyncPass::download(File& file) {
+    if (file.remote->size < 0) {
+        // An answer that is cut off could not be told from a whole one.
+        return failure(QStringLiteral("The server does not say how long %1 is.").arg(pathText(file.name)));
+    }
     const Path path = m_services.folder / file.name;
     const Path hidden = m_services.folder / ("." + file.name.native());
     DurableFile part = DurableFile::create(hidden);
@@ -301,6 +305,8 @@ Result<void> SyncPass::download(File& file) {
         return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
     }
     const auto stamp = m_services.now().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")).toStdString();
+    // Before it has its name, under which somebody may write at once.
+    const auto written = FileIdentity::at(part.temporaryPath());
     const auto replaced =
         replaceSeen(path, part.temporaryPath(), file.local,
                     m_services.folder / conflictName(file.name, stamp, m_services.device.toStdString()));
@@ -308,7 +314,7 @@ Result<void> SyncPass::download(File& file) {
         return tl::unexpected(errorOf(replaced.error()));
     }
     synchronizeFolder(m_services.folder);
-    file.local = FileIdentity::at(path);
+    file.local = written;
     return file.local ? agree(file, *file.remote, *hash) : errnoFailure(ENOENT);
 }
 
