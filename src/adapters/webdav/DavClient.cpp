@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QHostAddress>
 #include <QNetworkReply>
+#include <algorithm>
 #include <utility>
 
 namespace tavi {
@@ -13,6 +14,9 @@ namespace tavi {
 namespace {
 
 constexpr int kStallMilliseconds = 30'000;
+/// Seconds for a server that has too much to do and does not say how long, and for one whose disk is full.
+constexpr int kBusyPause = 60;
+constexpr int kFullPause = 600;
 /// Of an answer that is kept in memory: a listing of a hundred thousand files.
 constexpr qint64 kLongestAnswer = 64LL << 20;
 constexpr char kProperties[] =
@@ -39,6 +43,12 @@ protected:
 private:
     FileContents m_contents;
 };
+
+/// Seconds that the server has to be left alone after an answer.
+int pauseAfter(const DavReply& reply) {
+    const int least = reply.status == 507 ? kFullPause : reply.status == 429 || reply.status == 503 ? kBusyPause : 0;
+    return std::max(least, reply.retryAfter);
+}
 
 }  // namespace
 
@@ -133,6 +143,7 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
         answer.error = reply->errorString();
     }
     answer.retryAfter = reply->rawHeader("Retry-After").toInt();
+    m_pause = std::max(m_pause, pauseAfter(answer));
     m_last = answer;
     return answer;
 }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "adapters/webdav/DavListing.h"
 #include "files/FileContents.h"
@@ -53,6 +54,9 @@ public:
     const DavReply& lastReply() const { return m_last; }
     /// That in words.
     Error lastError() const;
+    /// Seconds that the server has to be left alone since it was asked for this last, by any of its answers; 0 for
+    /// none.
+    int takePause() { return std::exchange(m_pause, 0); }
 
     Result<DavFiles> list();
     /// Nothing where there is no such file.
@@ -78,6 +82,7 @@ private:
     QNetworkReply* m_reply = nullptr;
     std::atomic<bool> m_isAborted = false;
     DavReply m_last;
+    int m_pause = 0;
 };
 
 }  // namespace tavi

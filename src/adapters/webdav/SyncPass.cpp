@@ -1,6 +1,7 @@
 #include "adapters/webdav/SyncPass.h"
 
 #include <QCryptographicHash>
+#include <algorithm>
 #include <set>
 
 #include "files/ConflictNames.h"
@@ -138,9 +139,10 @@ SyncOutcome SyncPass::run() {
     SyncOutcome outcome;
     const auto failed = [&](const Error& error) {
         outcome.error = error.text;
-        outcome.retryAfter = m_services.client.lastReply().retryAfter;
+        outcome.retryAfter = std::max(outcome.retryAfter, m_services.client.takePause());
         return outcome;
     };
+    (void)m_services.client.takePause();
     auto files = look();
     if (const auto moved = files ? sendMoves(*files) : tl::unexpected(files.error()); !moved) {
         return failed(moved.error());
@@ -182,11 +184,12 @@ SyncOutcome SyncPass::run() {
             outcome.isInStep = false;
             continue;
         }
-        // One file that cannot be read or written holds up no other; a server that does not answer does.
+        // One file that cannot be read or written holds up no other; a server that does not answer does, or one that
+        // asks to be left alone.
         if (const auto done = act(*file, action); !done) {
             outcome.isInStep = false;
             failed(done.error());
-            if (m_services.client.lastReply().status == 0) {
+            if (m_services.client.lastReply().status == 0 || outcome.retryAfter > 0) {
                 return outcome;
             }
         }
