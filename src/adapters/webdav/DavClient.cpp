@@ -113,7 +113,7 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
     const std::unique_ptr<QNetworkReply> reply(m_manager.sendCustomRequest(question, verb, upload));
     m_reply = reply.get();
     DavReply answer;
-    bool isRefused = false;
+    bool& isRefused = answer.isRefused;
     const auto take = [&] {
         const QByteArray bytes = reply->readAll();
         const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();

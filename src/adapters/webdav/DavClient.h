@@ -23,6 +23,8 @@ struct DavReply {
     int status = 0;
     QByteArray body;
     QString error;
+    /// It was ended here: it was longer than it may be, or could not be written.
+    bool isRefused = false;
     /// Seconds that the server asks to be left alone.
     int retryAfter = 0;
 

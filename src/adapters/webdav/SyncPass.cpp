@@ -189,7 +189,8 @@ SyncOutcome SyncPass::run() {
         if (const auto done = act(*file, action); !done) {
             outcome.isInStep = false;
             failed(done.error());
-            if (m_services.client.lastReply().status == 0 || outcome.retryAfter > 0) {
+            const DavReply& last = m_services.client.lastReply();
+            if ((last.status == 0 && !last.isRefused) || outcome.retryAfter > 0) {
                 return outcome;
             }
         }
