@@ -77,7 +77,7 @@ FolderCloud::Place placeOf(const CloudAccount& account, const AppContainer& cont
             return {account.folder, account.token(), nullptr};
         case CloudAccount::Kind::Server:
             // Without a mirror, such as before a keyring opens, what is saved waits there.
-            return {folderFor(account, container), account.token(), mirror};
+            return {folderFor(account, container), account.token(), mirror, true};
     }
     return {};
 }

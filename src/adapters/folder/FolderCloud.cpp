@@ -38,6 +38,11 @@ Result<void> moveWithoutReplacing(const std::filesystem::path& from, const std::
     return error == 0 ? Result<void>() : failure(QString::fromStdString(writeErrorText(error)));
 }
 
+/// A removal that nobody notes would be undone by what the server still has.
+Result<void> mirrorMissing() {
+    return failure(QStringLiteral("The server cannot be told now."));
+}
+
 Result<void> notOurs() {
     return failure(QStringLiteral("The file is kept by another program."));
 }
@@ -155,7 +160,10 @@ void FolderCloud::evictUbiquitousItem(const std::filesystem::path& url, Completi
 
 void FolderCloud::removeItem(const std::filesystem::path& url, Completion completion) {
     perform(
-        [mirror = m_place.mirror, &trash = m_services.trash, url]() -> Result<void> {
+        [mirror = m_place.mirror, isMirrored = m_place.isMirrored, &trash = m_services.trash, url]() -> Result<void> {
+            if (isMirrored && mirror == nullptr) {
+                return mirrorMissing();
+            }
             if (mirror != nullptr) {
                 if (const Result<void> noted = mirror->willRemove(url.filename()); !noted) {
                     return noted;
@@ -175,7 +183,10 @@ void FolderCloud::removeItem(const std::filesystem::path& url, Completion comple
 
 void FolderCloud::moveItem(const std::filesystem::path& from, const std::filesystem::path& to, Completion completion) {
     perform(
-        [mirror = m_place.mirror, from, to]() -> Result<void> {
+        [mirror = m_place.mirror, isMirrored = m_place.isMirrored, from, to]() -> Result<void> {
+            if (isMirrored && mirror == nullptr) {
+                return mirrorMissing();
+            }
             if (existsAt(to)) {
                 return failure(QString::fromStdString(writeErrorText(EEXIST)));
             }

@@ -48,6 +48,9 @@ public:
         QString token;
         /// Null where another program keeps the folder in sync.
         CloudMirror* mirror = nullptr;
+        /// Whether a mirror keeps it in step, be it here now or not: what it does not hear of is not removed or
+        /// renamed.
+        bool isMirrored = false;
     };
 
     FolderCloud(const Services& services, const Place& place);
