@@ -78,8 +78,10 @@ void MMWormholeFileTransiting::deleteContentForAllMessages() {
         return;
     }
     std::error_code ignored;
-    for (const auto& entry : std::filesystem::directory_iterator(*folder, ignored)) {
-        std::filesystem::remove_all(entry.path(), ignored);
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(*folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::filesystem::remove_all(entry->path(), ignored);
     }
 }
 
