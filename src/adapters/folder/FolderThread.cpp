@@ -5,6 +5,12 @@
 
 namespace tavi {
 
+namespace {
+
+constexpr std::chrono::seconds kPatience(1);
+
+}  // namespace
+
 FolderThread::FolderThread(DispatchQueues& queues) {
     m_state->queues = &queues;
     std::thread([state = m_state] { state->run(); }).detach();
@@ -12,10 +18,12 @@ FolderThread::FolderThread(DispatchQueues& queues) {
 
 FolderThread::~FolderThread() {
     std::deque<Job> dropped;
-    const std::lock_guard lock(m_state->mutex);
+    std::unique_lock lock(m_state->mutex);
     m_state->queues = nullptr;
     dropped.swap(m_state->jobs);
     m_state->wake.notify_all();
+    // It may use what goes after this.
+    m_state->idle.wait_for(lock, kPatience, [this] { return !m_state->isBusy; });
 }
 
 void FolderThread::post(Job job, Job completion) {
@@ -51,10 +59,13 @@ void FolderThread::State::run() {
         }
         Job job = std::move(jobs.front());
         jobs.pop_front();
+        isBusy = true;
         lock.unlock();
         job();
         job = nullptr;
         lock.lock();
+        isBusy = false;
+        idle.notify_all();
     }
 }
 

@@ -13,7 +13,7 @@
 namespace tavi {
 
 /// Does one after the other what may wait for a disk, on a thread of its own. A disk that does not answer holds up what
-/// is behind it, and nobody else: the end of this waits for nothing, and what was asked for is dropped then.
+/// is behind it, and nobody else: the end of this waits a second at most for what is under way, and drops the rest.
 class FolderThread {
 public:
     using Job = std::function<void()>;
@@ -64,6 +64,8 @@ private:
 
         std::mutex mutex;
         std::condition_variable wake;
+        std::condition_variable idle;
+        bool isBusy = false;
         std::deque<Job> jobs;
         /// Null at the end.
         DispatchQueues* queues = nullptr;
