@@ -61,8 +61,12 @@ void readPropstat(QXmlStreamReader& reader, Response& response) {
 Result<void> readResponses(const QByteArray& xml, const std::function<void(const Response&)>& act) {
     QXmlStreamReader reader(xml);
     reader.setEntityExpansionLimit(0);
-    if (!reader.readNextStartElement() || reader.namespaceUri() != kDav ||
-        reader.name() != QLatin1String("multistatus")) {
+    while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::StartElement) {
+        if (reader.isDTD()) {
+            return failure(QStringLiteral("The server's answer is no listing."));
+        }
+    }
+    if (!reader.isStartElement() || reader.namespaceUri() != kDav || reader.name() != QLatin1String("multistatus")) {
         return failure(QStringLiteral("The server's answer is no listing."));
     }
     int count = 0;
