@@ -1,6 +1,7 @@
 #include "adapters/webdav/DavFolder.h"
 
 #include <QRandomGenerator>
+#include <algorithm>
 
 #include "files/ConflictNames.h"
 
@@ -17,7 +18,12 @@ std::filesystem::path scrapName(const char* kind, const std::filesystem::path& n
                                      .arg(random->generate64(), 16, 16, QLatin1Char('0'))
                                      .toStdString();
     if (!name.empty()) {
-        made += "-" + name.native().substr(0, 150);
+        // Between two letters: some servers refuse half a one.
+        std::size_t length = std::min<std::size_t>(name.native().size(), 150);
+        while (length > 0 && length < name.native().size() && (name.native()[length] & 0xC0) == 0x80) {
+            --length;
+        }
+        made += "-" + name.native().substr(0, length);
     }
     return made;
 }
