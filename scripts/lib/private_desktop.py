@@ -136,7 +136,8 @@ class PrivateDesktop:
     def start_display(self):
         reader, writer = os.pipe()
         width, height = self.screen
-        self._display = self.spawn("Xvfb", "-displayfd", writer, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
+        # Keys that a busy machine lets go of late do not repeat.
+        self._display = self.spawn("Xvfb", "-r", "-displayfd", writer, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset",
                                    log=self.folder / "display.log", pass_fds=[writer])
         os.close(writer)
         with os.fdopen(reader) as pipe:
