@@ -5,6 +5,7 @@ import sys
 import time
 
 import pyatspi
+from gi.repository import GLib
 
 TOLD = {pyatspi.STATE_CHECKED: "checked", pyatspi.STATE_SELECTED: "selected", pyatspi.STATE_FOCUSED: "focused"}
 
@@ -35,11 +36,16 @@ def line(one):
 
 
 def show(one, depth):
-    if depth == 0 or one.getState().contains(pyatspi.STATE_SHOWING):
-        print("  " * depth + line(one))
-        for child in one:
-            if child:
-                show(child, depth + 1)
+    try:
+        if depth == 0 or one.getState().contains(pyatspi.STATE_SHOWING):
+            print("  " * depth + line(one))
+            for child in one:
+                if child:
+                    show(child, depth + 1)
+    except GLib.GError as error:
+        # It has gone while the rest was looked at.
+        if "No such object" not in error.message:
+            raise
 
 
 if "--listen" in sys.argv:

@@ -42,7 +42,7 @@ public:
     /// Frames that a kill would leave, and how often the writer heard of a pause.
     std::atomic<std::size_t> framesKept = 0;
     std::atomic<int> pauses = 0;
-    std::size_t framesSynced = 0;
+    std::atomic<std::size_t> framesSynced = 0;
     int finishes = 0;
     std::unique_ptr<CaptureRecorder> recorder;
 
