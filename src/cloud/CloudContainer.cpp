@@ -85,7 +85,7 @@ void CloudContainer::checkCloudUbiquityContainer() {
     findContainer({}, [] {});
 }
 
-void CloudContainer::findContainer(const QString& identifier, std::function<void()> found) {
+void CloudContainer::findContainer(const QString& identifier, const std::function<void()>& found) {
     m_services.queues.dispatchBackground([self = QPointer(this), services = m_services, identifier, found] {
         services.queues.dispatchMain(
             [self, found, url = services.container.urlForUbiquityContainerIdentifier(identifier)] {

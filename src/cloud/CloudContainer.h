@@ -55,7 +55,7 @@ public:
 
 protected:
     /// Looks for a container in the background, and then calls on the main thread.
-    void findContainer(const QString& identifier, std::function<void()> found);
+    void findContainer(const QString& identifier, const std::function<void()>& found);
     /// Calls with the folder of documents once it is there, and whether it is in the cloud.
     void withDocuments(std::function<void(const std::filesystem::path& folder, bool isInCloud)> act);
     void reportUnavailable();

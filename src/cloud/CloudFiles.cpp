@@ -1,5 +1,6 @@
 #include "cloud/CloudFiles.h"
 
+#include <QPointer>
 #include <utility>
 
 #include "files/FileContents.h"
@@ -113,7 +114,7 @@ std::optional<QDateTime> CloudFiles::fileCreatedDate(const std::filesystem::path
     return attributes ? std::optional(attributes->created) : std::nullopt;
 }
 
-void CloudFiles::documentStateForFile(const std::filesystem::path& name, StateCompletion completion) {
+void CloudFiles::documentStateForFile(const std::filesystem::path& name, const StateCompletion& completion) {
     if (!doesFileExistInCloud(name)) {
         return complete(
             [completion](const std::optional<CloudError>& error) { completion(0, {}, error); },
@@ -157,7 +158,7 @@ void CloudFiles::resolveConflictForFile(const std::filesystem::path& name, const
                                          logged("Error while resolving a conflict: %1", std::move(completion)));
 }
 
-void CloudFiles::shareDocumentWithName(const std::filesystem::path& name, ShareCompletion completion) {
+void CloudFiles::shareDocumentWithName(const std::filesystem::path& name, const ShareCompletion& completion) {
     verbose(QStringLiteral("Attempting to share document"));
     const bool exists = doesFileExistInCloud(name);
     complete([completion, url = urlOf(name), exists](
@@ -178,7 +179,7 @@ void CloudFiles::deleteDocumentWithName(const std::filesystem::path& name, Error
     }
 }
 
-void CloudFiles::evictCloudDocumentWithName(const std::filesystem::path& name, ErrorCompletion completion) {
+void CloudFiles::evictCloudDocumentWithName(const std::filesystem::path& name, const ErrorCompletion& completion) {
     verbose(QStringLiteral("Attempting to evict document"));
     if (quickCloudCheck() &&
         checkName(name, QStringLiteral("The specified document name was empty / blank and could not be evicted."),
@@ -204,7 +205,7 @@ void CloudFiles::renameOriginalDocument(const std::filesystem::path& name, const
 }
 
 void CloudFiles::duplicateOriginalDocument(const std::filesystem::path& name, const std::filesystem::path& newName,
-                                           ErrorCompletion completion) {
+                                           const ErrorCompletion& completion) {
     verbose(QStringLiteral("Attempting to duplicate document, %1").arg(pathText(name)));
     if (!checkName(newName,
                    QStringLiteral("The specified document name was empty / blank and could not be duplicated."),

@@ -24,7 +24,7 @@ public:
     std::optional<QDateTime> fileCreatedDate(const std::filesystem::path& name);
     bool doesFileExistInCloud(const std::filesystem::path& name) { return fileSize(name).has_value(); }
 
-    void documentStateForFile(const std::filesystem::path& name, StateCompletion completion);
+    void documentStateForFile(const std::filesystem::path& name, const StateCompletion& completion);
     /// Calls after every change of that file's state, until stopMonitoring...() or the next of these for the same name.
     void monitorDocumentStateForFile(const std::filesystem::path& name, std::function<void(int state)> target);
     void stopMonitoringDocumentStateChangesForFile(const std::filesystem::path& name);
@@ -33,13 +33,13 @@ public:
                                 ErrorCompletion completion);
 
     /// Where the document is, for other programs of this machine.
-    void shareDocumentWithName(const std::filesystem::path& name, ShareCompletion completion);
+    void shareDocumentWithName(const std::filesystem::path& name, const ShareCompletion& completion);
     void deleteDocumentWithName(const std::filesystem::path& name, ErrorCompletion completion) override;
-    void evictCloudDocumentWithName(const std::filesystem::path& name, ErrorCompletion completion);
+    void evictCloudDocumentWithName(const std::filesystem::path& name, const ErrorCompletion& completion);
     void renameOriginalDocument(const std::filesystem::path& name, const std::filesystem::path& newName,
                                 ErrorCompletion completion) override;
     void duplicateOriginalDocument(const std::filesystem::path& name, const std::filesystem::path& newName,
-                                   ErrorCompletion completion);
+                                   const ErrorCompletion& completion);
 
 protected:
     /// Completes on the main thread with an error, or with none.

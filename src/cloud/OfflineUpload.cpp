@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QPointer>
 #include <algorithm>
 #include <cerrno>
 #include <system_error>

@@ -1,5 +1,6 @@
 #include "cloud/iCloud.h"
 
+#include <QPointer>
 #include <utility>
 
 #include "files/FileNames.h"
@@ -152,16 +153,16 @@ void iCloud::updateFiles() {
 
 void iCloud::saveAndCloseDocumentWithName(const std::filesystem::path& name, const FileContents& content,
                                           DocumentCompletion completion) {
-    save(name, content, true, std::move(completion));
+    save(name, content, true, completion);
 }
 
 void iCloud::saveChangesToDocumentWithName(const std::filesystem::path& name, const FileContents& content,
-                                           DocumentCompletion completion) {
-    save(name, content, false, std::move(completion));
+                                           const DocumentCompletion& completion) {
+    save(name, content, false, completion);
 }
 
 void iCloud::save(const std::filesystem::path& name, const FileContents& content, bool closes,
-                  DocumentCompletion completion) {
+                  const DocumentCompletion& completion) {
     verbose(QStringLiteral("Beginning document save"));
     if (!quickCloudCheck()) {
         return;

@@ -28,7 +28,7 @@ public:
                                       DocumentCompletion completion) override;
     /// The same without closing it: the completion's document stays open.
     void saveChangesToDocumentWithName(const std::filesystem::path& name, const FileContents& content,
-                                       DocumentCompletion completion);
+                                       const DocumentCompletion& completion);
 
     /// Brings the recordings of this machine into the cloud. What both have is compared by date, and the older one
     /// goes: nothing but a caller who wants just that calls it. Calls after each file, and at the end.
@@ -48,7 +48,7 @@ private:
     void fileUpdateDidBegin();
     void fileUpdateDidEnd();
     void save(const std::filesystem::path& name, const FileContents& content, bool closes,
-              DocumentCompletion completion);
+              const DocumentCompletion& completion);
     void withUpload(const std::function<void(OfflineUpload&)>& act);
     void saveDocument(const std::shared_ptr<iCloudDocument>& document, bool isNew, bool closes,
                       const DocumentCompletion& completion);

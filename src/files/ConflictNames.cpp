@@ -81,7 +81,7 @@ FileResult<std::filesystem::path> replaceSeen(const std::filesystem::path& path,
         if (canExchange) {
             // Both have names that are seen at any moment. What is looked at afterwards is what was taken away, so that
             // nobody comes in between.
-            const auto beside = moveToFree(file, otherwise);
+            auto beside = moveToFree(file, otherwise);
             if (!beside) {
                 return beside;
             }
@@ -90,7 +90,7 @@ FileResult<std::filesystem::path> replaceSeen(const std::filesystem::path& path,
             }
             return replaceSeen(path, *beside, seen, otherwise, false);
         }
-        const auto aside = moveToFree(path, otherwise);
+        auto aside = moveToFree(path, otherwise);
         if (!aside) {
             return aside;
         }

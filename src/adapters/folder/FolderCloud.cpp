@@ -149,7 +149,7 @@ void FolderCloud::perform(std::function<Result<void>()> job, Completion completi
 void FolderCloud::evictUbiquitousItem(const std::filesystem::path& url, Completion completion) {
     perform(
         [mirror = m_place.mirror, url]() -> Result<void> {
-            const Result<void> allowed = mirror != nullptr ? mirror->willEvict(url.filename()) : notOurs();
+            Result<void> allowed = mirror != nullptr ? mirror->willEvict(url.filename()) : notOurs();
             if (allowed) {
                 removeAt(url);
             }
@@ -165,7 +165,7 @@ void FolderCloud::removeItem(const std::filesystem::path& url, Completion comple
                 return mirrorMissing();
             }
             if (mirror != nullptr) {
-                if (const Result<void> noted = mirror->willRemove(url.filename()); !noted) {
+                if (Result<void> noted = mirror->willRemove(url.filename()); !noted) {
                     return noted;
                 }
                 if (!existsAt(url)) {
@@ -191,14 +191,14 @@ void FolderCloud::moveItem(const std::filesystem::path& from, const std::filesys
                 return failure(QString::fromStdString(writeErrorText(EEXIST)));
             }
             if (mirror != nullptr) {
-                if (const Result<void> noted = mirror->willMove(from.filename(), to.filename()); !noted) {
+                if (Result<void> noted = mirror->willMove(from.filename(), to.filename()); !noted) {
                     return noted;
                 }
                 if (!existsAt(from)) {
                     return {};
                 }
             }
-            const Result<void> moved = moveWithoutReplacing(from, to);
+            Result<void> moved = moveWithoutReplacing(from, to);
             if (!moved && mirror != nullptr) {
                 mirror->didNotMove(from.filename(), to.filename());
             }
@@ -239,7 +239,7 @@ void FolderCloud::resolveConflict(const std::filesystem::path& url, const FileVe
                 if (const auto trashed = trash.moveToTrash(url); !trashed) {
                     return tl::unexpected(trashed.error());
                 }
-                if (const Result<void> moved = moveWithoutReplacing(chosen, url); !moved) {
+                if (Result<void> moved = moveWithoutReplacing(chosen, url); !moved) {
                     return moved;
                 }
             }

@@ -150,11 +150,11 @@ std::optional<QVariant> dictionaryOf(plist_t node, int depth) {
         if (item == nullptr) {
             return values;
         }
-        auto value = valueOf(item, depth);
+        const auto value = valueOf(item, depth);
         if (!value) {
             return std::nullopt;
         }
-        values.insert(QString::fromUtf8(key), std::move(*value));
+        values.insert(QString::fromUtf8(key), *value);
     }
 }
 

@@ -109,7 +109,7 @@ StoreAnswer SystemKeychain::ask(const StoreRequest& request) {
         });
     });
     if (future.wait_for(m_patience) == std::future_status::ready || exchange->isLate.exchange(true)) {
-        const StoreAnswer answer = future.get();
+        StoreAnswer answer = future.get();
         heard(answer);
         return answer;
     }
