@@ -36,9 +36,11 @@ TEST(KernelRoutes, SayWhetherThereIsAWayOut) {
     ASSERT_EQ(::pipe(pipe), 0);
     const pid_t child = ::fork();
     if (child == 0) {
-        // In a network of its own.
-        std::string said =
-            ::unshare(CLONE_NEWNET) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0 ? "" : "refused";
+        // In a network of its own, and in no other.
+        if (::unshare(CLONE_NEWNET) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0) {
+            ::_exit(2);
+        }
+        std::string said;
         for (const auto& [command, state] : steps) {
             // NOLINTNEXTLINE(cert-env33-c,concurrency-mt-unsafe): commands of the test's own
             said += std::system(command) == 0 ? textOf(kernelRouteFlags()) + " " : "failed ";
@@ -53,7 +55,11 @@ TEST(KernelRoutes, SayWhetherThereIsAWayOut) {
     std::string said(1000, '\0');
     said.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::read(pipe[0], said.data(), said.size()))));
     ::close(pipe[0]);
-    ::waitpid(child, nullptr, 0);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 2) {
+        GTEST_SKIP() << "a network of its own is not allowed here";
+    }
     EXPECT_EQ(said, expected);
 }
 
