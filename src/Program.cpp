@@ -18,33 +18,9 @@
 #include "DisplayGuard.h"
 #include "LastMoment.h"
 #include "Output.h"
+#include "Platform.h"
 #include "Screens.h"
-#include "SettingsFiles.h"
-#include "adapters/dbus/AtSpiAnnouncer.h"
-#include "adapters/dbus/DBusApplication.h"
-#include "adapters/dbus/DBusIdleTimer.h"
-#include "adapters/dbus/DBusSessionEnd.h"
-#include "adapters/dbus/LogindSleep.h"
-#include "adapters/dbus/MprisRemoteControl.h"
-#include "adapters/desktop/AppstreamCatalogue.h"
-#include "adapters/desktop/DesktopDocumentInteraction.h"
-#include "adapters/desktop/DesktopDocumentPicker.h"
-#include "adapters/desktop/DesktopMailComposer.h"
-#include "adapters/desktop/DesktopUrlOpener.h"
-#include "adapters/player/FilePlayer.h"
-#include "adapters/plist/LibplistPropertyLists.h"
-#include "adapters/pulse/PulseAudioInput.h"
-#include "adapters/pulse/PulseAudioOutput.h"
-#include "adapters/pulse/PulseAudioSession.h"
-#include "adapters/pulse/PulseConnection.h"
-#include "adapters/qt/MediaLibrary.h"
-#include "adapters/qt/QtRunLoop.h"
-#include "adapters/qt/QtTrash.h"
 #include "adapters/qt/TerminationSignals.h"
-#include "adapters/quick/QuickDisplayRefreshes.h"
-#include "adapters/quick/QuickPasteboard.h"
-#include "adapters/recorder/CaptureRecorder.h"
-#include "adapters/secret/SystemKeychain.h"
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
 #include "library/PlayerPanel.h"
@@ -57,22 +33,13 @@
 #include "library/VoiceMemoVC.h"
 #include "passcode/ApplicationDelegateGuard.h"
 #include "passcode/FXKeychain.h"
-#include "passcode/MailComposerGuard.h"
-#include "passcode/NoticesGuard.h"
 #include "passcode/PasscodeCoordinator.h"
-#include "passcode/RemoteControlGuard.h"
 #include "recording/AudioRecordVC.h"
 #include "recording/RecordingRescue.h"
 #include "recording/SessionGuard.h"
 #include "trimming/AudioTrimmerStage.h"
 #include "trimming/waves/WaveformLoader.h"
 #include "ui/AccessibleItem.h"
-#include "ui/AlertPresenter.h"
-#include "ui/Announcements.h"
-#include "ui/JHUD.h"
-#include "ui/NoticeLine.h"
-#include "ui/SavePanel.h"
-#include "ui/TabBarController.h"
 #include "ui/Texts.h"
 #include "ui/WindowPlace.h"
 
@@ -83,73 +50,6 @@ namespace {
 Q_LOGGING_CATEGORY(lcApp, "tavi.app", QtInfoMsg)
 
 const QString kWindow = QStringLiteral("qrc:/Tavi/Main.qml");
-
-/// What the screens work with: an adapter for each port, and the shell.
-struct Platform {
-    Platform(const AppContainer& folders, const QString& busName)
-        : container(folders),
-          application(bus, QDBusConnection::systemBus(), busName,
-                      {.systemSleep = systemSleep, .notifications = notifications}) {
-        application.setLockState(lockState);
-        claimName();
-        FXKeychain::setDefaultPorts(keychain, propertyLists);
-    }
-
-    void claimName() {
-        switch (application.claim()) {
-            case DBusApplication::Claim::First:
-                break;
-            case DBusApplication::Claim::AlreadyRunning:
-                qWarning(
-                    "Another program has this one's name on the session bus: what is asked for there goes astray.");
-                break;
-            case DBusApplication::Claim::NoBus:
-                qWarning("There is no session bus: neither other starts nor the desktop's controls reach the program.");
-                break;
-        }
-    }
-
-    const AppContainer& container;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    LockState lockState;
-    LogindSleep systemSleep{QDBusConnection::systemBus(), qtTrId("sleep_reason")};
-    NotificationCenter notifications;
-    DBusApplication application;
-    SettingsFiles settings{container};
-    FormatHold formatHold{container};
-    MediaLibrary media;
-    QtTrash trash;
-    QtRunLoop runLoop;
-    std::shared_ptr<PulseConnection> pulse = std::make_shared<PulseConnection>();
-    PulseAudioSession audioSession{pulse};
-    PulseAudioInputs audioInputs{pulse};
-    PulseAudioOutputs audioOutputs{pulse};
-    CaptureRecorders audioRecorders{audioInputs, media, runLoop};
-    FilePlayers audioPlayers{media, media, audioOutputs, runLoop};
-    DBusIdleTimer idleTimer{bus, qtTrId("idle_reason")};
-    DBusSessionEnd sessionEnd{bus, qtTrId("session_end_reason")};
-    PortalRequests portal{bus};
-    DesktopMailComposer desktopMail{portal};
-    MailComposerGuard mailComposer{desktopMail, lockState};
-    DesktopDocumentInteraction documentInteraction{bus, portal};
-    SavePanel savePanel{runLoop};
-    DesktopDocumentPicker documentPicker{portal, qtTrId("save_title"), savePanel};
-    QuickPasteboard pasteboard;
-    MprisRemoteControl mpris{bus};
-    RemoteControlGuard remoteControl{mpris, lockState};
-    SystemKeychain keychain{StorePlaces::of(container), runLoop};
-    LibplistPropertyLists propertyLists;
-    QuickDisplayRefreshes refreshes;
-    AlertPresenter presenter;
-    NoticeLine noticeLine{runLoop};
-    NoticesGuard notices{noticeLine, lockState};
-    JHUD hudView;
-    DesktopUrlOpener urlOpener{portal};
-    AppstreamCatalogue catalogue;
-    AtSpiAnnouncer announcer;
-    Announcements announcements{announcer};
-    TabBarController tabBar;
-};
 
 /// The screens, and what only they share. Wired by the members' names.
 struct Screens {
@@ -164,7 +64,8 @@ struct Screens {
             return platform.lockState.isLocked() ? QString() : platform.hudView.text();
         });
         platform.announcements.follow(recording, &AudioRecordVC::outletsChanged, [this] {
-            return recording.lblRecording().hidden ? QString() : recording.lblRecording().text;
+            const bool isSeen = !platform.lockState.isLocked() && !recording.lblRecording().hidden;
+            return isSeen ? recording.lblRecording().text : QString();
         });
         QObject::connect(&imports, &RecordingImport::imported, &library, &VoiceMemoVC::reloadData);
         QObject::connect(&platform.application, &DBusApplication::refreshRequested, &library, &VoiceMemoVC::reloadData);

@@ -1,6 +1,7 @@
 # The program.
 qt_add_executable(tavi
-  Cloud.cpp Cloud.h DisplayGuard.cpp DisplayGuard.h LastMoment.cpp LastMoment.h Output.cpp Output.h Program.cpp Program.h Screens.h SettingsFiles.h Terminal.cpp Terminal.h main.cpp)
+  Cloud.cpp Cloud.h DisplayGuard.cpp DisplayGuard.h LastMoment.cpp LastMoment.h Output.cpp Output.h
+  Platform.cpp Platform.h Program.cpp Program.h Screens.h SettingsFiles.h Terminal.cpp Terminal.h main.cpp)
 target_compile_definitions(tavi PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS TAVI_VERSION="${PROJECT_VERSION}")
 target_link_libraries(tavi PRIVATE
   tavi_app tavi_command_line tavi_passcode tavi_trimming tavi_waves_painting

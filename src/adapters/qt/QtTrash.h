@@ -4,8 +4,8 @@
 
 namespace tavi {
 
-/// The trash of the desktop, as the freedesktop.org trash specification says where it is: in the user's home, or at the
-/// top of another file system.
+/// The desktop's trash, the one that file managers show: in the user's home, or at the top of another file system
+/// (freedesktop.org, Trash 1.0).
 class QtTrash final : public Trash {
 public:
     /// A name that is no text shows in the trash as people read it.
