@@ -78,7 +78,7 @@ TEST(SystemReachability, AsksNetworkManagerWhereThereIsOne) {
     const auto answers = [&](const QString& name, quint32 value) {
         QDBusMessage call = QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/NetworkManager"),
                                                            QStringLiteral("org.freedesktop.DBus.Mock"), name);
-        return client.call(call << value, QDBus::BlockWithGui, 2000).type() == QDBusMessage::ReplyMessage;
+        return client.call(call << value, QDBus::Block, 2000).type() == QDBusMessage::ReplyMessage;
     };
     const QString connectivity = QStringLiteral("SetConnectivity");
     const QString state = QStringLiteral("SetGlobalConnectionState");
