@@ -1,5 +1,8 @@
 #include "cloud/CloudAccount.h"
 
+#include <QRegularExpression>
+#include <QUrl>
+
 #include "files/PathText.h"
 
 namespace tavi {
@@ -9,8 +12,21 @@ namespace {
 constexpr QLatin1String kFolder("CloudFolder");
 constexpr QLatin1String kAddress("CloudAddress");
 constexpr QLatin1String kUser("CloudUser");
+constexpr QLatin1String kInClear("CloudInClear");
 
 }  // namespace
+
+CloudAccount CloudAccount::server(const QString& address, const QString& user, bool mayBeInClear) {
+    CloudAccount account{Kind::Server, {}, address.trimmed(), user, mayBeInClear};
+    account.address += account.address.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
+    return account;
+}
+
+bool CloudAccount::isInClear() const {
+    static const QRegularExpression here(QStringLiteral("^(localhost|127\\.[0-9.]+|::1)$"));
+    const QUrl url(address);
+    return kind == Kind::Server && url.scheme() == QLatin1String("http") && !here.match(url.host()).hasMatch();
+}
 
 CloudAccount CloudAccount::of(const UserDefaults& defaults) {
     CloudAccount account;
@@ -18,6 +34,7 @@ CloudAccount CloudAccount::of(const UserDefaults& defaults) {
     account.folder = QByteArray::fromPercentEncoding(defaults.stringForKey(kFolder).toLatin1()).toStdString();
     account.address = defaults.stringForKey(kAddress);
     account.user = defaults.stringForKey(kUser);
+    account.mayBeInClear = defaults.boolForKey(kInClear);
     account.kind = !account.folder.empty() ? Kind::Folder : !account.address.isEmpty() ? Kind::Server : Kind::None;
     return account;
 }
@@ -28,6 +45,7 @@ bool CloudAccount::store(UserDefaults& defaults) const {
     defaults.setObject(kind == Kind::Folder ? encoded : QString(), kFolder);
     defaults.setObject(kind == Kind::Server ? address : QString(), kAddress);
     defaults.setObject(kind == Kind::Server ? user : QString(), kUser);
+    defaults.setObject(kind == Kind::Server && mayBeInClear, kInClear);
     return defaults.synchronize();
 }
 

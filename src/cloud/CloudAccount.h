@@ -16,10 +16,16 @@ struct CloudAccount {
     /// The server's folder, http or https, without a user.
     QString address;
     QString user;
+    /// Its user has agreed that everything goes to the server in the clear, the password too.
+    bool mayBeInClear = false;
 
+    /// A server's folder, by the address as somebody writes it.
+    static CloudAccount server(const QString& address, const QString& user, bool mayBeInClear = false);
     static CloudAccount of(const UserDefaults& defaults);
     /// False where the settings could not be written.
     bool store(UserDefaults& defaults) const;
+    /// Whether it must be asked for that first: an address that is http, and not of this machine.
+    bool isInClear() const;
     /// Says which account it is; empty for none.
     QString token() const;
     /// As people read it.

@@ -25,10 +25,7 @@ Result<QByteArray> run(const CloudConnectOptions& options, const CommandServices
     CloudAccount account;
     QString password;
     if (options.place.starts_with("https://") || options.place.starts_with("http://")) {
-        account.kind = CloudAccount::Kind::Server;
-        account.address = QString::fromStdString(options.place);
-        account.address += account.address.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
-        account.user = QString::fromStdString(options.user);
+        account = CloudAccount::server(QString::fromStdString(options.place), QString::fromStdString(options.user));
         password = account.user.isEmpty() ? QString() : services.cloud.askForPassword();
     } else {
         std::error_code error;
