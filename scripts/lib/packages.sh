@@ -1,7 +1,8 @@
 # Installs Debian packages by the groups of packaging/packages.txt. To be sourced.
 
 # install_packages GROUP...: installs what is missing of these groups, and nothing where all is there.
-# Never removes a package: where one of these would take the place of another, that is the user's to decide.
+# Never removes a package: where one of these would take the place of another, that is the user's to decide. Starts none
+# of the servers that tests start themselves.
 install_packages() {
     local list groups release wanted missing log as_root=()
     list=$(dirname "${BASH_SOURCE[0]}")/../../packaging/packages.txt
@@ -31,8 +32,7 @@ install_packages() {
     echo "installing:" $missing >&2
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 || true
     log=$(mktemp)
-    if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends --no-remove $missing </dev/null >"$log" 2>&1; then
+    if ! "${as_root[@]}" bash "$(dirname "${BASH_SOURCE[0]}")/install" $missing >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
         echo "error: these packages could not be installed:" $missing >&2
