@@ -5,6 +5,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import signal
 import sys
 import unittest
@@ -322,7 +323,7 @@ class Importing(AppTest):
     TYPES = {"audio/aac": ("aac", "aac"), "audio/ac3": ("ac3", "ac3"), "audio/basic": ("au", "pcm_s16be"),
              "audio/flac": ("flac", "flac"), "audio/mp2": ("mp2", "mp2"), "audio/mp4": ("m4a", "aac"),
              "audio/mpeg": ("mp3", "libmp3lame"), "audio/x-aifc": ("aifc", "pcm_s16be -f aiff"),
-             "audio/x-aiff": ("aiff", "pcm_s16be"), "audio/x-m4b": ("m4b", "aac -f ipod"),
+             "audio/x-aiff": ("aiff", "pcm_s16be"), "audio/x-caf": ("caf", "adpcm_ima_qt"), "audio/x-m4b": ("m4b", "aac -f ipod"),
              "audio/x-matroska": ("mka", "flac"), "audio/x-ms-wma": ("wma", "wmav2"), "audio/x-opus+ogg": ("opus", "libopus"),
              "audio/x-speex+ogg": ("spx", "libspeex"), "audio/x-tta": ("tta", "tta"),
              "audio/x-vorbis+ogg": ("ogg", "libvorbis"), "audio/x-wav": ("wav", "pcm_s16le"),
@@ -337,6 +338,10 @@ class Importing(AppTest):
         applications = home / "data/applications"
         applications.mkdir(parents=True)
         (applications / cls.ENTRY.name).write_text(cls.ENTRY.read_text().replace("Exec=tavi", f"Exec={PROGRAM}"))
+        types = home / "data/mime/packages"
+        types.mkdir(parents=True)
+        shutil.copy(cls.ENTRY.with_suffix(".xml"), types)
+        cls.desktop.run("update-mime-database", types.parent)
 
     def test_each_type_of_the_desktop_entry_is_one_that_plays(self):
         listed = re.search(r"^MimeType=(.*)$", self.ENTRY.read_text(), re.MULTILINE).group(1).split(";")
