@@ -12,11 +12,12 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts/lib"))
 
-from private_desktop import PrivateDesktop, wait_for
+from private_desktop import PHONE, PrivateDesktop, wait_for
 from sound import levels, probe, tone_seconds, write_tone
 
 PROGRAM = None
 NAME = "com.quillfen.voicerecorder"
+CAN_MOUNT = os.access("/dev/fuse", os.R_OK | os.W_OK) and (os.geteuid() == 0 or shutil.which("fusermount"))
 FILE_NAME = r"^\d{4}_[A-Z][a-z]{2}_\d\d_\d\d_\d\d_\d\d\."
 
 
@@ -24,11 +25,12 @@ class AppTest(unittest.TestCase):
     """One desktop for a class; each test gets a container of its own."""
 
     has_services = True
+    screen = PHONE
     numbers = itertools.count()
 
     @classmethod
     def setUpClass(cls):
-        cls.desktop = PrivateDesktop(sound=cls.has_services, bus=cls.has_services)
+        cls.desktop = PrivateDesktop(sound=cls.has_services, bus=cls.has_services, screen=cls.screen)
         cls.addClassCleanup(cls.desktop.close)
         if not cls.has_services:
             nobody = f"{cls.desktop.folder}/nobody"
@@ -289,6 +291,50 @@ class Sharing(AppTest):
         self.assertEqual((home / name).read_bytes(), memo.read_bytes())
 
 
+class Dragging(AppTest):
+    """Beside the program is a window of another toolkit."""
+
+    screen = (PHONE[0] + 300, PHONE[1])
+    ROW = (150, 155)
+    OTHER = (PHONE[0] + 150, 300)
+
+    def drag(self, begin, end, meanwhile):
+        """Moves the mouse from one place to the other with its button held, and lets go after meanwhile()."""
+        self.desktop.run("xdotool", "mousemove", *begin, "mousedown", 1)
+        for step in range(1, 11):
+            at = (a + (b - a) * step // 10 for a, b in zip(begin, end))
+            self.desktop.run("xdotool", "mousemove", "--sync", *at, "sleep", 0.02)
+        meanwhile()
+        self.desktop.run("xdotool", "mouseup", 1)
+
+    def test_a_row_goes_to_another_program_as_a_copy_and_a_file_of_that_comes_in(self):
+        self.documents.mkdir(parents=True)
+        memo = write_tone(self.documents / "memo %\n.wav", 1000, 1.0)
+        app = self.start("library")
+        self.desktop.run("xdotool", "windowmove", "--sync", self.desktop.window(app), 0, 0)
+        shown = self.wait_shown()
+        heard = self.desktop.folder / "heard"
+        self.desktop.spawn("/usr/bin/python3", "-B", pathlib.Path(__file__).with_name("drag_window.py"), PHONE[0] + 50, self.tone,
+                           log=heard)
+        hears = lambda what: self.wait(lambda: what in heard.read_text(), what)
+        shown = self.wait_change(shown, "the other window", 20_000)
+
+        def reload():
+            hears("offered ['copy']\n")
+            # The list makes its rows anew under the drag.
+            self.tavi("import", *(write_tone(self.desktop.folder / name, 500, 0.5) for name in ("another.wav", "last.wav")))
+            self.wait_change(shown, "the new rows", 2_000)
+
+        self.drag(self.ROW, self.OTHER, reload)
+        hears(f"got ['file://{self.documents}/memo%20%25%0A.wav']\n")
+        self.drag(self.OTHER, self.ROW, lambda: None)
+        hears("gave ['copy']\n")
+        self.wait_saved(4)
+        self.assertEqual((self.documents / self.tone.name).read_bytes(), self.tone.read_bytes())
+        self.assertNotIn("delete", heard.read_text())
+        self.assertTrue(memo.exists() and self.tone.exists() and app.poll() is None)
+
+
 class CommandLine(AppTest):
     def test_commands_that_print_work_on_real_files(self):
         shown = json.loads(self.tavi("waveform", self.tone, "--points", "10", "--json").stdout)
@@ -307,6 +353,21 @@ class CommandLine(AppTest):
         self.assertEqual(self.tavi("get", "Sort").stdout, "1\n")
         listed, = json.loads(self.tavi("list", "--json").stdout)
         self.assertEqual((listed["filename"], listed["duration"]), (made.name, "00:01"))
+
+    @unittest.skipUnless(CAN_MOUNT, "no file system can be made here")
+    def test_capitals_take_the_place_of_small_letters_where_both_are_one_name(self):
+        real = self.container.with_suffix(".real")
+        for folder in (real, self.documents):
+            folder.mkdir(parents=True)
+        for name in ("memo.wav", "talk.wav"):
+            (real / name).write_text(name)
+        mount = self.desktop.spawn("/usr/bin/python3", "-B", pathlib.Path(__file__).with_name("one_case.py"), real, self.documents,
+                                   log=self.log)
+        self.addCleanup(self.desktop.stop, mount)
+        self.wait(self.documents.is_mount, "the file system")
+        self.assert_fails("already", "rename", "memo.wav", "Talk")
+        self.tavi("rename", "memo.wav", "Memo")
+        self.assertEqual({path.name: path.read_text() for path in real.iterdir()}, {"Memo.wav": "memo.wav", "talk.wav": "talk.wav"})
 
     def test_mistakes_are_told_on_standard_error(self):
         for status, *arguments in ((2, "fly"), (1, "get", "NoSuchKey"), (1, "waveform", "/etc/passwd"), (1, "waveform", "/etc")):
@@ -391,11 +452,11 @@ class Importing(AppTest):
         self.assertEqual(tavi("export", "--", "-x", self.desktop.folder).returncode, 0)
         self.assertEqual((self.desktop.folder / "-x").read_bytes(), files[3].read_bytes())
         self.assertEqual(tavi("delete", "third.wav").returncode, 0)
-        trash = self.desktop.run("gio", "trash", "--list", check=False)
         self.assertEqual(tavi("delete", "--permanently", "--", "-x").returncode, 0)
         self.wait_change(shown, "the two that are left")
         self.assertEqual([path.name for path in self.recordings()], ["first.wav", "second.wav"])
-        self.assertTrue((self.documents.parents[1] / "data/Trash/files/third.wav").exists(), trash)
+        # As another program finds it in the trash, with the place where it was.
+        self.assertRegex(self.desktop.run("trash-list").stdout, rf"^[\d-]+ [\d:]+ {self.documents}/third.wav\n$")
 
     def test_an_import_that_is_killed_leaves_nothing_among_the_recordings(self):
         large = self.desktop.folder / "large.wav"

@@ -17,6 +17,8 @@ ListView {
     /// The last thing that chose a row was a key.
     property bool isByKey: false
     readonly property bool isFrameShown: activeFocus && isByKey
+    /// What is dragged to other programs.
+    readonly property alias carried: carried
 
     /// When a tap has last opened a row, in milliseconds.
     property real opened: 0
@@ -120,6 +122,14 @@ ListView {
     }
     Accessible.role: Accessible.List
     Accessible.name: screen.headerText
+
+    Item {
+        id: carried
+
+        Drag.dragType: Drag.Automatic
+        // The recording stays: nothing that is dropped is moved away.
+        Drag.supportedActions: Qt.CopyAction
+    }
 
     Connections {
         target: list.screen

@@ -31,25 +31,25 @@ Item {
         screen.actions.accessoryButtonTapped(mapToItem(null, at.x, at.y))
     }
 
-    /// Hands the recording to whatever program it is let go over.
+    /// Hands the recording to whatever program it is let go over. The list holds it: a row may go meanwhile.
     function drag() {
+        const carried = ListView.view.carried
         aim()
-        Drag.mimeData = screen.actions.dragged()
-        if (Object.keys(Drag.mimeData).length === 0)
+        carried.Drag.mimeData = screen.actions.dragged()
+        if (Object.keys(carried.Drag.mimeData).length === 0)
             return
         const begin = picture => {
             if (pull.active) {
-                Drag.imageSource = picture
-                Drag.active = true
+                carried.Drag.imageSource = picture
+                carried.Drag.active = true
+                // It has been let go, and this row may be no more.
+                carried.Drag.active = false
             }
         }
         if (!tile.grabToImage(result => begin(result.url)))
             begin("")
     }
 
-    Drag.dragType: Drag.Automatic
-    // The recording stays: nothing that is dropped is moved away.
-    Drag.supportedActions: Qt.CopyAction
     width: ListView.view.width
     height: narrow ? 60 : 64
     // A row that waits to be used again is nowhere.
@@ -102,8 +102,8 @@ Item {
         onActiveChanged: {
             if (active)
                 root.drag()
-            else
-                root.Drag.active = false
+            else if (root.ListView.view)
+                root.ListView.view.carried.Drag.active = false
         }
     }
 
