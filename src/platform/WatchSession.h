@@ -20,7 +20,8 @@ public:
 
 /// The connection between the program and its companion. Main thread only.
 ///
-/// Dictionaries are property lists, of 16 MB at most; files may have 256 MB. What is larger is not sent.
+/// Dictionaries are property lists, which may hold 16 MB and a little; files may have 256 MB. What is larger is not
+/// sent.
 class WatchSession {
 public:
     virtual ~WatchSession() = default;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QStringList>
+#include <filesystem>
 #include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -38,49 +40,85 @@ public:
     int added = 0;
 };
 
-/// Files that one program has for itself while a test says so.
+/// Files that one at a time is at: who is called for one, and a test for all of them.
 class FakeCoordinatedFiles : public CoordinatedFiles {
 public:
     bool coordinate(const std::filesystem::path& file, const std::function<void()>& accessor) override {
         files.push_back(file);
-        if (!isHeld) {
-            accessor();
+        if (isHeld || !held.insert(file).second) {
+            return false;
         }
-        return !isHeld;
+        accessor();
+        held.erase(file);
+        return true;
     }
 
     bool isHeld = false;
+    std::set<std::filesystem::path> held;
     std::vector<std::filesystem::path> files;
 };
 
-/// One end of a session; what it sends is kept, and what it receives a test brings.
+/// One end of a session. What it sends is kept; a test brings what it receives, or gives it a peer.
 class FakeWatchSession : public WatchSession {
 public:
     void setDelegate(WatchSessionDelegate* newDelegate) override { delegate = newDelegate; }
-    void activateSession() override { isActive = true; }
+    void activateSession() override {
+        isActive = true;
+        if (peer != nullptr && peer->isActive) {
+            reachable = peer->reachable = true;
+            hear(peer->context);
+            peer->hear(context);
+        }
+    }
     bool isReachable() const override { return reachable; }
     QVariantMap applicationContext() const override { return context; }
     QVariantMap receivedApplicationContext() const override { return received; }
     Result<void> updateApplicationContext(const QVariantMap& newContext) override {
         context = newContext;
+        if (peer != nullptr && reachable) {
+            peer->hear(context);
+        }
         return {};
     }
     Result<void> sendMessage(const QVariantMap& message) override {
+        if (!reachable || message.first().toByteArray().size() > (17 << 20)) {
+            return failure({});
+        }
         messages.push_back(message);
+        if (peer != nullptr) {
+            peer->delegate->sessionDidReceiveMessage(message);
+        }
         return {};
     }
     Result<void> transferFile(const std::filesystem::path& file, const QVariantMap& metadata) override {
+        std::error_code error;
+        if (!reachable || std::filesystem::file_size(file, error) > (256U << 20) || error) {
+            return failure({});
+        }
         files.emplace_back(file, metadata);
+        if (peer != nullptr) {
+            peer->delegate->sessionDidReceiveFile(file, metadata);
+        }
         return {};
     }
+    /// The program of this end ends, and its contexts stay.
+    void leave() { isActive = reachable = peer->reachable = false; }
 
     WatchSessionDelegate* delegate = nullptr;
+    FakeWatchSession* peer = nullptr;
     bool isActive = false;
     bool reachable = false;
     QVariantMap context;
     QVariantMap received;
     std::vector<QVariantMap> messages;
     std::vector<std::pair<std::filesystem::path, QVariantMap>> files;
+
+private:
+    void hear(const QVariantMap& told) {
+        if (std::exchange(received, told) != told) {
+            delegate->sessionDidReceiveApplicationContext(told);
+        }
+    }
 };
 
 }  // namespace tavi::test
