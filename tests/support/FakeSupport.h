@@ -60,19 +60,14 @@ struct FakeRating {
                NotificationCenter& notifications, const FormatHold& formatHold)
         : store(defaults),
           urlOpener(runLoop),
-          rater({.store = store,
-                 .runLoop = runLoop,
-                 .presenter = presenter,
-                 .notices = notices,
-                 .notifications = notifications,
-                 .formatHold = formatHold,
-                 .lockState = lockState,
-                 .softwareStore = {.catalogue = catalogue, .urlOpener = urlOpener}}) {}
+          services{store, runLoop, presenter, notices, notifications, formatHold, lockState, {catalogue, urlOpener}},
+          rater(services) {}
 
     RatingStore store;
     LockState lockState;
     FakeStoreCatalogue catalogue;
     FakeUrlOpener urlOpener;
+    AppRater::Services services;
     AppRater rater;
 };
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <map>
+#include <tuple>
 
 #include "platform/Application.h"
 #include "support/FakeSupport.h"
@@ -27,13 +29,11 @@ protected:
     }
     /// The counters as they are stored.
     std::string stored() const {
-        return QStringLiteral("%1%2%3 %4")
-            .arg(QLatin1String(defaults.boolForKey(QStringLiteral("dontShowAgain")) ? "X" : "-"))
-            .arg(QLatin1String(defaults.boolForKey(QStringLiteral("remindMeLater")) ? "R" : "-"))
-            .arg(defaults.integerForKey(QStringLiteral("launchCount")))
-            .arg(QDateTime::fromString(defaults.stringForKey(QStringLiteral("firstLaunchKey")), Qt::ISODateWithMs)
-                     .secsTo(runLoop.clock().now()))
-            .toStdString();
+        const QString date = defaults.stringForKey(QStringLiteral("firstLaunchKey"));
+        const auto age = QDateTime::fromString(date, Qt::ISODateWithMs).secsTo(runLoop.clock().now());
+        return (defaults.boolForKey(QStringLiteral("dontShowAgain")) ? "X" : "-") +
+               std::string(defaults.boolForKey(QStringLiteral("remindMeLater")) ? "R" : "-") +
+               std::to_string(defaults.integerForKey(QStringLiteral("launchCount"))) + ' ' + std::to_string(age);
     }
 
     FakeUserDefaults defaults;
@@ -48,56 +48,45 @@ protected:
 };
 
 TEST_F(AppRaterTest, CountsLaunchesAndDays) {
+    // A return from the background, a day less a minute, a minute, another version; the answers no, now and later.
+    const std::map<char, std::function<void()>> steps{
+        {'L', [&] { rater.appLaunched(); }},
+        {'l', [&] { notifications.postNotification(applicationnotification::kWillEnterForeground); }},
+        {'d', [&] { runLoop.manualClock().advance(86'340); }},
+        {'m', [&] { runLoop.manualClock().advance(60); }},
+        {'v', [] { QCoreApplication::setApplicationVersion(QStringLiteral("99")); }},
+        {'n', [&] { choose(0); }},
+        {'y', [&] { choose(1); }},
+        {'r', [&] { choose(2); }},
+    };
     const struct {
-        const char* name;
-        int days, launches, remindMeDays, remindMeLaunches;
-        /// L is a launch, a return from the background "l", d a day less a minute, m a minute, n, y and r the answers
-        /// no, now and later, v another version; a digit is how many questions there have been.
+        /// Days and launches until the question, and until the next one.
+        std::tuple<int, int, int, int> thresholds;
+        /// Steps; a digit is how many questions there have been.
         const char* story;
     } cases[] = {
-        {"program", 0, 2, 0, 4, "L0L1"},
-        {"later", 0, 2, 0, 4, "LL1rL1l1L1L2rLLL2L3"},
-        {"no", 0, 2, 0, 4, "LL1nLLLLLLLL1vL1"},
-        {"now", 0, 2, 0, 4, "LL1yLLLLLLLL1"},
-        {"unanswered", 0, 2, 0, 4, "LL1LLLL1nLLLL1"},
-        {"own", 3, 7, 3, 7, "LLLLLLL0dddL0mmmL1"},
-        {"daysFirst", 3, 7, 3, 7, "L0dddmmmL0LLLL0L0dddmmmL1"},
-        {"ownLater", 3, 2, 1, 2, "LL0dddmmmL1rLL1dL1mL2"},
-        {"atOnce", 0, 0, 0, 0, "L1rL2"},
+        {{0, 2, 0, 4}, "L0L1"},
+        {{0, 2, 0, 4}, "LL1rL1l1L1L2rLLL2L3"},
+        {{0, 2, 0, 4}, "LL1nLLLLLLLL1vL1"},
+        {{0, 2, 0, 4}, "LL1yLLLLLLLL1"},
+        {{0, 2, 0, 4}, "LL1LLLL1nLLLL1"},
+        {{3, 7, 3, 7}, "LLLLLLL0dddL0mmmL1"},
+        {{3, 7, 3, 7}, "L0dddmmmL0LLLL0L0dddmmmL1"},
+        {{3, 2, 1, 2}, "LL0dddmmmL1rLL1dL1mL2"},
+        {{0, 0, 0, 0}, "L1rL2"},
     };
     for (const auto& row : cases) {
         defaults = {};
         presenter.alerts.clear();
-        rater.options() = {};
-        rater.options().daysUntilPrompt = row.days;
-        rater.options().launchesUntilPrompt = row.launches;
-        rater.options().remindMeDaysUntilPrompt = row.remindMeDays;
-        rater.options().remindMeLaunchesUntilPrompt = row.remindMeLaunches;
+        RatingOptions& options = rater.options();
+        std::tie(options.daysUntilPrompt, options.launchesUntilPrompt, options.remindMeDaysUntilPrompt,
+                 options.remindMeLaunchesUntilPrompt) = row.thresholds;
         for (const char* step = row.story; *step != '\0'; ++step) {
-            SCOPED_TRACE(std::string(row.name) + " " + std::string(row.story, step + 1));
-            switch (*step) {
-                case 'L':
-                    rater.appLaunched();
-                    break;
-                case 'l':
-                    notifications.postNotification(applicationnotification::kWillEnterForeground);
-                    break;
-                case 'd':
-                    runLoop.manualClock().advance(86'340);
-                    break;
-                case 'm':
-                    runLoop.manualClock().advance(60);
-                    break;
-                case 'v':
-                    QCoreApplication::setApplicationVersion(QStringLiteral("99"));
-                    break;
-                case 'n':
-                case 'y':
-                case 'r':
-                    choose(*step == 'n' ? 0 : *step == 'y' ? 1 : 2);
-                    break;
-                default:
-                    EXPECT_EQ(asked(), static_cast<std::size_t>(*step - '0'));
+            SCOPED_TRACE(std::string(row.story, step + 1));
+            if (const auto found = steps.find(*step); found != steps.end()) {
+                found->second();
+            } else {
+                EXPECT_EQ(asked(), static_cast<std::size_t>(*step - '0'));
             }
         }
         // What still stands is answered, so that the next can be asked.
@@ -109,30 +98,24 @@ TEST_F(AppRaterTest, AnotherVersionCountsAnewWhereThatIsWanted) {
     rater.options().versionCheckEnabled = true;
     rater.options().launchesUntilPrompt = 2;
     rater.options().daysUntilPrompt = 0;
-    QCoreApplication::setApplicationVersion(QStringLiteral("1"));
-    defaults.setObject(5, QStringLiteral("launchCount"));
-    rater.appLaunched();
-    EXPECT_EQ(stored(), "--1 0") << "no version is stored yet";
-    rater.appLaunched();
-    EXPECT_EQ(asked(), 1U);
-    choose(0);
-    QCoreApplication::setApplicationVersion(QStringLiteral("2"));
-    defaults.writes.clear();
-    rater.appLaunched();
-    EXPECT_EQ(
-        defaults.writes.join(QLatin1Char(' ')),
-        QStringLiteral("dontShowAgain remindMeLater launchCount firstLaunchKey synchronize appVersion synchronize "
-                       "launchCount synchronize"));
-    EXPECT_EQ(defaults.stringForKey(QStringLiteral("appVersion")), QStringLiteral("2"));
-    rater.appLaunched();
-    EXPECT_EQ(asked(), 2U);
+    rating.store.setLaunchCount(5);
+    for (const std::size_t questions : {1U, 2U}) {
+        QCoreApplication::setApplicationVersion(QString::number(questions));
+        rater.appLaunched();
+        EXPECT_EQ(stored(), "--1 0") << "another version, or none was stored";
+        EXPECT_EQ(rating.store.appVersion(), QString::number(questions));
+        rater.appLaunched();
+        EXPECT_EQ(asked(), questions);
+        choose(0);
+    }
     // What makes no sense counts as nothing.
     defaults.setObject(QStringLiteral("soon"), QStringLiteral("firstLaunchKey"));
     EXPECT_TRUE(rater.isDateExpired(0));
     EXPECT_FALSE(rater.isDateExpired(1));
-    defaults.setObject(std::numeric_limits<int>::max(), QStringLiteral("launchCount"));
+    rating.store.restart(false, false, {});
+    rating.store.setLaunchCount(std::numeric_limits<int>::max());
     rater.appLaunched();
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("launchCount")), std::numeric_limits<int>::max());
+    EXPECT_EQ(rating.store.launchCount(), std::numeric_limits<int>::max());
 }
 
 TEST_F(AppRaterTest, DoesWhatTheButtonsSay) {
@@ -154,18 +137,17 @@ TEST_F(AppRaterTest, DoesWhatTheButtonsSay) {
         rater.alertViewClickedButtonAtIndex(row.index);
         runLoop.drain();
         EXPECT_EQ(stored(), row.stored);
-        EXPECT_EQ(rating.urlOpener.opened,
-                  row.opens ? QStringList{QStringLiteral("appstream://com.example.store")} : QStringList());
+        EXPECT_EQ(rating.urlOpener.opened.join(u' '), QLatin1String(row.opens ? "appstream://com.example.store" : ""));
         rater.showRater();
         asked();
-        std::string titles;
-        for (const AlertAction& action : presenter.alerts.back().actions) {
-            titles += action.title.toStdString() + (action.style == AlertAction::Style::Cancel ? "! " : " ");
+        const Alert& alert = presenter.alerts.back();
+        QString texts = alert.title + alert.message;
+        for (const AlertAction& action : alert.actions) {
+            texts += action.title + QLatin1String(action.style == AlertAction::Style::Cancel ? "! " : " ");
         }
-        EXPECT_EQ(presenter.alerts.back().title + presenter.alerts.back().message,
-                  QStringLiteral("MessageTitleMessage"));
-        EXPECT_EQ(titles, std::string(row.isNoHidden ? "" : "NoButtonTitle! ") + "NowButtonTitle LaterButtonTitle ");
-        choose(presenter.alerts.back().actions.size() - 1);
+        EXPECT_EQ(texts, QLatin1String("MessageTitleMessage") + QLatin1String(row.isNoHidden ? "" : "NoButtonTitle! ") +
+                             QLatin1String("NowButtonTitle LaterButtonTitle "));
+        choose(alert.actions.size() - 1);
     }
     EXPECT_TRUE(notices.posted.empty());
     rating.urlOpener.canOpen = false;
@@ -178,14 +160,8 @@ TEST_F(AppRaterTest, DoesWhatTheButtonsSay) {
 
 TEST_F(AppRaterTest, TheSystemIsAskedFirst) {
     FakeStoreReview review;
-    AppRater system({rating.store,
-                     runLoop,
-                     presenter,
-                     notices,
-                     notifications,
-                     formatHold,
-                     rating.lockState,
-                     {rating.catalogue, rating.urlOpener, &review}});
+    rating.services.softwareStore.review = &review;
+    AppRater system(rating.services);
     system.setCovered(false);
     for (const bool isUsed : {true, false}) {
         rating.store.restart(false, false, runLoop.clock().now().addDays(-9));
@@ -199,64 +175,54 @@ TEST_F(AppRaterTest, TheSystemIsAskedFirst) {
 }
 
 TEST_F(AppRaterTest, AsksOnlyInAQuietMoment) {
-    const auto expectLookUps = [this](int count) {
+    const auto expectCounts = [this](int lookUps, std::size_t questions) {
         runLoop.advance(60.0);
-        EXPECT_EQ(rating.catalogue.asked.size(), count);
+        EXPECT_EQ(rating.catalogue.asked.size(), lookUps);
+        EXPECT_EQ(presenter.alerts.size(), questions);
     };
     rater.setCovered(true);
     rater.getApplicationID();
-    expectLookUps(0);
+    expectCounts(0, 0);
     formatHold.setHeld(true);
     rater.setCovered(false);
-    expectLookUps(0);
+    expectCounts(0, 0);
     formatHold.setHeld(false);
     rating.lockState.setLocked(true);
-    expectLookUps(0);
+    expectCounts(0, 0);
     rating.lockState.setLocked(false);
     runLoop.advance(AppRater::kMoment / 2);
     rater.setCovered(true);
     rater.setCovered(false);
     runLoop.advance(AppRater::kMoment * 0.9);
     EXPECT_TRUE(rating.catalogue.asked.isEmpty()) << "the moment begins anew";
-    expectLookUps(1);
+    expectCounts(1, 0);
     EXPECT_EQ(rating.catalogue.asked.front(), QStringLiteral("com.quillfen.voicerecorder tr"));
     rater.getApplicationID();
-    expectLookUps(1);
-
+    expectCounts(1, 0);
     // Nobody has it: nothing is asked or said, and the next launch looks again.
     const QString known = std::exchange(rating.catalogue.identifier, QString());
     rating.catalogue.answer();
-    runLoop.advance(60.0);
-    EXPECT_TRUE(presenter.alerts.empty() && notices.posted.empty());
+    expectCounts(1, 0);
+    EXPECT_TRUE(notices.posted.empty());
     rater.getApplicationID();
-    expectLookUps(2);
+    expectCounts(2, 0);
     rating.catalogue.identifier = known;
     formatHold.setHeld(true);
     rating.catalogue.answer();
     EXPECT_EQ(rating.store.storeIdentifier(), known);
     rater.getApplicationID();
-    runLoop.advance(60.0);
-    EXPECT_TRUE(presenter.alerts.empty()) << "over a recording";
+    expectCounts(2, 0);
     formatHold.setHeld(false);
-    runLoop.advance(AppRater::kMoment);
-    EXPECT_EQ(presenter.alerts.size(), 1U);
+    expectCounts(2, 1);
     rater.getApplicationID();
-    runLoop.advance(60.0);
-    EXPECT_EQ(presenter.alerts.size(), 1U) << "one at a time";
+    expectCounts(2, 1);
     EXPECT_EQ(runLoop.activeTimers(), 0U);
 }
 
 TEST_F(AppRaterTest, AnAnswerAfterItIsGoneDoesNothing) {
     for (const bool isAsking : {false, true}) {
         rating.store.setStoreIdentifier(isAsking ? QStringLiteral("a") : QString());
-        auto gone = std::make_unique<AppRater>(AppRater::Services{rating.store,
-                                                                  runLoop,
-                                                                  presenter,
-                                                                  notices,
-                                                                  notifications,
-                                                                  formatHold,
-                                                                  rating.lockState,
-                                                                  {rating.catalogue, rating.urlOpener}});
+        auto gone = std::make_unique<AppRater>(rating.services);
         gone->setCovered(false);
         gone->getApplicationID();
         runLoop.advance(AppRater::kMoment);
