@@ -127,7 +127,7 @@ public:
     }
 
     Result<std::filesystem::path> moveToTrash(const std::filesystem::path& path) override {
-        return isThere ? moved(path, folder / path.filename()) : failure(QStringLiteral("no trash"));
+        return isThere ? moved(path, freePath(folder / path.filename())) : failure(QStringLiteral("no trash"));
     }
     Result<std::filesystem::path> putBack(const std::filesystem::path& trashed,
                                           const std::filesystem::path& path) override {

@@ -8,15 +8,15 @@
 
 namespace tavi::test {
 
-/// How many pixels differ visibly; both pictures have one size.
-inline int differences(const QImage& one, const QImage& other) {
+/// How many pixels differ by more than that in a colour; both pictures have one size.
+inline int differences(const QImage& one, const QImage& other, int visible = 64) {
     int count = 0;
     for (int i = 0; i < one.width() * one.height(); ++i) {
         const QRgb a = one.pixel(i % one.width(), i / one.width());
         const QRgb b = other.pixel(i % one.width(), i / one.width());
         const int far = std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
                                   std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))});
-        count += far > 64 ? 1 : 0;
+        count += far > visible ? 1 : 0;
     }
     return count;
 }

@@ -7,7 +7,7 @@
 #include "files/ConflictNames.h"
 #include "support/EventLoop.h"
 #include "support/FakeCloud.h"
-#include "support/FolderTrash.h"
+#include "support/Fakes.h"
 
 namespace tavi::test {
 namespace {
@@ -43,7 +43,7 @@ struct Folder {
     QTemporaryDir root;
     QtRunLoop runLoop;
     NotificationCenter notifications;
-    FolderTrash trash{root.path().toStdString() + "/trash"};
+    FakeTrash trash{root.path().toStdString() + "/trash"};
     FolderCloud cloud{{runLoop, notifications, trash, root.path().toStdString() + "/lock", QStringLiteral("desk")},
                       {root.path().toStdString(), QStringLiteral("account"), nullptr}};
 };

@@ -5,7 +5,7 @@
 
 #include "adapters/webdav/WebDavMirror.h"
 #include "support/EventLoop.h"
-#include "support/FolderTrash.h"
+#include "support/Fakes.h"
 #include "support/PrivateDav.h"
 
 namespace tavi::test {
@@ -61,7 +61,7 @@ struct Device {
 
     QTemporaryDir root;
     std::filesystem::path folder = root.path().toStdString() + "/documents";
-    FolderTrash trash{root.path().toStdString() + "/trash"};
+    FakeTrash trash{root.path().toStdString() + "/trash"};
     std::unique_ptr<SyncJournal> journal = std::move(*SyncJournal::open(root.path().toStdString() + "/journal"));
     DavClient client;
     SyncPass::States states;
