@@ -115,10 +115,6 @@ class PrivateDesktop:
 
         wait_for(answers, "the sound server")
 
-    def kill_sound(self):
-        """The sound server dies without a word."""
-        self.stop(self._sound, signal.SIGKILL)
-
     def kill_display(self):
         self.stop(self._display, signal.SIGKILL)
 

@@ -187,32 +187,6 @@ class Recording(AppTest):
         self.assertRegex(saved.name, "^Recovered_" + FILE_NAME[1:] + "m4a")
         self.assertGreater(tone_seconds(saved, 1000), 1.0)
 
-    def test_a_music_folder_that_goes_costs_nothing(self):
-        self.start("record")
-        self.play_while_recording()
-        aside = self.documents.rename(self.container / "aside")
-        self.documents.write_text("in the way")
-        self.tavi("stop")
-        self.wait(lambda: self.tavi("recover", check=False).returncode == 1, "the recording to be kept")
-        self.documents.unlink()
-        aside.rename(self.documents)
-        self.tavi("recover")
-        self.assert_holds_tone(self.wait_saved())
-
-    def test_a_sound_server_that_dies_leaves_a_playable_recording(self):
-        self.start("record")
-        self.play_while_recording()
-        self.desktop.kill_sound()
-        try:
-            saved = self.wait_saved()
-        finally:
-            self.desktop.start_sound()
-        self.assert_holds_tone(saved)
-        self.tavi("record")
-        self.play_while_recording()
-        self.tavi("stop")
-        self.assert_holds_tone(self.wait_saved(2))
-
 
 class Playing(AppTest):
     PLAYER = "org.mpris.MediaPlayer2.Player"

@@ -7,6 +7,7 @@
 #include <QVersionNumber>
 
 #include "Shell.h"
+#include "support/Pictures.h"
 #include "trimming/AudioTrim.h"
 
 namespace tavi::test {
@@ -279,16 +280,7 @@ void compareWithReference(const QImage& picture, const QString& name) {
         return;
     }
     const QImage seen = picture.scaled(kept.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    int unlike = 0;
-    for (int y = 0; y < kept.height(); ++y) {
-        for (int x = 0; x < kept.width(); ++x) {
-            const QColor one(kept.pixel(x, y));
-            const QColor other(seen.pixel(x, y));
-            unlike += std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
-                                std::abs(one.blue() - other.blue())}) > 48;
-        }
-    }
-    EXPECT_LE(unlike, kept.width() * kept.height() / 500) << qPrintable(name) << " looks otherwise";
+    EXPECT_LE(differences(kept, seen, 48), kept.width() * kept.height() / 500) << qPrintable(name);
 }
 
 /// With TAVI_PICTURES in the environment the pictures are saved there, to be looked at.

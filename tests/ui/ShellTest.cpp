@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <QDropEvent>
-#include <QMimeData>
 
 #include <QColor>
 #include <QDropEvent>
@@ -11,9 +9,7 @@
 #include <thread>
 
 #include "Shell.h"
-#include "support/FakeDisplayRefresh.h"
 #include "trimming/waves/BarsItem.h"
-#include "trimming/waves/EZAudioPlotItem.h"
 #include "trimming/waves/WaveViewItem.h"
 #include "ui/WindowPlace.h"
 
@@ -480,35 +476,6 @@ TEST(BarsItem, PaintsNewLevelsWholeWhateverChangesItsColourMeanwhile) {
     for (const auto& [place, green] : pixels) {
         EXPECT_NEAR(greenAt(place.x(), place.y()), green, 40) << place.x();
     }
-}
-
-TEST(EZAudioPlotItem, ShowsWhatItsPlotIsFedInItsOwnSize) {
-    FakeDisplayRefreshes refreshes;
-    const auto plot = EZAudioPlot::init(refreshes);
-    plot->setShouldOptimizeForRealtimePlot(false);
-    plot->setShouldFill(true);
-    plot->setShouldMirror(true);
-    plot->setBackgroundColor(QStringLiteral("#000000"));
-    QQuickWindow window;
-    window.resize(100, 100);
-    EZAudioPlotItem item(window.contentItem());
-    item.setPlot(plot.get());
-    item.setSize({80.0, 60.0});
-    window.show();
-    EXPECT_EQ(plot->bounds(), QRectF(0.0, 0.0, 80.0, 60.0));
-    const std::vector<float> samples(80, 0.5F);
-    const auto redAt = [&window](int x, int y) {
-        QCoreApplication::processEvents();
-        return window.grabWindow().pixelColor(x, y).red();
-    };
-    EXPECT_EQ(redAt(40, 20), 0);
-    plot->updateBuffer(samples.data(), 80);
-    for (const auto& [y, red] : {std::pair{10, 0}, {20, 255}, {40, 255}, {50, 0}}) {
-        EXPECT_EQ(redAt(40, y), red) << y;
-    }
-    item.setSize({80.0, 100.0});
-    EXPECT_EQ(redAt(40, 30), 255);
-    EXPECT_EQ(redAt(40, 20), 0);
 }
 
 TEST(WindowPlace, IsWhereItWasLeftAsFarAsTheScreensLetIt) {

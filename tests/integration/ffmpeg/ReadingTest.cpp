@@ -1,6 +1,5 @@
 #include <sys/stat.h>
 
-#include <QtEndian>
 #include <filesystem>
 #include <fstream>
 
@@ -152,31 +151,6 @@ TEST_F(ReadingTest, FilesOfOtherProgramsAreReadFromAnyFrame) {
         EXPECT_LT(errorOf(path, 0), foreign.more == 1261 ? 10 : -20);
         // What only libavformat knows is not asked for any more.
         EXPECT_TRUE(m_durations.durationOfFile(path, stopped.get_token()) == 0 || path.extension() != ".mp3");
-    }
-}
-
-TEST_F(ReadingTest, MoviesBeginAndEndWhereTheirEditsSay) {
-    for (const Type& type : {kTypes[0], kTypes[3]}) {
-        const QByteArray recording = contents(record(type, kQualities[2], tone(kStereo, kFrames, true)));
-        const qsizetype edit = recording.indexOf("elst") + 12;
-        for (const std::uint32_t start : {0U, 1U, 1024U, 2112U, 20000U}) {
-            for (const bool isShort : {false, true}) {
-                SCOPED_TRACE(testing::Message() << type.extension << " from " << start << " " << isShort);
-                QByteArray edited = recording;
-                qToBigEndian(start, edited.data() + edit + 4);
-                qToBigEndian(isShort ? 700U : qFromBigEndian<std::uint32_t>(edited.data() + edit),
-                             edited.data() + edit);
-                const auto path = file("edited", edited);
-                expectExactSeeks(path, type.packet == 1 ? 0 : 0.01F);
-                const auto own = readOn(open(path));
-                const auto other = decodeSound(path)->planes;
-                // Another decoder may play the last packet to its end.
-                ASSERT_LE(own[0].size(), other[0].size());
-                EXPECT_LT(other[0].size() - own[0].size(), static_cast<std::size_t>(type.packet));
-                EXPECT_LE(difference(own[0], 0, other[0], 0), 0.02);
-                EXPECT_LE(difference(own[1], 0, other[1], 0), 0.02);
-            }
-        }
     }
 }
 
