@@ -104,8 +104,13 @@ bool FXKeychain::setObject(const QVariant& value, const QString& key) {
     }
     const KeychainAttributes attributes{.valueData = std::move(*data),
                                         .accessible = static_cast<KeychainAccessibility>(m_accessibility)};
-    const KeychainStatus status =
-        dataForKey(key) ? m_keychain.update(query, attributes) : m_keychain.add(query, attributes);
+    KeychainStatus status = dataForKey(key) ? m_keychain.update(query, attributes) : m_keychain.add(query, attributes);
+    // A store that opens between the two calls, or another program, has made another of what was found.
+    if (status == KeychainStatus::DuplicateItem) {
+        status = m_keychain.update(query, attributes);
+    } else if (status == KeychainStatus::ItemNotFound) {
+        status = m_keychain.add(query, attributes);
+    }
     return status == KeychainStatus::Success;
 }
 

@@ -100,6 +100,30 @@ TEST_F(FXKeychainTest, HasNothingAndSaysWhyWhileTheStoreIsAway) {
     EXPECT_EQ(changes, 2);
 }
 
+/// A store that changes after each look at it.
+struct ChangingKeychain : FakeKeychain {
+    tl::expected<KeychainAttributes, KeychainStatus> fetch(const KeychainQuery& query) override {
+        auto found = FakeKeychain::fetch(query);
+        change();
+        return found;
+    }
+
+    std::function<void()> change;
+};
+
+TEST(FXKeychainInAChangingStore, LosesNoValue) {
+    ChangingKeychain store;
+    const FakePropertyLists lists;
+    FXKeychain keychain(store, lists);
+    for (const bool isOpening : {true, false}) {
+        store.items[FakeKeychain::keyOf({kKey, {}, {}})] = {"old"};
+        store.troubleText = isOpening ? QStringLiteral("locked") : QString();
+        store.change = [&] { isOpening ? store.troubleText.clear() : store.items.clear(); };
+        EXPECT_TRUE(keychain.setObject(QStringLiteral("new"), kKey));
+        EXPECT_EQ(store.items.first().valueData, "new");
+    }
+}
+
 TEST(FXKeychainDefault, IsOneForAllAndHoldsTheProgramsOwnItems) {
     FakeKeychain store;
     const FakePropertyLists lists;
