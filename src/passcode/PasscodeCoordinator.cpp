@@ -33,13 +33,17 @@ PasscodeCoordinator::~PasscodeCoordinator() {
     }
 }
 
-void PasscodeCoordinator::togglePasscodeProtection(bool on) {
-    m_store.setPasscodeProtectionOn(on);
+bool PasscodeCoordinator::togglePasscodeProtection(bool on) {
+    if (!m_store.setPasscodeProtectionOn(on)) {
+        tell(qtTrId("passcode_switch_not_stored"), qtTrId("passcode_settings_refused"));
+        return false;
+    }
     if (on) {
         activatePasscodeProtection();
     } else {
         deactivatePasscodeProtection();
     }
+    return true;
 }
 
 void PasscodeCoordinator::activatePasscodeProtection() {
@@ -143,11 +147,9 @@ void PasscodeCoordinator::changePasscodeWithCompletion(Completion completion) {
 
 void PasscodeCoordinator::disablePasscodeProtectionWithCompletion(Completion completion) {
     verifyPasscodeWithPasscodeType(PasscodeType::Verify, [this, completion = std::move(completion)](bool success) {
-        if (success) {
-            togglePasscodeProtection(false);
-        }
+        const bool isDone = success && togglePasscodeProtection(false);
         if (completion) {
-            completion(success);
+            completion(isDone);
         }
     });
 }
@@ -158,11 +160,11 @@ void PasscodeCoordinator::didVerifyPasscode() {
 }
 
 void PasscodeCoordinator::didSetupPasscode() {
-    togglePasscodeProtection(true);
-    complete(m_setupCompletedBlock, true);
+    const bool isOn = togglePasscodeProtection(true);
+    complete(m_setupCompletedBlock, isOn);
     dismissLockScreen();
-    if (const QString trouble = m_store.trouble(); !trouble.isEmpty()) {
-        m_services.presenter.presentAlert({qtTrId("passcode_not_stored"), trouble, {{qtTrId("OK")}}});
+    if (const QString trouble = m_store.trouble(); isOn && !trouble.isEmpty()) {
+        tell(qtTrId("passcode_not_stored"), trouble);
     }
 }
 
@@ -180,6 +182,10 @@ void PasscodeCoordinator::secureStoreTroubleChanged() {
     if (m_isPasscodePresented && m_passcodeWindow->rootViewController() != nullptr) {
         m_passcodeWindow->rootViewController()->troubleChanged();
     }
+}
+
+void PasscodeCoordinator::tell(const QString& title, const QString& message) {
+    m_services.presenter.presentAlert({title, message, {{qtTrId("OK")}}});
 }
 
 bool PasscodeCoordinator::isUnlocking() const {

@@ -60,7 +60,8 @@ public:
     PasscodeWindow* passcodeWindow() const { return m_passcodeWindow; }
 
     bool isPasscodeProtectionOn() const { return m_store.isPasscodeProtectionOn(); }
-    void togglePasscodeProtection(bool on);
+    /// False, with everything as before and an alert that says so, where the settings cannot be written.
+    bool togglePasscodeProtection(bool on);
     bool setPasscode(const QString& passcode) { return m_store.setPasscode(passcode); }
     bool isPasscodeCorrect(const QString& passcode) const { return m_store.isPasscodeCorrect(passcode); }
     void setPasscodeInactivityDurationInMinutes(int minutes) {
@@ -108,6 +109,7 @@ private:
     bool isUnlocking() const;
     void setCovered(bool covered);
     void updateLockState();
+    void tell(const QString& title, const QString& message);
 
     static PasscodeCoordinator* s_shared;
 

@@ -22,7 +22,8 @@ public:
         : m_settings(settings), m_keychain(keychain), m_clock(clock) {}
 
     bool isPasscodeProtectionOn() const { return m_settings.isPasscodeProtectionOn(); }
-    void setPasscodeProtectionOn(bool on) { m_settings.setPasscodeProtectionOn(on); }
+    /// False, with everything as before, where that cannot be written.
+    bool setPasscodeProtectionOn(bool on) { return m_settings.setPasscodeProtectionOn(on); }
 
     /// False where the passcode could not be stored.
     bool setPasscode(const QString& passcode);

@@ -109,8 +109,21 @@ bool SettingsStore::isPasscodeProtectionOn() const {
     return m_defaults.stringForKey(settingskey::kPasscodeProtectionEnabled) == QLatin1String("YES");
 }
 
-void SettingsStore::setPasscodeProtectionOn(bool on) {
-    write(settingskey::kPasscodeProtectionEnabled, on ? QStringLiteral("YES") : QStringLiteral("NO"));
+bool SettingsStore::setPasscodeProtectionOn(bool on) {
+    constexpr QLatin1String kKey = settingskey::kPasscodeProtectionEnabled;
+    const QVariant before = m_defaults.objectForKey(kKey);
+    const QString value = on ? QStringLiteral("YES") : QStringLiteral("NO");
+    m_defaults.setObject(value, kKey);
+    if (m_defaults.synchronize() || before.toString() == value) {
+        return true;
+    }
+    // Else it would hold until the end of the program, and not after it.
+    if (before.isValid()) {
+        m_defaults.setObject(before, kKey);
+    } else {
+        m_defaults.removeObjectForKey(kKey);
+    }
+    return false;
 }
 
 QString SettingsStore::microphone() const {

@@ -75,7 +75,8 @@ public:
 
     /// Whether the passcode lock is on: stored as "YES", and anything else is off.
     bool isPasscodeProtectionOn() const;
-    void setPasscodeProtectionOn(bool on);
+    /// False, with everything as before, where that cannot be written.
+    bool setPasscodeProtectionOn(bool on);
 
     /// The microphone that the user has chosen, by the sound system's name for it and by what people call it; empty
     /// for the system's default.

@@ -1204,6 +1204,14 @@
         <source></source>
         <translation>Ihr Code ist noch nicht gespeichert</translation>
     </message>
+    <message id="passcode_switch_not_stored">
+        <source></source>
+        <translation>Die Code-Sperre bleibt, wie sie war</translation>
+    </message>
+    <message id="passcode_settings_refused">
+        <source></source>
+        <translation>Die Einstellungen können nicht geschrieben werden. Bitte prüfen, ob der Datenträger voll ist und ob Sie in ihren Ordner schreiben dürfen.</translation>
+    </message>
     <!-- The store of the passcode -->
     <message id="error_keychain_waiting">
         <source></source>

@@ -1203,6 +1203,14 @@
         <source></source>
         <translation>Your passcode is not stored yet</translation>
     </message>
+    <message id="passcode_switch_not_stored">
+        <source></source>
+        <translation>The passcode lock stays as it was</translation>
+    </message>
+    <message id="passcode_settings_refused">
+        <source></source>
+        <translation>The settings cannot be written. Look whether the disk is full, and whether you may write to their folder.</translation>
+    </message>
     <!-- The store of the passcode -->
     <message id="error_keychain_waiting">
         <source></source>

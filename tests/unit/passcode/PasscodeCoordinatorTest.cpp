@@ -150,16 +150,19 @@ TEST_F(PasscodeCoordinatorTest, WorkflowsTellHowTheyEndAndTheBackgroundEndsThemU
     const auto change = [this] { coordinator.changePasscodeWithCompletion(completion()); };
     const auto disable = [this] { coordinator.disablePasscodeProtectionWithCompletion(completion()); };
     const auto cancel = [this] { screen().cancelPressed(); };
+    const auto fill = [this] { defaults.canWrite = false; };
     const struct {
         const char* name;
         std::vector<std::function<void()>> steps;
-        /// What was told, what is shown, the passcode, and whether the protection is on.
+        /// What was told, with "!" for an alert, what is shown, the passcode, and whether the protection is on.
         const char* expected;
     } cases[] = {
         {"set-up, cancelled", {setup, cancel}, "N - 1234 on"},
         {"set-up, cancelled before its end", {setup, [this] { type("5678"); }, cancel}, "N - 1234 on"},
         {"change, cancelled", {change, [this] { type("1234"); }, cancel}, "N - 1234 on"},
         {"change, left", {change, [this] { leave(); }, [this] { comeBack(); }}, "+ 0 1234 on"},
+        {"off, on a full disk", {fill, disable, [this] { type("1234"); }}, "N! - 1234 on"},
+        {"change, on a full disk", {fill, change, [this] { type("1234"), type("1234"), type("1234"); }}, "Y - 1234 on"},
         {"changed", {change, [this] { type("1234"), type("5678"), type("5678"); }}, "Y - 5678 on"},
         {"off, wrong", {disable, [this] { type("1111"); }}, " 1 5678 on"},
         {"off, wrong, cancelled", {disable, [this] { type("1111"); }, cancel}, "N - 5678 on"},
@@ -169,6 +172,7 @@ TEST_F(PasscodeCoordinatorTest, WorkflowsTellHowTheyEndAndTheBackgroundEndsThemU
          "+-Y - 5678 off"},
         {"off", {disable, [this] { type("5678"); }}, "Y - 5678 off"},
         {"left while off", {[this] { leave(), comeBack(); }}, " - 5678 off"},
+        {"set-up, on a full disk", {fill, setup, [this] { type("5678"), type("5678"); }}, "N! - 5678 off"},
         {"set-up, left while off", {setup, [this] { leave(), comeBack(); }}, " 2 5678 off"},
     };
     type("1234");
@@ -177,6 +181,8 @@ TEST_F(PasscodeCoordinatorTest, WorkflowsTellHowTheyEndAndTheBackgroundEndsThemU
         for (const auto& step : row.steps) {
             step();
         }
+        told.append(std::exchange(presenter.alerts, {}).size(), '!');
+        defaults.canWrite = true;
         const std::string state = shown();
         EXPECT_EQ(
             told + " " + state + " " + stored("PasscodeKey") + (settings.isPasscodeProtectionOn() ? " on" : " off"),
