@@ -37,6 +37,12 @@ QList<double> shakeOffsets() {
     return offsets;
 }
 
+/// Leaves nothing of it in memory.
+void forget(QString& digits) {
+    digits.fill(QLatin1Char('0'));
+    digits.clear();
+}
+
 PasscodeCircularView& dotAt(const QObjectList& dots, qsizetype index) {
     return *static_cast<PasscodeCircularView*>(dots.at(index));
 }
@@ -46,6 +52,11 @@ PasscodeCircularView& dotAt(const QObjectList& dots, qsizetype index) {
 PasscodeViewController::PasscodeViewController(PasscodeType type, PasscodeViewControllerDelegate& delegate,
                                                const Services& services, QObject* parent)
     : QObject(parent), m_passcodeType(type), m_delegate(delegate), m_services(services) {}
+
+PasscodeViewController::~PasscodeViewController() {
+    forget(m_passcodeEntered);
+    forget(m_passcodeFirstEntry);
+}
 
 void PasscodeViewController::setTablet(bool isTablet) {
     if (std::exchange(m_isTablet, isTablet) != isTablet) {
@@ -137,7 +148,8 @@ void PasscodeViewController::resetPasscodeEntryView() {
     for (qsizetype i = 0; i < m_passcodeEntryViews.size(); ++i) {
         dotAt(m_passcodeEntryViews, i).clear();
     }
-    m_passcodeEntered.clear();
+    forget(m_passcodeEntered);
+    m_passcodeEntered.reserve(kDigits);
     m_numberOfDigitsEntered = 0;
 }
 
@@ -145,7 +157,7 @@ void PasscodeViewController::passcodeBtnPressed(int tag) {
     if (m_numberOfDigitsEntered == kDigits) {
         return;
     }
-    m_passcodeEntered += QString::number(tag);
+    m_passcodeEntered += QLatin1Char(static_cast<char>('0' + tag));
     dotAt(m_passcodeEntryViews, m_numberOfDigitsEntered).fill();
     ++m_numberOfDigitsEntered;
     if (m_numberOfDigitsEntered == 1) {
@@ -169,8 +181,8 @@ void PasscodeViewController::cancelOrDeleteBtnPressed() {
     if (m_cancelOrDeleteTag != TagDelete || m_numberOfDigitsEntered == 0) {
         return;
     }
-    dotAt(m_passcodeEntryViews, m_passcodeEntered.size() - 1).clear();
     --m_numberOfDigitsEntered;
+    dotAt(m_passcodeEntryViews, m_numberOfDigitsEntered).clear();
     m_passcodeEntered.chop(1);
     if (m_numberOfDigitsEntered == 0) {
         m_isCancelOrDeleteHidden = true;
@@ -200,11 +212,14 @@ void PasscodeViewController::cancelPressed() {
 }
 
 void PasscodeViewController::evaluatePasscodeEntry() {
+    // What has been judged is of no use any more, though the screen may stay.
+    QString entry = std::exchange(m_passcodeEntered, {});
     if (m_passcodeType == PasscodeType::Setup) {
-        evaluateNew(m_passcodeEntered);
+        evaluateNew(entry);
     } else {
-        evaluateExisting(m_passcodeEntered);
+        evaluateExisting(entry);
     }
+    forget(entry);
 }
 
 void PasscodeViewController::evaluateExisting(const QString& entry) {
@@ -219,12 +234,16 @@ void PasscodeViewController::evaluateExisting(const QString& entry) {
     }
 }
 
-void PasscodeViewController::evaluateNew(const QString& entry) {
+void PasscodeViewController::evaluateNew(QString& entry) {
     if (m_currentWorkflowStep == kFirstEntry) {
-        m_passcodeFirstEntry = entry;
+        m_passcodeFirstEntry.swap(entry);
         m_currentWorkflowStep = kConfirmation;
         updateLayoutBasedOnWorkflowStep();
-    } else if (entry == m_passcodeFirstEntry) {
+        return;
+    }
+    const bool isRepeated = entry == m_passcodeFirstEntry;
+    forget(m_passcodeFirstEntry);
+    if (isRepeated) {
         // Whether it could be stored changes nothing here: the store keeps it until it can.
         m_services.store.setPasscode(entry);
         m_delegate.didSetupPasscode();

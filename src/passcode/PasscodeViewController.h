@@ -47,6 +47,7 @@ public:
 
     PasscodeViewController(PasscodeType type, PasscodeViewControllerDelegate& delegate, const Services& services,
                            QObject* parent = nullptr);
+    ~PasscodeViewController() override;
 
     /// A Change becomes a Setup once the old passcode was correct.
     PasscodeType passcodeType() const { return m_passcodeType; }
@@ -111,7 +112,7 @@ private:
     void resetPasscodeEntryView();
     void evaluatePasscodeEntry();
     void evaluateExisting(const QString& entry);
-    void evaluateNew(const QString& entry);
+    void evaluateNew(QString& entry);
     void startOver(PasscodeType type);
     void performErrorWithErrorType(int errorType);
     void performShake();
