@@ -12,7 +12,7 @@ Window {
 
     required property AudioRecordVC recording
     required property VoiceMemoVC library
-    required property RecordingImport imports
+    required property ApplicationDelegateGuard opener
     required property SettingVC settings
     required property TabBarController tabBar
     required property AlertPresenter presenter
@@ -262,9 +262,8 @@ Window {
 
         ImportDrop {
             anchors.fill: parent
-            imports: window.imports
             enabled: !window.covered
-            onTaken: window.tabBar.select(1)
+            onTaken: urls => window.opener.openUrls(urls)
         }
 
         TrimmerOverlay {
@@ -347,5 +346,11 @@ Window {
         coordinator: window.passcode
         front: [overlay, hud, saving].find(layer => layer.active)
                ?? [shortcuts, audioTrim, trimmer].find(layer => layer.shown) ?? null
+
+        // What is dropped here waits until the lock is open.
+        ImportDrop {
+            anchors.fill: parent
+            onTaken: urls => window.opener.openUrls(urls)
+        }
     }
 }

@@ -249,7 +249,7 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
     const QRect place = WindowPlace(screens.platform.settings.standard).place(free);
     engine.setInitialProperties({{QStringLiteral("recording"), QVariant::fromValue(&screens.recording)},
                                  {QStringLiteral("library"), QVariant::fromValue(&screens.library)},
-                                 {QStringLiteral("imports"), QVariant::fromValue(&screens.imports)},
+                                 {QStringLiteral("opener"), QVariant::fromValue(&screens.guardedDelegate)},
                                  {QStringLiteral("settings"), QVariant::fromValue(&screens.settings)},
                                  {QStringLiteral("tabBar"), QVariant::fromValue(&screens.platform.tabBar)},
                                  {QStringLiteral("presenter"), QVariant::fromValue(&screens.platform.presenter)},

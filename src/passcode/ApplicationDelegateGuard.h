@@ -12,6 +12,8 @@ namespace tavi {
 /// Hands everything on, but what is to be opened while the program is locked: files and the library wait until it is
 /// unlocked. Recording starts and stops at once, as companions must work. Main thread only.
 class ApplicationDelegateGuard final : public QObject, public ApplicationDelegate {
+    Q_OBJECT
+
 public:
     /// Both outlive this.
     ApplicationDelegateGuard(ApplicationDelegate& delegate, const LockState& lockState)
@@ -34,6 +36,14 @@ public:
     void applicationPerformActionForShortcutItem(const ShortcutItem& item,
                                                  std::function<void(bool)> completionHandler) override {
         m_delegate.applicationPerformActionForShortcutItem(item, std::move(completionHandler));
+    }
+
+public Q_SLOTS:
+    /// Files that were dropped on the window.
+    void openUrls(const QList<QUrl>& urls) {
+        for (const QUrl& url : urls) {
+            applicationOpenURL(url);
+        }
     }
 
 private:

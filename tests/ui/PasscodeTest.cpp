@@ -1,5 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <QDir>
+#include <QFile>
+#include <QMimeData>
+
 #include "Shell.h"
 #include "platform/Application.h"
 
@@ -154,6 +158,32 @@ TEST_F(Passcode, NothingBelowIsSeenHeardOrOperatedAndAllOfItComesBack) {
     EXPECT_TRUE(shell.words().contains("Secret"));
     shell.key(Qt::Key_Return);
     EXPECT_FALSE(shell.presenter.isActive());
+}
+
+TEST_F(Passcode, WhatIsDroppedOnTheCoverComesInAfterwards) {
+    arm();
+    const auto drop = [this] {
+        const QDir folder(QString::fromStdString(shell.container.root()));
+        QFile file(folder.filePath(QStringLiteral("dropped.wav")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("sound") == 5);
+        QMimeData mime;
+        mime.setUrls({QUrl::fromLocalFile(file.fileName())});
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shell.window, &enter);
+        QDropEvent event({9, 9}, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shell.window, &event);
+        shell.runLoop.drain();
+        shell.settle();
+        return std::filesystem::exists(shell.container.documentsPath() / "dropped.wav");
+    };
+    EXPECT_TRUE(drop());
+    EXPECT_TRUE(std::filesystem::remove(shell.container.documentsPath() / "dropped.wav"));
+    shell.tabBar.setSelectedIndex(0);
+    lock();
+    EXPECT_FALSE(drop());
+    type("1234");
+    EXPECT_TRUE(std::filesystem::exists(shell.container.documentsPath() / "dropped.wav"));
+    EXPECT_EQ(shell.tabBar.selectedIndex(), 1);
 }
 
 TEST_F(Passcode, FitsTheLeastWindow) {

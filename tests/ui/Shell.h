@@ -17,6 +17,7 @@
 #include "app/AppDelegate.h"
 #include "app/SettingVC.h"
 #include "library/RecordingImport.h"
+#include "passcode/ApplicationDelegateGuard.h"
 #include "platform/LockState.h"
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
@@ -195,6 +196,21 @@ struct ShellScreens : FakeServices {
                          .tabBar = tabBar,
                          .support = supportRows,
                          .passcode = passcode}};
+    FakeApplication application;
+    FakeIdleTimer idleTimer;
+    AppDelegate delegate{{.application = application,
+                          .idleTimer = idleTimer,
+                          .settings = settings,
+                          .sharedDefaults = defaults,
+                          .container = container,
+                          .audioSession = session,
+                          .tabBar = tabBar,
+                          .objrecordVC = recording,
+                          .imports = imports,
+                          .hudView = hudView,
+                          .appRater = rating.rater,
+                          .passcode = passcode}};
+    ApplicationDelegateGuard opener{delegate, lockState};
 };
 
 /// The program's window with its screens.
@@ -213,7 +229,7 @@ public:
             "Theme.fade = 0 }",
             {{QStringLiteral("recording"), QVariant::fromValue(&recording)},
              {QStringLiteral("library"), QVariant::fromValue(&library)},
-             {QStringLiteral("imports"), QVariant::fromValue(&imports)},
+             {QStringLiteral("opener"), QVariant::fromValue(&opener)},
              {QStringLiteral("settings"), QVariant::fromValue(&settingVC)},
              {QStringLiteral("tabBar"), QVariant::fromValue(&tabBar)},
              {QStringLiteral("presenter"), QVariant::fromValue(&presenter)},

@@ -1,15 +1,13 @@
 import QtQuick
-import Tavi.Library
 import Tavi.Ui
 
-/// Imports the files that are dropped on the window. It offers to copy and nothing else, so that nobody takes a file away
+/// Takes the files that are dropped on the window. It offers to copy and nothing else, so that nobody takes a file away
 /// after the drop. What is dragged out of the window itself stays a recording.
 DropArea {
     id: root
 
-    required property RecordingImport imports
     /// Files have been dropped.
-    signal taken
+    signal taken(var urls)
 
     keys: ["text/uri-list"]
     onEntered: drag => {
@@ -20,8 +18,7 @@ DropArea {
     }
     onDropped: drop => {
         drop.accept(Qt.CopyAction)
-        imports.importFiles(drop.urls)
-        taken()
+        taken(drop.urls)
     }
 
     Rectangle {

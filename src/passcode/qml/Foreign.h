@@ -2,10 +2,18 @@
 
 #include <QtQml/qqml.h>
 
+#include "passcode/ApplicationDelegateGuard.h"
 #include "passcode/PasscodeCircularButton.h"
 #include "passcode/PasscodeCoordinator.h"
 
 namespace tavi {
+
+struct ApplicationDelegateGuardForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::ApplicationDelegateGuard)
+    QML_NAMED_ELEMENT(ApplicationDelegateGuard)
+    QML_UNCREATABLE("The program has one.")
+};
 
 struct PasscodeCoordinatorForeign {
     Q_GADGET
