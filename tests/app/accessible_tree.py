@@ -1,11 +1,16 @@
 """What a screen reader finds in a program: accessible_tree.py NAME prints its tree, a line an object, without what does not show;
-accessible_tree.py NAME --listen prints what the program announces. For Debian's own python3, which has pyatspi."""
+accessible_tree.py NAME --listen prints what the program announces; with --keep it keeps hold of all objects, seen or not, and for each
+line of its input prints what they, and those that are there now, say and offer: a word a line, then an empty one. For Debian's own
+python3, which has pyatspi."""
 
 import sys
 import time
 
+import gi
 import pyatspi
-from gi.repository import GLib
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
 
 TOLD = {pyatspi.STATE_CHECKED: "checked", pyatspi.STATE_SELECTED: "selected", pyatspi.STATE_FOCUSED: "focused"}
 
@@ -48,7 +53,41 @@ def show(one, depth):
             raise
 
 
-if "--listen" in sys.argv:
+def walk(one):
+    try:
+        yield one
+        for child in one:
+            if child:
+                yield from walk(child)
+    except GLib.GError:
+        pass
+
+
+def words(one):
+    """All that an object says and offers, whether it is seen or not."""
+    try:
+        yield from (one.name, one.description)
+        interfaces = one.get_interfaces()
+        if "Text" in interfaces:
+            yield one.queryText().getText(0, -1)
+        if "Value" in interfaces and one.queryValue().maximumValue:
+            yield f"{one.queryValue().currentValue:g} of {one.queryValue().maximumValue:g}"
+        if "Action" in interfaces:
+            yield from (one.queryAction().getName(i) for i in range(one.queryAction().nActions))
+        yield from (told for state, told in TOLD.items() if one.getState().contains(state))
+    except GLib.GError:
+        pass
+
+
+if "--keep" in sys.argv:
+    tavi = application(sys.argv[1])
+    tavi.set_cache_mask(Atspi.Cache.NONE)
+    kept = list(walk(tavi))
+    print(len(kept), flush=True)
+    for _ in sys.stdin:
+        said = {word for one in [*kept, *walk(tavi)] for word in words(one)} - {""}
+        print(*sorted(said), "", sep="\n", flush=True)
+elif "--listen" in sys.argv:
     pyatspi.Registry.registerEventListener(lambda event: print(event.any_data, flush=True), "object:announcement")
     print("listening", flush=True)
     pyatspi.Registry.start()

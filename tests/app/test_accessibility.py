@@ -31,6 +31,13 @@ class ReaderTest(test_app.AppTest):
         done = self.desktop.run("/usr/bin/python3", "-B", FOLDER / "accessible_tree.py", "tavi")
         return DATES.sub("DATE", done.stdout)
 
+    def listen(self):
+        """A file that what is announced from now on is written to, a line each."""
+        said = self.container.with_suffix(".said")
+        self.desktop.spawn("/usr/bin/python3", "-B", FOLDER / "accessible_tree.py", "tavi", "--listen", log=said)
+        self.wait(lambda: "listening" in said.read_text(), "the listener")
+        return said
+
     def expect_tree(self, name):
         path = FOLDER / f"trees/{name}.txt"
         if os.environ.get("TAVI_RENEW_TREES"):
@@ -78,11 +85,9 @@ class Reading(ReaderTest):
         self.assertEqual(talk.read_bytes(), sound)
 
     def test_what_is_announced(self):
-        said = self.container.with_suffix(".said")
-        self.desktop.spawn("/usr/bin/python3", "-B", FOLDER / "accessible_tree.py", "tavi", "--listen", log=said)
         self.start()
         self.tree()
-        self.wait(lambda: "listening" in said.read_text(), "the listener")
+        said = self.listen()
         self.tavi("record")
         self.wait_capturing(True)
         self.desktop.keys("space")

@@ -102,6 +102,71 @@ class Lock(test_accessibility.ReaderTest):
         self.start()
         self.wait_for_words("push button 'Record'")
 
+    def test_no_object_says_anything_while_locked(self):
+        self.documents.mkdir(parents=True)
+        write_tone(self.documents / "Secret.wav", 1000, 1.0)
+        self.start()
+        self.set_up("2580")
+        for says, *keys in (("'Secret.wav'", "ctrl+2"), ("'Pause'", "Down", "Return"), ("'Trim'", "t")):
+            self.desktop.keys(*keys)
+            self.wait_for_words(says)
+        reader = self.desktop.spawn("/usr/bin/python3", "-B", test_accessibility.FOLDER / "accessible_tree.py", "tavi", "--keep",
+                                    stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.addCleanup(reader.stdin.close)
+        self.addCleanup(reader.stdout.close)
+        reader.stdout.readline()
+
+        def said():
+            print(file=reader.stdin, flush=True)
+            return {line.strip() for line in iter(reader.stdout.readline, "\n")}
+
+        self.assertTrue(said() > {"Secret.wav", "Trim", "Press"})
+        # The program, its window, the cover and its place to drop files. What has a value offers to change it, and does not do so.
+        expected = {"tavi", test_app.PROGRAM, "Voice Recorder", "Locked", "Drop sound files here to import them",
+                    "Increase", "Decrease", "SetFocus"}
+        for method, tree, more in (("Lock", "covered", ()),
+                                   ("Unlock", "locked", ("Enter your passcode", "0 of 4 digits entered", "Press", "focused",
+                                                         *"0123456789"))):
+            self.session(method)
+            self.expect_tree(tree)
+            self.assertEqual(said(), expected.union(more))
+
+    def test_a_keyring_that_asks_for_its_password_locks_nobody_out(self):
+        home = self.desktop.folder / "keyring"
+        home.mkdir(mode=0o700)
+        keyring = ("gnome-keyring-daemon", "--foreground", "--components=secrets", f"--control-directory={home}", "--unlock")
+        daemon = self.desktop.spawn(*keyring, stdin=subprocess.PIPE, env=self.desktop.environment | {"HOME": str(home)})
+        self.addCleanup(self.desktop.stop, daemon)
+        daemon.stdin.write(b"word")
+        daemon.stdin.close()
+        self.wait(lambda: "org.freedesktop.secrets" in self.bus_names(), "the keyring")
+        app = self.start()
+        self.set_up("2580")
+        self.desktop.stop(app)
+        self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path", "/org/freedesktop/secrets",
+                         "--method", "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']")
+
+        app = self.start()
+        locked = "which holds the passcode, is locked"
+        self.wait_for_words(locked)
+        self.type("2580")
+        self.wait_for_words("0 of 4")
+        self.wait_for_words(locked)
+
+        prompter = self.desktop.spawn("/usr/libexec/gcr-prompter", log=self.desktop.folder / "prompter.log")
+        self.addCleanup(self.desktop.stop, prompter)
+        self.wait(lambda: "org.gnome.keyring.SystemPrompter" in self.bus_names(), "who asks")
+        for answer, after in ((("Escape",), locked), ((*"word", "Return"), "0 of 4")):
+            self.desktop.window(app)
+            self.type("2580")
+            self.wait_for_words("may be asking for the password of its keyring")
+            self.desktop.window(prompter)
+            self.desktop.keys(*answer)
+            self.wait_for_words(after)
+        self.wait(lambda: "keyring" not in self.tree(), "the trouble to go")
+        self.desktop.window(app)
+        self.unlock("2580")
+
     def on_terminal(self, typed, *arguments):
         """The exit code of a command on a terminal of its own, and what that shows."""
         process, terminal = pty.fork()
@@ -143,11 +208,18 @@ class Lock(test_accessibility.ReaderTest):
         for arguments in (("list",), ("get", "Sort"), ("set", "Sort", "2"), ("waveform", secret), ("library",), ("recover",)):
             self.assert_fails("locked", *arguments, status=3)
         self.tavi("waveform", self.tone)
-        self.tavi(self.tone)
+        shown = self.desktop.picture()
+        said = self.listen()
         self.tavi("record")
         self.play_while_recording()
         self.tavi("stop")
-        self.wait_saved(2)
+        saved = self.wait_saved(2)
+        self.assertEqual(self.desktop.picture(), shown)
+        self.session("Unlock")
+        self.unlock("2580")
+        self.wait(lambda: said.read_text() == f"listening\nSaved as {saved.name}\n", "the notice that waited, and nothing else")
+        self.session("Lock")
+        self.tavi(self.tone)
         self.session("Unlock")
         self.unlock("2580")
         self.wait(lambda: (self.documents / "tone.wav").exists(), "the file that waited")
