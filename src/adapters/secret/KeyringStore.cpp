@@ -12,6 +12,9 @@ namespace {
 constexpr auto kService = "org.freedesktop.secrets";
 constexpr auto kServicePath = "/org/freedesktop/secrets";
 constexpr int kPatience = 3000;
+/// How often, and how many microseconds apart, it is looked whether a bus that has ended was let go.
+constexpr int kBusLooks = 50;
+constexpr gulong kBusPause = 10'000;
 constexpr auto kAccessible = "accessible";
 /// What the desktop's own programs show of an item. It says nothing about what is in it.
 constexpr auto kLabel = "Tavi";
@@ -52,6 +55,12 @@ GlibHandle<SecretValue> valueOf(const QByteArray& bytes) {
 
 QByteArray accessibleOf(const KeychainAttributes& attributes) {
     return QByteArray::number(static_cast<int>(attributes.accessible));
+}
+
+/// The library hands out a bus that has ended until the last part of the process has let it go.
+bool isClosedBusKept(GCancellable* cancellable) {
+    const GlibHandle<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr));
+    return bus && g_dbus_connection_is_closed(bus.get()) != FALSE;
 }
 
 SecretItem* firstOf(GList* items) {
@@ -97,6 +106,11 @@ StoreAnswer KeyringStore::ping() {
 
 StoreAnswer KeyringStore::open() {
     m_service.reset();
+    for (int look = 0; look < kBusLooks && isClosedBusKept(m_cancellable.get()); ++look) {
+        while (g_main_context_iteration(m_context.get(), FALSE) != FALSE) {
+        }
+        g_usleep(kBusPause);
+    }
     if (StoreAnswer answer = ping(); answer.status != KeychainStatus::Success) {
         return answer;
     }

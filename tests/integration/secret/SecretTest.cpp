@@ -198,7 +198,7 @@ TEST_F(Keyring, IsMissedRatherThanReplaced) {
 
 TEST_F(Keyring, MayTakeItsTimeWhileTheProgramGoesOn) {
     ASSERT_EQ(start().add(kQuery, kOld), Status::Success);
-    ASSERT_EQ(start(50).fetch(kQuery), kOld);
+    start(50);
     int changes = 0;
     m_keychain->setTroubleHandler([&changes] { ++changes; });
     m_keyring.setHanging(true);
