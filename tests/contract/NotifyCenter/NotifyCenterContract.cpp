@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <QDBusMessage>
+
 #include "adapters/dbus/DBusNotifyCenter.h"
 #include "support/EventLoop.h"
 #include "support/FakeChannel.h"
@@ -15,6 +17,8 @@ struct Centers {
     virtual ~Centers() = default;
     virtual NotifyCenter& here() = 0;
     virtual NotifyCenter& there() = 0;
+    /// Returns once what is wanted here is known to what connects the two.
+    virtual void settle() {}
 };
 
 struct FakeCenters : Centers {
@@ -26,8 +30,14 @@ struct FakeCenters : Centers {
 struct BusCenters : Centers {
     NotifyCenter& here() override { return m_here; }
     NotifyCenter& there() override { return m_there; }
+    void settle() override {
+        m_hereBus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+                                                      QStringLiteral("org.freedesktop.DBus.Peer"),
+                                                      QStringLiteral("Ping")));
+    }
     PrivateBus m_bus;
-    DBusNotifyCenter m_here{m_bus.connect()};
+    QDBusConnection m_hereBus = m_bus.connect();
+    DBusNotifyCenter m_here{m_hereBus};
     DBusNotifyCenter m_there{m_bus.connect()};
 };
 
@@ -56,6 +66,7 @@ TEST_P(NotifyCenterContract, TellsWhoObservesANameAndNobodyElse) {
     here.addObserver(&two, QStringLiteral("Last"), into(others));
     here.removeObserver(&one, QStringLiteral("Stop"));
     here.removeObserver(&one, QStringLiteral("never there"));
+    centers->settle();
     NotifyCenter& there = centers->there();
     there.postNotification(QStringLiteral("Record"));
     there.postNotification(QStringLiteral("record"));
