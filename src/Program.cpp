@@ -56,6 +56,7 @@ struct Screens {
     explicit Screens(Platform& services) : platform(services) {
         QObject::connect(&keychain, &FXKeychain::troubleChanged, &passcode,
                          &PasscodeCoordinator::secureStoreTroubleChanged);
+        QObject::connect(&keychain, &FXKeychain::troubleChanged, &cloud, &Cloud::keychainChanged);
         // Nothing is spoken that cannot be seen.
         platform.announcements.follow(platform.noticeLine, &NoticeLine::noticeChanged, [this] {
             return platform.lockState.isLocked() ? QString() : platform.noticeLine.text();
@@ -74,9 +75,13 @@ struct Screens {
     Platform& platform;
     EZAudioFile::Services waveformServices{
         .files = platform.media, .converters = platform.media, .queues = platform.runLoop};
-    Cloud cloud{platform.container, platform.settings.standard, platform.runLoop, platform.notifications,
-                platform.keychain};
-    RecordingCloud recordingCloud{{.documents = cloud.documents,
+    Cloud cloud{{.container = platform.container,
+                 .defaults = platform.settings.standard,
+                 .settings = platform.settings.store,
+                 .runLoop = platform.runLoop,
+                 .notifications = platform.notifications,
+                 .keychain = platform.keychain}};
+    RecordingCloud recordingCloud{{.documents = cloud.documents(),
                                    .settings = platform.settings.store,
                                    .presenter = platform.presenter,
                                    .runLoop = platform.runLoop}};
@@ -150,10 +155,10 @@ struct Screens {
                                .presenter = platform.presenter,
                                .notices = platform.notices,
                                .runLoop = platform.runLoop,
-                               .cloud = cloud.documents}};
+                               .cloud = cloud.documents()}};
     RecordingActions actions{{.table = table,
                               .settings = platform.settings.store,
-                              .cloud = cloud.documents,
+                              .cloud = cloud.documents(),
                               .sharing = sharing,
                               .trash = platform.trash,
                               .trimmers = trimmers,
@@ -165,7 +170,7 @@ struct Screens {
                          .notifications = platform.notifications,
                          .remoteControl = platform.remoteControl,
                          .notices = platform.notices,
-                         .cloud = cloud.documents},
+                         .cloud = cloud.documents()},
                         table,
                         player,
                         actions};
@@ -203,7 +208,7 @@ struct Screens {
                              .notices = platform.notices,
                              .presenter = platform.presenter,
                              .settings = platform.settings.store,
-                             .cloud = cloud.documents}};
+                             .cloud = cloud.documents()}};
     AppDelegate delegate{{.application = platform.application,
                           .idleTimer = platform.idleTimer,
                           .settings = platform.settings.store,

@@ -6,7 +6,8 @@
 #include <iostream>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
-#include "Cloud.h"
+#include "CloudCommands.h"
+#include "CloudPlace.h"
 #include "Output.h"
 #include "Program.h"
 #include "SettingsFiles.h"
@@ -116,11 +117,17 @@ CloudCommands cloudCommands(const std::function<SystemKeychain()>& keychain, con
                     SystemKeychain secrets = keychain();
                     return prepareCloud(account, password, container, secrets);
                 },
-            .sync =
-                [keychain, &container](const CloudAccount& account) {
+            .forget =
+                [keychain](const CloudAccount& account) {
                     SystemKeychain secrets = keychain();
-                    return syncCloud(account, container, secrets);
+                    removePassword(account, secrets);
                 },
+            .sync =
+                [keychain, &container](const CloudAccount& account, std::optional<bool> areVanishedRemoved) {
+                    SystemKeychain secrets = keychain();
+                    return syncCloud(account, areVanishedRemoved, container, secrets);
+                },
+            .look = [&container](const CloudAccount& account) { return lookAtCloud(account, container); },
             .askForPassword =
                 [] {
                     const auto typed = askOnTerminal(QStringLiteral("Password: "));

@@ -1,6 +1,6 @@
 # The program.
 qt_add_executable(tavi
-  Cloud.cpp Cloud.h DisplayGuard.cpp DisplayGuard.h LastMoment.cpp LastMoment.h Output.cpp Output.h
+  Cloud.cpp Cloud.h CloudCommands.cpp CloudCommands.h CloudPlace.cpp CloudPlace.h DisplayGuard.cpp DisplayGuard.h LastMoment.cpp LastMoment.h Output.cpp Output.h
   Platform.cpp Platform.h Program.cpp Program.h Screens.h SettingsFiles.h Terminal.cpp Terminal.h main.cpp)
 target_compile_definitions(tavi PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS TAVI_VERSION="${PROJECT_VERSION}")
 target_link_libraries(tavi PRIVATE

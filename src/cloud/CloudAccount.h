@@ -28,6 +28,8 @@ struct CloudAccount {
     bool isInClear() const;
     /// Says which account it is; empty for none.
     QString token() const;
+
+    bool operator==(const CloudAccount&) const = default;
     /// As people read it.
     QString placeText() const;
 };

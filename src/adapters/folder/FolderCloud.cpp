@@ -40,11 +40,11 @@ Result<void> moveWithoutReplacing(const std::filesystem::path& from, const std::
 
 /// A removal that nobody notes would be undone by what the server still has.
 Result<void> mirrorMissing() {
-    return failure(QStringLiteral("The server cannot be told now."));
+    return failure(qtTrId("error_cloud_untold"));
 }
 
 Result<void> notOurs() {
-    return failure(QStringLiteral("The file is kept by another program."));
+    return failure(qtTrId("error_cloud_foreign"));
 }
 
 }  // namespace
@@ -65,6 +65,9 @@ FolderCloud::~FolderCloud() {
 }
 
 void FolderCloud::setPlace(const Place& place) {
+    if (m_place.token == place.token && m_place.mirror == place.mirror && m_place.container == place.container) {
+        return;
+    }
     if (m_place.mirror != nullptr) {
         m_place.mirror->setObserver(nullptr);
     }
@@ -73,9 +76,12 @@ void FolderCloud::setPlace(const Place& place) {
         const std::lock_guard lock(m_placeMutex);
         m_place = place;
     }
+    if (isOther) {
+        m_items.clear();
+        m_contents.clear();
+    }
+    // So that a new mirror hears of what is there.
     m_listing.clear();
-    m_items.clear();
-    m_contents.clear();
     if (m_place.mirror != nullptr) {
         m_place.mirror->setObserver([&runLoop = m_services.runLoop, self = QPointer(this)] {
             runLoop.dispatchMain([self] { self ? self->look() : void(); });
@@ -83,8 +89,8 @@ void FolderCloud::setPlace(const Place& place) {
     }
     if (isOther) {
         m_services.notifications.postNotification(kUbiquityIdentityDidChangeNotification);
-        look();
     }
+    look();
 }
 
 std::optional<std::filesystem::path> FolderCloud::urlForUbiquityContainerIdentifier(const QString& /*identifier*/) {
@@ -330,6 +336,9 @@ void FolderCloud::didLook(const FolderListing& listing) {
         if (m_queries.contains(query)) {
             query->didLook(hasChanged);
         }
+    }
+    if (hasChanged) {
+        Q_EMIT changed();
     }
     if (std::exchange(m_isAskedAgain, false)) {
         look();

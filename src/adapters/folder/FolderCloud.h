@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QSocketNotifier>
+#include <memory>
 #include <set>
 
 #include "adapters/folder/FolderDocument.h"
@@ -47,7 +48,7 @@ public:
         std::filesystem::path container;
         QString token;
         /// Null where another program keeps the folder in sync.
-        CloudMirror* mirror = nullptr;
+        std::shared_ptr<CloudMirror> mirror;
         /// Whether a mirror keeps it in step, be it here now or not: what it does not hear of is not removed or
         /// renamed.
         bool isMirrored = false;
@@ -80,8 +81,14 @@ public:
     int addQuery(FolderQuery& query);
     void removeQuery(FolderQuery& query) { m_queries.erase(&query); }
     std::filesystem::path documentsFolder() const { return m_place.container / kUbiquityDocumentsFolder; }
-    /// As of the last look; another one follows.
+    /// As of the last look.
+    const std::map<std::filesystem::path, DownloadingStatus>& knownItems() const { return m_items; }
+    /// The same; another one follows.
     const std::map<std::filesystem::path, DownloadingStatus>& items();
+
+Q_SIGNALS:
+    /// A look has found something else than the one before.
+    void changed();
 
 private:
     void look();

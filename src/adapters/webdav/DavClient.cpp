@@ -4,9 +4,11 @@
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QEventLoop>
-#include <QHostAddress>
+#include <QLocale>
 #include <QNetworkReply>
+#include <QSslError>
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace tavi {
@@ -50,7 +52,25 @@ int pauseAfter(const DavReply& reply) {
     return std::max(least, reply.retryAfter);
 }
 
+QDateTime timeOfHttp(const QByteArray& text) {
+    QDateTime time =
+        QLocale::c().toDateTime(QString::fromLatin1(text.trimmed()), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    time.setTimeSpec(Qt::UTC);
+    return time;
+}
+
 }  // namespace
+
+int secondsOfRetryAfter(const QByteArray& value, const QByteArray& date, const QDateTime& now) {
+    bool isNumber = false;
+    if (const int seconds = value.trimmed().toInt(&isNumber); isNumber) {
+        return std::max(0, seconds);
+    }
+    const QDateTime until = timeOfHttp(value);
+    const QDateTime here = timeOfHttp(date);
+    const qint64 seconds = until.isValid() ? (here.isValid() ? here : now).secsTo(until) : 0;
+    return static_cast<int>(std::clamp<qint64>(seconds, 0, std::numeric_limits<int>::max()));
+}
 
 DavClient::DavClient(Account account) : m_account(std::move(account)) {
     m_manager.setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
@@ -74,16 +94,31 @@ void DavClient::abort() {
 Error DavClient::lastError() const {
     switch (m_last.status) {
         case 0:
-            return {m_last.error.isEmpty() ? QStringLiteral("The server does not answer.") : m_last.error};
+            return {!m_last.certificate.isEmpty() ? qtTrId("error_cloud_certificate").arg(m_last.certificate)
+                    : m_last.error.isEmpty()      ? qtTrId("error_cloud_silent")
+                                                  : qtTrId("error_cloud_broken").arg(m_last.error)};
+        case 301:
+        case 302:
+        case 303:
+        case 307:
+        case 308:
+            return {qtTrId("error_cloud_moved").arg(QString::fromUtf8(m_last.location))};
+        case 200:
+        case 405:
+        case 501:
+            return {qtTrId("error_cloud_no_dav")};
         case 401:
         case 403:
-            return {QStringLiteral("The server refuses the user or the password.")};
+            return {qtTrId("error_cloud_refused")};
         case 404:
-            return {QStringLiteral("The folder is not on the server.")};
+            return {qtTrId("error_cloud_no_folder")};
         case 507:
-            return {QStringLiteral("The server is full.")};
+            return {qtTrId("error_cloud_full")};
+        case 429:
+        case 503:
+            return {qtTrId("error_cloud_busy")};
         default:
-            return {QStringLiteral("The server answers with status %1.").arg(m_last.status)};
+            return {qtTrId("error_cloud_status").arg(m_last.status)};
     }
 }
 
@@ -119,6 +154,7 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
         const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         if (sink && status == 200) {
             isRefused = isRefused || !sink(bytes);
+            m_moved ? m_moved(bytes.size()) : void();
         } else {
             answer.body += bytes;
             isRefused = isRefused || answer.body.size() > kLongestAnswer;
@@ -127,6 +163,15 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
     };
     QEventLoop loop;
     connect(reply.get(), &QNetworkReply::readyRead, this, take);
+    if (verb == "PUT" && m_moved) {
+        connect(reply.get(), &QNetworkReply::uploadProgress, this,
+                [this, sent = qint64(0)](qint64 done, qint64) mutable {
+                    done > sent ? m_moved(done - std::exchange(sent, done)) : void();
+                });
+    }
+    connect(reply.get(), &QNetworkReply::sslErrors, this, [&answer](const QList<QSslError>& errors) {
+        answer.certificate = errors.isEmpty() ? QString() : errors.first().errorString();
+    });
     connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
     if (!reply->isFinished()) {
         loop.exec();
@@ -142,7 +187,9 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
         answer.status = 0;
         answer.error = reply->errorString();
     }
-    answer.retryAfter = reply->rawHeader("Retry-After").toInt();
+    answer.location = reply->rawHeader("Location");
+    answer.retryAfter =
+        secondsOfRetryAfter(reply->rawHeader("Retry-After"), reply->rawHeader("Date"), QDateTime::currentDateTimeUtc());
     m_pause = std::max(m_pause, pauseAfter(answer));
     m_last = answer;
     return answer;
@@ -182,7 +229,14 @@ void DavClient::put(const std::filesystem::path& name, const FileContents& conte
 }
 
 void DavClient::move(const std::filesystem::path& from, const std::filesystem::path& to) {
-    request("MOVE", urlOf(from), {{"Destination", urlOf(to).toEncoded()}, {"Overwrite", "F"}}, nullptr, {});
+    const auto moveTo = [&](const QByteArray& destination) {
+        return request("MOVE", urlOf(from), {{"Destination", destination}, {"Overwrite", "F"}}, nullptr, {}).status;
+    };
+    const int status = moveTo(urlOf(to).toEncoded());
+    if (status == 400 || status == 502) {
+        // Behind a proxy that speaks TLS a server may take its own address for another one's.
+        moveTo(urlOf(to).path(QUrl::FullyEncoded).toLatin1());
+    }
 }
 
 void DavClient::remove(const std::filesystem::path& name) {
@@ -202,8 +256,7 @@ Result<QByteArray> DavClient::get(const std::filesystem::path& name, qint64 size
         return tl::unexpected(lastError());
     }
     // A chunked answer that is cut off looks whole.
-    return size < 0 || count == size ? Result<QByteArray>(hash.result())
-                                     : failure(QStringLiteral("The server has sent only a part of a file."));
+    return size < 0 || count == size ? Result<QByteArray>(hash.result()) : failure(qtTrId("error_cloud_part"));
 }
 
 }  // namespace tavi

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QUrl>
@@ -27,6 +28,10 @@ struct DavReply {
     bool isRefused = false;
     /// Seconds that the server asks to be left alone.
     int retryAfter = 0;
+    /// Where a redirect leads.
+    QByteArray location;
+    /// Why the server's certificate is refused.
+    QString certificate;
 
     bool succeeded() const { return status >= 200 && status < 300; }
 };
@@ -45,6 +50,8 @@ public:
         QUrl folder;
         QString user;
         QString password;
+        /// Its user has agreed to http.
+        bool mayBeInClear = false;
     };
 
     explicit DavClient(Account account);
@@ -59,6 +66,9 @@ public:
     /// Seconds that the server has to be left alone since it was asked for this last, by any of its answers; 0 for
     /// none.
     int takePause() { return std::exchange(m_pause, 0); }
+
+    /// Hears how many bytes of files have been sent and fetched since it was called last; none by default.
+    void setMoved(std::function<void(qint64 bytes)> moved) { m_moved = std::move(moved); }
 
     Result<DavFiles> list();
     /// Nothing where there is no such file.
@@ -85,6 +95,11 @@ private:
     std::atomic<bool> m_isAborted = false;
     DavReply m_last;
     int m_pause = 0;
+    std::function<void(qint64)> m_moved;
 };
+
+/// Seconds that an answer asks to be left alone: a number, or a moment by the server's own clock where its "Date" says
+/// what that is (RFC 9110, 10.2.3). 0 for none, and for what is neither.
+int secondsOfRetryAfter(const QByteArray& value, const QByteArray& date, const QDateTime& now);
 
 }  // namespace tavi

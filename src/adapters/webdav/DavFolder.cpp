@@ -29,7 +29,7 @@ std::filesystem::path scrapName(const char* kind, const std::filesystem::path& n
 }
 
 tl::unexpected<Error> notWritten() {
-    return failure(QStringLiteral("The cloud's journal cannot be written."));
+    return failure(qtTrId("error_cloud_journal"));
 }
 
 }  // namespace
@@ -38,14 +38,21 @@ Result<QByteArray> DavFolder::hashOf(const Path& name, const DavFile& file) {
     return m_client.get(name, file.size, {});
 }
 
-Result<bool> DavFolder::moveAndLook(const Path& from, const Path& to) {
+Result<DavFolder::Places> DavFolder::moveAndLook(const Path& from, const Path& to) {
     m_client.move(from, to);
+    const Error refusal = m_client.lastError();
     const auto source = m_client.stat(from);
     const auto target = source ? m_client.stat(to) : source;
     if (!target) {
         return tl::unexpected(target.error());
     }
-    return !*source && *target;
+    return *source && !*target ? Result<Places>(tl::unexpected(refusal)) : Places{source->has_value(), *target};
+}
+
+void DavFolder::putBack(const Path& aside, const Path& name) {
+    if (const auto back = moveAndLook(aside, name); back && back->isDone()) {
+        m_journal.dropScrap(aside);
+    }
 }
 
 Result<std::filesystem::path> DavFolder::sendPart(const FileContents& contents) {
@@ -54,7 +61,7 @@ Result<std::filesystem::path> DavFolder::sendPart(const FileContents& contents) 
         return notWritten();
     }
     m_client.put(part, contents);
-    const Error error = m_client.lastError();
+    const Error error = m_client.lastReply().succeeded() ? Error{qtTrId("error_cloud_not_kept")} : m_client.lastError();
     const auto there = m_client.stat(part);
     if (!there) {
         return tl::unexpected(there.error());
@@ -67,26 +74,22 @@ Result<std::filesystem::path> DavFolder::sendPart(const FileContents& contents) 
 }
 
 Result<DavFolder::Uploaded> DavFolder::publish(const Path& part, const Path& name, const QByteArray& hash) {
-    const Result<bool> moved = moveAndLook(part, name);
+    const auto moved = moveAndLook(part, name);
     if (!moved) {
         return tl::unexpected(moved.error());
     }
-    const auto there = m_client.stat(name);
-    if (!there) {
-        return tl::unexpected(there.error());
+    if (!moved->target) {
+        return failure(qtTrId("error_cloud_not_kept"));
     }
-    if (!*there) {
-        return failure(QStringLiteral("The server has not kept a file."));
-    }
-    const auto found = hashOf(name, **there);
+    const auto found = hashOf(name, *moved->target);
     if (!found) {
         return tl::unexpected(found.error());
     }
     if (*found == hash) {
-        m_journal.dropScrap(part);
-        return Uploaded{Outcome::Done, **there};
+        moved->hasSource ? false : m_journal.dropScrap(part);
+        return Uploaded{Outcome::Done, *moved->target};
     }
-    return Uploaded{Outcome::Taken, **there};
+    return Uploaded{Outcome::Taken, *moved->target};
 }
 
 Result<DavFolder::Uploaded> DavFolder::create(const Path& name, const FileContents& contents, const QByteArray& hash) {
@@ -112,22 +115,19 @@ Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileConte
         return notWritten();
     }
     const auto moved = moveAndLook(name, aside);
-    const auto old = moved ? m_client.stat(aside) : Result<std::optional<DavFile>>(tl::unexpected(moved.error()));
-    if (!old) {
-        return tl::unexpected(old.error());
+    if (!moved) {
+        return tl::unexpected(moved.error());
     }
-    if (!*old) {
+    if (!moved->target) {
         m_journal.dropScrap(aside);
         return Uploaded{Outcome::Taken, {}};
     }
-    const auto oldHash = hashOf(aside, **old);
+    const auto oldHash = hashOf(aside, *moved->target);
     if (!oldHash) {
         return tl::unexpected(oldHash.error());
     }
     if (*oldHash != seenHash) {
-        // Somebody else's version. It goes back; where its name is taken by now, a later pass gives it another.
-        const auto back = moveAndLook(aside, name);
-        back.value_or(false) ? m_journal.dropScrap(aside) : false;
+        putBack(aside, name);
         return Uploaded{Outcome::Taken, {}};
     }
     auto published = publish(*part, name, hash);
@@ -145,22 +145,20 @@ Result<DavFolder::Outcome> DavFolder::discard(const Path& name, const QByteArray
         return notWritten();
     }
     const auto moved = moveAndLook(name, trash);
-    const auto there = moved ? m_client.stat(trash) : Result<std::optional<DavFile>>(tl::unexpected(moved.error()));
-    if (!there) {
-        return tl::unexpected(there.error());
+    if (!moved) {
+        return tl::unexpected(moved.error());
     }
-    if (!*there) {
+    if (!moved->target) {
         m_journal.dropScrap(trash);
         return Outcome::Taken;
     }
     if (!seenHash.isEmpty()) {
-        const auto hash = hashOf(trash, **there);
+        const auto hash = hashOf(trash, *moved->target);
         if (!hash) {
             return tl::unexpected(hash.error());
         }
         if (*hash != seenHash) {
-            const auto back = moveAndLook(trash, name);
-            back.value_or(false) ? m_journal.dropScrap(trash) : false;
+            putBack(trash, name);
             return Outcome::Taken;
         }
     }
@@ -172,7 +170,7 @@ Result<DavFolder::Outcome> DavFolder::rename(const Path& from, const Path& to) {
     if (!moved) {
         return tl::unexpected(moved.error());
     }
-    return *moved ? Outcome::Done : Outcome::Taken;
+    return moved->isDone() ? Outcome::Done : Outcome::Taken;
 }
 
 Result<bool> DavFolder::recover() {
@@ -205,7 +203,7 @@ Result<bool> DavFolder::recover() {
         if (!kept) {
             return tl::unexpected(kept.error());
         }
-        *kept ? m_journal.dropScrap(name) : false;
+        kept->isDone() ? m_journal.dropScrap(name) : false;
         hasMoved = true;
     }
     return hasMoved;

@@ -43,8 +43,17 @@ private:
     Result<Path> sendPart(const FileContents& contents);
     /// Gives a part its name. Whatever is answered, it looks: what has the name must have the hash.
     Result<Uploaded> publish(const Path& part, const Path& name, const QByteArray& hash);
-    /// Moves and looks: whether the file is at its new name, and no more at the old one.
-    Result<bool> moveAndLook(const Path& from, const Path& to);
+    /// What is at the two names after a move.
+    struct Places {
+        bool hasSource = false;
+        std::optional<DavFile> target;
+        bool isDone() const { return !hasSource && target; }
+    };
+    /// Moves and looks. A failure where the server has refused, though nothing stood in the way.
+    Result<Places> moveAndLook(const Path& from, const Path& to);
+    /// Moves what somebody else has written back to its name; where that is taken by now, a later pass gives it
+    /// another.
+    void putBack(const Path& aside, const Path& name);
     Result<QByteArray> hashOf(const Path& name, const DavFile& file);
 
     DavClient& m_client;

@@ -63,16 +63,16 @@ Result<void> readResponses(const QByteArray& xml, const std::function<void(const
     reader.setEntityExpansionLimit(0);
     while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::StartElement) {
         if (reader.isDTD()) {
-            return failure(QStringLiteral("The server's answer is no listing."));
+            return failure(qtTrId("error_cloud_no_dav"));
         }
     }
     if (!reader.isStartElement() || reader.namespaceUri() != kDav || reader.name() != QLatin1String("multistatus")) {
-        return failure(QStringLiteral("The server's answer is no listing."));
+        return failure(qtTrId("error_cloud_no_dav"));
     }
     int count = 0;
     while (reader.readNextStartElement()) {
         if (++count > kMostEntries) {
-            return failure(QStringLiteral("The server's listing is too long."));
+            return failure(qtTrId("error_cloud_too_long"));
         }
         if (reader.name() != QLatin1String("response")) {
             reader.skipCurrentElement();
@@ -96,7 +96,7 @@ Result<void> readResponses(const QByteArray& xml, const std::function<void(const
         reader.readNext();
     }
     // A listing that is cut off must not look like one with fewer files.
-    return reader.hasError() ? failure(QStringLiteral("The server's listing is not whole.")) : Result<void>();
+    return reader.hasError() ? failure(qtTrId("error_cloud_part")) : Result<void>();
 }
 
 /// The path of an address or an absolute path, decoded once; "+" stays what it is.
@@ -153,7 +153,7 @@ Result<DavFiles> readListing(const QByteArray& xml, const QByteArray& folderPath
         return tl::unexpected(read.error());
     }
     if (!hasFolder) {
-        return failure(QStringLiteral("The server's listing is of another folder."));
+        return failure(qtTrId("error_cloud_no_dav"));
     }
     return files;
 }

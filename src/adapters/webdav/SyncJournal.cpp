@@ -6,9 +6,14 @@
 #include <QSqlQuery>
 #include <QThread>
 
+#include "files/FileNames.h"
+
 namespace tavi {
 
 namespace {
+
+/// No name on a server has a slash.
+constexpr const char* kSynced = "/synced";
 
 Q_LOGGING_CATEGORY(lcCloud, "tavi.cloud", QtInfoMsg)
 
@@ -31,7 +36,6 @@ SyncEntry entryOf(const QSqlQuery& query, int first) {
     return entry;
 }
 
-/// No name on a server has a slash.
 std::filesystem::path nameOf(SyncJournal::Fact fact) {
     return fact == SyncJournal::Fact::IsMarked ? "/marked" : "/listed";
 }
@@ -52,7 +56,7 @@ Result<std::unique_ptr<SyncJournal>> SyncJournal::open(const Path& path) {
           "CREATE TABLE IF NOT EXISTS moves(number INTEGER PRIMARY KEY, source BLOB, target BLOB)",
           "CREATE TABLE IF NOT EXISTS scraps(name BLOB PRIMARY KEY, original BLOB)"}) {
         if (!journal->execute(QLatin1String(statement), {})) {
-            return failure(QStringLiteral("The cloud's journal cannot be written."));
+            return failure(qtTrId("error_cloud_journal"));
         }
     }
     return journal;
@@ -147,6 +151,12 @@ bool SyncJournal::dropMove(const Path& from, const Path& to) {
     return execute(QStringLiteral("DELETE FROM moves WHERE source = ? AND target = ?"), {bytesOf(from), bytesOf(to)});
 }
 
+void SyncJournal::dropMovesNotDone(const Path& folder) {
+    for (const auto& [from, to] : moves()) {
+        existsAt(folder / from) ? dropMove(from, to) : false;
+    }
+}
+
 SyncJournal::Scraps SyncJournal::scraps() {
     Scraps found;
     execute(QStringLiteral("SELECT name, original FROM scraps"), {},
@@ -168,6 +178,16 @@ bool SyncJournal::isKnown(Fact fact) {
 
 bool SyncJournal::know(Fact fact) {
     return isKnown(fact) || addScrap(nameOf(fact), "/");
+}
+
+QDateTime SyncJournal::lastSync() {
+    const Scraps all = scraps();
+    const auto found = all.find(kSynced);
+    return found == all.end() ? QDateTime() : QDateTime::fromMSecsSinceEpoch(std::stoll(found->second.native()));
+}
+
+bool SyncJournal::setLastSync(const QDateTime& time) {
+    return addScrap(kSynced, std::to_string(time.toMSecsSinceEpoch()));
 }
 
 }  // namespace tavi

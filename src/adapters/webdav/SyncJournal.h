@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <filesystem>
+#include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <set>
 #include <vector>
@@ -59,6 +62,8 @@ public:
     std::vector<std::pair<Path, Path>> moves();
     bool addMove(const Path& from, const Path& to);
     bool dropMove(const Path& from, const Path& to);
+    /// Drops renames that were noted and never done here, since the program ended between. Before anybody notes one.
+    void dropMovesNotDone(const Path& folder);
 
     Scraps scraps();
     bool addScrap(const Path& name, const Path& original);
@@ -69,6 +74,9 @@ public:
     enum class Fact { IsMarked, ListsMark };
     bool isKnown(Fact fact);
     bool know(Fact fact);
+    /// When both sides had the same; invalid where they never have.
+    QDateTime lastSync();
+    bool setLastSync(const QDateTime& time);
 
 private:
     explicit SyncJournal(const Path& path) : m_path(QString::fromStdString(path.native())) {}

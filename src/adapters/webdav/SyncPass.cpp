@@ -16,7 +16,7 @@ namespace tavi {
 namespace {
 
 /// As many files as a user removes on another device within a minute; more at once look like an accident.
-constexpr int kHandful = 5;
+constexpr std::size_t kHandful = 5;
 /// How often a file has to be missing in the listing: one that is stale lacks it once.
 constexpr int kMissings = 2;
 
@@ -66,7 +66,7 @@ Result<DavFiles> SyncPass::look() {
     }
     if (!*marked) {
         if (m_services.journal.isKnown(SyncJournal::Fact::IsMarked)) {
-            return failure(QStringLiteral("The folder on the server is not the one that it was."));
+            return failure(qtTrId("error_cloud_other_folder"));
         }
         m_services.client.put(kContainerMark, FileContents("Tavi\n"));
         const auto mark = m_services.client.stat(kContainerMark);
@@ -76,7 +76,7 @@ Result<DavFiles> SyncPass::look() {
     }
     if (!m_services.journal.know(SyncJournal::Fact::IsMarked) ||
         (isListed && !m_services.journal.know(SyncJournal::Fact::ListsMark))) {
-        return failure(QStringLiteral("The cloud's journal cannot be written."));
+        return failure(qtTrId("error_cloud_journal"));
     }
     const auto recovered = m_dav.recover();
     if (!recovered) {
@@ -96,6 +96,12 @@ Result<void> SyncPass::sendMoves(DavFiles& files) {
         const auto source = files.find(from);
         if (source != files.end() && source->second.version() == entry.remote && !files.contains(to)) {
             const auto moved = m_dav.rename(from, to);
+            if (!moved && m_services.client.lastReply().status != 0) {
+                // It has answered, and said no.
+                m_held.insert({from, to});
+                m_refusal = moved.error();
+                continue;
+            }
             if (!moved) {
                 return tl::unexpected(moved.error());
             }
@@ -135,24 +141,17 @@ MirrorState SyncPass::stateOf(const File& file, SyncAction action) {
     }
 }
 
-SyncOutcome SyncPass::run() {
-    SyncOutcome outcome;
-    const auto failed = [&](const Error& error) {
-        outcome.error = error.text;
-        outcome.retryAfter = std::max(outcome.retryAfter, m_services.client.takePause());
-        return outcome;
-    };
-    (void)m_services.client.takePause();
+Result<std::map<std::filesystem::path, SyncPass::File>> SyncPass::gather() {
     auto files = look();
     if (const auto moved = files ? sendMoves(*files) : tl::unexpected(files.error()); !moved) {
-        return failed(moved.error());
+        return tl::unexpected(moved.error());
     }
     // After the server's: a file that appears here meanwhile is new, never one that was removed.
     std::error_code unread;
     const FolderListing listing = listFolder(m_services.folder, &unread);
     if (unread) {
         // What is not seen here is not missing.
-        return failed({QString::fromStdString(unread.message())});
+        return failure(QString::fromStdString(unread.message()));
     }
     std::map<Path, File> all;
     for (const auto& [name, entry] : m_services.journal.entries()) {
@@ -164,29 +163,85 @@ SyncOutcome SyncPass::run() {
     for (const auto& [name, file] : *files) {
         name.native().front() != '.' ? void(all[name].remote = file) : void();
     }
-    std::vector<std::pair<File*, SyncAction>> work;
-    States states;
+    for (const Path& name : m_held) {
+        all.erase(name);
+    }
     for (auto& [name, file] : all) {
         file.name = name;
+    }
+    return all;
+}
+
+void SyncPass::askAboutVanished(std::vector<std::pair<File*, SyncAction>>& work, SyncOutcome& outcome) {
+    for (auto& [file, action] : work) {
+        if (action == SyncAction::RemoveLocal) {
+            outcome.vanished.insert(file->name);
+        }
+    }
+    if (outcome.vanished.size() <= kHandful) {
+        outcome.vanished.clear();
+    }
+    for (auto& [file, action] : work) {
+        if (!outcome.vanished.contains(file->name)) {
+            continue;
+        }
+        if (!m_services.answer.names.contains(file->name)) {
+            // It counts as missed, and waits.
+            ++file->entry.missing;
+            m_services.journal.put(file->name, file->entry);
+            action = SyncAction::Nothing;
+            outcome.isInStep = false;
+            continue;
+        }
+        outcome.vanished.erase(file->name);
+        if (!m_services.answer.areRemoved) {
+            // New to both sides.
+            file->entry = {};
+            m_services.journal.put(file->name, file->entry);
+            action = SyncAction::Upload;
+        }
+    }
+}
+
+SyncOutcome SyncPass::run() {
+    SyncOutcome outcome;
+    const auto failed = [&](const Error& error) {
+        outcome.error = error.text;
+        outcome.retryAfter = std::max(outcome.retryAfter, m_services.client.takePause());
+        return outcome;
+    };
+    (void)m_services.client.takePause();
+    auto all = gather();
+    if (!all) {
+        return failed(all.error());
+    }
+    std::vector<std::pair<File*, SyncAction>> work;
+    States states;
+    for (auto& [name, file] : *all) {
         const SyncAction action = decide(situationOf(file));
-        outcome.vanished += action == SyncAction::RemoveLocal ? 1 : 0;
         work.emplace_back(&file, action);
         states[name] = stateOf(file, action);
     }
+    for (const Path& name : m_held) {
+        states[name] = MirrorState::Waiting;
+    }
     m_services.tellAll(states);
-    outcome.isInStep = true;
-    outcome.vanished = outcome.vanished > kHandful ? outcome.vanished : 0;
+    outcome.isInStep = !m_refusal;
+    outcome.error = m_refusal ? m_refusal->text : QString();
+    askAboutVanished(work, outcome);
     for (auto& [file, action] : work) {
         if (m_services.client.isAborted()) {
-            return failed({QStringLiteral("It was interrupted.")});
-        }
-        if (action == SyncAction::RemoveLocal && outcome.vanished > 0) {
             outcome.isInStep = false;
+            return failed({qtTrId("error_cloud_interrupted")});
+        }
+        if (outcome.vanished.contains(file->name)) {
             continue;
         }
         // One file that cannot be read or written holds up no other; a server that does not answer does, or one that
         // asks to be left alone.
-        if (const auto done = act(*file, action); !done) {
+        const auto done = act(*file, action);
+        outcome.isToBeContinued = m_isToBeContinued;
+        if (!done) {
             outcome.isInStep = false;
             failed(done.error());
             const DavReply& last = m_services.client.lastReply();
@@ -195,10 +250,14 @@ SyncOutcome SyncPass::run() {
             }
         }
     }
+    if (outcome.isInStep) {
+        m_services.journal.setLastSync(m_services.now());
+    }
     return outcome;
 }
 
 Result<void> SyncPass::act(File& file, SyncAction action) {
+    m_services.client.setMoved({});
     switch (action) {
         case SyncAction::Nothing:
             if (file.entry.missing > 0) {
@@ -245,19 +304,32 @@ Result<void> SyncPass::agree(File& file, const DavFile& remote, const QByteArray
     // What was removed here is here again: if it is missing later, that is no removal.
     if (!m_services.journal.put(file.name, file.entry) ||
         (file.entry.isRemovedHere && !m_services.journal.setRemovedHere(file.name, false))) {
-        return failure(QStringLiteral("The cloud's journal cannot be written."));
+        return failure(qtTrId("error_cloud_journal"));
     }
     setState(file.name, MirrorState::There);
     return {};
+}
+
+void SyncPass::follow(const Path& name, qint64 bytes) {
+    m_services.client.setMoved([this, name, bytes, done = qint64(0), told = 0.0](qint64 more) mutable {
+        done += more;
+        const double progress = std::min(1.0, static_cast<double>(done) / static_cast<double>(bytes));
+        if (m_services.tellProgress && progress >= told + 0.01) {
+            told = progress;
+            m_services.tellProgress(name, progress);
+        }
+    });
 }
 
 Result<void> SyncPass::upload(File& file) {
     const auto contents = FileContents::ofFile(m_services.folder / file.name);
     const auto hash = contents ? hashOf(*contents, m_services.client) : std::nullopt;
     if (!hash) {
-        return failure(QStringLiteral("%1 cannot be read.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_unreadable").arg(pathText(file.name)));
     }
     setState(file.name, MirrorState::Sending);
+    // It is read back.
+    follow(file.name, 2 * static_cast<qint64>(contents->size()));
     const auto uploaded = file.remote ? m_dav.replace(file.name, *contents, *hash, file.entry.hash)
                                       : m_dav.create(file.name, *contents, *hash);
     setState(file.name, MirrorState::Waiting);
@@ -270,7 +342,7 @@ Result<void> SyncPass::upload(File& file) {
     if (FileIdentity::at(m_services.folder / file.name) != file.local) {
         // It has changed while it was sent: what was sent is agreed on, and the rest follows.
         agree(file, uploaded->file, *hash);
-        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_growing").arg(pathText(file.name)));
     }
     return agree(file, uploaded->file, *hash);
 }
@@ -278,7 +350,7 @@ Result<void> SyncPass::upload(File& file) {
 Result<void> SyncPass::download(File& file) {
     if (file.remote->size < 0) {
         // An answer that is cut off could not be told from a whole one.
-        return failure(QStringLiteral("The server does not say how long %1 is.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_length").arg(pathText(file.name)));
     }
     const Path path = m_services.folder / file.name;
     const Path hidden = m_services.folder / ("." + file.name.native());
@@ -287,6 +359,7 @@ Result<void> SyncPass::download(File& file) {
         return errnoFailure(errno);
     }
     setState(file.name, MirrorState::Arriving);
+    follow(file.name, file.remote->size);
     std::int64_t offset = 0;
     int error = 0;
     const auto hash = m_services.client.get(file.name, file.remote->size, [&](const QByteArray& bytes) {
@@ -306,7 +379,7 @@ Result<void> SyncPass::download(File& file) {
     }
     if (!*after || (*after)->version() != file.remote->version()) {
         // It was replaced while it came: neither the one nor the other.
-        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_growing").arg(pathText(file.name)));
     }
     const auto stamp = m_services.now().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")).toStdString();
     // Before it has its name, under which somebody may write at once.
@@ -326,7 +399,7 @@ Result<void> SyncPass::compare(File& file) {
     const auto contents = FileContents::ofFile(m_services.folder / file.name);
     const auto here = contents ? hashOf(*contents, m_services.client) : std::nullopt;
     if (!here) {
-        return failure(QStringLiteral("%1 cannot be read.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_unreadable").arg(pathText(file.name)));
     }
     const auto there = m_services.client.get(file.name, file.remote->size, {});
     if (!there) {
@@ -341,10 +414,11 @@ Result<void> SyncPass::stepAside(const File& file) {
     if (const int error = renameWithoutReplacing(m_services.folder / file.name, other); error != 0) {
         return errnoFailure(error);
     }
+    m_isToBeContinued = true;
     // The one from here is new now, and goes there; the one from there is asked for.
     m_services.journal.put(file.name, {});
     m_services.journal.setWanted(file.name, true);
-    return failure(QStringLiteral("%1 was changed on two devices: both are kept.").arg(pathText(file.name)));
+    return failure(qtTrId("error_cloud_conflict").arg(pathText(file.name)));
 }
 
 Result<void> SyncPass::removeRemote(File& file) {
@@ -365,11 +439,11 @@ Result<void> SyncPass::removeLocal(File& file) {
         return tl::unexpected(there.error());
     }
     if (*there || file.entry.missing < kMissings) {
-        return failure(QStringLiteral("%1 is looked for again.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_missing").arg(pathText(file.name)));
     }
     if (FileIdentity::at(m_services.folder / file.name) != file.local) {
         // Saved since the pass began: not what was removed there.
-        return failure(QStringLiteral("%1 is still being written.").arg(pathText(file.name)));
+        return failure(qtTrId("error_cloud_growing").arg(pathText(file.name)));
     }
     const auto trashed = m_services.trash.moveToTrash(m_services.folder / file.name);
     if (!trashed) {

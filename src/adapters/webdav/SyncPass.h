@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <functional>
+#include <set>
 
 #include "adapters/webdav/DavFolder.h"
 #include "adapters/webdav/SyncDecision.h"
@@ -20,7 +21,16 @@ struct SyncOutcome {
     /// Seconds that the server asks to be left alone.
     int retryAfter = 0;
     /// Files that are gone from the server all at once: nothing is done about them before the user says so.
-    int vanished = 0;
+    std::set<std::filesystem::path> vanished;
+    /// It has made work for another pass, which may come at once.
+    bool isToBeContinued = false;
+};
+
+/// What the user has said of files that are gone from the server all at once. It is about these, and no others.
+struct VanishedAnswer {
+    std::set<std::filesystem::path> names;
+    /// Whether they go here, too; else they are sent again.
+    bool areRemoved = false;
 };
 
 /// Looks at both sides once and does what is to be done, file by file. On the client's thread; waits for disk and
@@ -43,9 +53,15 @@ public:
         /// Hears what is known of all files, and of every change of one.
         std::function<void(const States&)> tellAll;
         std::function<void(const Path&, std::optional<MirrorState>)> tell;
+        /// Hears how much of a file has been sent or fetched, 0 to 1; after every hundredth.
+        std::function<void(const Path&, double)> tellProgress = {};
+        VanishedAnswer answer = {};
     };
 
     explicit SyncPass(const Services& services) : m_services(services), m_dav(services.client, services.journal) {}
+    ~SyncPass() { m_services.client.setMoved({}); }
+    SyncPass(const SyncPass&) = delete;
+    SyncPass& operator=(const SyncPass&) = delete;
 
     SyncOutcome run();
 
@@ -58,7 +74,11 @@ private:
     };
 
     Result<DavFiles> look();
+    /// Has the server hear of renames. Those that it refuses wait, and nothing is done with their files.
     Result<void> sendMoves(DavFiles& files);
+    Result<std::map<Path, File>> gather();
+    void askAboutVanished(std::vector<std::pair<File*, SyncAction>>& work, SyncOutcome& outcome);
+    void follow(const Path& name, qint64 bytes);
     static MirrorState stateOf(const File& file, SyncAction action);
     SyncSituation situationOf(const File& file) const;
     Result<void> act(File& file, SyncAction action);
@@ -74,6 +94,9 @@ private:
 
     Services m_services;
     DavFolder m_dav;
+    std::set<Path> m_held;
+    std::optional<Error> m_refusal;
+    bool m_isToBeContinued = false;
 };
 
 /// SHA-256 of contents; nothing where they could not be read to their end, or the client is aborted.

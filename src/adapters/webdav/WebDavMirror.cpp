@@ -13,71 +13,101 @@ namespace {
 
 constexpr int kShortestPause = 60;
 constexpr int kLongestPause = 3600;
+/// Passes in a row without a pause.
+constexpr int kMostContinued = 3;
 
 Result<void> notWritten() {
-    return failure(QStringLiteral("The cloud's journal cannot be written."));
+    return failure(qtTrId("error_cloud_journal"));
 }
 
 }  // namespace
 
-bool mayHavePassword(const QUrl& url) {
+bool mayHavePassword(const DavClient::Account& account) {
+    const QUrl& url = account.folder;
     const bool isHere = url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
     return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty() &&
-           (url.scheme() == QLatin1String("https") || (url.scheme() == QLatin1String("http") && isHere));
+           (url.scheme() == QLatin1String("https") ||
+            (url.scheme() == QLatin1String("http") && (isHere || account.mayBeInClear)));
 }
 
 Result<std::unique_ptr<WebDavMirror>> WebDavMirror::create(const Place& place, Trash& trash) {
-    if (!mayHavePassword(place.account.folder)) {
-        return failure(QStringLiteral("The address must begin with https://."));
+    if (!mayHavePassword(place.account)) {
+        return failure(qtTrId("error_cloud_in_clear"));
     }
     auto journal = SyncJournal::open(place.journal);
     if (!journal) {
         return tl::unexpected(journal.error());
     }
+    (*journal)->dropMovesNotDone(place.folder);
     return std::unique_ptr<WebDavMirror>(new WebDavMirror(place, trash, std::move(*journal)));
 }
 
 WebDavMirror::WebDavMirror(const Place& place, Trash& trash, std::unique_ptr<SyncJournal> journal)
-    : m_place(place), m_trash(trash), m_journal(std::move(journal)), m_thread([this] { run(); }) {}
+    : m_place(place), m_trash(trash), m_journal(std::move(journal)) {
+    m_condition.lastSync = m_journal->lastSync();
+    m_thread = std::thread([this] { run(); });
+}
 
-WebDavMirror::~WebDavMirror() {
+void WebDavMirror::stop() {
     {
         const std::lock_guard lock(m_mutex);
         m_hasEnded = true;
         m_client != nullptr ? m_client->abort() : void();
         m_wake.notify_all();
     }
-    m_thread.join();
+    m_thread.joinable() ? m_thread.join() : void();
+}
+
+SyncOutcome WebDavMirror::pass(DavClient& client) {
+    const auto answer = [this] {
+        const std::lock_guard lock(m_mutex);
+        return m_answer;
+    }();
+    SyncPass pass(
+        {.client = client,
+         .journal = *m_journal,
+         .trash = m_trash,
+         .folder = m_place.folder,
+         .device = m_place.device,
+         .now = [] { return QDateTime::currentDateTime(); },
+         .tellAll = [this](const SyncPass::States& states) { update([&] { m_states = states; }); },
+         .tell =
+             [this](const std::filesystem::path& name, std::optional<MirrorState> state) {
+                 update([&] {
+                     state ? void(m_states[name] = *state) : void(m_states.erase(name));
+                     m_condition.progress.clear();
+                 });
+             },
+         .tellProgress = [this](const std::filesystem::path& name,
+                                double progress) { update([&] { m_condition.progress[name] = progress; }, false); },
+         .answer = answer});
+    return pass.run();
 }
 
 void WebDavMirror::run() {
     DavClient client(m_place.account);
     std::unique_lock lock(m_mutex);
     m_client = &client;
+    int continued = 0;
     for (int pause = kShortestPause; !m_hasEnded;) {
         m_isAsked = false;
         lock.unlock();
-        SyncPass pass({.client = client,
-                       .journal = *m_journal,
-                       .trash = m_trash,
-                       .folder = m_place.folder,
-                       .device = m_place.device,
-                       .now = [] { return QDateTime::currentDateTime(); },
-                       .tellAll = [this](const SyncPass::States& states) { update([&] { m_states = states; }); },
-                       .tell =
-                           [this](const std::filesystem::path& name, std::optional<MirrorState> state) {
-                               update([&] { state ? void(m_states[name] = *state) : void(m_states.erase(name)); });
-                           }});
-        SyncOutcome outcome = pass.run();
-        lock.lock();
+        update([this] { m_condition.isWorking = true; }, false);
+        SyncOutcome outcome = pass(client);
+        const QDateTime lastSync = m_journal->lastSync();
         pause = outcome.isInStep ? std::min(pause * 2, kLongestPause) : kShortestPause;
+        continued = outcome.isToBeContinued ? continued + 1 : 0;
+        pause = continued > 0 && continued <= kMostContinued ? 0 : pause;
         pause = std::max(pause, std::min(outcome.retryAfter, kLongestPause));
         // A server that asks to be left alone is, whatever changes here.
         const bool isPatient = outcome.retryAfter > 0;
-        m_outcome = std::move(outcome);
-        ++m_passes;
-        lock.unlock();
-        update([] {});
+        update([&] {
+            m_condition.outcome = std::move(outcome);
+            m_condition.lastSync = lastSync;
+            m_condition.isWorking = false;
+            m_condition.progress.clear();
+            ++m_condition.passes;
+        });
         lock.lock();
         if (m_wake.wait_for(lock, std::chrono::seconds(pause),
                             [&] { return (m_isAsked && !isPatient) || m_hasEnded; })) {
@@ -87,14 +117,17 @@ void WebDavMirror::run() {
     m_client = nullptr;
 }
 
-void WebDavMirror::update(const std::function<void()>& change) {
+void WebDavMirror::update(const std::function<void()>& change, bool areStates) {
     {
         const std::lock_guard lock(m_mutex);
         change();
     }
     const std::lock_guard lock(m_observerMutex);
-    if (m_observer) {
+    if (areStates && m_observer) {
         m_observer();
+    }
+    if (m_conditionObserver) {
+        m_conditionObserver();
     }
 }
 
@@ -103,14 +136,27 @@ void WebDavMirror::setObserver(std::function<void()> observer) {
     m_observer = std::move(observer);
 }
 
+void WebDavMirror::setConditionObserver(std::function<void()> observer) {
+    const std::lock_guard lock(m_observerMutex);
+    m_conditionObserver = std::move(observer);
+}
+
 std::map<std::filesystem::path, MirrorState> WebDavMirror::states() const {
     const std::lock_guard lock(m_mutex);
     return m_states;
 }
 
-std::pair<int, SyncOutcome> WebDavMirror::lastPass() const {
+MirrorCondition WebDavMirror::condition() const {
     const std::lock_guard lock(m_mutex);
-    return {m_passes, m_outcome};
+    return m_condition;
+}
+
+void WebDavMirror::answerVanished(bool areRemoved) {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_answer = {m_condition.outcome.vanished, areRemoved};
+    }
+    wake();
 }
 
 void WebDavMirror::wake() {
@@ -132,7 +178,7 @@ Result<void> WebDavMirror::download(const std::filesystem::path& name) {
         const std::lock_guard lock(m_mutex);
         const auto found = m_states.find(name);
         if (found == m_states.end()) {
-            return failure(QStringLiteral("%1 is not in the cloud.").arg(pathText(name)));
+            return failure(qtTrId("error_cloud_unknown").arg(pathText(name)));
         }
         found->second = found->second == MirrorState::OnlyThere ? MirrorState::Arriving : found->second;
     }
@@ -143,7 +189,7 @@ Result<void> WebDavMirror::willEvict(const std::filesystem::path& name) {
     const auto identity = FileIdentity::at(m_place.folder / name);
     const SyncEntry known = m_journal->entry(name);
     if (!identity || !known.isAgreed() || known.local != localVersion(*identity)) {
-        return failure(QStringLiteral("%1 is not in the cloud yet.").arg(pathText(name)));
+        return failure(qtTrId("error_cloud_unsent").arg(pathText(name)));
     }
     return noted(m_journal->setWanted(name, false));
 }
@@ -160,7 +206,7 @@ Result<void> WebDavMirror::willMove(const std::filesystem::path& from, const std
     {
         const std::lock_guard lock(m_mutex);
         if (m_states.contains(to)) {
-            return failure(QStringLiteral("There is a file of that name in the cloud."));
+            return failure(qtTrId("error_cloud_taken"));
         }
     }
     return noted(m_journal->addMove(from, to));

@@ -9,8 +9,20 @@
 
 namespace tavi {
 
-/// Whether a password may be sent to an address: https, or http to this machine, and none in the address itself.
-bool mayHavePassword(const QUrl& url);
+/// Whether a password may be sent to an account's address: https, or http to this machine or where its user has agreed
+/// to that, and none in the address itself.
+bool mayHavePassword(const DavClient::Account& account);
+
+/// How a mirror is.
+struct MirrorCondition {
+    bool isWorking = true;
+    SyncOutcome outcome;
+    /// When both sides had the same; invalid where they never have.
+    QDateTime lastSync;
+    /// How much of each file that is under way has been sent or fetched, 0 to 1.
+    std::map<std::filesystem::path, double> progress;
+    int passes = 0;
+};
 
 /// Keeps a folder of this machine in step with a folder on a WebDAV server, on a thread of its own, for as long as it
 /// lives: at once when something changes here, and by looking there every minute, less often the longer nothing
@@ -27,8 +39,10 @@ public:
     /// Fails where the journal cannot be written, or the address may not have a password. The trash must outlive it,
     /// and is called on its thread.
     static Result<std::unique_ptr<WebDavMirror>> create(const Place& place, Trash& trash);
-    /// Waits for what is under way to be given up, which is at once.
-    ~WebDavMirror() override;
+    ~WebDavMirror() override { stop(); }
+    /// Waits for what is under way to be given up, which is at once, but for a file that is being brought to the disk.
+    /// What is noted afterwards waits in the journal. Any thread but its own; once.
+    void stop();
 
     void setObserver(std::function<void()> observer) override;
     std::map<std::filesystem::path, MirrorState> states() const override;
@@ -41,16 +55,20 @@ public:
 
     void didNotMove(const std::filesystem::path& from, const std::filesystem::path& to) override;
 
-    /// The passes so far, and what the last one came to. Any thread.
-    std::pair<int, SyncOutcome> lastPass() const;
+    /// Calls on whatever thread after every change of condition(); nullptr for nobody, and none is under way then.
+    void setConditionObserver(std::function<void()> observer);
+    MirrorCondition condition() const;
     /// Looks at both sides soon. Any thread.
     void wake();
+    /// About the files that the last pass has found vanished. Any thread.
+    void answerVanished(bool areRemoved);
 
 private:
     WebDavMirror(const Place& place, Trash& trash, std::unique_ptr<SyncJournal> journal);
     void run();
     /// Changes what others read, and tells the observer.
-    void update(const std::function<void()>& change);
+    void update(const std::function<void()>& change, bool areStates = true);
+    SyncOutcome pass(DavClient& client);
     Result<void> noted(bool isWritten);
 
     Place m_place;
@@ -62,12 +80,13 @@ private:
     bool m_isAsked = true;
     bool m_hasEnded = false;
     SyncPass::States m_states;
-    SyncOutcome m_outcome;
-    int m_passes = 0;
+    MirrorCondition m_condition;
+    VanishedAnswer m_answer;
     DavClient* m_client = nullptr;
     /// Held while the observer is called.
     std::mutex m_observerMutex;
     std::function<void()> m_observer;
+    std::function<void()> m_conditionObserver;
     std::thread m_thread;
 };
 

@@ -12,16 +12,27 @@ namespace tavi {
 struct CloudConnectOptions {
     std::string place;
     std::string user;
+    /// Its user agrees to http, too.
+    bool mayBeInClear = false;
 };
 
 /// "tavi cloud sync": has this machine and the server agree. Fails where they do not, or the program is running.
-struct CloudSyncOptions {};
+/// More files than a handful that have vanished from the server at once are asked about by that.
+struct CloudSyncOptions {
+    bool removeVanished = false;
+    bool keepVanished = false;
+};
 
-/// "tavi cloud disconnect": there is no cloud any more. What is in it stays.
+/// "tavi cloud disconnect": there is no cloud any more, and its password is forgotten. What is in it stays.
 struct CloudDisconnectOptions {};
 
 /// "tavi cloud status"
 struct CloudStatusOptions {
+    bool json = false;
+};
+
+/// "tavi cloud list": what is in the cloud, as far as is known here, and where each file is.
+struct CloudListOptions {
     bool json = false;
 };
 
@@ -30,5 +41,6 @@ Result<QByteArray> run(const CloudConnectOptions& options, const CommandServices
 Result<QByteArray> run(const CloudSyncOptions& options, const CommandServices& services);
 Result<QByteArray> run(const CloudDisconnectOptions& options, const CommandServices& services);
 Result<QByteArray> run(const CloudStatusOptions& options, const CommandServices& services);
+Result<QByteArray> run(const CloudListOptions& options, const CommandServices& services);
 
 }  // namespace tavi

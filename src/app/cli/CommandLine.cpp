@@ -263,7 +263,14 @@ void Grammar::addCloud() {
         *cloud, "connect", "keep recordings in a folder that another program syncs,\nor on a WebDAV server");
     connect->add_option("PLACE", place->place, "the folder, or the address of one on a server")->required();
     connect->add_option("--user", place->user, "of the server; the password is asked for")->type_name("NAME");
-    addPrinting<CloudSyncOptions>(*cloud, "sync", "have this machine and the server agree");
+    connect->add_flag("--in-clear", place->mayBeInClear, "also by http, where others can read password and recordings");
+    const auto [sync, answer] = addPrinting<CloudSyncOptions>(*cloud, "sync", "have this machine and the server agree");
+    const auto* removes = sync->add_flag("--remove-vanished", answer->removeVanished,
+                                         "what is gone from the server all at once goes here, too");
+    sync->add_flag("--keep-vanished", answer->keepVanished, "it is sent again")
+        ->excludes(const_cast<CLI::Option*>(removes));
+    const auto [list, kind] = addPrinting<CloudListOptions>(*cloud, "list", "print what is in the cloud");
+    list->add_flag("--json", kind->json, "as JSON");
     addPrinting<CloudDisconnectOptions>(*cloud, "disconnect", "keep recordings on this machine only");
     const auto [status, how] = addPrinting<CloudStatusOptions>(*cloud, "status", "print where the cloud is");
     status->add_flag("--json", how->json, "as JSON");

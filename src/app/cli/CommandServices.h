@@ -4,7 +4,7 @@
 #include <QStringList>
 
 #include "app/settings/SettingsStore.h"
-#include "cloud/CloudAccount.h"
+#include "cloud/CloudConnection.h"
 #include "platform/AppContainer.h"
 #include "platform/AssetExportSession.h"
 #include "platform/AudioConverter.h"
@@ -43,12 +43,24 @@ struct CommandOutput {
     QStringList failures = {};
 };
 
+/// What is known of the cloud without asking it.
+struct CloudOverview {
+    /// By name, what is here and what is only there.
+    std::map<std::filesystem::path, CloudFile> files;
+    /// When both sides had the same; invalid where they never have, or another program sees to that.
+    QDateTime lastSync;
+};
+
 /// What the commands on the cloud ask for.
 struct CloudCommands {
     /// Makes the place the cloud's, and keeps the password.
     std::function<Result<void>(const CloudAccount& account, const QString& password)> prepare;
-    /// Has both sides of a server's account agree.
-    std::function<Result<void>(const CloudAccount& account)> sync;
+    /// Forgets the password.
+    std::function<void(const CloudAccount& account)> forget;
+    /// Has both sides of a server's account agree. Files that have vanished from the server all at once are removed
+    /// here, too, or sent again, or it fails and says so.
+    std::function<Result<void>(const CloudAccount& account, std::optional<bool> areVanishedRemoved)> sync;
+    std::function<CloudOverview(const CloudAccount& account)> look;
     /// From the terminal, or a line of standard input.
     std::function<QString()> askForPassword;
 };

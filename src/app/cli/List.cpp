@@ -1,9 +1,9 @@
 #include "app/cli/List.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
+#include "app/cli/Json.h"
 #include "files/PathText.h"
 #include "library/RecordingLister.h"
 #include "library/RecordingOrder.h"
@@ -22,14 +22,7 @@ QByteArray recordingsJson(const std::vector<RecordingEntry>& recordings) {
         }
         array.append(object);
     }
-    // In JSON such characters are only found in texts, where each may be written as its number (RFC 8259, 7).
-    QString json;
-    for (const QChar character : QString::fromUtf8(QJsonDocument(array).toJson())) {
-        json += isUnseen(character) && character != QLatin1Char('\n')
-                    ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'))
-                    : QString(character);
-    }
-    return json.toUtf8();
+    return jsonText(array);
 }
 
 /// A line a recording.

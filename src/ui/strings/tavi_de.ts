@@ -1250,5 +1250,146 @@
         <source></source>
         <translation>das ist nicht der Code</translation>
     </message>
+    <!-- The cloud: what stands in the way -->
+    <message id="error_cloud_silent">
+        <source></source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
+    <message id="error_cloud_broken">
+        <source></source>
+        <translation>Der Server antwortet nicht: %1</translation>
+    </message>
+    <message id="error_cloud_certificate">
+        <source></source>
+        <translation>Dem Server wird nicht vertraut: %1 Nichts wurde gesendet.</translation>
+    </message>
+    <message id="error_cloud_moved">
+        <source></source>
+        <translation>Der Ordner hat jetzt eine andere Adresse: %1</translation>
+    </message>
+    <message id="error_cloud_no_dav">
+        <source></source>
+        <translation>Unter dieser Adresse ist kein WebDAV-Ordner.</translation>
+    </message>
+    <message id="error_cloud_refused">
+        <source></source>
+        <translation>Der Server weist den Benutzer oder das Passwort ab.</translation>
+    </message>
+    <message id="error_cloud_no_folder">
+        <source></source>
+        <translation>Der Ordner ist nicht auf dem Server.</translation>
+    </message>
+    <message id="error_cloud_full">
+        <source></source>
+        <translation>Der Server ist voll.</translation>
+    </message>
+    <message id="error_cloud_busy">
+        <source></source>
+        <translation>Der Server hat zu viel zu tun.</translation>
+    </message>
+    <message id="error_cloud_status">
+        <source></source>
+        <translation>Der Server antwortet mit Status %1.</translation>
+    </message>
+    <message id="error_cloud_part">
+        <source></source>
+        <translation>Der Server hat nur einen Teil gesendet.</translation>
+    </message>
+    <message id="error_cloud_not_kept">
+        <source></source>
+        <translation>Der Server hat eine Datei nicht behalten.</translation>
+    </message>
+    <message id="error_cloud_too_long">
+        <source></source>
+        <translation>Der Ordner auf dem Server hat zu viele Dateien.</translation>
+    </message>
+    <message id="error_cloud_journal">
+        <source></source>
+        <translation>Das Journal der Cloud kann nicht geschrieben werden.</translation>
+    </message>
+    <message id="error_cloud_other_folder">
+        <source></source>
+        <translation>Der Ordner auf dem Server ist nicht mehr derselbe.</translation>
+    </message>
+    <message id="error_cloud_interrupted">
+        <source></source>
+        <translation>Es wurde unterbrochen.</translation>
+    </message>
+    <message id="error_cloud_unreadable">
+        <source></source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message id="error_cloud_growing">
+        <source></source>
+        <translation>%1 wird noch geschrieben.</translation>
+    </message>
+    <message id="error_cloud_length">
+        <source></source>
+        <translation>Der Server sagt nicht, wie lang %1 ist.</translation>
+    </message>
+    <message id="error_cloud_conflict">
+        <source></source>
+        <translation>%1 wurde auf zwei Geräten geändert: Beide bleiben.</translation>
+    </message>
+    <message id="error_cloud_missing">
+        <source></source>
+        <translation>Nach %1 wird noch einmal gesucht.</translation>
+    </message>
+    <message id="error_cloud_in_clear">
+        <source></source>
+        <translation>Die Adresse muss mit https:// beginnen.</translation>
+    </message>
+    <message id="error_cloud_unknown">
+        <source></source>
+        <translation>%1 ist nicht in der Cloud.</translation>
+    </message>
+    <message id="error_cloud_unsent">
+        <source></source>
+        <translation>%1 ist noch nicht in der Cloud.</translation>
+    </message>
+    <message id="error_cloud_taken">
+        <source></source>
+        <translation>In der Cloud ist eine Datei dieses Namens.</translation>
+    </message>
+    <message id="error_cloud_untold">
+        <source></source>
+        <translation>Dem Server kann es jetzt nicht gesagt werden.</translation>
+    </message>
+    <message id="error_cloud_foreign">
+        <source></source>
+        <translation>Ein anderes Programm verwahrt die Datei.</translation>
+    </message>
+    <message id="error_cloud_read_only">
+        <source></source>
+        <translation>Der Server lässt dort nichts schreiben.</translation>
+    </message>
+    <message id="error_cloud_password">
+        <source></source>
+        <translation>Das Passwort ist nicht zu haben: %1</translation>
+    </message>
+    <message id="error_cloud_password_kept">
+        <source></source>
+        <translation>Das Passwort kann nicht aufbewahrt werden: %1</translation>
+    </message>
+    <message id="error_cloud_elsewhere">
+        <source></source>
+        <translation>Ein anderer Prozess kümmert sich gerade um die Cloud.</translation>
+    </message>
+    <message id="error_cloud_disk">
+        <source></source>
+        <translation>Der Ordner ist nicht zu erreichen.</translation>
+    </message>
+    <message id="error_cloud_vanished">
+        <source></source>
+        <translation>%1 Dateien sind auf einmal vom Server verschwunden.</translation>
+    </message>
+    <message id="error_cloud_no_server">
+        <source></source>
+        <translation>Die Cloud ist kein Server.</translation>
+    </message>
+    <message id="command_cloud_vanished">
+        <source></source>
+        <translation>--remove-vanished entfernt sie auch hier, --keep-vanished sendet sie noch einmal.</translation>
+    </message>
 </context>
 </TS>

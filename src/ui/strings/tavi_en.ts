@@ -1249,5 +1249,146 @@
         <source></source>
         <translation>this is not the passcode</translation>
     </message>
+    <!-- The cloud: what stands in the way -->
+    <message id="error_cloud_silent">
+        <source></source>
+        <translation>The server does not answer.</translation>
+    </message>
+    <message id="error_cloud_broken">
+        <source></source>
+        <translation>The server does not answer: %1</translation>
+    </message>
+    <message id="error_cloud_certificate">
+        <source></source>
+        <translation>The server is not trusted: %1 Nothing was sent.</translation>
+    </message>
+    <message id="error_cloud_moved">
+        <source></source>
+        <translation>The folder is at another address now: %1</translation>
+    </message>
+    <message id="error_cloud_no_dav">
+        <source></source>
+        <translation>There is no WebDAV folder at this address.</translation>
+    </message>
+    <message id="error_cloud_refused">
+        <source></source>
+        <translation>The server refuses the user or the password.</translation>
+    </message>
+    <message id="error_cloud_no_folder">
+        <source></source>
+        <translation>The folder is not on the server.</translation>
+    </message>
+    <message id="error_cloud_full">
+        <source></source>
+        <translation>The server is full.</translation>
+    </message>
+    <message id="error_cloud_busy">
+        <source></source>
+        <translation>The server has too much to do.</translation>
+    </message>
+    <message id="error_cloud_status">
+        <source></source>
+        <translation>The server answers with status %1.</translation>
+    </message>
+    <message id="error_cloud_part">
+        <source></source>
+        <translation>The server has sent only a part.</translation>
+    </message>
+    <message id="error_cloud_not_kept">
+        <source></source>
+        <translation>The server has not kept a file.</translation>
+    </message>
+    <message id="error_cloud_too_long">
+        <source></source>
+        <translation>The folder on the server has too many files.</translation>
+    </message>
+    <message id="error_cloud_journal">
+        <source></source>
+        <translation>The cloud's journal cannot be written.</translation>
+    </message>
+    <message id="error_cloud_other_folder">
+        <source></source>
+        <translation>The folder on the server is not the one that it was.</translation>
+    </message>
+    <message id="error_cloud_interrupted">
+        <source></source>
+        <translation>It was interrupted.</translation>
+    </message>
+    <message id="error_cloud_unreadable">
+        <source></source>
+        <translation>%1 cannot be read.</translation>
+    </message>
+    <message id="error_cloud_growing">
+        <source></source>
+        <translation>%1 is still being written.</translation>
+    </message>
+    <message id="error_cloud_length">
+        <source></source>
+        <translation>The server does not say how long %1 is.</translation>
+    </message>
+    <message id="error_cloud_conflict">
+        <source></source>
+        <translation>%1 was changed on two devices: both are kept.</translation>
+    </message>
+    <message id="error_cloud_missing">
+        <source></source>
+        <translation>%1 is looked for again.</translation>
+    </message>
+    <message id="error_cloud_in_clear">
+        <source></source>
+        <translation>The address must begin with https://.</translation>
+    </message>
+    <message id="error_cloud_unknown">
+        <source></source>
+        <translation>%1 is not in the cloud.</translation>
+    </message>
+    <message id="error_cloud_unsent">
+        <source></source>
+        <translation>%1 is not in the cloud yet.</translation>
+    </message>
+    <message id="error_cloud_taken">
+        <source></source>
+        <translation>There is a file of that name in the cloud.</translation>
+    </message>
+    <message id="error_cloud_untold">
+        <source></source>
+        <translation>The server cannot be told now.</translation>
+    </message>
+    <message id="error_cloud_foreign">
+        <source></source>
+        <translation>The file is kept by another program.</translation>
+    </message>
+    <message id="error_cloud_read_only">
+        <source></source>
+        <translation>The server lets nothing be written there.</translation>
+    </message>
+    <message id="error_cloud_password">
+        <source></source>
+        <translation>The password cannot be had: %1</translation>
+    </message>
+    <message id="error_cloud_password_kept">
+        <source></source>
+        <translation>The password cannot be kept: %1</translation>
+    </message>
+    <message id="error_cloud_elsewhere">
+        <source></source>
+        <translation>Another process looks after the cloud now.</translation>
+    </message>
+    <message id="error_cloud_disk">
+        <source></source>
+        <translation>The folder cannot be reached.</translation>
+    </message>
+    <message id="error_cloud_vanished">
+        <source></source>
+        <translation>%1 files are gone from the server all at once.</translation>
+    </message>
+    <message id="error_cloud_no_server">
+        <source></source>
+        <translation>The cloud is no server.</translation>
+    </message>
+    <message id="command_cloud_vanished">
+        <source></source>
+        <translation>Say --remove-vanished to remove them here, too, or --keep-vanished to send them again.</translation>
+    </message>
 </context>
 </TS>

@@ -41,14 +41,26 @@ protected:
                  .trash = trash,
                  .refreshes = refreshes,
                  .notifications = notifications,
-                 .cloud = {
-                     .prepare =
-                         [this](const CloudAccount& account, const QString& password) {
-                             prepared.push_back(account.token() + QLatin1Char(' ') + password);
-                             return Result<void>();
-                         },
-                     .sync = [](const CloudAccount&) { return Result<void>(failure(QStringLiteral("not in step"))); },
-                     .askForPassword = [] { return QStringLiteral("secret"); }}});
+                 .cloud = {.prepare =
+                               [this](const CloudAccount& account, const QString& password) {
+                                   prepared.push_back(account.token() + QLatin1Char(' ') + password);
+                                   return Result<void>();
+                               },
+                           .forget =
+                               [this](const CloudAccount& account) {
+                                   prepared.push_back(QLatin1String("forgot ") + account.user);
+                               },
+                           .sync = [](const CloudAccount&, std::optional<bool> areVanishedRemoved) -> Result<void> {
+                               return areVanishedRemoved ? Result<void>() : failure(QStringLiteral("not in step"));
+                           },
+                           .look =
+                               [](const CloudAccount&) {
+                                   return CloudOverview{{{"a", {}},
+                                                         {"b\n (conflict D)", {CloudFile::State::Waiting, true}},
+                                                         {"c", {CloudFile::State::OnlyThere}}},
+                                                        QDateTime::fromSecsSinceEpoch(0)};
+                               },
+                           .askForPassword = [] { return QStringLiteral("secret"); }}});
         });
         if (!printed) {
             return "! " + printed.error().text.toStdString();
@@ -89,17 +101,26 @@ TEST_F(CommandsTest, TheCloudIsAFolderThatExistsOrAServer) {
     expectSaid({{"cloud|status", "no cloud\n"}, {"cloud|connect|/nowhere", "! no folder: /nowhere"}});
     EXPECT_TRUE(prepared.empty());
     const QByteArray connect = "cloud|connect|" + QByteArray::fromStdString(folder.native());
-    expectSaid({{connect, folder.native() + '\n'},
-                {"get|Iclound", "false\n"},
-                {"set|Iclound|YES", ""},
-                {"cloud|status", folder.native() + " (off)\n"},
-                {"cloud|status|--json", "{\"on\":false,\"place\":\"" + folder.native() + "\"}\n"},
-                {"cloud|disconnect", "no cloud\n"},
-                {"cloud|connect|https://h/f|--user|u", "https://h/f/\n"},
-                {"cloud|sync", "! not in step"},
-                {"cloud|disconnect", "no cloud\n"}});
-    EXPECT_EQ(prepared, QStringList({QLatin1Char('@') + pathText(folder) + QLatin1Char(' '),
-                                     QStringLiteral("u@https://h/f/ secret")}));
+    const std::string counts = "\n1 in the cloud, 1 waiting, 1 only there, 1 conflict copies\nin step at ";
+    const std::string since = QDateTime::fromSecsSinceEpoch(0).toString(Qt::ISODate).toStdString() + '\n';
+    expectSaid(
+        {{connect, folder.native() + counts + since},
+         {"get|Iclound", "false\n"},
+         {"set|Iclound|YES", ""},
+         {"cloud|status", folder.native() + " (off)" + counts + since},
+         {"cloud|status|--json",
+          R"({"conflicts":1,"lastSync":"1970-01-01T00:00:00Z","on":false,"onlyThere":1,"place":")" + folder.native() +
+              R"(","there":1,"waiting":1})"
+              "\n"},
+         {"cloud|list", "a\tthere\nb? (conflict D)\twaiting, conflict\nc\tonly there\n"},
+         {"cloud|disconnect", "no cloud\n"},
+         {"cloud|connect|https://h/f|--user|u", "https://h/f/" + counts + since},
+         {"cloud|sync", "! not in step"},
+         {"cloud|sync|--remove-vanished", ""},
+         {"cloud|disconnect", "no cloud\n"},
+         {"cloud|list", "! no cloud"}});
+    EXPECT_EQ(prepared, QStringList({QLatin1Char('@') + pathText(folder) + QLatin1Char(' '), QStringLiteral("forgot "),
+                                     QStringLiteral("u@https://h/f/ secret"), QStringLiteral("forgot u")}));
     EXPECT_TRUE(existsAt(folder)) << "what is in it stays";
 }
 
