@@ -169,14 +169,12 @@ StoreAnswer KeyringStore::update(GList* items, const StoreRequest& request) {
     return isStored ? StoreAnswer() : answerOf(error);
 }
 
-StoreAnswer KeyringStore::remove(GList* items) {
-    for (GList* link = items; link != nullptr; link = link->next) {
-        GError* error = nullptr;
-        if (secret_item_delete_sync(SECRET_ITEM(link->data), m_cancellable.get(), &error) == FALSE) {
-            return answerOf(error);
-        }
-    }
-    return {};
+StoreAnswer KeyringStore::remove(const StoreRequest& request) {
+    GError* error = nullptr;
+    // All that has these attributes, and nothing where another program was quicker.
+    secret_service_clear_sync(m_service.get(), schema(), attributesOf(request.query).get(), m_cancellable.get(),
+                              &error);
+    return error == nullptr ? StoreAnswer() : answerOf(error);
 }
 
 StoreAnswer KeyringStore::answerTo(const StoreRequest& request) {
@@ -202,7 +200,7 @@ StoreAnswer KeyringStore::answerTo(const StoreRequest& request) {
         case Kind::Update:
             return items ? update(items.get(), request) : StoreAnswer{.status = KeychainStatus::ItemNotFound};
         case Kind::Remove:
-            return items ? remove(items.get()) : StoreAnswer{.status = KeychainStatus::ItemNotFound};
+            return items ? remove(request) : StoreAnswer{.status = KeychainStatus::ItemNotFound};
     }
     return {};
 }

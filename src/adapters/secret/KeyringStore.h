@@ -42,7 +42,7 @@ private:
     StoreAnswer fetch(GList* items) const;
     StoreAnswer add(const StoreRequest& request);
     StoreAnswer update(GList* items, const StoreRequest& request);
-    StoreAnswer remove(GList* items);
+    StoreAnswer remove(const StoreRequest& request);
     StoreAnswer answerTo(const StoreRequest& request);
 
     QByteArray m_container;

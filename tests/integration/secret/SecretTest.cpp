@@ -45,12 +45,31 @@ protected:
         // It is not lost as long as the program runs.
         EXPECT_EQ(m_keychain->fetch(kQuery), kNew) << row;
         EXPECT_EQ(m_keychain->remove(kQuery), Status::NotAvailable) << row;
+        EXPECT_EQ(m_keychain->fetch(kQuery).error(), Status::ItemNotFound) << row;
     }
 
     TemporaryContainer m_container;
     StorePlaces m_places{m_container.preferencesPath(), m_container.root() / "keychain.key"};
     QtRunLoop m_runLoop;
     std::unique_ptr<SystemKeychain> m_keychain;
+};
+
+/// No file can grow beyond ten bytes while it lives.
+class FullDisk {
+public:
+    FullDisk() {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit full{10, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        ::signal(SIGXFSZ, m_previous);
+    }
+
+private:
+    rlimit m_before = {};
+    sighandler_t m_previous = ::signal(SIGXFSZ, SIG_IGN);
 };
 
 class SealedFile : public Secrets {
@@ -67,6 +86,7 @@ protected:
 };
 
 TEST_F(SealedFile, IsForTheUserAloneAndTellsNothing) {
+    std::ofstream(m_places.sealed() += ".new") << "left by a killed program";
     const mode_t mask = ::umask(0);
     EXPECT_EQ(start().add(kQuery, kOld), Status::Success);
     ::umask(mask);
@@ -115,21 +135,25 @@ TEST_F(SealedFile, IsToldAndLeftAsItIsWhereItCannotBeRight) {
 }
 
 TEST_F(SealedFile, KeepsTheOldValueOnAFullDiskAndStoresTheNewOneLater) {
+    const auto stored = [this] { return SealedFileStore(m_places).perform({.query = kQuery}).attributes; };
+    const auto answers = [this] { return m_keychain->fetch({}).error() == Status::ItemNotFound; };
+    const auto refuse = [&](const KeychainAttributes& next) {
+        const FullDisk full;
+        const KeychainAttributes before = stored();
+        EXPECT_EQ(m_keychain->update(kQuery, next), Status::NotAvailable);
+        EXPECT_FALSE(m_keychain->trouble().isEmpty());
+        EXPECT_EQ(m_keychain->fetch(kQuery), next);
+        EXPECT_EQ(stored(), before);
+        EXPECT_FALSE(fs::exists(m_places.sealed() += ".new"));
+    };
     ASSERT_EQ(start().add(kQuery, kOld), Status::Success);
-    rlimit before = {};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const auto previous = ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{10, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    EXPECT_EQ(m_keychain->update(kQuery, kNew), Status::NotAvailable);
-    EXPECT_FALSE(m_keychain->trouble().isEmpty());
-    EXPECT_EQ(m_keychain->fetch(kQuery), kNew);
-    EXPECT_EQ(SealedFileStore(m_places).perform({.query = kQuery}).attributes, kOld);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, previous);
-    EXPECT_EQ(m_keychain->fetch({}).error(), Status::ItemNotFound);
-    EXPECT_TRUE(spinUntil([this] { return m_keychain->trouble().isEmpty(); }));
-    EXPECT_EQ(start().fetch(kQuery), kNew);
+    refuse(kNew);
+    EXPECT_TRUE(answers() && answers());
+    EXPECT_EQ(stored(), kNew);
+    // Before it is heard that the one has been stored, another waits in its place.
+    refuse(kOld);
+    EXPECT_TRUE(spinUntil([&] { return answers() && m_keychain->trouble().isEmpty(); }));
+    EXPECT_EQ(start().fetch(kQuery), kOld);
 }
 
 TEST_F(SealedFile, TakesWhatTwoProgramsWriteAtOnce) {
@@ -156,6 +180,16 @@ TEST_F(Keyring, TakesOverWhatAFileHeld) {
     m_keyring.endBus();
     before.choose();
     m_keyring.beginAnew();
+    std::ofstream(m_places.keyring()) << "keyring 00";
+    start();
+    expectNothingButTrouble("damaged note");
+    EXPECT_EQ(bytesOf(m_places.keyring()), "keyring 00");
+    fs::remove(m_places.keyring());
+    {
+        const FullDisk full;
+        EXPECT_EQ(start().fetch(kQuery), kOld);
+    }
+    EXPECT_EQ(m_keyring.itemCount(), 0);
     EXPECT_EQ(start().fetch(kQuery), kOld);
     EXPECT_FALSE(fs::exists(m_places.sealed()) || fs::exists(m_places.key));
     // A program that found no keyring at its start follows.
@@ -190,9 +224,6 @@ TEST_F(Keyring, IsMissedRatherThanReplaced) {
     EXPECT_EQ(m_keychain->fetch(kQuery), kOld);
     m_keyring.lock();
     expectNothingButTrouble("locked");
-    std::ofstream(m_places.keyring()) << "keyring 00";
-    start();
-    expectNothingButTrouble("damaged note");
     EXPECT_FALSE(fs::exists(m_places.sealed()));
 }
 
