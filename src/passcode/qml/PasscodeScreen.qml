@@ -98,7 +98,8 @@ FocusScope {
         x: root.wordsX
         y: instruction.y + instruction.height + 2
         width: root.wordsWidth
-        height: root.drop - 20
+        // Clear of the dots, also with three lines.
+        height: root.drop - 28
         visible: text !== ""
         text: root.screen.trouble
         color: Theme.tint
