@@ -89,7 +89,7 @@ void PasscodeCoordinator::handleNotification(const QString& name) {
 
 void PasscodeCoordinator::enterBackground() {
     setCovered(true);
-    m_wasUnlocking = m_wasUnlocking || isUnlocking();
+    m_wasUnlocking = isUnlocking();
     dismissLockScreen();
     startTrackingInactivity();
 }

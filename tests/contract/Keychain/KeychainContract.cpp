@@ -20,6 +20,8 @@ struct Kind {
     const char* name;
     bool isReal;
     bool hasKeyring;
+
+    friend void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
 };
 
 class KeychainContract : public ::testing::TestWithParam<Kind> {
@@ -93,7 +95,7 @@ TEST_P(KeychainContract, HoldsValuesWithTheirTypes) {
 INSTANTIATE_TEST_SUITE_P(, KeychainContract,
                          ::testing::Values(Kind{"Fake", false, false}, Kind{"File", true, false},
                                            Kind{"Keyring", true, true}),
-                         [](const auto& one) { return std::string(one.param.name); });
+                         ::testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tavi::test

@@ -97,6 +97,18 @@ TEST(LibplistPropertyLists, ArchivesWhatTheFormatCannotHoldAtAnyDepth) {
 }
 
 TEST(LibplistPropertyLists, ReadsNothingFromDamage) {
+    for (const int depth : {99, 110}) {
+        // Lists in lists: two bytes each, then the number 1, the places of them all, and the end with their count.
+        QByteArray lists = "bplist00";
+        QByteArray places;
+        for (int i = 1; i <= depth + 1; ++i) {
+            places += static_cast<char>(lists.size());
+            lists += i <= depth ? QByteArray("\xa1") + static_cast<char>(i) : QByteArray("\x10\x01");
+        }
+        const auto number = [](qsizetype value) { return QByteArray(7, 0) + static_cast<char>(value); };
+        lists += places + QByteArray(6, 0) + "\x01\x01" + number(depth + 1) + number(0) + number(lists.size());
+        EXPECT_EQ(g_real.propertyListWithData(lists).value_or(0), depth < 100 ? nested(depth) : 0) << depth;
+    }
     const QByteArray whole = g_real.archivedDataWithRootObject(QVariantList{1, kDate, QStringLiteral("text")}).value();
     for (qsizetype size = 0; size < whole.size(); ++size) {
         EXPECT_FALSE(g_real.unarchiveObjectWithData(whole.first(size))) << size;

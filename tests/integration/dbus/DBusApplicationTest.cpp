@@ -163,11 +163,16 @@ TEST_F(DBusApplicationTest, RefusesTheLibraryWhileLockedAndRecordsAllTheSame) {
         {{Kind::Open, {QStringLiteral("TaviliteConnect:")}, {}}, "locked: The recorder is locked."},
         {{Kind::Action, {}, QStringLiteral("Record")}, "ok"},
         {{Kind::Open, {QStringLiteral("TaviRecordStop:")}, {}}, "ok"},
+        {{Kind::Open, {QStringLiteral("TaviliteConnect:"), QStringLiteral("file:///a")}, {}}, "ok"},
         {{}, "ok"}};
     for (const auto& [request, answer] : rows) {
         EXPECT_THAT(handedOver(request), ::testing::StartsWith(answer));
     }
-    expectCalls("shortcut Record, open tavirecordstop:");
+    expectCalls("shortcut Record, open tavirecordstop:, open taviliteconnect:, open file:///a");
+    QRasterWindow window;
+    m_application.setWindow(&window);
+    handedOver(rows[0].first);
+    EXPECT_TRUE(window.isVisible()) << "where the passcode can be entered";
     EXPECT_EQ(isInstanceLocked(PrivateBus::none(), m_name), std::nullopt);
 }
 

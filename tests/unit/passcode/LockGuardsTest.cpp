@@ -140,7 +140,9 @@ TEST(ApplicationDelegateGuard, RecordsWhileLockedAndOpensTheRestLater) {
     }
     QStringList expected{QStringLiteral("tavirecordstart:"), QStringLiteral("tavirecordstop:")};
     EXPECT_EQ(opener.opened, expected);
-    lock.setLocked(false);
+    for (const bool isLocked : {false, true, false}) {
+        lock.setLocked(isLocked);
+    }
     expected << QStringLiteral("file:///b") << QStringLiteral("taviliteconnect:") << QStringLiteral("file:///a");
     EXPECT_EQ(opener.opened, expected);
 }
