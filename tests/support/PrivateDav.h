@@ -18,8 +18,9 @@ namespace tavi::test {
 /// Ends the program where it does not come up.
 class PrivateDav {
 public:
-    /// "apache", "rclone", "rclone-writes", "nginx", "lighttpd", or the path of a Python script.
-    explicit PrivateDav(const QString& kind) {
+    /// "apache", "rclone", "rclone-writes", "nginx", "lighttpd", "sabre", or the path of a Python script, which is told
+    /// a certificate, too, where there is one.
+    explicit PrivateDav(const QString& kind, const QString& certificate = {}) : m_certificate(certificate) {
         QTcpServer free;
         free.listen(QHostAddress::LocalHost);
         m_port = QString::number(free.serverPort());
@@ -53,6 +54,7 @@ public:
     }
 
     QUrl url() const { return QUrl(QStringLiteral("http://127.0.0.1:%1/Tavi/").arg(m_port)); }
+    QString port() const { return m_port; }
     /// What the server keeps.
     std::filesystem::path files() const { return path("/root/Tavi").toStdString(); }
 
@@ -121,11 +123,26 @@ private:
                                "\"basic\",\"realm\"=>\"dav\",\"require\"=>\"valid-user\"))\n"),
                 {QStringLiteral("/usr/sbin/lighttpd"), QStringLiteral("-D"), QStringLiteral("-f"), path("/l.conf")});
         }
-        return {QStringLiteral("python3"), kind, m_port};
+        if (kind == QLatin1String("sabre")) {
+            return withFile(
+                "/server.php",
+                QStringLiteral(
+                    "<?php\nrequire 'Sabre/autoload.php';\nclass Users extends "
+                    "Sabre\\DAV\\Auth\\Backend\\AbstractBasic {\n"
+                    "protected function validateUserPass($user, $pass) { return $user == 'u' && $pass == 'p'; "
+                    "}\n}\n$server = new Sabre\\DAV\\Server(new Sabre\\DAV\\FSExt\\Directory('$R/root'));\n"
+                    "$server->setBaseUri('/');\n$server->addPlugin(new Sabre\\DAV\\Auth\\Plugin(new Users(), "
+                    "'dav'));\n$server->exec();\n"),
+                {QStringLiteral("php"), QStringLiteral("-d"), QStringLiteral("display_errors=0"), QStringLiteral("-S"),
+                 QStringLiteral("127.0.0.1:") + m_port, path("/server.php")});
+        }
+        return QStringList{QStringLiteral("python3"), kind, m_port} +
+               (m_certificate.isEmpty() ? QStringList() : QStringList{m_certificate});
     }
     static const char* digest() { return "5e8f82c775b2816e9b41061669b52605"; }
 
     QTemporaryDir m_folder;
+    QString m_certificate;
     QString m_port;
     QProcess m_process;
 };

@@ -102,6 +102,8 @@ void WebDavMirror::run() {
         // A server that asks to be left alone is, whatever changes here.
         const bool isPatient = outcome.retryAfter > 0;
         update([&] {
+            // An answer is for the files of that one time.
+            m_answer = outcome.isInStep ? VanishedAnswer() : m_answer;
             m_condition.outcome = std::move(outcome);
             m_condition.lastSync = lastSync;
             m_condition.isWorking = false;

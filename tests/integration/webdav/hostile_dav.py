@@ -1,19 +1,22 @@
-"""A WebDAV server that keeps files in memory and breaks every promise: hostile_dav.py PORT.
+"""A WebDAV server that keeps files in memory and breaks every promise: hostile_dav.py PORT [CERTIFICATE-AND-KEY].
 
 GET /?SEED makes it misbehave from then on, at random by that seed; GET /?0 makes it good again. It never loses what it
 said that it keeps, since nothing could be proved of a server that does; all else is allowed: it overwrites whatever the
 preconditions say, forgets to answer, answers and does nothing, keeps a part of what was sent, and lies about tags.
+GET /?VERB=STATUS has it answer so from then on, with "=elsewhere" by a redirect to another origin (asked there it makes a
+file "caught"), with "=path" by 400 where a destination is no path; GET /?VERB=0 makes that good again.
 """
 
 import email.utils
 import http.server
 import random
+import ssl
 import sys
 import time
 import urllib.parse
 import xml.sax.saxutils
 
-files, dice = {"/": None}, None
+files, dice, rules = {"/": None}, None, {}
 FAULTS = ["drop", "lose", "error", "busy", "part", "cut", "tag", "login"]
 
 
@@ -23,8 +26,10 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def log_message(self, *_):
         pass
 
-    def reply(self, status, body=b"", cut=False):
+    def reply(self, status, body=b"", cut=False, location=None):
         self.send_response(status)
+        if location:
+            self.send_header("Location", location)
         if cut:
             self.send_header("Transfer-Encoding", "chunked")
             self.end_headers()
@@ -39,6 +44,18 @@ class Handler(http.server.BaseHTTPRequestHandler):
         global dice
         path = urllib.parse.unquote_to_bytes(self.path).decode("utf-8", "surrogateescape").rstrip("/") or "/"
         body = self.rfile.read(int(self.headers.get("Content-Length") or 0))
+        if path.startswith("/?") and "=" in path:
+            verb, rules[verb] = path[2:].split("=")
+            return self.reply(200)
+        rule = rules.get(self.command, "0")
+        if rule != "0" and self.headers["Host"].startswith("localhost"):
+            files["/Tavi/caught"] = (b"", 0)
+        if rule.isdigit() and rule != "0":
+            return self.reply(int(rule))
+        if rule == "elsewhere":
+            return self.reply(307, location=f"http://localhost:{sys.argv[1]}/Tavi/")
+        if rule == "path" and not self.headers["Destination"].startswith("/"):
+            return self.reply(400)
         if path.startswith("/?"):
             dice = random.Random(int(path[2:])) if path != "/?0" else None
             return self.reply(200)
@@ -96,4 +113,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
     do_GET = do_PUT = do_MOVE = do_DELETE = do_MKCOL = do_PROPFIND = answer
 
 
-http.server.ThreadingHTTPServer(("127.0.0.1", int(sys.argv[1])), Handler).serve_forever()
+server = http.server.ThreadingHTTPServer(("127.0.0.1", int(sys.argv[1])), Handler)
+if len(sys.argv) > 2:
+    context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+    context.load_cert_chain(sys.argv[2])
+    server.socket = context.wrap_socket(server.socket, server_side=True, do_handshake_on_connect=False)
+server.serve_forever()

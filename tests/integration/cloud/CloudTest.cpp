@@ -1,0 +1,104 @@
+#include "Cloud.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "CloudPlace.h"
+#include "adapters/qt/QtRunLoop.h"
+#include "support/EventLoop.h"
+#include "support/FakeKeychain.h"
+#include "support/Fakes.h"
+#include "support/PrivateDav.h"
+#include "support/TemporaryContainer.h"
+
+namespace tavi::test {
+namespace {
+
+using State = CloudCondition::State;
+
+class CloudTest : public ::testing::Test {
+protected:
+    void start() {
+        cloud =
+            std::make_unique<Cloud>(Cloud::Services{container, defaults, settings, runLoop, notifications, keychain});
+    }
+    bool becomes(State state) {
+        return spinUntil([&] { return cloud->condition().state == state; });
+    }
+    std::string connected(const char* password) {
+        std::optional<Result<void>> answer;
+        cloud->connectTo(account, QLatin1String(password), [&](const Result<void>& given) { answer = given; });
+        EXPECT_FALSE(answer);
+        EXPECT_TRUE(spinUntil([&] { return answer.has_value(); }));
+        return answer && *answer ? "" : answer->error().text.toStdString();
+    }
+    void record(const char* name) {
+        std::ofstream(mirrorFolder(account, container) / kUbiquityDocumentsFolder / name) << "sound";
+    }
+    bool arrives(const char* name) {
+        return spinUntil([&] { return existsAt(server.files() / name); });
+    }
+
+    PrivateDav server{QStringLiteral("rclone")};
+    CloudAccount account = CloudAccount::server(server.url().toString(), QStringLiteral("u"));
+    TemporaryContainer container;
+    FakeUserDefaults defaults;
+    SettingsStore settings{defaults};
+    QtRunLoop runLoop;
+    NotificationCenter notifications;
+    FakeKeychain keychain;
+    std::unique_ptr<Cloud> cloud;
+};
+
+TEST_F(CloudTest, AnAccountComesAndGoesAndItsSwitchStopsAndStartsIt) {
+    start();
+    EXPECT_EQ(cloud->condition(), CloudCondition());
+    EXPECT_EQ(connected("wrong"), "error_cloud_refused");
+    EXPECT_EQ(cloud->account(), CloudAccount());
+    EXPECT_TRUE(keychain.items.isEmpty());
+    EXPECT_EQ(connected("p"), "");
+    EXPECT_TRUE(settings.isCloudSyncOn());
+    EXPECT_TRUE(becomes(State::InStep));
+    EXPECT_TRUE(cloud->condition().lastSync.isValid());
+    record("a (conflict D x).m4a");
+    EXPECT_TRUE(arrives("a (conflict D x).m4a"));
+    EXPECT_TRUE(spinUntil([&] {
+        return cloud->files() == std::map<std::filesystem::path, CloudFile>{
+                                     {"a (conflict D x).m4a", {CloudFile::State::There, true, 0.0}}};
+    }));
+    settings.setCloudSyncOn(false);
+    cloud->settingsChanged();
+    EXPECT_EQ(cloud->condition().state, State::Off);
+    EXPECT_TRUE(spinUntil([&] { return takeCloudLock(container).isValid(); })) << "another process may";
+    record("b");
+    EXPECT_TRUE(spinUntil([&] { return cloud->files()["b"].state == CloudFile::State::Waiting; }));
+    settings.setCloudSyncOn(true);
+    cloud->settingsChanged();
+    EXPECT_TRUE(arrives("b"));
+    cloud->removeAccount();
+    EXPECT_TRUE(keychain.items.isEmpty());
+    EXPECT_EQ(cloud->condition(), CloudCondition());
+    EXPECT_TRUE(spinUntil([&] { return takeCloudLock(container).isValid(); }));
+    EXPECT_TRUE(existsAt(server.files() / "b")) << "what is there stays";
+}
+
+TEST_F(CloudTest, BeginsOnceTheKeyringIsThereAndNobodyElseLooksAfterIt) {
+    account.store(defaults);
+    settings.setCloudSyncOn(true);
+    keepPassword(account, QStringLiteral("p"), keychain);
+    keychain.troubleText = QStringLiteral("locked");
+    FileDescriptor other = takeCloudLock(container);
+    start();
+    EXPECT_EQ(cloud->condition().error, QLatin1String("error_cloud_elsewhere"));
+    other = FileDescriptor();
+    cloud->syncNow();
+    EXPECT_EQ(cloud->condition().state, State::Troubled);
+    EXPECT_EQ(cloud->condition().error, QLatin1String("error_cloud_password"));
+    keychain.troubleText.clear();
+    cloud->keychainChanged();
+    EXPECT_TRUE(becomes(State::InStep));
+}
+
+}  // namespace
+}  // namespace tavi::test
