@@ -15,6 +15,7 @@
 #include <thread>
 
 #include "Cloud.h"
+#include "CompanionChannel.h"
 #include "DisplayGuard.h"
 #include "LastMoment.h"
 #include "Output.h"
@@ -224,6 +225,18 @@ struct Screens {
     ApplicationDelegateGuard guardedDelegate{delegate, platform.lockState};
 };
 
+/// Tells companions what is recorded.
+void tellCompanions(Screens& screens) {
+    const auto tell = [&recording = screens.recording, &application = screens.platform.application] {
+        using Phase = RecorderState::Phase;
+        const Phase ofSession = recording.isRecordingRunning() ? Phase::Recording : Phase::Paused;
+        application.setRecorderState(
+            {.phase = recording.isRecording() ? ofSession : Phase::Idle, .seconds = recording.seconds()});
+    };
+    QObject::connect(&screens.recording, &AudioRecordVC::outletsChanged, &screens.platform.application, tell);
+    QObject::connect(&screens.recording, &AudioRecordVC::clockChanged, &screens.platform.application, tell);
+}
+
 /// How the window is painted, unless the environment says otherwise. Before the application is made.
 void choosePainting() {
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) {
@@ -340,6 +353,13 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
         platform->keychain.prepare();
     }
     screens.emplace(*platform);
+    tellCompanions(*screens);
+    std::optional<CompanionChannel> companions;
+    if (request.companionChannel) {
+        companions.emplace(container, platform->runLoop, platform->bus, LocalWatchSession::End::Recorder,
+                           *request.companionChannel);
+        screens->recording.setWormhole(&companions->receiver());
+    }
     const LastMoment lastMoment([&delegate = screens->delegate] { delegate.applicationWillTerminate(); });
     screens->delegate.applicationDidFinishLaunching({request.shortcutType});
     QQuickWindow* window = loadWindow(engine, *screens);

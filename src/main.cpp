@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
+#include "AppStart.h"
 #include "CloudCommands.h"
 #include "CloudPlace.h"
 #include "Output.h"
@@ -142,6 +143,7 @@ int runPrinting(int& argc, char** argv, const CommandLine& line, const PrintingC
     QCoreApplication application(argc, argv);
     installTexts(application);
     SettingsFiles settings(container);
+    correctAppStart(settings.shared, container.cachesPath());
     MediaLibrary media;
     QtRunLoop runLoop;
     if (isGuardedByLock(line, container)) {

@@ -58,7 +58,7 @@ bool AudioRecordVC::isDismissable() const {
 }
 
 LabelOutlet AudioRecordVC::lblTimer() const {
-    return {clockText(isRecording() ? m_clock.secondStart() : 0), {}, false};
+    return {clockText(seconds()), {}, false};
 }
 
 LabelOutlet AudioRecordVC::lblRecording() const {

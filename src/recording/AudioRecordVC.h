@@ -97,6 +97,8 @@ public:
     /// The recording that was saved last since the program began, and its time on the clock; empty where there is none.
     QString lastName() const { return m_lastName; }
     QString lastTime() const { return m_lastTime; }
+    /// On the clock of the session, 0 where there is none.
+    qint64 seconds() const { return isRecording() ? m_clock.secondStart() : 0; }
     /// Whether the clock begins at 0 when it starts next.
     bool isReset() const { return !isRecording(); }
 

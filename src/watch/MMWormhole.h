@@ -7,17 +7,9 @@
 #include "watch/MMWormholeServices.h"
 #include "watch/MMWormholeTransiting.h"
 #include "watch/MessageListening.h"
+#include "watch/TransitingTypes.h"
 
 namespace tavi {
-
-/// How the messages of a channel travel.
-enum class MMWormholeTransitingType {
-    File = 0,
-    CoordinatedFile = 1,
-    SessionContext = 2,
-    SessionFile = 3,
-    SessionMessage = 4,
-};
 
 /// A channel of messages between the programs of a group: each message has an identifier, and each identifier one
 /// listener in a program. Main thread only.

@@ -20,12 +20,13 @@ MODULES = {
     "API/AudioTrimmerController/EZAudio": [],
     "app/settings": ["files"],
     "app/cli": [
-        "cloud", "library", "recording", "trimming", "trimming/waves", "trimming/waves/qml",
+        "cloud", "library", "recording", "trimming", "trimming/waves", "trimming/waves/qml", "watch",
         "API/AudioTrimmerController/EZAudio", "app/settings", "files", "library/utility"],
     "library/utility": ["files", "support"],
     "trimming/waves": ["API/AudioTrimmerController/EZAudio", "files", "library/utility"],
     "cloud": ["files"],
     "watch": ["files"],
+    "companion": ["watch", "files"],
     "passcode": ["app/settings"],
     "support": ["app/settings"],
     "ui": [],
@@ -48,7 +49,7 @@ LIBRARIES = [
     (re.compile(r"^plist/"), {"adapters/plist"}),
     (re.compile(r"^(libsecret/|sodium|glib|gio/)"), {"adapters/secret"}),
     (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
-    (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "adapters/network", "main"}),
+    (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "adapters/network", "adapters/tray", "main"}),
 ]
 # Modules in plain C++: no header that they include brings Qt. One header of theirs is for those who do know Qt.
 PLAIN = {ENGINE, "sound", "files"}
@@ -62,9 +63,9 @@ NOISE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 
 def module_of(path):
     """The folder of src/ that a path below it belongs to; None for none. "main" is what puts the adapters together: what
-    lies in src/ itself, and the library that main.cpp loads them from."""
+    lies in src/ itself, and the library that main.cpp loads them from, and the companion's main.cpp."""
     parts = pathlib.PurePosixPath(path).parts
-    if len(parts) == 1 or parts[0] == "media":
+    if len(parts) == 1 or parts[0] == "media" or path == "companion/main.cpp":
         return "main"
     if parts[0] == "adapters":
         return "/".join(parts[:2]) if len(parts) > 2 else None

@@ -8,6 +8,7 @@
 #include "adapters/dbus/ApplicationObject.h"
 #include "adapters/dbus/BusNames.h"
 #include "adapters/dbus/LockObject.h"
+#include "adapters/dbus/RecordingObject.h"
 #include "adapters/dbus/SessionLock.h"
 #include "adapters/dbus/WindowState.h"
 #include "files/FileUri.h"
@@ -56,6 +57,13 @@ DBusApplication::~DBusApplication() {
 void DBusApplication::setLockState(const LockState& lockState) {
     m_lockState = &lockState;
     new LockObject(m_busObject.get(), lockState);
+    m_recordingObject = new RecordingObject(m_busObject.get(), lockState, m_sessionBus);
+}
+
+void DBusApplication::setRecorderState(const RecorderState& state) {
+    if (m_recordingObject != nullptr) {
+        m_recordingObject->setState(state);
+    }
 }
 
 DBusApplication::Claim DBusApplication::claim() {

@@ -10,6 +10,7 @@
 #include "platform/Application.h"
 #include "platform/LockState.h"
 #include "platform/NotificationCenter.h"
+#include "platform/RecorderState.h"
 #include "platform/SystemSleep.h"
 
 class QWindow;
@@ -17,6 +18,7 @@ class QWindow;
 namespace tavi {
 
 class ApplicationObject;
+class RecordingObject;
 class SessionLock;
 class WindowState;
 
@@ -53,6 +55,8 @@ public:
     void setLockState(const LockState& lockState);
     /// Puts the object on the bus and asks for the name.
     Claim claim();
+    /// What companions are told of the recording.
+    void setRecorderState(const RecorderState& state);
     /// The main window, whose state makes the life cycle. Needs a QGuiApplication. The window may go before this does.
     void setWindow(QWindow* window);
     /// The delegate is ready: delivers what has been asked so far, then follows the life cycle.
@@ -103,6 +107,8 @@ private:
     std::vector<std::function<void()>> m_waiting;
     LifeCycle m_lifeCycle;
     std::unique_ptr<ApplicationObject> m_busObject;
+    /// On that object.
+    RecordingObject* m_recordingObject = nullptr;
     std::unique_ptr<SessionLock> m_sessionLock;
     std::unique_ptr<WindowState> m_window;
 };

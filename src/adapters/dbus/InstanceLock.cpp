@@ -13,6 +13,16 @@ namespace tavi {
 
 namespace {
 
+constexpr const char* kFileName = "instance.lock";
+
+/// A lock beside that of flock(2), which alone can be asked after without taking it.
+struct flock askedLock() {
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    return lock;
+}
+
 /// The process id that the lock's owner left in the file; empty when there is none yet.
 QString ownerOf(int descriptor) {
     std::array<char, 24> text = {};
@@ -23,7 +33,7 @@ QString ownerOf(int descriptor) {
 }  // namespace
 
 tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const std::filesystem::path& cachesPath) {
-    const std::filesystem::path path = cachesPath / "instance.lock";
+    const std::filesystem::path path = cachesPath / kFileName;
     const auto refusal = [](bool isHeld, const QString& text) {
         return tl::unexpected(Refusal{.isHeld = isHeld, .error = {text}});
     };
@@ -43,6 +53,9 @@ tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const std::
         return refusal(true, QStringLiteral("The recorder is already running%1 and uses the folder “%2”.")
                                  .arg(process, pathText(cachesPath)));
     }
+    // Where a file system has one kind of locks only, it is there already.
+    struct flock asked = askedLock();
+    (void)::fcntl(file, F_OFD_SETLK, &asked);
     // The process id is for people only; the lock holds without it.
     const QByteArray pid = QByteArray::number(static_cast<qint64>(::getpid())) + '\n';
     if (::ftruncate(file, 0) != 0 || ::pwrite(file, pid.constData(), size_t(pid.size()), 0) < 0) {
@@ -50,6 +63,12 @@ tl::expected<InstanceLock, InstanceLock::Refusal> InstanceLock::take(const std::
                  qUtf8Printable(qt_error_string(errno)));
     }
     return lock;
+}
+
+bool InstanceLock::isHeld(const std::filesystem::path& cachesPath) {
+    const FileDescriptor file = FileDescriptor::open(cachesPath / kFileName, O_RDWR);
+    struct flock asked = askedLock();
+    return file.isValid() && ::fcntl(file.get(), F_OFD_GETLK, &asked) == 0 && asked.l_type != F_UNLCK;
 }
 
 }  // namespace tavi

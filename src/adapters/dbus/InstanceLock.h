@@ -22,6 +22,8 @@ public:
 
     /// Takes the lock of the folder, which must exist. Fails at once when another process has it.
     static tl::expected<InstanceLock, Refusal> take(const std::filesystem::path& cachesPath);
+    /// Whether a process has it. Only asks, so that it keeps nobody from taking it.
+    static bool isHeld(const std::filesystem::path& cachesPath);
 
 private:
     explicit InstanceLock(FileDescriptor file) : m_file(std::move(file)) {}

@@ -102,6 +102,7 @@ private:
 
     CLI::App m_app{"Record sound from the microphone, and look after the recordings.\n", "tavi"};
     std::string m_container;
+    std::string m_channel;
     std::vector<std::string> m_words;
     CommandLine m_line;
 };
@@ -146,6 +147,10 @@ Grammar::Grammar() {
                     "Such a program runs beside the one without a container.")
         ->type_name("DIR")
         ->check(folderName(m_app));
+    m_app
+        .add_flag("--companion-channel{file}", m_channel,
+                  "take messages of companions, which travel by\nfile, coordinated, context, transfer or message")
+        ->check(CLI::IsMember(std::vector<std::string>(kTransitingTypeNames.begin(), kTransitingTypeNames.end())));
     m_app.add_option("FILE|URL", m_words,
                      "import sound files in the window; or open URLs, as a companion does:\n"
                      "TaviRecordStart: is record, TaviRecordStop: is stop,\n"
@@ -298,19 +303,25 @@ Result<CommandLine> Grammar::parse(std::vector<std::string> arguments) {
 
 Result<CommandLine> Grammar::finish() {
     m_line.container = m_container;
-    if (m_words.empty()) {
-        return m_line;
-    }
-    ProgramRequest request;
-    for (const std::string& word : m_words) {
-        if (const auto added = addOpened(request, word); !added) {
-            return tl::unexpected(added.error());
+    if (!m_words.empty()) {
+        ProgramRequest request;
+        for (const std::string& word : m_words) {
+            if (const auto added = addOpened(request, word); !added) {
+                return tl::unexpected(added.error());
+            }
         }
+        if (!m_app.get_subcommands().empty()) {
+            return failure(QStringLiteral("files or URLs and commands do not go together"));
+        }
+        m_line.command = request;
     }
-    if (!m_app.get_subcommands().empty()) {
-        return failure(QStringLiteral("files or URLs and commands do not go together"));
+    if (!m_channel.empty()) {
+        auto* request = std::get_if<ProgramRequest>(&m_line.command);
+        if (request == nullptr) {
+            return failure(QStringLiteral("--companion-channel is for the program with the window"));
+        }
+        request->companionChannel = transitingTypeNamed(m_channel);
     }
-    m_line.command = request;
     return m_line;
 }
 

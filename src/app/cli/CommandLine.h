@@ -12,6 +12,7 @@
 
 #include "app/cli/CommandServices.h"
 #include "platform/Error.h"
+#include "watch/TransitingTypes.h"
 
 namespace tavi {
 
@@ -24,6 +25,8 @@ struct ProgramRequest {
     QList<QUrl> urls;
     /// Files to import, as they were given.
     std::vector<std::filesystem::path> files = {};
+    /// How the messages of companions travel; nothing where no channel is to be attached.
+    std::optional<MMWormholeTransitingType> companionChannel = {};
 };
 
 /// A command that prints and ends.

@@ -1391,5 +1391,70 @@
         <source></source>
         <translation>--remove-vanished entfernt sie auch hier, --keep-vanished sendet sie noch einmal.</translation>
     </message>
+    <!-- The companion -->
+    <message id="companion_absent">
+        <source></source>
+        <translation>Läuft nicht</translation>
+    </message>
+    <message id="companion_locked">
+        <source></source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message id="companion_idle">
+        <source></source>
+        <translation>Bereit zur Aufnahme</translation>
+    </message>
+    <message id="companion_recording">
+        <source></source>
+        <translation>Nimmt auf, %1</translation>
+    </message>
+    <message id="companion_paused">
+        <source></source>
+        <translation>Angehalten, %1</translation>
+    </message>
+    <message id="companion_record">
+        <source></source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message id="companion_pause">
+        <source></source>
+        <translation>Anhalten</translation>
+    </message>
+    <message id="companion_resume">
+        <source></source>
+        <translation>Weiter aufnehmen</translation>
+    </message>
+    <message id="companion_record_or_pause">
+        <source></source>
+        <translation>Aufnehmen oder anhalten</translation>
+    </message>
+    <message id="companion_stop">
+        <source></source>
+        <translation>Beenden und sichern</translation>
+    </message>
+    <message id="companion_show">
+        <source></source>
+        <translation>Aufnahmen zeigen</translation>
+    </message>
+    <message id="companion_quit">
+        <source></source>
+        <translation>Symbol entfernen</translation>
+    </message>
+    <message id="companion_not_running">
+        <source></source>
+        <translation>Der Rekorder läuft nicht.</translation>
+    </message>
+    <message id="companion_no_channel">
+        <source></source>
+        <translation>Der Rekorder antwortet auf diesem Kanal nicht. Starten Sie ihn mit demselben --companion-channel.</translation>
+    </message>
+    <message id="companion_twice">
+        <source></source>
+        <translation>Das Symbol ist schon da.</translation>
+    </message>
+    <message id="companion_no_bus">
+        <source></source>
+        <translation>Es gibt keinen Sitzungsbus, und ohne ihn kein Symbol.</translation>
+    </message>
 </context>
 </TS>

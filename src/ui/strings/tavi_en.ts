@@ -1390,5 +1390,70 @@
         <source></source>
         <translation>Say --remove-vanished to remove them here, too, or --keep-vanished to send them again.</translation>
     </message>
+    <!-- The companion -->
+    <message id="companion_absent">
+        <source></source>
+        <translation>Not running</translation>
+    </message>
+    <message id="companion_locked">
+        <source></source>
+        <translation>Locked</translation>
+    </message>
+    <message id="companion_idle">
+        <source></source>
+        <translation>Ready to record</translation>
+    </message>
+    <message id="companion_recording">
+        <source></source>
+        <translation>Recording, %1</translation>
+    </message>
+    <message id="companion_paused">
+        <source></source>
+        <translation>Paused, %1</translation>
+    </message>
+    <message id="companion_record">
+        <source></source>
+        <translation>Record</translation>
+    </message>
+    <message id="companion_pause">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="companion_resume">
+        <source></source>
+        <translation>Continue</translation>
+    </message>
+    <message id="companion_record_or_pause">
+        <source></source>
+        <translation>Record or Pause</translation>
+    </message>
+    <message id="companion_stop">
+        <source></source>
+        <translation>Stop and Save</translation>
+    </message>
+    <message id="companion_show">
+        <source></source>
+        <translation>Show Recordings</translation>
+    </message>
+    <message id="companion_quit">
+        <source></source>
+        <translation>Remove Icon</translation>
+    </message>
+    <message id="companion_not_running">
+        <source></source>
+        <translation>The recorder is not running.</translation>
+    </message>
+    <message id="companion_no_channel">
+        <source></source>
+        <translation>The recorder does not answer on this channel. Start it with the same --companion-channel.</translation>
+    </message>
+    <message id="companion_twice">
+        <source></source>
+        <translation>The icon is there already.</translation>
+    </message>
+    <message id="companion_no_bus">
+        <source></source>
+        <translation>There is no session bus, and without it no icon.</translation>
+    </message>
 </context>
 </TS>

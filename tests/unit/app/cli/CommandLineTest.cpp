@@ -21,7 +21,9 @@ std::string meaning(const QByteArray& line) {
     const std::string where = parsed->container.empty() ? "" : "[" + parsed->container.native() + "] ";
     if (const auto* request = std::get_if<ProgramRequest>(&parsed->command)) {
         const QStringList asked = QStringList{request->shortcutType} + QUrl::toStringList(request->urls);
-        std::string text = where + asked.join(QLatin1Char(' ')).trimmed().toStdString();
+        const auto channel = request->companionChannel;
+        const std::string way = channel ? "(" + std::to_string(static_cast<int>(*channel)) + ")" : "";
+        std::string text = where + way + asked.join(QLatin1Char(' ')).trimmed().toStdString();
         for (const std::filesystem::path& file : request->files) {
             text += " <" + file.native() + '>';
         }
@@ -53,6 +55,8 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"library", "Recordings"},
         {"taviRECORDstop://x?y=1|TaviliteConnect://", "tavirecordstop://x?y=1 taviliteconnect://"},
         {"--container|d|--version|nonsense", "tavi " TAVI_VERSION "\n"},
+        {"--companion-channel|record", "(0)Record"},
+        {"--companion-channel=message|TaviRecordStop:", "(4)tavirecordstop:"},
         {"list|--json", "prints"},
         {"waveform|--points|8192|--|--x=", "prints"},
         {"trim|record|--from|0|--to|1e9", "prints"},
@@ -68,6 +72,8 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"--container=|record", "! --container= needs a value"},
         {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
         {"record|stop", "? stop"},
+        {"--companion-channel=pigeon", "? pigeon"},
+        {"--companion-channel|list", "! --companion-channel is for the program with the window"},
         {"set|key", "? VALUE"},
         {"waveform|a|--from|1", "? --from"},
         {"waveform|a|--points|0", "? --points"},
