@@ -114,22 +114,29 @@ bool FXKeychain::setObject(const QVariant& value, const QString& key) {
     return status == KeychainStatus::Success;
 }
 
-QVariant FXKeychain::objectForKey(const QString& key) const {
-    const std::optional<QByteArray> data = dataForKey(key);
-    if (!data) {
-        return {};
-    }
-    if (data->startsWith(kMark)) {
-        if (const auto list = m_propertyLists.propertyListWithData(*data)) {
+QVariant FXKeychain::decoded(const QByteArray& data) const {
+    if (data.startsWith(kMark)) {
+        if (const auto list = m_propertyLists.propertyListWithData(data)) {
             if (!list->toMap().contains(kArchiver)) {
                 return *list;
             }
-            if (const auto object = m_propertyLists.unarchiveObjectWithData(*data)) {
+            if (const auto object = m_propertyLists.unarchiveObjectWithData(data)) {
                 return *object;
             }
         }
     }
-    return textOf(*data);
+    return textOf(data);
+}
+
+QVariant FXKeychain::objectForKey(const QString& key) const {
+    std::optional<QByteArray> data = dataForKey(key);
+    if (!data) {
+        return {};
+    }
+    QVariant value = decoded(*data);
+    // What is no longer needed does not stay in memory.
+    data->fill('\0');
+    return value;
 }
 
 }  // namespace tavi

@@ -63,6 +63,7 @@ Q_SIGNALS:
 private:
     KeychainQuery queryFor(const QString& key) const { return {key, m_service, m_accessGroup}; }
     std::optional<QByteArray> encoded(const QVariant& value) const;
+    QVariant decoded(const QByteArray& data) const;
 
     Keychain& m_keychain;
     const PropertyLists& m_propertyLists;

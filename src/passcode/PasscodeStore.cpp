@@ -18,8 +18,12 @@ bool PasscodeStore::setPasscode(const QString& passcode) {
 }
 
 bool PasscodeStore::isPasscodeCorrect(const QString& passcode) const {
-    const QVariant stored = storedPasscode();
-    return stored.isValid() && stored.toString() == passcode;
+    QVariant value = storedPasscode();
+    QString stored = value.toString();
+    const bool isCorrect = value.isValid() && stored == passcode;
+    value.clear();
+    stored.fill(QLatin1Char('0'));
+    return isCorrect;
 }
 
 QString PasscodeStore::whyNoneIsCorrect() const {

@@ -165,9 +165,16 @@ StoreAnswer SealedFileStore::perform(const StoreRequest& request) {
     const auto found = all->find({request.query.account, request.query.service, request.query.accessGroup});
     const bool isThere = found != all->end();
     switch (request.kind) {
-        case Kind::Fetch:
-            return isThere ? StoreAnswer{.status = KeychainStatus::Success, .attributes = found->second}
-                           : StoreAnswer{.status = KeychainStatus::ItemNotFound};
+        case Kind::Fetch: {
+            StoreAnswer answer{.status = KeychainStatus::ItemNotFound};
+            if (isThere) {
+                answer = {.status = KeychainStatus::Success, .attributes = std::move(found->second)};
+            }
+            for (auto& [parts, other] : *all) {
+                wipe(other.valueData);
+            }
+            return answer;
+        }
         case Kind::Add:
             if (isThere) {
                 return {.status = KeychainStatus::DuplicateItem};

@@ -96,9 +96,9 @@ StoreAnswer SystemKeychain::ask(const StoreRequest& request) {
     auto future = exchange->promise.get_future();
     const std::weak_ptr<SystemKeychain*> self = m_self;
     m_thread->post([exchange, request, self, &queues = m_queues](StoreChoice& store) {
-        const StoreAnswer answer = store.perform(request);
+        StoreAnswer answer = store.perform(request);
         if (!exchange->isLate.exchange(true)) {
-            exchange->promise.set_value(answer);
+            exchange->promise.set_value(std::move(answer));
             return;
         }
         queues.dispatchMain([self, answer] {
