@@ -207,6 +207,11 @@ class Lock(test_accessibility.ReaderTest):
         self.assertRegex(metadata(), r"'PlaybackStatus': <'Paused'>")
         for arguments in (("list",), ("get", "Sort"), ("set", "Sort", "2"), ("waveform", secret), ("library",), ("recover",)):
             self.assert_fails("locked", *arguments, status=3)
+        link = self.container.with_suffix(".link")
+        link.symlink_to(self.container)
+        for place, expected in ((link, 3), (self.container.with_suffix(".other"), 0)):
+            done = self.desktop.run(test_app.PROGRAM, "--container", place, "list", check=False)
+            self.assertEqual((done.returncode, done.stdout), (expected, ""))
         self.tavi("waveform", self.tone)
         shown = self.desktop.picture()
         said = self.listen()
