@@ -4,7 +4,6 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <array>
 #include <cmath>
 #include <cstdlib>
 

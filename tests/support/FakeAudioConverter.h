@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstring>
 #include <memory>
 
 #include "platform/AudioConverter.h"

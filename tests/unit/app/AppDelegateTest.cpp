@@ -91,16 +91,6 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_FALSE(sharedDefaults.boolForKey(settingskey::kAppStart));
 }
 
-TEST_F(AppDelegateTest, CoversTheWindowWithWhatIsWaitedFor) {
-    ASSERT_EQ(AppDelegate::initAppdelegate(), &delegate);
-    AppDelegate::initAppdelegate()->showCustomProgressViewWithText(QStringLiteral("Wait"));
-    ASSERT_TRUE(hud.progress);
-    EXPECT_EQ(hud.progress->text, QStringLiteral("Wait"));
-    EXPECT_TRUE(hud.progress->type == Progress::HudType::Ring && !hud.progress->cancel);
-    delegate.hideCustomProgressView();
-    EXPECT_FALSE(hud.progress);
-}
-
 TEST_F(AppDelegateTest, ALaunchingQuickActionRunsOnceAtActivation) {
     tabBar.setSelectedIndex(2);
     EXPECT_FALSE(delegate.applicationDidFinishLaunching({QStringLiteral("Recordings")}));

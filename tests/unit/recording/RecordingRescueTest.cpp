@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QDir>
 #include <fstream>
 
 #include "files/LockedFolder.h"

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <span>
-#include <string>
 #include <vector>
 
 #include "files/FileDescriptor.h"

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QDeadlineTimer>
-#include <QtGlobal>
 #include <atomic>
 #include <cmath>
 #include <thread>

@@ -63,17 +63,5 @@ TEST(UtilityTest, aNetworkIsThereWhereNothingHasToBeDoneForIt) {
               QStringLiteral("Network ErrorPlease check your internet connectionOK"));
 }
 
-TEST(UtilityTest, labelsAndBarsAreWrittenAlike) {
-    LabelStyle name;
-    LabelStyle detail;
-    NavigationBarStyle bar;
-    Utility::formatTheFileNameLabel(name);
-    Utility::formatDetailFileName(detail);
-    Utility::setNavigationBar(bar);
-    EXPECT_EQ(name, (LabelStyle{1, 15.0, 400, Utility::getColor(QStringLiteral("aaaaaa")), true}));
-    EXPECT_EQ(detail, (LabelStyle{0, 13.0, 100, {1.0, 1.0, 1.0, 0.6}, true}));
-    EXPECT_EQ(bar, (NavigationBarStyle{{.alpha = 0.0}, 22.0, 300, Utility::getColor(QStringLiteral("a1a1a1")), false}));
-}
-
 }  // namespace
 }  // namespace tavi::test

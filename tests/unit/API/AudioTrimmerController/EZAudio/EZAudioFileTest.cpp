@@ -1,7 +1,6 @@
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
 #include "support/ClientBuffers.h"

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <memory>
 #include <vector>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
