@@ -237,6 +237,8 @@ TEST_F(AudioTrimmerTest, FailedAndCancelledExportsLeaveTheScreenAsItWasAndAnothe
     screen.cancelExport();
     runLoop.drain();
     EXPECT_TRUE(screen.isAudioTrimmed());
+    screen.btnResetTapped();
+    EXPECT_FALSE(screen.isAudioTrimmed());
     EXPECT_THAT(documents(), ElementsAre(Pair(kOutput, "first")));
     // Another stretch takes its place, and a third one is cancelled with the screen, but over before it could be.
     runLoop.manualClock().advance(9.0);

@@ -5,6 +5,7 @@
 
 #include "adapters/player/PlaybackFeed.h"
 #include "adapters/player/PlaybackReader.h"
+#include "support/ClientBuffers.h"
 #include "support/FakeExtAudioFile.h"
 
 namespace tavi::test {
@@ -35,21 +36,23 @@ public:
     }
     Result<void> push(const float* frames, std::size_t count) override {
         for (std::size_t i = 0; i < count; ++i) {
-            m_waiting.insert(m_waiting.end(), m_rate < 1.0 ? 2 : m_rate > 1.0 ? m_pushed++ % 2 : 1, frames[i]);
+            for (auto copies = m_rate < 1.0 ? 2 : m_rate > 1.0 ? m_pushed++ % 2 : 1; copies > 0; --copies) {
+                m_waiting.insert(m_waiting.end(), frames + 2 * i, frames + 2 * i + 2);
+            }
         }
         return {};
     }
     Result<void> finish() override { return {}; }
     std::size_t take(float* frames, std::size_t capacity) override {
-        const std::size_t count = std::min(capacity, m_waiting.size());
-        std::copy_n(m_waiting.begin(), count, frames);
-        m_waiting.erase(m_waiting.begin(), m_waiting.begin() + static_cast<std::ptrdiff_t>(count));
+        const std::size_t count = std::min(capacity, m_waiting.size() / 2);
+        std::copy_n(m_waiting.begin(), 2 * count, frames);
+        m_waiting.erase(m_waiting.begin(), m_waiting.begin() + static_cast<std::ptrdiff_t>(2 * count));
         return count;
     }
 
 private:
     double m_rate = 1.0;
-    std::size_t m_pushed = 1;
+    int m_pushed = 1;
     std::vector<float> m_waiting;
 };
 
@@ -74,13 +77,17 @@ public:
         EXPECT_LE(at, m_written) << "a hole";
         EXPECT_GE(end, m_written) << "something old is left";
         frames.resize(static_cast<std::size_t>(end));
-        std::copy_n(samples, count, frames.begin() + at);
+        for (std::size_t i = 0; i < count; ++i) {
+            frames[static_cast<std::size_t>(at) + i] = samples[2 * i];
+            ASSERT_EQ(samples[2 * i + 1], samples[2 * i] / 2);
+        }
         m_written = end;
     }
     void setRunning(bool running) override { isRunning = running; }
     void callAt(std::int64_t frame) override { called = frame; }
     std::int64_t taken() const { return std::min(heard + kTaken, m_written); }
 
+    /// Of the left channel; the right one is to be half as loud.
     std::vector<float> frames;
     std::int64_t heard = 0;
     bool isRunning = false;
@@ -95,14 +102,13 @@ class PlaybackTest : public ::testing::Test {
 protected:
     PlaybackTest() {
         m_sound->rate = kRate;
-        m_sound->planes.resize(1);
+        m_sound->planes.resize(2);
         for (std::int64_t frame = 0; frame < kLength; ++frame) {
             m_sound->planes[0].push_back(valueOf(frame));
+            m_sound->planes[1].push_back(valueOf(frame) / 2);
         }
         auto file = std::make_unique<FakeExtAudioFile>(m_sound, m_reads);
-        AudioStreamBasicDescription format;
-        file->fileDataFormat(format);
-        file->setClientDataFormat(format);
+        file->setClientDataFormat(clientFormat(kRate, 2, true));
         m_reader = std::make_unique<PlaybackReader>(std::move(file), 1.0, kLength, m_tempos, m_buffer, m_clock);
     }
     std::int64_t now() const { return m_stream.heard * 1'000'000'000 / kRate; }
@@ -158,7 +164,7 @@ protected:
     std::shared_ptr<FakeSound> m_sound = std::make_shared<FakeSound>();
     std::vector<std::uint32_t> m_reads;
     FakeTempos m_tempos;
-    PlaybackBuffer m_buffer{{kRate, 1}};
+    PlaybackBuffer m_buffer{{kRate, 2}};
     PlaybackClock m_clock;
     FakeStream m_stream;
     std::vector<std::pair<bool, std::uint64_t>> m_ends;
@@ -169,8 +175,11 @@ protected:
 };
 
 TEST_F(PlaybackTest, JumpsAndRatesTakeTheShortestWayWithoutAStep) {
+    m_feed.setMetering(true);
     start(0);
     play(1.0);
+    const PlaybackFeed::Level level = m_feed.takeLevel(m_stream.heard);
+    EXPECT_NEAR(level.sumOfSquares[0] / level.sumOfSquares[1], 4.0, 1e-6);
     for (const double rate : {1.0, 2.0, 0.5, 1.0, 0.5, 2.0}) {
         m_reader->setRate(rate);
         settle();

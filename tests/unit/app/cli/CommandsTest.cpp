@@ -289,14 +289,15 @@ TEST_F(CommandsTest, TrimsIntoAFreeNameAndReplacesNothing) {
     const QByteArray file = addSound("talk.WAV", {std::vector(50, 0.5F)});
     const std::string first = container.documentsPath() / "Trim_2024_Mar_05_14_03_59";
     const std::string why = "! " + file.toStdString() + ": ";
-    expectSaid({{"trim|" + file + "|--from|0.5|--to|2", first + ".WAV\n"},
-                {"trim|--from=4.5|--to=1e9|" + file, first + "_2.WAV\n"},
-                {"trim|" + file + "|--from|1|--to|2|--out|" + file, why + "File exists"},
-                {"trim|" + file + "|--from|1|--to|2|--out|" + file + ".m4a",
-                 "! " + file.toStdString() + ".m4a: a part of " + file.toStdString() + " is of another kind"},
-                {"trim|" + file + "|--from|1|--to|2|--out|" + file + ".wav", file.toStdString() + ".wav\n"},
-                {"trim|" + file + "|--from|2|--to|2", why + "--to must be later than --from"},
-                {"trim|" + file + "|--from|5|--to|6", why + "it is only 5 s long"}});
+    expectSaid(
+        {{"trim|" + file + "|--from|0.5|--to|2", first + ".WAV\n"},
+         {"trim|--from=4.5|--to=1e9|" + file, first + "_2.WAV\n"},
+         {"trim|" + file + "|--from|1|--to|2|--out|" + first.c_str() + ".WAV", "! " + first + ".WAV: File exists"},
+         {"trim|" + file + "|--from|1|--to|2|--out|" + file + ".m4a",
+          "! " + file.toStdString() + ".m4a: a part of " + file.toStdString() + " is of another kind"},
+         {"trim|" + file + "|--from|1|--to|2|--out|" + file + ".wav", file.toStdString() + ".wav\n"},
+         {"trim|" + file + "|--from|2|--to|2", why + "--to must be later than --from"},
+         {"trim|" + file + "|--from|5|--to|6", why + "it is only 5 s long"}});
     EXPECT_EQ(assets.sessions.size(), 4U);
     const FakeAssetExportSession::State& made = *assets.sessions.front();
     EXPECT_EQ(made.outputFileType, AssetFileType::Wave);

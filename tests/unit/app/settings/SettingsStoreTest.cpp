@@ -26,6 +26,7 @@ TEST(SettingsStore, ReadsWhatIsStoredOrWhatItStandsFor) {
                  {"RewindSong", 7.5, &SettingsStore::rewindSeconds, 7.5},
                  {"ForwardSong", 0.0, &SettingsStore::forwardSeconds, 30.0},
                  {"ForwardSong", 45.0, &SettingsStore::storedForwardSeconds, 45.0},
+                 {"PasscodeProtectionEnabled", {}, &SettingsStore::isPasscodeProtectionOn, false},
                  {"ThemeColor", {}, &SettingsStore::isThemeWhite, false},
                  {"ThemeColor", QLatin1String("WHITE"), &SettingsStore::isThemeWhite, true}};
     for (const auto& row : cases) {
