@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <vector>
 
 #include "platform/DisplayRefresh.h"
@@ -15,18 +14,10 @@ public:
     }
 
     void showFrame() {
-        const std::vector<Refresh*> before = m_refreshes;
-        for (const Refresh* refresh : before) {
-            if (std::count(m_refreshes.begin(), m_refreshes.end(), refresh) > 0 && !refresh->isPaused()) {
-                // A copy, because the callback may destroy its refresh.
-                const auto callback = refresh->callback;
-                callback();
-            }
+        for (const Refresh* refresh : std::vector(m_refreshes)) {
+            refresh->isPaused() ? void() : refresh->callback();
         }
     }
-
-    /// Refreshes that exist.
-    std::size_t count() const { return m_refreshes.size(); }
 
 private:
     class Refresh : public DisplayRefresh {

@@ -5,24 +5,13 @@
 
 #include "adapters/quick/QuickDisplayRefreshes.h"
 #include "support/EventLoop.h"
-#include "support/FakeDisplayRefresh.h"
 
 namespace tavi::test {
 namespace {
 
-struct Fake {
-    bool showFrames(int count) {
-        for (int i = 0; i < count; ++i) {
-            refreshes.showFrame();
-        }
-        return true;
-    }
-
-    FakeDisplayRefreshes refreshes;
-};
-
-struct Real {
-    Real() {
+/// A window whose frames are shown.
+struct Display {
+    Display() {
         refreshes.setWindow(&window);
         window.resize(40, 40);
         window.show();
@@ -40,17 +29,8 @@ struct Real {
     QuickDisplayRefreshes refreshes;
 };
 
-template <class Display>
-class DisplayRefreshContract : public ::testing::Test {
-protected:
-    Display m_display;
-};
-
-using Displays = ::testing::Types<Fake, Real>;
-TYPED_TEST_SUITE(DisplayRefreshContract, Displays);
-
-TYPED_TEST(DisplayRefreshContract, CallsBackOnEveryFrameWhileNotPausedAndMayBeDestroyedByThat) {
-    auto& display = this->m_display;
+TEST(QuickDisplayRefreshes, CallBackOnEveryFrameWhileNotPausedAndMayBeDestroyedByThat) {
+    Display display;
     int calls = 0;
     auto first = display.refreshes.create([&calls] { ++calls; });
     const auto callsOf = [&display, &calls](int frames) {
@@ -77,7 +57,7 @@ TYPED_TEST(DisplayRefreshContract, CallsBackOnEveryFrameWhileNotPausedAndMayBeDe
 }
 
 TEST(QuickDisplayRefreshes, KeepItsWindowDrawingOnlyWhileOneIsNotPaused) {
-    Real display;
+    Display display;
     int calls = 0;
     const auto refresh = display.refreshes.create([&calls] { ++calls; });
     refresh->setPaused(false);
