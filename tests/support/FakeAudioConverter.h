@@ -55,8 +55,7 @@ private:
     std::uint32_t m_used = 0;
 };
 
-class FakeAudioConverters : public AudioConverters {
-public:
+struct FakeAudioConverters : AudioConverters {
     AudioStatus create(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output,
                        std::unique_ptr<AudioConverter>& converter) override {
         converter.reset();

@@ -8,8 +8,7 @@
 namespace tavi::test {
 
 /// Takes every file that is not empty for sound, and keeps which ones it was given.
-class FakeAudioFileRepair : public AudioFileRepair {
-public:
+struct FakeAudioFileRepair : AudioFileRepair {
     Result<bool> repair(const std::filesystem::path& path) override {
         repaired.push_back(path);
         std::error_code error;

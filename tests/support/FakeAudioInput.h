@@ -53,8 +53,7 @@ private:
     bool m_opened = false;
 };
 
-class FakeAudioInputs : public AudioInputs {
-public:
+struct FakeAudioInputs : AudioInputs {
     Result<std::unique_ptr<AudioInput>> open(AudioInputListener& listener) override {
         if (!openResult) {
             return tl::unexpected<Error>(openResult.error());

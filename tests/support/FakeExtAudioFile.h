@@ -134,8 +134,7 @@ private:
 };
 
 /// Files by their paths. Whoever opens them outlives none of them.
-class FakeExtAudioFiles : public ExtAudioFiles {
-public:
+struct FakeExtAudioFiles : ExtAudioFiles {
     AudioStatus open(const std::filesystem::path& path, std::unique_ptr<ExtAudioFile>& file,
                      const std::stop_token& = {}) override {
         file.reset();

@@ -8,73 +8,28 @@ namespace tavi::test {
 
 /// A library screen with all that it needs.
 struct FakeLibrary {
-    FakeLibrary(FakeServices& fakes, const AudioDuration& lengths, Presenter& presenter, Notices& notices)
-        : lister(lengths, fakes.runLoop),
-          shapes(fakes.files, fakes.runLoop),
-          waveforms({.files = fakes.files, .converters = fakes.converters, .queues = fakes.runLoop}),
-          player({.players = fakes.players,
-                  .session = fakes.session,
-                  .remoteControl = fakes.remote,
-                  .settings = fakes.settings,
-                  .notices = notices,
-                  .runLoop = fakes.runLoop,
-                  .waveforms = waveforms}),
-          table({.settings = fakes.settings, .container = fakes.container, .lister = lister, .shapes = shapes}),
-          trash(fakes.container.root() / ".Trash"),
-          exporter({.documentPicker = picker,
-                    .presenter = presenter,
-                    .notices = notices,
-                    .notifications = fakes.notifications,
-                    .container = fakes.container,
-                    .runLoop = fakes.runLoop}),
-          sharing({.docController = documents,
-                   .picker = mail,
-                   .pasteboard = pasteboard,
-                   .presenter = presenter,
-                   .notices = notices,
-                   .runLoop = fakes.runLoop,
-                   .exporter = exporter}),
-          audioTrims({.exports = fakes.assets,
-                      .readers = fakes.assets,
-                      .players = fakes.players,
-                      .settings = fakes.settings,
-                      .container = fakes.container,
-                      .presenter = presenter,
-                      .notices = notices,
-                      .runLoop = fakes.runLoop,
-                      .cloud = fakes.cloud}),
-          actions({.table = table,
-                   .settings = fakes.settings,
-                   .cloud = fakes.cloud,
-                   .sharing = sharing,
-                   .trash = trash,
-                   .trimmers = fakes.trimmers,
-                   .audioTrims = audioTrims,
-                   .presenter = presenter,
-                   .notices = notices,
-                   .runLoop = fakes.runLoop}),
-          vc({.settings = fakes.settings,
-              .notifications = fakes.notifications,
-              .remoteControl = fakes.remote,
-              .notices = notices,
-              .cloud = fakes.cloud},
-             table, player, actions) {}
+    FakeServices& fakes;
+    const AudioDuration& lengths;
+    Presenter& presenter;
+    Notices& notices;
 
-    RecordingLister lister;
-    RecordingShapes shapes;
-    WaveformLoader waveforms;
-    PlayerPanel player;
-    RecordingTable table;
-    FakeTrash trash;
-    FakeDocumentInteraction documents;
-    FakeDocumentPicker picker;
-    FakeMailComposer mail;
-    FakePasteboard pasteboard;
-    RecordingExport exporter;
-    RecordingSharing sharing;
-    AudioTrimStage audioTrims;
-    RecordingActions actions;
-    VoiceMemoVC vc;
+    RecordingLister lister{lengths, fakes.runLoop};
+    RecordingShapes shapes{fakes.files, fakes.runLoop};
+    WaveformLoader waveforms{{fakes.files, fakes.converters, fakes.runLoop}};
+    PlayerPanel player{{fakes.players, fakes.session, fakes.remote, fakes.settings, notices, fakes.runLoop, waveforms}};
+    RecordingTable table{{fakes.settings, fakes.container, lister, shapes}};
+    FakeTrash trash{fakes.container.root() / ".Trash"};
+    FakeDocumentInteraction documents{};
+    FakeDocumentPicker picker{};
+    FakeMailComposer mail{};
+    FakePasteboard pasteboard{};
+    RecordingExport exporter{{picker, presenter, notices, fakes.notifications, fakes.container, fakes.runLoop}};
+    RecordingSharing sharing{{documents, mail, pasteboard, presenter, notices, fakes.runLoop, exporter}};
+    AudioTrimStage audioTrims{{fakes.assets, fakes.assets, fakes.players, fakes.settings, fakes.container, presenter,
+                               notices, fakes.runLoop, fakes.cloud}};
+    RecordingActions actions{{table, fakes.settings, fakes.cloud, sharing, trash, fakes.trimmers, audioTrims, presenter,
+                              notices, fakes.runLoop}};
+    VoiceMemoVC vc{{fakes.settings, fakes.notifications, fakes.remote, notices, fakes.cloud}, table, player, actions};
 };
 
 }  // namespace tavi::test

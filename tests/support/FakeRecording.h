@@ -8,45 +8,22 @@ namespace tavi::test {
 
 /// The recording screen with all that it needs beside the shell.
 struct FakeRecording {
-    FakeRecording(FakeServices& fakes, Presenter& presenter, TabBar& tabBar, Notices& notices)
-        : cloud(
-              {.documents = fakes.cloud, .settings = fakes.settings, .presenter = presenter, .runLoop = fakes.runLoop}),
-          rescue({.container = fakes.container,
-                  .repair = repair,
-                  .runLoop = fakes.runLoop,
-                  .notifications = fakes.notifications,
-                  .notices = notices}),
-          file({.settings = fakes.settings,
-                .formatHold = fakes.formatHold,
-                .container = fakes.container,
-                .runLoop = fakes.runLoop,
-                .notifications = fakes.notifications,
-                .presenter = presenter,
-                .mailComposer = mail,
-                .notices = notices,
-                .rescue = rescue,
-                .cloud = cloud}),
-          vc({.audioSession = fakes.session,
-              .audioRecorders = fakes.recorders,
-              .settings = fakes.settings,
-              .container = fakes.container,
-              .runLoop = fakes.runLoop,
-              .presenter = presenter,
-              .tabBar = tabBar,
-              .sessionFile = file,
-              .notices = notices,
-              .cloud = cloud}),
-          guard(vc, fakes.formatHold, systemSleep, sessionEnd) {}
+    FakeServices& fakes;
+    Presenter& presenter;
+    TabBar& tabBar;
+    Notices& notices;
 
-    FakeMailComposer mail;
-    FakeAudioFileRepair repair;
-    RecordingCloud cloud;
-    RecordingRescue rescue;
-    SessionFile file;
-    AudioRecordVC vc;
-    SystemSleep systemSleep;
-    FakeSessionEnd sessionEnd;
-    SessionGuard guard;
+    FakeMailComposer mail{};
+    FakeAudioFileRepair repair{};
+    RecordingCloud cloud{{fakes.cloud, fakes.settings, presenter, fakes.runLoop}};
+    RecordingRescue rescue{{fakes.container, repair, fakes.runLoop, fakes.notifications, notices}};
+    SessionFile file{{fakes.settings, fakes.formatHold, fakes.container, fakes.runLoop, fakes.notifications, presenter,
+                      mail, notices, rescue, cloud}};
+    AudioRecordVC vc{{fakes.session, fakes.recorders, fakes.settings, fakes.container, fakes.runLoop, presenter, tabBar,
+                      file, notices, cloud}};
+    SystemSleep systemSleep{};
+    FakeSessionEnd sessionEnd{};
+    SessionGuard guard{vc, fakes.formatHold, systemSleep, sessionEnd};
 };
 
 }  // namespace tavi::test

@@ -37,16 +37,16 @@ struct FakeServices {
     FakeAudioConverters converters;
     FakeDisplayRefreshes refreshes;
     FakeCloudDocuments cloud{runLoop};
-    WaveformLoader trimmerWaveforms{{.files = files, .converters = converters, .queues = runLoop}};
-    AudioTrimmerStage trimmers{{.exports = assets,
-                                .players = players,
-                                .recorder = {.recorders = recorders, .audioSession = session},
-                                .waveforms = trimmerWaveforms,
-                                .refreshes = refreshes,
-                                .container = container,
-                                .notifications = notifications,
-                                .notices = notices,
-                                .runLoop = runLoop}};
+    WaveformLoader trimmerWaveforms{{files, converters, runLoop}};
+    AudioTrimmerStage trimmers{{assets,
+                                players,
+                                {recorders, session},
+                                trimmerWaveforms,
+                                refreshes,
+                                container,
+                                notifications,
+                                notices,
+                                runLoop}};
 };
 
 }  // namespace tavi::test

@@ -9,16 +9,14 @@
 
 namespace tavi::test {
 
-class FakeStoreReview : public StoreReview {
-public:
+struct FakeStoreReview : StoreReview {
     void requestReview() override { ++requests; }
 
     int requests = 0;
 };
 
 /// Finds the identifier, when the test says so.
-class FakeStoreCatalogue : public StoreCatalogue {
-public:
+struct FakeStoreCatalogue : StoreCatalogue {
     void lookUp(const QString& bundle, const QString& countryCode,
                 std::function<void(const QString&)> completion) override {
         asked << bundle + QLatin1Char(' ') + countryCode;

@@ -52,8 +52,7 @@ private:
 };
 
 /// Records what was presented; a test answers by calling an action's handler.
-class FakePresenter : public Presenter {
-public:
+struct FakePresenter : Presenter {
     void presentAlert(Alert alert) override { alerts.push_back(std::move(alert)); }
     void presentActionSheet(Alert sheet) override { sheets.push_back(std::move(sheet)); }
     void updateActionSheet(Alert sheet) override {
@@ -67,8 +66,7 @@ public:
 };
 
 /// Keeps the notices in their order; a test chooses an action by calling it.
-class FakeNotices : public Notices {
-public:
+struct FakeNotices : Notices {
     /// What is said about work that goes on; it goes with the work.
     struct Work : ProgressNotice {
         Work(FakeNotices& line, Notice what) : notices(line), notice(std::move(what)) { notices.works.push_back(this); }
@@ -90,15 +88,13 @@ public:
     std::vector<Work*> works;
 };
 
-class FakeReachability : public Reachability {
-public:
+struct FakeReachability : Reachability {
     std::optional<ReachabilityFlags> flagsOfZeroAddress() const override { return flags; }
 
     std::optional<ReachabilityFlags> flags;
 };
 
-class FakeProgressView : public ProgressView {
-public:
+struct FakeProgressView : ProgressView {
     void show(Progress newProgress) override { progress = std::move(newProgress); }
     void setShare(double newShare) override { share = newShare; }
     void hide() override { progress.reset(); }
@@ -108,8 +104,7 @@ public:
     double share = 0.0;
 };
 
-class FakeTabBar : public TabBar {
-public:
+struct FakeTabBar : TabBar {
     int selectedIndex() const override { return index; }
     void setSelectedIndex(int newIndex) override { index = newIndex; }
     bool isUserInteractionEnabled() const override { return isEnabled; }
@@ -145,8 +140,7 @@ private:
 };
 
 /// A sound system that answers as it is told.
-class FakeAudioSession : public AudioSession {
-public:
+struct FakeAudioSession : AudioSession {
     void requestRecordPermission(std::function<void(bool)> answer) override { questions.push_back(std::move(answer)); }
     Result<void> setCategory(Category category, CategoryOption option) override {
         lastCategory = category;
@@ -200,23 +194,20 @@ public:
     std::vector<PortOverride> overrides;
 };
 
-class FakeIdleTimer : public IdleTimer {
-public:
+struct FakeIdleTimer : IdleTimer {
     void setIdleTimerDisabled(bool disabled) override { isDisabled = disabled; }
     bool isIdleTimerDisabled() const override { return isDisabled; }
 
     bool isDisabled = false;
 };
 
-class FakeSessionEnd : public SessionEnd {
-public:
+struct FakeSessionEnd : SessionEnd {
     void setHeldUp(bool heldUp) override { isHeldUp = heldUp; }
 
     bool isHeldUp = false;
 };
 
-class FakeMailComposer : public MailComposer {
-public:
+struct FakeMailComposer : MailComposer {
     bool canSendMail() const override { return canSend; }
     void compose(const MailMessage& message, Completion completion) override {
         messages.push_back(message);
@@ -228,8 +219,7 @@ public:
     std::vector<MailMessage> messages;
 };
 
-class FakeApplication : public Application {
-public:
+struct FakeApplication : Application {
     void setDelegate(ApplicationDelegate*) override {}
     QList<ShortcutItem> shortcutItems() const override { return items; }
     void setShortcutItems(const QList<ShortcutItem>& newItems) override { items = newItems; }
@@ -238,8 +228,7 @@ public:
 };
 
 /// Keeps what the desktop would show; a test sends what a user would press there.
-class FakeRemoteControl : public RemoteControl {
-public:
+struct FakeRemoteControl : RemoteControl {
     void setDelegate(RemoteControlDelegate* newDelegate) override { delegate = newDelegate; }
     void beginReceivingRemoteControlEvents() override { isReceiving = true; }
     void endReceivingRemoteControlEvents() override { isReceiving = false; }
@@ -260,8 +249,7 @@ public:
 };
 
 /// Durations by file name; 0 for any other.
-class FakeAudioDuration : public AudioDuration {
-public:
+struct FakeAudioDuration : AudioDuration {
     double durationOfFile(const std::filesystem::path& path, const std::stop_token& stop = {}) const override {
         if (onQuestion) {
             onQuestion(stop);

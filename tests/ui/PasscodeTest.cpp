@@ -10,8 +10,7 @@
 namespace tavi::test {
 namespace {
 
-class Passcode : public ::testing::Test {
-protected:
+struct Passcode : ::testing::Test {
     void arm() {
         shell.passcode.setPasscode(QStringLiteral("1234"));
         shell.passcode.togglePasscodeProtection(true);

@@ -168,54 +168,22 @@ struct ShellScreens : FakeServices {
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
-    RecordingImport imports{{.container = container,
-                             .runLoop = runLoop,
-                             .notices = notices,
-                             .presenter = presenter,
-                             .settings = settings,
-                             .cloud = cloud}};
+    RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
-    SupportRows supportRows{{.appRater = rating.rater,
-                             .urlOpener = rating.urlOpener,
-                             .mailComposer = fakeRecording.mail,
-                             .notices = notices,
-                             .settings = settings,
-                             .audioSession = session}};
+    SupportRows supportRows{{rating.rater, rating.urlOpener, fakeRecording.mail, notices, settings, session}};
     FakeSecureStore keychain;
     LockState lockState;
-    PasscodeCoordinator passcode{{.settings = settings,
-                                  .keychain = keychain,
-                                  .notifications = notifications,
-                                  .runLoop = runLoop,
-                                  .presenter = presenter,
-                                  .lockState = lockState}};
-    SettingVC settingVC{{.settings = settings,
-                         .formatHold = formatHold,
-                         .runLoop = runLoop,
-                         .presenter = presenter,
-                         .tabBar = tabBar,
-                         .support = supportRows,
-                         .passcode = passcode}};
+    PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
+    SettingVC settingVC{{settings, formatHold, runLoop, presenter, tabBar, supportRows, passcode}};
     FakeApplication application;
     FakeIdleTimer idleTimer;
-    AppDelegate delegate{{.application = application,
-                          .idleTimer = idleTimer,
-                          .settings = settings,
-                          .sharedDefaults = defaults,
-                          .container = container,
-                          .audioSession = session,
-                          .tabBar = tabBar,
-                          .objrecordVC = recording,
-                          .imports = imports,
-                          .hudView = hudView,
-                          .appRater = rating.rater,
-                          .passcode = passcode}};
+    AppDelegate delegate{{application, idleTimer, settings, defaults, container, session, tabBar, recording, imports,
+                          hudView, rating.rater, passcode}};
     ApplicationDelegateGuard opener{delegate, lockState};
 };
 
 /// The program's window with its screens.
-class Shell : public ShellScreens, public UserWindow {
-public:
+struct Shell : ShellScreens, UserWindow {
     explicit Shell(const std::function<void(Shell&)>& prepare = {}) {
         settings.writeFirstLaunchValues();
         settings.writeSortIfAbsent();

@@ -12,8 +12,7 @@ namespace tavi::test {
 
 namespace {
 
-class AppDelegateTest : public ::testing::Test, protected FakeServices {
-protected:
+struct AppDelegateTest : ::testing::Test, FakeServices {
     /// Whether a session exists after what was asked for has been done.
     bool isRecordingAfterAnswer() {
         session.answer(true);
@@ -28,29 +27,14 @@ protected:
     FakePresenter presenter;
     FakeRecording recording{*this, presenter, tabBar, notices};
     AudioRecordVC& screen = recording.vc;
-    RecordingImport imports{{.container = container,
-                             .runLoop = runLoop,
-                             .notices = notices,
-                             .presenter = presenter,
-                             .settings = settings,
-                             .cloud = cloud}};
+    RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
     FakeProgressView hud;
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
     FakeSecureStore keychain;
     LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
-    AppDelegate delegate{{.application = application,
-                          .idleTimer = idleTimer,
-                          .settings = settings,
-                          .sharedDefaults = sharedDefaults,
-                          .container = container,
-                          .audioSession = session,
-                          .tabBar = tabBar,
-                          .objrecordVC = screen,
-                          .imports = imports,
-                          .hudView = hud,
-                          .appRater = rating.rater,
-                          .passcode = passcode}};
+    AppDelegate delegate{{application, idleTimer, settings, sharedDefaults, container, session, tabBar, screen, imports,
+                          hud, rating.rater, passcode}};
 };
 
 }  // namespace

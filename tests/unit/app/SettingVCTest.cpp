@@ -26,8 +26,7 @@ struct OtherTexts : QTranslator {
     }
 };
 
-class SettingVCTest : public ::testing::Test, protected FakeServices {
-protected:
+struct SettingVCTest : ::testing::Test, FakeServices {
     SettingVCTest() {
         QObject::connect(&vc, &SettingVC::slidersChanged, &notifications, [this] { told += "s"; });
         QObject::connect(&vc, &SettingVC::formatHeldChanged, &notifications,
@@ -58,22 +57,11 @@ protected:
     FakeTabBar tabBar;
     FakeMailComposer mail;
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
-    SupportRows support{{.appRater = rating.rater,
-                         .urlOpener = rating.urlOpener,
-                         .mailComposer = mail,
-                         .notices = notices,
-                         .settings = settings,
-                         .audioSession = session}};
+    SupportRows support{{rating.rater, rating.urlOpener, mail, notices, settings, session}};
     FakeSecureStore keychain;
     LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
-    SettingVC::Services services{.settings = settings,
-                                 .formatHold = formatHold,
-                                 .runLoop = runLoop,
-                                 .presenter = presenter,
-                                 .tabBar = tabBar,
-                                 .support = support,
-                                 .passcode = passcode};
+    SettingVC::Services services{settings, formatHold, runLoop, presenter, tabBar, support, passcode};
     SettingVC vc{services};
     std::string told;
 };

@@ -118,7 +118,7 @@ TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyWhichATapTurnsRound) {
     for (int code = 1; code <= 6; ++code) {
         defaults.setObject(code, settingskey::kSort);
         defaults.writes.clear();
-        FakeLibrary opened(*this, durations, presenter, notices);
+        FakeLibrary opened{*this, durations, presenter, notices};
         opened.vc.viewDidLoad();
         expectSorted(opened.table, code);
         EXPECT_TRUE(defaults.writes.isEmpty()) << "only a tap is remembered";

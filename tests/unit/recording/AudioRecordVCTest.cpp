@@ -11,8 +11,7 @@ namespace tavi::test {
 
 namespace {
 
-class AudioRecordVCTest : public ::testing::Test, protected FakeServices {
-protected:
+struct AudioRecordVCTest : ::testing::Test, FakeServices {
     AudioRecordVCTest() {
         settings.writeFirstLaunchValues();
         screen.setWormhole(&channel);

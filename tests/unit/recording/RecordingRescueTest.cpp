@@ -16,8 +16,7 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class RecordingRescueTest : public ::testing::Test, protected FakeServices {
-protected:
+struct RecordingRescueTest : ::testing::Test, FakeServices {
     RecordingRescueTest() {
         QObject::connect(&notifications, &NotificationCenter::posted, &notifications, [&] { ++updates; });
     }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "files/FileDescriptor.h"

@@ -12,8 +12,7 @@
 namespace tavi::test {
 namespace {
 
-class AppRaterTest : public ::testing::Test {
-protected:
+struct AppRaterTest : ::testing::Test {
     AppRaterTest() { rater.setCovered(false); }
 
     /// Lets the questions come that are due.

@@ -11,8 +11,7 @@ namespace {
 using Names = std::vector<std::filesystem::path>;
 const Names kOutput{"Trim_2024_Mar_05_14_03_59.wav"};
 
-class AudioTrimTest : public ::testing::Test, protected FakeServices {
-protected:
+struct AudioTrimTest : ::testing::Test, FakeServices {
     AudioTrimTest() {
         assets.files["talk.wav"] = {{20 * 44100, 44100}, 1, {}};
         players.seconds["talk.wav"] = 20.0;

@@ -20,8 +20,7 @@ using ::testing::Pair;
 const char* const kOutput = "Trim_2024_Mar_05_14_03_59.wav";
 const char* const kBeside = "Trim_2024_Mar_05_14_03_59_2.wav";
 
-class AudioTrimmerTest : public ::testing::Test, protected FakeServices {
-protected:
+struct AudioTrimmerTest : ::testing::Test, FakeServices {
     AudioTrimmerTest() {
         path = container.addDocument("talk.wav", "original");
         assets.files["talk.wav"] = {{60 * 44100, 44100}, 1, {}};

@@ -7,8 +7,7 @@
 namespace tavi::test {
 namespace {
 
-class RangeSliderTest : public ::testing::Test {
-protected:
+struct RangeSliderTest : ::testing::Test {
     /// 10 points a second: 20 of padding, 0 to 36 seconds.
     RangeSliderTest() {
         slider.minimumValue = 0.0F;

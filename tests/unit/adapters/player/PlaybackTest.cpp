@@ -98,8 +98,7 @@ private:
     std::int64_t m_written = 0;
 };
 
-class PlaybackTest : public ::testing::Test {
-protected:
+struct PlaybackTest : ::testing::Test {
     PlaybackTest() {
         m_sound->rate = kRate;
         m_sound->planes.resize(2);

@@ -80,8 +80,7 @@ private:
     }
 };
 
-class CaptureRecorderTest : public ::testing::Test {
-protected:
+struct CaptureRecorderTest : ::testing::Test {
     CaptureRecorderTest() { inputs.format = {kRate, 1}; }
 
     void deliver(float value, std::size_t frames) {

@@ -24,44 +24,11 @@ struct Said {
     std::string printed;
 };
 
-class CommandsTest : public ::testing::Test, protected FakeServices {
-protected:
+struct CommandsTest : ::testing::Test, FakeServices {
     std::string tavi(const QByteArray& words) {
         const auto line = parseCommandLine(words.split('|'));
-        const auto printed = line.and_then([this](const CommandLine& parsed) {
-            return std::get<PrintingCommand>(parsed.command)(
-                {.container = container,
-                 .suites = {.standard = defaults, .shared = shared},
-                 .runLoop = runLoop,
-                 .durations = durations,
-                 .files = files,
-                 .converters = converters,
-                 .exports = assets,
-                 .repair = repair,
-                 .trash = trash,
-                 .refreshes = refreshes,
-                 .notifications = notifications,
-                 .cloud = {.prepare =
-                               [this](const CloudAccount& account, const QString& password) {
-                                   prepared.push_back(account.token() + QLatin1Char(' ') + password);
-                                   return Result<void>();
-                               },
-                           .forget =
-                               [this](const CloudAccount& account) {
-                                   prepared.push_back(QLatin1String("forgot ") + account.user);
-                               },
-                           .sync = [](const CloudAccount&, std::optional<bool> areVanishedRemoved) -> Result<void> {
-                               return areVanishedRemoved ? Result<void>() : failure(QStringLiteral("not in step"));
-                           },
-                           .look =
-                               [](const CloudAccount&) {
-                                   return CloudOverview{{{"a", {}},
-                                                         {"b\n (conflict D)", {CloudFile::State::Waiting, true}},
-                                                         {"c", {CloudFile::State::OnlyThere}}},
-                                                        QDateTime::fromSecsSinceEpoch(0)};
-                               },
-                           .askForPassword = [] { return QStringLiteral("secret"); }}});
-        });
+        const auto printed = line.and_then(
+            [this](const CommandLine& parsed) { return std::get<PrintingCommand>(parsed.command)(services); });
         if (!printed) {
             return "! " + printed.error().text.toStdString();
         }
@@ -92,6 +59,27 @@ protected:
     FakeAudioFileRepair repair;
     QStringList prepared;
     FakeTrash trash{container.root() / "trash"};
+    CloudCommands cloudCommands{
+        .prepare =
+            [this](const CloudAccount& account, const QString& password) {
+                prepared.push_back(account.token() + QLatin1Char(' ') + password);
+                return Result<void>();
+            },
+        .forget = [this](const CloudAccount& account) { prepared.push_back(QLatin1String("forgot ") + account.user); },
+        .sync = [](const CloudAccount&, std::optional<bool> areVanishedRemoved) -> Result<void> {
+            return areVanishedRemoved ? Result<void>() : failure(QStringLiteral("not in step"));
+        },
+        .look =
+            [](const CloudAccount&) {
+                return CloudOverview{{{"a", {}},
+                                      {"b\n (conflict D)", {CloudFile::State::Waiting, true}},
+                                      {"c", {CloudFile::State::OnlyThere}}},
+                                     QDateTime::fromSecsSinceEpoch(0)};
+            },
+        .askForPassword = [] { return QStringLiteral("secret"); }};
+    CommandServices services{container, {defaults, shared}, runLoop,       durations,
+                             files,     converters,         assets,        repair,
+                             trash,     refreshes,          notifications, cloudCommands};
 };
 
 }  // namespace

@@ -16,8 +16,7 @@ using ::testing::ElementsAre;
 using ::testing::FloatEq;
 using ::testing::SizeIs;
 
-class WaveformLoaderTest : public ::testing::Test {
-protected:
+struct WaveformLoaderTest : ::testing::Test {
     /// A file of a level in its first channel, and of another in its second.
     std::filesystem::path add(const char* name, float level, std::size_t frames = 10'240) {
         const std::filesystem::path path = container.addDocument(name, name);

@@ -1,6 +1,7 @@
 #include "API/AudioTrimmerController/EZAudio/EZAudioFile.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioUtilities.h"
 #include "support/ClientBuffers.h"

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 #include <vector>
 
 #include "API/AudioTrimmerController/EZAudio/EZAudioMemory.h"
