@@ -186,62 +186,37 @@ TEST_F(iCloudTest, AsksForWhatIsElsewhereAndListsItOnceItIsHere) {
 TEST_F(iCloudTest, SavesUnderANameAndSaysWhatWentWrong) {
     setUp();
     manager.setVerboseLogging(true);
+    const std::string created = "|Document is new; creating, saving and then closing|";
+    const std::string replaced = "|Document exists; overwriting, saving and closing|";
     const struct {
         const char *name, *bytes;
-        bool failsSave, failsClose;
-        std::string outcome;
-        std::vector<std::string> log;
+        /// What fails, "saving" or "closing"; the log's lines are divided by "|".
+        std::string fails, outcome, log;
     } cases[] = {
-        {"",
-         "1",
-         false,
-         false,
+        {"", "1", "",
          "1 The specified document name was empty / blank and could not be saved. Specify a document name next time.",
-         {"Specified document name must not be empty"}},
-        {"../a", "1", false, false, "100 ../a is no name of a document.", {}},
-        {"a",
-         "1",
-         true,
-         false,
-         "100 refused error while creating the document, a, in iCloud",
-         {"Document is new; creating, saving and then closing", "Error while creating the document: refused"}},
-        {"b",
-         "1",
-         false,
-         true,
-         "110 refused error while saving the document, b, to iCloud",
-         {"Document is new; creating, saving and then closing", "Error while saving and closing document: refused"}},
-        {"a",
-         "1",
-         false,
-         false,
-         "done 1 a",
-         {"Document is new; creating, saving and then closing", "New document created, saved and closed successfully"}},
-        {"a",
-         "2",
-         false,
-         false,
-         "done 2 a",
-         {"Document exists; overwriting, saving and closing", "Written, saved and closed document"}},
-        {"a",
-         "3",
-         true,
-         false,
-         "100 refused error while writing to the document, a, in iCloud",
-         {"Document exists; overwriting, saving and closing", "Error while writing to the document: refused"}},
-        {"a",
-         "4",
-         false,
-         true,
-         "110 refused error while saving the document, a, to iCloud",
-         {"Document exists; overwriting, saving and closing", "Error while saving document: refused"}}};
-    for (auto row : cases) {
-        cloud.failsSave = row.failsSave;
-        cloud.failsClose = row.failsClose;
+         "|Specified document name must not be empty"},
+        {"../a", "1", "", "100 ../a is no name of a document.", ""},
+        {"a", "1", "saving", "100 refused error while creating the document, a, in iCloud",
+         created + "Error while creating the document: refused"},
+        {"b", "1", "closing", "110 refused error while saving the document, b, to iCloud",
+         created + "Error while saving and closing document: refused"},
+        {"a", "1", "", "done 1 a", created + "New document created, saved and closed successfully"},
+        {"a", "2", "", "done 2 a", replaced + "Written, saved and closed document"},
+        {"a", "3", "saving", "100 refused error while writing to the document, a, in iCloud",
+         replaced + "Error while writing to the document: refused"},
+        {"a", "4", "closing", "110 refused error while saving the document, a, to iCloud",
+         replaced + "Error while saving document: refused"}};
+    for (const auto& row : cases) {
+        cloud.failsSave = row.fails == "saving";
+        cloud.failsClose = row.fails == "closing";
         manager.saveAndCloseDocumentWithName(row.name, FileContents(row.bytes), keptDocument());
         EXPECT_EQ(outcomeOf(), row.outcome);
-        row.log.insert(row.log.begin(), "Beginning document save");
-        EXPECT_EQ(log(), row.log);
+        std::string lines;
+        for (const std::string& line : log()) {
+            lines += (lines.empty() ? "" : "|") + line;
+        }
+        EXPECT_EQ(lines, "Beginning document save" + row.log);
     }
     EXPECT_EQ(contentsOf(cloud.documents() / "a"), "4");
 }
