@@ -158,6 +158,12 @@ struct PlaybackTest : ::testing::Test {
         m_feed.audioOutputDidOpen(m_stream);
         settle();
     }
+    /// Full scale is 20 s of frames; a ramp over 64 frames takes steps of a fortieth at most.
+    void expectNoStep() const {
+        for (std::size_t i = 1; i < static_cast<std::size_t>(m_stream.heard); ++i) {
+            ASSERT_LT(std::abs(m_stream.frames[i] - m_stream.frames[i - 1]), valueOf(kLength) / 40.0F + 1e-6F) << i;
+        }
+    }
     double heardPlace() const { return m_clock.read().mediaOf(m_stream.heard); }
 
     std::shared_ptr<FakeSound> m_sound = std::make_shared<FakeSound>();
@@ -201,10 +207,7 @@ TEST_F(PlaybackTest, JumpsAndRatesTakeTheShortestWayWithoutAStep) {
         EXPECT_LE(m_clock.read().pieces[0].start, m_stream.heard + kTaken);
         play(0.7);
     }
-    // Full scale is 20 s of frames; a ramp over 64 frames takes steps of a fortieth at most.
-    for (std::size_t i = 1; i < static_cast<std::size_t>(m_stream.heard); ++i) {
-        ASSERT_LT(std::abs(m_stream.frames[i] - m_stream.frames[i - 1]), valueOf(kLength) / 40.0F + 1e-6F) << i;
-    }
+    expectNoStep();
     EXPECT_TRUE(m_ends.empty());
 }
 
@@ -232,6 +235,7 @@ TEST_F(PlaybackTest, APauseFadesOutAndEveryFrameAfterItIsHeardOnce) {
         ASSERT_TRUE(m_stream.isRunning);
         play(0.7);
     }
+    expectNoStep();
     // From the pause on every frame is heard once, and the end is told.
     EXPECT_TRUE(m_ends.empty());
     play(25.0);
