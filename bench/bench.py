@@ -377,6 +377,42 @@ def commands(binaries):
         cut.unlink(missing_ok=True)
 
 
+@bench
+def companions(binaries):
+    """How long a message takes from one program to the listener of another, and how often its ends wake while idle."""
+    for way in ("file", "coordinated", "context", "transfer", "message"):
+        with PrivateDesktop(display=False, sound=False) as desktop:
+            command = binaries / "channel_peer", "{}", way, desktop.folder
+            listener, sender = (
+                desktop.spawn(*(end if word == "{}" else word for word in command), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              text=True, bufsize=1) for end in ("recorder", "companion"))
+
+            def until(peer, word):
+                return next(line for line in peer.stdout if line.startswith(word))
+
+            if way in ("context", "transfer", "message"):
+                until(listener, "reached")
+                until(sender, "reached")
+            print("time Record", file=listener.stdin)
+            until(listener, "done")
+            took = []
+            for _ in range(201):
+                print("now Record", file=sender.stdin)
+                took.append(int(until(listener, "took").split()[1]) / 1000)
+            row(f"from passing to the listener, {way}", statistics.median(took), "ms", aim=5)
+            time.sleep(2.0)
+            before = [Figures(peer.pid) for peer in (listener, sender)]
+            time.sleep(SECONDS)
+            woken = sum(n for peer, look in zip((listener, sender), before) for _, _, n in Figures(peer.pid).since(look).values())
+            row(f"wake-ups of both ends, idle, {way}", woken / SECONDS, "a second", aim=0)
+    with PrivateDesktop(display=False, sound=False) as desktop:
+        icon = desktop.spawn(binaries / "tavi-companion", "--container", desktop.folder)
+        time.sleep(3.0)
+        before = Figures(icon.pid)
+        time.sleep(SECONDS)
+        row("wake-ups of the icon, idle", sum(n for _, _, n in Figures(icon.pid).since(before).values()) / SECONDS, "a second", aim=0)
+
+
 def main(binaries, *names):
     unknown = [name for name in names if name not in BENCHES]
     if unknown:

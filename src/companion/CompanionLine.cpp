@@ -3,7 +3,9 @@
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
-#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tavi {
 
@@ -17,7 +19,7 @@ constexpr const char* kFooter =
 
 }  // namespace
 
-Result<CompanionLine> parseCompanionLine(std::vector<std::string> arguments) {
+Result<CompanionLine> parseCompanionLine(const QList<QByteArray>& arguments) {
     CompanionLine line;
     std::string container;
     std::string channel;
@@ -48,9 +50,16 @@ Result<CompanionLine> parseCompanionLine(std::vector<std::string> arguments) {
         ->add_option("WORDS", text, "the text")
         ->required();
     add("listen", "print what the recorder does, a line for each change", CompanionLine::Stay::Listen);
-    std::reverse(arguments.begin(), arguments.end());
+    std::vector<std::string> texts;
+    for (const QByteArray& argument : arguments) {
+        if (argument.startsWith("--") && argument.endsWith('=')) {
+            // The library would take the next argument in the place of the value that is missing here.
+            return failure(QStringLiteral("%1 needs a value").arg(QString::fromLocal8Bit(argument)));
+        }
+        texts.insert(texts.begin(), argument.toStdString());
+    }
     try {
-        app.parse(std::move(arguments));
+        app.parse(std::move(texts));
     } catch (const CLI::CallForHelp&) {
         line.task = QByteArray::fromStdString(app.help());
     } catch (const CLI::CallForVersion& version) {

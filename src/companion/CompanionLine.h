@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <variant>
-#include <vector>
 
 #include "companion/CompanionCommands.h"
 #include "platform/Error.h"
@@ -27,6 +26,6 @@ struct CompanionLine {
 };
 
 /// Reads the arguments that follow the program's name. The error is one line, without the program's name.
-Result<CompanionLine> parseCompanionLine(std::vector<std::string> arguments);
+Result<CompanionLine> parseCompanionLine(const QList<QByteArray>& arguments);
 
 }  // namespace tavi

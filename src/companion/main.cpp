@@ -193,8 +193,8 @@ int run(int& argc, char** argv) {
     if (const auto* command = std::get_if<CompanionCommand>(&line->task)) {
         return runCommand(companion, *line, *command);
     }
-    return std::get<CompanionLine::Stay>(line->task) == CompanionLine::Stay::Listen ? listen(companion)
-                                                                                    : showIcon(companion, *line);
+    const auto* stay = std::get_if<CompanionLine::Stay>(&line->task);
+    return stay != nullptr && *stay == CompanionLine::Stay::Listen ? listen(companion) : showIcon(companion, *line);
 }
 
 }  // namespace

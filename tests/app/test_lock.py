@@ -4,6 +4,7 @@ import contextlib
 import os
 import pathlib
 import pty
+import re
 import signal
 import subprocess
 import sys
@@ -215,9 +216,15 @@ class Lock(test_accessibility.ReaderTest):
         self.tavi("waveform", self.tone)
         shown = self.desktop.picture()
         said = self.listen()
-        self.tavi("record")
+        companion = pathlib.Path(test_app.PROGRAM).with_name("tavi-companion"), "--container", self.container
+        self.desktop.run(*companion, "record")
         self.play_while_recording()
-        self.tavi("stop")
+        self.assertEqual(self.desktop.run(*companion, "show", check=False).returncode, 3)
+        name = re.search(rf"{re.escape(test_app.NAME)}[\w.]*", self.bus_names()).group()
+        told = self.desktop.run("gdbus", "call", "--session", "--dest", name, "--object-path", "/com/quillfen/voicerecorder",
+                                "--method", "org.freedesktop.DBus.Properties.GetAll", test_app.NAME + ".Recording").stdout
+        self.assertEqual(set(re.findall("<.+?>", told)), {"<'locked'>", "<int64 0>"})
+        self.desktop.run(*companion, "stop")
         saved = self.wait_saved(2)
         self.assertEqual(self.desktop.picture(), shown)
         self.session("Unlock")

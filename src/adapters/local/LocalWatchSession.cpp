@@ -137,7 +137,7 @@ Result<FileDescriptor> LocalWatchSession::copyOf(const std::filesystem::path& fi
     if (attributes.st_size > SessionLink::kMostFileBytes) {
         return failure(QStringLiteral("The file is larger than 256 MB."));
     }
-    FileDescriptor copy = SessionLink::namelessFile(m_folder);
+    FileDescriptor copy = SessionLink::namelessFile(m_folder, attributes.st_size);
     const int error = copy.isValid() ? copyContents(source.get(), attributes, copy.get()) : errno;
     if (error != 0) {
         return failure(qt_error_string(error));

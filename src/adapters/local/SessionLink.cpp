@@ -1,6 +1,7 @@
 #include "adapters/local/SessionLink.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <QtEndian>
@@ -21,6 +22,7 @@ constexpr qint64 kHeadBytes = 13;
 constexpr qint64 kChunkBytes = qint64{256} << 10;
 /// So much may wait to be sent: two of the largest messages; and so many files.
 constexpr qint64 kMostWaitingBytes = 2 * SessionLink::kMostDictionaryBytes;
+constexpr qint64 kMostInMemory = qint64{1} << 20;
 constexpr int kMostWaitingFrames = 4096;
 constexpr int kMostWaitingFiles = 4;
 
@@ -34,7 +36,10 @@ QByteArray headOf(SessionLink::Kind kind, qint64 dictionaryBytes, qint64 fileByt
 
 }  // namespace
 
-FileDescriptor SessionLink::namelessFile(const std::filesystem::path& folder) {
+FileDescriptor SessionLink::namelessFile(const std::filesystem::path& folder, qint64 size) {
+    if (size <= kMostInMemory) {
+        return FileDescriptor(::memfd_create("session", MFD_CLOEXEC));
+    }
     std::string path = (folder / "session-XXXXXX").string();
     FileDescriptor file(::mkostemp(path.data(), O_CLOEXEC));
     if (file.isValid()) {
@@ -183,7 +188,7 @@ bool SessionLink::readHead() {
                                 .fileLeft = static_cast<qint64>(fileBytes),
                                 .fileSize = static_cast<qint64>(fileBytes)});
     if (isFile) {
-        m_incoming->file = namelessFile(m_folder);
+        m_incoming->file = namelessFile(m_folder, m_incoming->fileSize);
         m_incoming->isWhole = m_incoming->file.isValid();
     }
     return true;

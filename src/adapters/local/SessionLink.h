@@ -34,8 +34,9 @@ public:
     SessionLink(std::unique_ptr<QLocalSocket> socket, std::filesystem::path folder,
                 std::function<QByteArray()> context);
 
-    /// An empty file of a folder without a name, which goes with its descriptor; invalid where that fails.
-    static FileDescriptor namelessFile(const std::filesystem::path& folder);
+    /// An empty file for so many bytes, without a name, which goes with its descriptor; invalid where that fails. A
+    /// small one lies in memory, a large one in the folder.
+    static FileDescriptor namelessFile(const std::filesystem::path& folder, qint64 size);
 
     /// The other end has said that it is there.
     bool isReady() const { return m_isReady; }
