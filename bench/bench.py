@@ -3,7 +3,9 @@
 Each figure is a median over several rounds. Seconds differ from machine to machine; ratios hold better.
 """
 
+import os
 import pathlib
+import random
 import re
 import signal
 import statistics
@@ -14,6 +16,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path[:0] = [str(ROOT / "scripts/lib"), str(ROOT / "tests/app")]
 
+from private_dav import PrivateDav
 from private_desktop import PrivateDesktop, Trouble, wait_for
 from sound import levels, tone_seconds, write_tone
 
@@ -378,6 +381,7 @@ def commands(binaries):
 
 
 @bench
+<<<<<<< HEAD
 def companions(binaries):
     """How long a message takes from one program to the listener of another, and how often its ends wake while idle."""
     for way in ("file", "coordinated", "context", "transfer", "message"):
@@ -411,6 +415,47 @@ def companions(binaries):
         before = Figures(icon.pid)
         time.sleep(SECONDS)
         row("wake-ups of the icon, idle", sum(n for _, _, n in Figures(icon.pid).since(before).values()) / SECONDS, "a second", aim=0)
+=======
+def cloud(binaries):
+    """Keeping step with a WebDAV server on this machine: listings and polls, and a gigabyte beside curl sending and fetching it."""
+    for count in (1000, 10_000):
+        with PrivateDav(binaries / "tavi", "nginx") as server:
+            start, _ = server.run("cloud", "status")
+            for number in range(count):
+                (server.files / f"{number}.m4a").write_bytes(b"sound %d" % number)
+            server.asked()
+            # Offered, and not fetched yet: the journal learns what is there.
+            for what in (f"{count} files, first listing and fetching", f"{count} files, unchanged poll"):
+                seconds, most = server.run("cloud", "sync")
+                requests, size = server.asked()
+                is_poll = "poll" in what
+                row(f"{what}, requests", requests, "", aim=2 if is_poll else None)
+                row(f"{what}, sent and received", size / 1e6, "MB")
+                row(f"{what}, processor", (seconds - start) * 1000, "ms", aim=50 if is_poll and count == 1000 else None)
+                row(f"{what}, memory", most / 1024, "MB")
+    with PrivateDav(binaries / "tavi", "nginx") as server:
+        large = server.path / "large"
+        with open(large, "wb") as file:
+            for _ in range(1024):
+                file.write(random.randbytes(1 << 20))
+        curl = ("curl", "-s", "-f", "-u", "u:p")
+        figures = []
+        for number in range(3):
+            name = f"large-{number}.wav"
+            os.link(large, server.documents / name)
+            begin = time.monotonic()
+            _, most = server.run("cloud", "sync")
+            ours = time.monotonic() - begin
+            sent = seconds_of(*curl, "-T", large, server.url + "curl")
+            fetched = seconds_of(*curl, "-o", server.path / "back", server.url + "curl")
+            figures.append((ours, sent, fetched, most))
+            for path in (server.documents / name, server.files / name, server.files / "curl"):
+                path.unlink()
+        ours, sent, fetched, most = (statistics.median(column) for column in zip(*figures))
+        row("1 GB sent and read back, beside curl -T and -o", ours, "s", beside=sent + fetched, aim=1.1)
+        row("the same, beside curl -T alone", ours, "s", beside=sent)
+        row("the same, memory", most / 1024, "MB")
+>>>>>>> e117de7 (Know what a killed program has sent as its own, and measure keeping step with a server)
 
 
 def main(binaries, *names):

@@ -9,6 +9,8 @@ namespace tavi {
 
 namespace {
 
+constexpr const char* kAside = ".tavi-old-";
+
 /// Hidden from every list, and never the same twice.
 std::filesystem::path scrapName(const char* kind, const std::filesystem::path& name = {}) {
     QRandomGenerator* random = QRandomGenerator::system();
@@ -195,6 +197,18 @@ Result<bool> DavFolder::recover() {
             m_client.remove(name);
             m_journal.dropScrap(name);
             continue;
+        }
+        if (*other && name.native().starts_with(kAside)) {
+            const auto hash = hashOf(name, **there);
+            if (!hash) {
+                return tl::unexpected(hash.error());
+            }
+            if (*hash == m_journal.entry(original).hash) {
+                // The version that was seen and replaced here.
+                m_client.remove(name);
+                m_journal.dropScrap(name);
+                continue;
+            }
         }
         // Where both are there the new version has been published, or somebody else has written one: the old one stays
         // under a name that is seen.

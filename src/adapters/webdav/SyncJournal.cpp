@@ -14,6 +14,7 @@ namespace {
 
 /// No name on a server has a slash.
 constexpr const char* kSynced = "/synced";
+const QByteArray kSent = QByteArrayLiteral("/sent/");
 
 Q_LOGGING_CATEGORY(lcCloud, "tavi.cloud", QtInfoMsg)
 
@@ -170,6 +171,21 @@ bool SyncJournal::addScrap(const Path& name, const Path& original) {
 
 bool SyncJournal::dropScrap(const Path& name) {
     return execute(QStringLiteral("DELETE FROM scraps WHERE name = ?"), {bytesOf(name)});
+}
+
+QByteArray SyncJournal::sent(const Path& name) {
+    QByteArray hash;
+    execute(QStringLiteral("SELECT original FROM scraps WHERE name = ?"), {kSent + bytesOf(name)},
+            [&hash](QSqlQuery& query) { hash = query.value(0).toByteArray(); });
+    return hash;
+}
+
+bool SyncJournal::setSent(const Path& name, const QByteArray& hash) {
+    return execute(QStringLiteral("INSERT OR REPLACE INTO scraps VALUES(?, ?)"), {kSent + bytesOf(name), hash});
+}
+
+bool SyncJournal::dropSent(const Path& name) {
+    return execute(QStringLiteral("DELETE FROM scraps WHERE name = ?"), {kSent + bytesOf(name)});
 }
 
 bool SyncJournal::isKnown(Fact fact) {

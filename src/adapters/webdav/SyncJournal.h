@@ -69,6 +69,11 @@ public:
     bool addScrap(const Path& name, const Path& original);
     bool dropScrap(const Path& name);
 
+    /// The SHA-256 of what was sent last under a name, until both sides agree: it is ours where the server has it.
+    QByteArray sent(const Path& name);
+    bool setSent(const Path& name, const QByteArray& hash);
+    bool dropSent(const Path& name);
+
     /// What has been found out about the server's folder for good: that it has been marked as this account's, and that
     /// its listing has the mark.
     enum class Fact { IsMarked, ListsMark };

@@ -306,6 +306,7 @@ Result<void> SyncPass::agree(File& file, const DavFile& remote, const QByteArray
         (file.entry.isRemovedHere && !m_services.journal.setRemovedHere(file.name, false))) {
         return failure(qtTrId("error_cloud_journal"));
     }
+    m_services.journal.dropSent(file.name);
     setState(file.name, MirrorState::There);
     return {};
 }
@@ -326,6 +327,9 @@ Result<void> SyncPass::upload(File& file) {
     const auto hash = contents ? hashOf(*contents, m_services.client) : std::nullopt;
     if (!hash) {
         return failure(qtTrId("error_cloud_unreadable").arg(pathText(file.name)));
+    }
+    if (!m_services.journal.setSent(file.name, *hash)) {
+        return failure(qtTrId("error_cloud_journal"));
     }
     setState(file.name, MirrorState::Sending);
     // It is read back.
@@ -405,7 +409,19 @@ Result<void> SyncPass::compare(File& file) {
     if (!there) {
         return tl::unexpected(there.error());
     }
-    return *here == *there ? agree(file, *file.remote, *there) : stepAside(file);
+    if (*here == *there) {
+        return agree(file, *file.remote, *there);
+    }
+    if (*there == m_services.journal.sent(file.name)) {
+        // Ours, sent before the program ended and replaced here since.
+        file.entry.local.clear();
+        file.entry.remote = file.remote->version();
+        file.entry.hash = *there;
+        m_services.journal.put(file.name, file.entry);
+        m_isToBeContinued = true;
+        return failure(qtTrId("error_cloud_growing").arg(pathText(file.name)));
+    }
+    return stepAside(file);
 }
 
 Result<void> SyncPass::stepAside(const File& file) {
