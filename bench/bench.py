@@ -381,7 +381,6 @@ def commands(binaries):
 
 
 @bench
-<<<<<<< HEAD
 def companions(binaries):
     """How long a message takes from one program to the listener of another, and how often its ends wake while idle."""
     for way in ("file", "coordinated", "context", "transfer", "message"):
@@ -415,7 +414,9 @@ def companions(binaries):
         before = Figures(icon.pid)
         time.sleep(SECONDS)
         row("wake-ups of the icon, idle", sum(n for _, _, n in Figures(icon.pid).since(before).values()) / SECONDS, "a second", aim=0)
-=======
+
+
+@bench
 def cloud(binaries):
     """Keeping step with a WebDAV server on this machine: listings and polls, and a gigabyte beside curl sending and fetching it."""
     for count in (1000, 10_000):
@@ -455,7 +456,6 @@ def cloud(binaries):
         row("1 GB sent and read back, beside curl -T and -o", ours, "s", beside=sent + fetched, aim=1.1)
         row("the same, beside curl -T alone", ours, "s", beside=sent)
         row("the same, memory", most / 1024, "MB")
->>>>>>> e117de7 (Know what a killed program has sent as its own, and measure keeping step with a server)
 
 
 def main(binaries, *names):
