@@ -69,6 +69,8 @@ struct Screens {
             const bool isSeen = !platform.lockState.isLocked() && !recording.lblRecording().hidden;
             return isSeen ? recording.lblRecording().text : QString();
         });
+        QObject::connect(&sharing, &RecordingSharing::dataPicked, &imports,
+                         &RecordingImport::saveImagesInIPhoneWithName);
         QObject::connect(&imports, &RecordingImport::imported, &library, &VoiceMemoVC::reloadData);
         QObject::connect(&platform.application, &DBusApplication::refreshRequested, &library, &VoiceMemoVC::reloadData);
     }

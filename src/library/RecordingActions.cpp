@@ -63,7 +63,7 @@ std::optional<RecordingActions::Target> RecordingActions::target() {
 }
 
 void RecordingActions::tell(const char* id, const std::filesystem::path& path, const QString& reason) const {
-    const QString name = pathText(path.filename());
+    const QString name = lineText(path.filename());
     // Both at once: a name may hold what looks like the place of the other.
     m_services.notices.postNotice({reason.isEmpty() ? qtTrId(id).arg(name) : qtTrId(id).arg(name, reason)});
 }
@@ -124,9 +124,10 @@ void RecordingActions::accessoryButtonTapped(const QPointF& at) {
 
 void RecordingActions::presentItems(std::vector<AlertAction> items, const QPointF& at) {
     const RecordingEntry* entry = m_services.table.entryOf(m_Section.toInt(), m_Buttontag);
-    Alert sheet{pathText(m_target.path.filename()),
+    Alert sheet{lineText(m_target.path.filename()),
                 entry != nullptr ? RecordingListModel::detailText(*entry) : QString(), std::move(items)};
     sheet.anchor = at;
+    sheet.levels = m_services.table.shapeOf(m_Section.toInt(), m_Buttontag);
     m_services.presenter.presentActionSheet(std::move(sheet));
 }
 
@@ -211,7 +212,7 @@ void RecordingActions::showDeletealert() {
     }
     m_services.presenter.presentAlert(
         {qtTrId("delete_audio"),
-         qtTrId("delete_msg").arg(pathText(file->path.filename())),
+         qtTrId("delete_msg").arg(lineText(file->path.filename())),
          {{qtTrId("No"), AlertAction::Style::Cancel},
           {qtTrId("Delete"), AlertAction::Style::Destructive, [self = QPointer(this), path = file->path] {
                // As with a new name.
@@ -260,7 +261,7 @@ void RecordingActions::removed(const Target& target) {
 }
 
 void RecordingActions::trashed(const Target& target, const Result<std::filesystem::path>& place) {
-    const QString name = pathText(target.path.filename());
+    const QString name = lineText(target.path.filename());
     if (place) {
         removed(target);
         m_services.notices.postNotice({qtTrId("delete_trashed").arg(name), qtTrId("delete_undo"),
@@ -297,7 +298,7 @@ void RecordingActions::undo(const std::filesystem::path& trashed, const std::fil
                 return self->tell("delete_undo_failed", path, back.error().text);
             }
             if (*back != path) {
-                self->tell("delete_undone_beside", path, pathText(back->filename()));
+                self->tell("delete_undone_beside", path, lineText(back->filename()));
             }
             Q_EMIT self->reloadRequested();
             if (const int row = self->m_services.table.rowOf(0, back->filename()); row >= 0) {

@@ -21,7 +21,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcExport, "tavi.export", QtInfoMsg)
 
 QString nameOf(const std::filesystem::path& path) {
-    return pathText(path.filename());
+    return lineText(path.filename());
 }
 
 }  // namespace

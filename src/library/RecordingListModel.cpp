@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "files/PathText.h"
+
 namespace tavi {
 
 RecordingListModel::RecordingListModel(RecordingShapes& shapes, const AppContainer& container)
@@ -26,16 +28,12 @@ QVariant RecordingListModel::data(const QModelIndex& index, int role) const {
     const RecordingEntry& entry = m_entries[static_cast<std::size_t>(index.row())];
     switch (role) {
         case NameTextRole:
-            return entry.value(entrykey::kFilename);
+            return lineText(entry.value(entrykey::kFilename));
         case DetailTextRole:
             return detailText(entry);
-        case ShapeRole: {
-            const WaveformSample* shape =
-                entry.identity() == FileIdentity()
-                    ? nullptr
-                    : m_shapes.shapeOf(entry.identity(), m_container.documentsPath() / entry.nativeName());
-            return QVariant::fromValue(shape ? QList<qreal>(shape->begin(), shape->end()) : QList<qreal>());
-        }
+        case ShapeRole:
+            return QVariant::fromValue(
+                m_shapes.levelsOf(entry.identity(), m_container.documentsPath() / entry.nativeName()));
         default:
             return {};
     }

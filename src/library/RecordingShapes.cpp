@@ -38,6 +38,11 @@ const WaveformSample* RecordingShapes::shapeOf(const FileIdentity& identity, con
     return nullptr;
 }
 
+QList<qreal> RecordingShapes::levelsOf(const FileIdentity& identity, const std::filesystem::path& path) {
+    const WaveformSample* shape = identity == FileIdentity() ? nullptr : shapeOf(identity, path);
+    return shape != nullptr ? QList<qreal>(shape->begin(), shape->end()) : QList<qreal>();
+}
+
 void RecordingShapes::makeNext() {
     m_isRunning = !m_wanted.empty();
     if (!m_isRunning) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <deque>
 #include <filesystem>
@@ -28,6 +29,8 @@ public:
     /// The shape of the file at a path; null until it has been made, which this asks for. What was asked for last is
     /// made first; of more than a screen can show, the oldest are dropped until they are asked for again.
     const WaveformSample* shapeOf(const FileIdentity& identity, const std::filesystem::path& path);
+    /// The same as numbers from 0 to 1; none where it has not been made, or there is no file.
+    QList<qreal> levelsOf(const FileIdentity& identity, const std::filesystem::path& path);
 
 Q_SIGNALS:
     /// The shape is there from now on.

@@ -1,15 +1,12 @@
 #include "library/RecordingSharing.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <QLoggingCategory>
 #include <QPointer>
 
-#include "files/FileDescriptor.h"
 #include "files/FileUri.h"
 #include "files/PathText.h"
-#include "files/PositionedIo.h"
 #include "library/utility/RecordingMail.h"
 #include "library/utility/Utility.h"
 
@@ -93,7 +90,7 @@ void RecordingSharing::copyToClipboard(const std::vector<std::filesystem::path>&
         }
         m_services.pasteboard.setMimeData(std::move(data));
         m_services.notices.postNotice({files.size() == 1
-                                           ? qtTrId("share_copied").arg(pathText(files.front().filename()))
+                                           ? qtTrId("share_copied").arg(lineText(files.front().filename()))
                                            : qtTrId("share_copied_many").arg(files.size())});
     } else if (!paths.empty()) {
         isThere(paths.front());
@@ -120,13 +117,9 @@ void RecordingSharing::documentPickerDidPickDocumentAtURL(DocumentPickerMode mod
     }
     RunLoop& runLoop = m_services.runLoop;
     runLoop.dispatchBackground([self = QPointer(this), path, &runLoop] {
-        const FileDescriptor file = FileDescriptor::open(path, O_RDONLY | O_NONBLOCK);
-        QByteArray data(std::max<qsizetype>(regularFileSize(file.get()), 0), Qt::Uninitialized);
-        data.truncate(
-            static_cast<qsizetype>(readFully(file.get(), data.data(), static_cast<std::size_t>(data.size()), 0)));
-        runLoop.dispatchMain([self, path, data, isRead = file.isValid()] {
-            if (self && isRead) {
-                Q_EMIT self->dataPicked(data, pathText(path.filename()));
+        runLoop.dispatchMain([self, path, data = FileContents::ofFile(path)] {
+            if (self && data) {
+                Q_EMIT self->dataPicked(*data, path.filename());
             } else if (self) {
                 self->tell(qtTrId("share_gone"), path);
             }
@@ -143,7 +136,7 @@ bool RecordingSharing::isThere(const std::filesystem::path& path) const {
 }
 
 void RecordingSharing::tell(const QString& text, const std::filesystem::path& path) const {
-    m_services.notices.postNotice({text.arg(pathText(path.filename()))});
+    m_services.notices.postNotice({text.arg(lineText(path.filename()))});
 }
 
 DocumentInteraction::Completion RecordingSharing::orTell(const QString& text, const std::filesystem::path& path) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "files/FileContents.h"
 #include "library/RecordingExport.h"
 #include "platform/DocumentInteraction.h"
 #include "platform/DocumentPicker.h"
@@ -57,14 +58,14 @@ public:
     /// Says that the mail is sent, where that is known, and that it could not be handed over.
     void mailComposeControllerDidFinishWithResult(const std::filesystem::path& path,
                                                   const Result<MailComposeResult>& result);
-    /// In mode Import, in which this screen never picks: reads the picked file and hands it on by dataPicked().
+    /// In mode Import, in which this screen never picks: opens the picked file and hands it on by dataPicked().
     void documentPickerDidPickDocumentAtURL(DocumentPickerMode mode, const std::filesystem::path& path);
     /// Does nothing: who has changed his mind knows it.
     void documentPickerWasCancelled() {}
 
 Q_SIGNALS:
     /// A picked file's contents and its name, to be saved among the recordings.
-    void dataPicked(const QByteArray& data, const QString& name);
+    void dataPicked(const tavi::FileContents& data, const std::filesystem::path& name);
 
 private:
     /// Whether there is a file at the path; says so if not.

@@ -28,6 +28,11 @@ std::filesystem::path RecordingTable::pathOf(int section, int row) const {
                : m_services.container.documentsPath() / (section == 0 ? "" : foldername::kCloud) / entry->nativeName();
 }
 
+QList<qreal> RecordingTable::shapeOf(int section, int row) const {
+    const RecordingEntry* entry = entryOf(section, row);
+    return entry == nullptr ? QList<qreal>() : m_services.shapes.levelsOf(entry->identity(), pathOf(section, row));
+}
+
 int RecordingTable::rowOf(int section, const std::filesystem::path& name) const {
     const auto& list = listOf(section);
     const auto found = std::find_if(list.begin(), list.end(),

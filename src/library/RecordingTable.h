@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <filesystem>
 #include <vector>
@@ -57,6 +58,8 @@ public:
     const RecordingEntry* entryOf(int section, int row) const;
     /// Where the file of a row is; empty where there is no such row.
     std::filesystem::path pathOf(int section, int row) const;
+    /// The shape of a row's sound, numbers from 0 to 1; empty while it is not known.
+    QList<qreal> shapeOf(int section, int row) const;
     /// The row of a native name; -1 where it has none.
     int rowOf(int section, const std::filesystem::path& name) const;
 

@@ -107,7 +107,7 @@ void VoiceMemoVC::expandRow(int section, int row) {
 }
 
 QString VoiceMemoVC::playingName() const {
-    return pathText(m_player.urlPath().filename());
+    return lineText(m_player.urlPath().filename());
 }
 
 QString VoiceMemoVC::playingDetail() const {
@@ -258,7 +258,7 @@ void VoiceMemoVC::showTrimmed(const std::filesystem::path& path) {
     m_table.setSearchText({});
     Q_EMIT selectionChanged();
     Q_EMIT rowRevealed(row);
-    m_services.notices.postNotice({qtTrId("library_trimmed").arg(pathText(m_newName)), qtTrId("library_play"),
+    m_services.notices.postNotice({qtTrId("library_trimmed").arg(lineText(m_newName)), qtTrId("library_play"),
                                    [self = QPointer(this), name = m_newName] {
                                        if (self) {
                                            self->playRecording(pathText(name));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QPointF>
 #include <QString>
 #include <functional>
@@ -35,6 +36,8 @@ struct Alert {
     /// Where in the window a sheet has been asked for. In a wide window it opens there, as a menu, and leaves out the
     /// action of style Cancel.
     std::optional<QPointF> anchor = {};
+    /// For a sheet with an anchor: the shape of the sound that it is about, numbers from 0 to 1. Shown at its head.
+    QList<qreal> levels = {};
 };
 
 /// Shows alerts and sheets over whatever is on screen. Main thread only.

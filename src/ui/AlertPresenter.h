@@ -2,6 +2,7 @@
 
 #include <QtQml/qqml.h>
 
+#include <QList>
 #include <QObject>
 #include <QVariantList>
 #include <deque>
@@ -26,6 +27,7 @@ class AlertPresenter : public QObject, public Presenter {
     /// Whether the front one belongs beside a point of the window, and which.
     Q_PROPERTY(bool anchored READ isAnchored NOTIFY frontChanged)
     Q_PROPERTY(QPointF anchor READ anchor NOTIFY frontChanged)
+    Q_PROPERTY(QList<qreal> levels READ levels NOTIFY frontChanged)
     /// One map an action: "title", "image" and "shortcut", and whether it is "cancel" or "destructive", a "choice", and
     /// "chosen" at present.
     Q_PROPERTY(QVariantList actions READ actions NOTIFY frontChanged)
@@ -47,6 +49,7 @@ public:
     QString fieldText() const { return hasField() ? *m_queue.front().alert.text : QString(); }
     bool isAnchored() const { return isActive() && m_queue.front().alert.anchor.has_value(); }
     QPointF anchor() const { return isAnchored() ? *m_queue.front().alert.anchor : QPointF(); }
+    QList<qreal> levels() const { return isActive() ? m_queue.front().alert.levels : QList<qreal>(); }
     QVariantList actions() const;
     int defaultAction() const;
 

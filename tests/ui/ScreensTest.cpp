@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QLibraryInfo>
+#include <QMimeData>
 #include <QStyleHints>
 #include <QVersionNumber>
 
@@ -142,6 +144,21 @@ const State kStates[] = {
      [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_F10, Qt::ShiftModifier); }},
     {"rename", 1, "Rename Recording", [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_F2); }},
     {"delete", 1, "Delete Recording", [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_Delete); }},
+    {"importing", 1, "Cancel|Importing 2 files",
+     [](Shell& s) {
+         showLibrary(s);
+         s.runLoop.holdBackground(true);
+         s.imports.importFiles({QUrl(QStringLiteral("file:///one.wav")), QUrl(QStringLiteral("file:///two.wav"))});
+         s.runLoop.advance(1.0);
+     }},
+    {"dropping", 1, "Drop sound files here to import them",
+     [](Shell& s) {
+         showLibrary(s);
+         QMimeData files;
+         files.setUrls({QUrl(QStringLiteral("file:///one.wav"))});
+         QDragEnterEvent event({200, 200}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+         QCoreApplication::sendEvent(s.window, &event);
+     }},
     {"undo", 1, "Undo",
      [](Shell& s) {
          showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_Delete), s.presenter.choose(1), s.runLoop.advance(0.2);

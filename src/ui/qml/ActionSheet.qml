@@ -12,6 +12,7 @@ Rectangle {
     readonly property int rowHeight: 48
     /// What can be done with one thing, rather than what a setting may be: each choice has its image.
     readonly property bool isMenu: presenter.anchored
+    readonly property bool hasTile: isMenu && width >= 360
     /// How far it has slid in.
     property real shown: 0
     /// The choice with which it slides out.
@@ -70,10 +71,39 @@ Rectangle {
         anchors.fill: parent
     }
 
+    Rectangle {
+        id: tile
+
+        x: Theme.margin
+        y: Theme.margin
+        width: Theme.touch
+        height: Theme.touch
+        visible: sheet.hasTile
+        radius: 8
+        color: Theme.header
+
+        Repeater {
+            // A flat line where the shape is not known.
+            model: sheet.presenter.levels.length > 0 ? sheet.presenter.levels : new Array(8).fill(0)
+
+            Rectangle {
+                required property real modelData
+                required property int index
+
+                x: 7 + 4 * index
+                y: (tile.height - height) / 2
+                width: 2
+                height: Math.max(2, 2 * Math.round(14 * modelData))
+                color: Theme.faint
+            }
+        }
+    }
+
     Column {
         id: heading
 
         width: parent.width
+        height: Math.max(implicitHeight, sheet.hasTile ? tile.y + tile.height + Theme.gap : 0)
         topPadding: Theme.margin
         bottomPadding: Theme.gap
         spacing: 4
@@ -85,8 +115,8 @@ Rectangle {
                 required property string modelData
                 required property int index
 
-                x: Theme.margin
-                width: parent.width - 2 * x
+                x: sheet.hasTile ? tile.x + tile.width + Theme.gapWide : Theme.margin
+                width: parent.width - x - Theme.margin
                 maximumLineCount: sheet.isMenu ? 1 : 100
                 visible: text !== ""
                 text: modelData

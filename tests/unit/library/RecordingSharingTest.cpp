@@ -197,15 +197,14 @@ TEST_F(RecordingSharingTest, FilesGoOutByTheirBytes) {
 }
 
 TEST_F(RecordingSharingTest, WhatIsPickedForImportIsReadAndHandedOn) {
-    QStringList names;
-    QObject::connect(&sharing, &RecordingSharing::dataPicked, [&names](const QByteArray& data, const QString& name) {
-        names << name + QLatin1Char('/') + QString::fromUtf8(data);
-    });
+    std::vector<std::string> names;
+    QObject::connect(&sharing, &RecordingSharing::dataPicked,
+                     [&names](const FileContents& data, const Path& name) { names.push_back(name / data.head(9)); });
     sharing.documentPickerDidPickDocumentAtURL(DocumentPickerMode::ExportToService, file);
     sharing.documentPickerDidPickDocumentAtURL(DocumentPickerMode::Import, gone);
-    sharing.documentPickerDidPickDocumentAtURL(DocumentPickerMode::Import, written(folder / "b.wav", "wav"));
+    sharing.documentPickerDidPickDocumentAtURL(DocumentPickerMode::Import, written(folder / "b\xff.wav", "wav"));
     fakes.runLoop.drain();
-    EXPECT_EQ(names, QStringList{QStringLiteral("b.wav/wav")});
+    EXPECT_EQ(names, std::vector<std::string>{"b\xff.wav/wav"});
     EXPECT_EQ(said(), QStringList{QStringLiteral("share_gone")});
 }
 

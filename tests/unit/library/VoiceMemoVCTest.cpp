@@ -50,12 +50,12 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
     for (const char* name : {".DS_Store", ".hidden", "long.M4A", "noise.wav", "\xC3\xA9.txt"}) {
         add(name, 2048);
     }
-    std::ofstream(folder / "x\xff.m4a") << "12345";
+    std::ofstream(folder / "x\xff\n.m4a") << "12345";
     std::filesystem::create_symlink("gone", folder / "dangling");
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     // Whoever asked for the length of the last two would get one, and wait for the pipe's for ever.
     durations.seconds = {
-        {"long.M4A", 3725.9}, {"noise.wav", 59.999}, {"stray", 9.0}, {"pipe", 9.0}, {"x\xff.m4a", 5.0}};
+        {"long.M4A", 3725.9}, {"noise.wav", 59.999}, {"stray", 9.0}, {"pipe", 9.0}, {"x\xff\n.m4a", 5.0}};
     table.getAlltheFiles();
     runLoop.drain();
     std::vector<std::string> listed;
@@ -66,8 +66,9 @@ TEST_F(VoiceMemoVCTest, listsEverythingInTheFolderButTheExcludedNames) {
     }
     EXPECT_THAT(listed,
                 UnorderedElementsAre(".hidden  00:00", "long.M4A M4A 62:05", "noise.wav wav 00:59", "pipe  00:00",
-                                     "stray  00:00", "\xC3\xA9.txt txt 00:00", "x\xEF\xBF\xBD.m4a m4a 00:05"))
+                                     "stray  00:00", "\xC3\xA9.txt txt 00:00", "x\xEF\xBF\xBD\n.m4a m4a 00:05"))
         << "a name that is no text is measured like any other";
+    EXPECT_THAT(texts(table), ::testing::Contains("x\xEF\xBF\xBD?.m4a")) << "and stands on one line";
     std::filesystem::remove_all(folder);
     vc.reloadData();
     EXPECT_EQ(table.numberOfRowsInSection(0), 0);
