@@ -32,6 +32,8 @@ struct RecordingExport::Copy {
     PickedDocument to;
     std::stop_source stop;
     std::atomic<double> progress = 0.0;
+    /// Once it has taken so long, and until it ends or is given up. The main thread's.
+    std::unique_ptr<ProgressNotice> notice;
 };
 
 RecordingExport::RecordingExport(const Services& services, QObject* parent) : QObject(parent), m_services(services) {}
@@ -39,6 +41,8 @@ RecordingExport::RecordingExport(const Services& services, QObject* parent) : QO
 RecordingExport::~RecordingExport() {
     for (const auto& copy : m_copies) {
         copy->stop.request_stop();
+        // The thread that copies may be the last to hold it.
+        copy->notice.reset();
     }
 }
 
@@ -80,9 +84,9 @@ void RecordingExport::start() {
     runLoop.dispatchBackground([self, copy, &runLoop] {
         const auto progress = [&](double fraction) {
             copy->progress = fraction;
-            runLoop.dispatchMain([self, copy] {
-                if (self && self->m_notice && self->isRunning(copy)) {
-                    self->m_notice->setProgress(copy->progress);
+            runLoop.dispatchMain([copy] {
+                if (copy->notice) {
+                    copy->notice->setProgress(copy->progress);
                 }
             });
         };
@@ -109,16 +113,16 @@ void RecordingExport::show(const std::shared_ptr<Copy>& copy) {
             self->tell(qtTrId("export_cancelled"), copy->from);
         }
     };
-    m_notice =
+    copy->notice =
         m_services.notices.postProgress({qtTrId("export_running").arg(nameOf(copy->from)), qtTrId("Cancel"), cancel});
-    m_notice->setProgress(copy->progress);
+    copy->notice->setProgress(copy->progress);
 }
 
 void RecordingExport::leave(const std::shared_ptr<Copy>& copy) {
     if (!isRunning(copy)) {
         return;
     }
-    m_notice.reset();
+    copy->notice.reset();
     m_copies.pop_front();
     if (!m_copies.empty()) {
         start();

@@ -64,8 +64,6 @@ private:
     Services m_services;
     /// The first one is running.
     std::deque<std::shared_ptr<Copy>> m_copies;
-    /// Of the first one, once it has taken so long.
-    std::unique_ptr<ProgressNotice> m_notice;
 };
 
 }  // namespace tavi

@@ -71,7 +71,10 @@ struct FakeNotices : Notices {
     struct Work : ProgressNotice {
         Work(FakeNotices& line, Notice what) : notices(line), notice(std::move(what)) { notices.works.push_back(this); }
         ~Work() override { std::erase(notices.works, this); }
-        void setProgress(double fraction) override { progress = fraction; }
+        void setProgress(double fraction) override {
+            progress = fraction;
+            notices.shares.push_back(fraction);
+        }
 
         FakeNotices& notices;
         Notice notice;
@@ -86,6 +89,8 @@ struct FakeNotices : Notices {
 
     std::vector<Notice> posted;
     std::vector<Work*> works;
+    /// What any work has said of its progress.
+    std::vector<double> shares;
 };
 
 struct FakeReachability : Reachability {

@@ -199,12 +199,15 @@ TEST(Trash, TakesWhateverIsThereAndBringsItBackUnderAFreeName) {
         EXPECT_FALSE(trash.putBack(*trashed, path)) << "it is gone from there";
     }
     // Where the trash should be there is something else.
-    fs::remove_all(folder / "data");
-    std::ofstream(folder / "data") << "";
-    for (const char* name : {"voice.m4a", "x\xff.m4a", "gone.m4a"}) {
-        const bool wasThere = existsAt(folder / name);
-        EXPECT_FALSE(QtTrash().moveToTrash(folder / name)) << name;
-        EXPECT_EQ(existsAt(folder / name), wasThere) << name;
+    for (const char* place : {"data", "data/Trash/files"}) {
+        fs::remove_all(folder / "data");
+        fs::create_directories((folder / place).parent_path());
+        std::ofstream(folder / place) << "";
+        for (const char* name : {"voice.m4a", "x\xff.m4a", "gone.m4a"}) {
+            const bool wasThere = existsAt(folder / name);
+            EXPECT_FALSE(QtTrash().moveToTrash(folder / name)) << name;
+            EXPECT_EQ(existsAt(folder / name), wasThere) << name;
+        }
     }
     fs::remove_all(folder);
 }

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "support/FakeLibrary.h"
+#include "support/Texts.h"
 
 namespace tavi::test {
 namespace {
@@ -172,6 +173,16 @@ TEST_F(RecordingActionsTest, ANameIsCheckedAndTheRowStaysInSight) {
         const auto told = said();
         EXPECT_EQ(told.empty() ? "" : told.front(), answer);
     }
+    for (const bool isDeleted : {false, true}) {
+        aim("b.wav");
+        isDeleted ? actions.showDeletealert() : actions.kReNameAudio();
+        aim("c.aac");
+        confirm(isDeleted ? "Delete" : "OK", QStringLiteral("y"));
+        runLoop.advance(0.2);
+        EXPECT_EQ(listed().size(), 4U);
+        EXPECT_TRUE(isThere("b.wav") && isThere("c.aac")) << "it was asked about one, and another is meant now";
+    }
+    aim("b.wav");
     library.vc.didSelectRowAtIndexPath(0, 1);
     actions.kReNameAudio();
     confirm("OK", QStringLiteral("z"));
@@ -188,6 +199,7 @@ TEST_F(RecordingActionsTest, ANameIsCheckedAndTheRowStaysInSight) {
 
 TEST_F(RecordingActionsTest, DeletesIntoTheTrashAndBringsBackUnderAFreeName) {
     cloud.files["b.wav"] = "cloud";
+    const Texts texts{{{"delete_undone_beside", QStringLiteral("%1 is %2")}}};
     for (const bool isTaken : {false, true}) {
         library.vc.didSelectRowAtIndexPath(0, 1);
         aim("b.wav");
@@ -206,7 +218,7 @@ TEST_F(RecordingActionsTest, DeletesIntoTheTrashAndBringsBackUnderAFreeName) {
         runLoop.drain();
         EXPECT_TRUE(isThere(isTaken ? "b_2.wav" : "b.wav"));
         EXPECT_EQ(revealed, isTaken ? 2 : 1);
-        EXPECT_EQ(said(), isTaken ? std::vector<std::string>{"delete_undone_beside"} : std::vector<std::string>{});
+        EXPECT_EQ(said(), isTaken ? std::vector<std::string>{"b.wav is b_2.wav"} : std::vector<std::string>{});
         undo();
         runLoop.drain();
         EXPECT_THAT(said(), ElementsAre("delete_undo_failed")) << "it is no longer in the trash";

@@ -117,13 +117,13 @@ TEST_F(RecordingImportTest, EveryFileComesInUnderItsNameOrIsToldAbout) {
     }
     EXPECT_THAT(filesIn(documents), UnorderedElementsAre("taken.wav", "a b%20;?#\n.wav", "odd\xff\xe2\x80\xae"));
     EXPECT_EQ(read(documents / "taken.wav") + read(documents / "odd\xff\xe2\x80\xae"), "oldersound");
-    EXPECT_EQ(lists, 2);
 
     write(outside / "last");
     imports.importFiles(all);
     imports.importFiles({urlOf(outside / "last")});
     runLoop.drain();
     EXPECT_EQ(lastNotice(), "some 1 11");
+    EXPECT_EQ(lists, 3);
     notices.posted.back().action();
     EXPECT_THAT(presenter.alerts.back().message.toStdString(),
                 ::testing::StartsWith("failed https://x/a.wav remote\n"));
@@ -214,6 +214,7 @@ TEST_F(RecordingImportTest, LongImportsShowHowFarTheyAreAndCanBeGivenUp) {
         EXPECT_THAT(notices.works, IsEmpty());
         EXPECT_EQ(lastNotice(), isGivenUp ? "cancelled" : "some 1 1");
         EXPECT_EQ(fs::exists(documents / "large.wav"), !isGivenUp);
+        EXPECT_THAT(notices.shares, ::testing::AllOf(::testing::Contains(0.5), ::testing::Each(::testing::Le(1.0))));
         EXPECT_THAT(filesIn(inbox), IsEmpty());
     }
 }

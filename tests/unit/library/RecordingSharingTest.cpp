@@ -8,6 +8,7 @@
 #include "files/FileUri.h"
 #include "support/FakeServices.h"
 #include "support/FakeSharing.h"
+#include "support/Texts.h"
 
 namespace tavi::test {
 namespace {
@@ -150,11 +151,15 @@ TEST_F(RecordingSharingTest, CopiesAreWholeAndReplaceOnlyWhatTheUserAgreedToRepl
 }
 
 TEST_F(RecordingSharingTest, ALongCopyIsShownAndLeavesNothingWhenItIsGivenUp) {
+    upload(PickedDocument{folder / "first.m4a"});
+    EXPECT_EQ(said(), QStringList{QStringLiteral("export_done")});
+    fakes.runLoop.advance(RecordingExport::kPatience / 2);
     fakes.runLoop.holdBackground(true);
     upload(PickedDocument{target});
     upload(PickedDocument{folder / "second.m4a"});
-    EXPECT_TRUE(fakes.notices.works.empty());
-    fakes.runLoop.advance(RecordingExport::kPatience);
+    fakes.runLoop.advance(RecordingExport::kPatience / 2);
+    EXPECT_TRUE(fakes.notices.works.empty()) << "the time of the first is no concern of the next";
+    fakes.runLoop.advance(RecordingExport::kPatience / 2);
     ASSERT_EQ(fakes.notices.works.size(), 1U);
     EXPECT_EQ(fakes.notices.works[0]->notice.text, QStringLiteral("export_running"));
     const auto cancel = fakes.notices.works[0]->notice.action;
@@ -189,6 +194,11 @@ TEST_F(RecordingSharingTest, FilesGoOutByTheirBytes) {
     const QByteArray copied = pasteboard.data->data(QStringLiteral("x-special/gnome-copied-files"));
     EXPECT_TRUE(copied.startsWith("copy\n" + uri + "\n"));
     EXPECT_FALSE(copied.endsWith("\n"));
+    EXPECT_EQ(pasteboard.data->data(QStringLiteral("application/x-kde-cutselection")), "0");
+    said();
+    const Texts texts{{{"share_copied", QStringLiteral("%1")}}};
+    sharing.copyToClipboard({gone, file});
+    EXPECT_EQ(said(), QStringList{QStringLiteral("a\uFFFD %?.M4a")});
     EXPECT_EQ(pathOfFileUri("file://localhost/a%20b"), Path("/a b"));
     for (const char* bad :
          {"http://host/a", "file://host/a", "file:a", "file:///a%0", "file:///a%zz", "file:///a%00b"}) {
