@@ -31,6 +31,15 @@ DropArea {
         Accessible.role: Accessible.StaticText
         Accessible.name: words.title
 
+        // What lies behind is no part of the words.
+        Rectangle {
+            anchors.centerIn: words
+            width: words.width + 2 * Theme.margin
+            height: words.height + 2 * Theme.margin
+            radius: Theme.radiusSheet
+            color: Theme.panel
+        }
+
         EmptyState {
             id: words
 
