@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "cloud/CloudSaving.h"
+#include "files/FileNames.h"
 #include "files/PathText.h"
 
 namespace tavi {
@@ -25,6 +26,10 @@ void RecordingCloud::viewDidLoad() {
         m_services.documents.setDelegate(this);
         m_services.documents.setVerboseLogging(true);
         m_services.documents.setupiCloudDocumentSyncWithUbiquityContainer({});
+        // What the end of the program was faster than.
+        for (const std::filesystem::path& path : m_services.settings.cloudPending()) {
+            existsAt(path) ? save(path) : m_services.settings.setCloudPending(path, false);
+        }
     }
 }
 
@@ -32,17 +37,19 @@ void RecordingCloud::save(const std::filesystem::path& path) {
     if (!m_services.settings.isCloudSyncOn()) {
         return;
     }
-    saveFileToCloud(
-        m_services.documents, m_services.runLoop, path,
-        [name = pathText(path.filename())](const std::shared_ptr<iCloudDocument>&, const FileContents& contents,
-                                           const std::optional<CloudError>& error) {
-            if (error) {
-                qCWarning(lcRecording, "iCloud Document save error: %s", qUtf8Printable(errorText(*error)));
-            } else {
-                qCInfo(lcRecording, "iCloud Document, %s, saved with text: %s", qUtf8Printable(name),
-                       qUtf8Printable(contentsText(contents)));
-            }
-        });
+    m_services.settings.setCloudPending(path, true);
+    saveFileToCloud(m_services.documents, m_services.runLoop, path,
+                    [path, &settings = m_services.settings, name = pathText(path.filename())](
+                        const std::shared_ptr<iCloudDocument>&, const FileContents& contents,
+                        const std::optional<CloudError>& error) {
+                        if (error) {
+                            qCWarning(lcRecording, "iCloud Document save error: %s", qUtf8Printable(errorText(*error)));
+                        } else {
+                            settings.setCloudPending(path, false);
+                            qCInfo(lcRecording, "iCloud Document, %s, saved with text: %s", qUtf8Printable(name),
+                                   qUtf8Printable(contentsText(contents)));
+                        }
+                    });
 }
 
 void RecordingCloud::refreshCloudListAfterSetup() {

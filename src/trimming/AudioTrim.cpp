@@ -144,10 +144,15 @@ void AudioTrim::trimAudio() {
 }
 
 void AudioTrim::saveImagesInIPhone() const {
+    m_services.settings.setCloudPending(m_outputPath, true);
     // Of this cut, whatever comes next and whether or not the screen is still there.
     m_services.runLoop.dispatchAfter(kCloudDelay, [services = m_services, path = m_outputPath] {
         qCInfo(lcTrimming, "Do some work");
-        saveFileToCloud(services.cloud, services.runLoop, path);
+        // A long cut is not written yet: then it goes there when the program starts next.
+        saveFileToCloud(services.cloud, services.runLoop, path,
+                        [path, &settings = services.settings](const auto&, const FileContents&, const auto& error) {
+                            error ? void() : settings.setCloudPending(path, false);
+                        });
     });
 }
 

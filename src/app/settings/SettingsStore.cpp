@@ -73,6 +73,25 @@ void SettingsStore::setCloudSyncOn(bool on) {
     write(settingskey::kIclound, !on);
 }
 
+std::vector<std::filesystem::path> SettingsStore::cloudPending() const {
+    std::vector<std::filesystem::path> files;
+    for (const QString& text : m_defaults.objectForKey(settingskey::kCloudPending).toStringList()) {
+        // Percent signs keep names that are no text.
+        files.push_back(QByteArray::fromPercentEncoding(text.toLatin1()).toStdString());
+    }
+    return files;
+}
+
+void SettingsStore::setCloudPending(const std::filesystem::path& file, bool isPending) {
+    QStringList texts = m_defaults.objectForKey(settingskey::kCloudPending).toStringList();
+    const QString text =
+        QString::fromLatin1(QByteArray::fromStdString(file.native()).toPercentEncoding(QByteArrayLiteral("/")));
+    if (texts.contains(text) != isPending) {
+        isPending ? texts.append(text) : void(texts.removeAll(text));
+        write(settingskey::kCloudPending, texts);
+    }
+}
+
 int SettingsStore::sort() const {
     return m_defaults.integerForKey(settingskey::kSort);
 }

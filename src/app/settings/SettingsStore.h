@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
+#include <vector>
 
 #include "platform/UserDefaults.h"
 
@@ -21,6 +23,7 @@ inline constexpr QLatin1String kRewindSong("RewindSong");
 inline constexpr QLatin1String kForwardSong("ForwardSong");
 inline constexpr QLatin1String kThemeColor("ThemeColor");
 inline constexpr QLatin1String kICloudSync("iCloudSync");
+inline constexpr QLatin1String kCloudPending("CloudPending");
 inline constexpr QLatin1String kMicrophone("Microphone");
 inline constexpr QLatin1String kMicrophoneName("MicrophoneName");
 inline constexpr QLatin1String kPasscodeProtectionEnabled("PasscodeProtectionEnabled");
@@ -58,6 +61,10 @@ public:
     /// Whether recordings are mirrored into the cloud. Stored negated under "Iclound".
     bool isCloudSyncOn() const;
     void setCloudSyncOn(bool on);
+
+    /// Files that are to be in the cloud and have not been handed to it for sure, such as at the program's end.
+    std::vector<std::filesystem::path> cloudPending() const;
+    void setCloudPending(const std::filesystem::path& file, bool isPending);
 
     /// The library's sort code, 1 to 6; anything else leaves the folder's order.
     int sort() const;

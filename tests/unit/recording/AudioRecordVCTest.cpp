@@ -494,6 +494,16 @@ TEST_F(AudioRecordVCTest, WhatIsSavedGoesToTheCloudWhileThatIsOn) {
     }
     // The second one's name was taken, so that it was rescued.
     EXPECT_THAT(cloud.saves, ::testing::ElementsAre("Recovered_2024_Mar_05_14_03_59.m4a", "2024_Mar_05_14_04_00.m4a"));
+    // What the end of the program was faster than goes there at the next start, once.
+    cloud.saves.clear();
+    container.addDocument("late.m4a", "sound");
+    settings.setCloudPending(container.documentsPath() / "late.m4a", true);
+    settings.setCloudPending(container.documentsPath() / "gone.m4a", true);
+    for (int starts = 0; starts < 2; ++starts) {
+        screen.viewDidLoad();
+        runLoop.drain();
+    }
+    EXPECT_THAT(cloud.saves, ::testing::ElementsAre("late.m4a"));
     ASSERT_NE(cloud.delegate(), nullptr);
     cloud.delegate()->iCloudAvailabilityDidChangeToState(true, {}, {});
     EXPECT_TRUE(presenter.alerts.empty());
