@@ -152,6 +152,8 @@ TEST_F(SealedFile, KeepsTheOldValueOnAFullDiskAndStoresTheNewOneLater) {
     EXPECT_EQ(stored(), kNew);
     // Before it is heard that the one has been stored, another waits in its place.
     refuse(kOld);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_keychain->fetch(kQuery), kOld);
     EXPECT_TRUE(spinUntil([&] { return answers() && m_keychain->trouble().isEmpty(); }));
     EXPECT_EQ(start().fetch(kQuery), kOld);
 }
