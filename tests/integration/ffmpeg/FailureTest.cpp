@@ -1,3 +1,5 @@
+#include <sched.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
 #include <mutex>
@@ -93,6 +95,20 @@ TEST_F(FailureTest, AFileThatMayNotGrowKeepsWhatFitted) {
                         QFile(pathFor(type)).size() == 200000 + failure.more);
         }
     }
+}
+
+TEST_F(FailureTest, ARealFullDiskLeavesAWholeFile) {
+    // Only this process sees it.
+    const QByteArray disk = QFile::encodeName(m_folder.path());
+    if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        ::mount("tavi", disk.constData(), "tmpfs", 0, "size=5m") != 0) {
+        GTEST_SKIP() << "mounting is not allowed here; the test before this one does it without";
+    }
+    for (const Type& type : kTypes) {
+        recordUntilItFails(type, 2, "The disk is full.");
+        EXPECT_TRUE(std::filesystem::remove(pathFor(type)));
+    }
+    ::umount2(disk.constData(), MNT_DETACH);
 }
 
 TEST_F(FailureTest, AKillLosesWhatTheCodecHoldsAndNothingElse) {
