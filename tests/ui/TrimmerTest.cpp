@@ -7,7 +7,11 @@ namespace {
 
 TEST(Trimmer, ThumbsFollowTheMouseTheKeysAndAssistiveTechnology) {
     Shell shell;
-    const TrimSelection& selection = *shell.trim(addTalk(shell)).selection();
+    AudioTrimmerViewController& screen = shell.trim(addTalk(shell));
+    const TrimSelection& selection = *screen.selection();
+    const QImage talk = shell.settle();
+    screen.audioPlot()->updateBuffer(std::vector<float>(100).data(), 100);
+    EXPECT_NE(shell.settle(), talk) << "what the plot is fed is not seen";
     QQuickItem* thumb = shell.item("leftThumb");
     shell.drag(*thumb, 10.0 * selection.containerWidth() / 75.0);
     EXPECT_NEAR(selection.startTime(), 10.0, 0.01);

@@ -157,8 +157,9 @@ TEST(Mp4Test, PacketsOfALongFileAreHandedOutFromAnyTime) {
         }
         EXPECT_FALSE(reader->next());
     }
-    // What is heard ends before the packets do.
-    const FileDescriptor shorter = memoryFile(changed(ordinary(all, kStart), "elst", 12, 5 * kDuration));
+    // What is heard ends before the packets do, by the time scale of the movie.
+    const FileDescriptor shorter =
+        memoryFile(changed(changed(ordinary(all, kStart), "mvhd", 16, kRate / 2), "elst", 12, 5 * kDuration / 2));
     auto part = Mp4PacketReader::open(shorter.get());
     ASSERT_TRUE(part && part->seek(0));
     std::int64_t last = 0;
