@@ -103,6 +103,10 @@ struct Screens {
                              .notices = platform.notices,
                              .rescue = rescue,
                              .cloud = recordingCloud}};
+    LastRecording lastRecording{{.container = platform.container,
+                                 .durations = platform.media,
+                                 .files = platform.media,
+                                 .runLoop = platform.runLoop}};
     AudioRecordVC recording{{.audioSession = platform.audioSession,
                              .audioRecorders = platform.audioRecorders,
                              .settings = platform.settings.store,
@@ -112,7 +116,8 @@ struct Screens {
                              .tabBar = platform.tabBar,
                              .sessionFile = sessionFile,
                              .notices = platform.notices,
-                             .cloud = recordingCloud}};
+                             .cloud = recordingCloud,
+                             .last = lastRecording}};
     SessionGuard sessionGuard{recording, platform.formatHold, platform.systemSleep, platform.sessionEnd};
     RecordingLister lister{platform.media, platform.runLoop};
     RecordingShapes shapes{platform.media, platform.runLoop};

@@ -31,6 +31,7 @@ constexpr double kZeroPoint = -45.0;
 AudioRecordVC::AudioRecordVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     connect(&m_services.sessionFile, &SessionFile::saved, this, &AudioRecordVC::didSave);
     connect(&m_services.sessionFile, &SessionFile::playRequested, this, &AudioRecordVC::playRequested);
+    connect(&m_services.last, &LastRecording::playRequested, this, &AudioRecordVC::playRequested);
     connect(&m_clock, &SessionClock::updateTimer, this, &AudioRecordVC::updateTimer);
     connect(&m_clock, &SessionClock::waveViewUpdate, this, &AudioRecordVC::waveViewUpdate);
 }
@@ -94,6 +95,7 @@ void AudioRecordVC::viewWillAppear() {
     m_lblDate = recordingDateText(m_services.runLoop.clock().now(), QLocale());
     if (!isRecording()) {
         initWaveViewMirror();
+        m_services.last.find();
     }
     listenToWormhole();
     Q_EMIT outletsChanged();
@@ -266,12 +268,6 @@ void AudioRecordVC::showSettings() {
     }
 }
 
-void AudioRecordVC::playLast() {
-    if (isIdle() && !m_lastName.isEmpty()) {
-        Q_EMIT playRequested(m_lastName);
-    }
-}
-
 void AudioRecordVC::stopAndSaveRecording(QObject* sender) {
     Q_UNUSED(sender)
     endSession(true);
@@ -293,7 +289,7 @@ void AudioRecordVC::endSession(bool enablesTabBar) {
     m_level.forget();
     m_microphone.setInUse({});
     if (isRecording()) {
-        m_lastTime = lblTimer().text;
+        m_time = lblTimer().text;
         m_name = fileBaseName(m_services.runLoop.clock().now(), QLocale());
         m_audioRecorder->stop();
         setState(State::Saving);
@@ -319,7 +315,7 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
         m_services.sessionFile.abandon();
         m_services.runLoop.dispatchMain([self = QPointer(this)] {
             if (self) {
-                self->didSave(self->m_lastName);
+                self->didEnd();
             }
         });
         return;
@@ -328,7 +324,11 @@ void AudioRecordVC::audioRecorderDidFinishRecording(AudioRecorder& recorder, con
 }
 
 void AudioRecordVC::didSave(const QString& fileName) {
-    m_lastName = fileName;
+    m_services.last.show(fileName, m_time);
+    didEnd();
+}
+
+void AudioRecordVC::didEnd() {
     m_waveViewMirror.resetWave();
     m_audioRecorder.reset();
     if (m_state == State::Starting) {

@@ -12,6 +12,7 @@
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
+#include "recording/LastRecording.h"
 #include "recording/MicrophoneChoice.h"
 #include "recording/MicrophoneWatch.h"
 #include "recording/RecordingCloud.h"
@@ -40,8 +41,7 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(bool isDismissable READ isDismissable NOTIFY outletsChanged)
     Q_PROPERTY(bool isIdle READ isIdle NOTIFY outletsChanged)
     Q_PROPERTY(tavi::RecordingLevel* level READ level CONSTANT)
-    Q_PROPERTY(QString lastName READ lastName NOTIFY outletsChanged)
-    Q_PROPERTY(QString lastTime READ lastTime NOTIFY outletsChanged)
+    Q_PROPERTY(tavi::LastRecording* last READ last CONSTANT)
 
 public:
     /// What the screen is about. All else that depends on it, but for the lock of the tab bar, is read from it.
@@ -70,6 +70,7 @@ public:
         SessionFile& sessionFile;
         Notices& notices;
         RecordingCloud& cloud;
+        LastRecording& last;
     };
 
     explicit AudioRecordVC(const Services& services, QObject* parent = nullptr);
@@ -94,9 +95,7 @@ public:
     bool isDismissable() const;
     bool isIdle() const { return m_state == State::Idle; }
     RecordingLevel* level() { return &m_level; }
-    /// The recording that was saved last since the program began, and its time on the clock; empty where there is none.
-    QString lastName() const { return m_lastName; }
-    QString lastTime() const { return m_lastTime; }
+    LastRecording* last() { return &m_services.last; }
     /// On the clock of the session, 0 where there is none.
     qint64 seconds() const { return isRecording() ? m_clock.secondStart() : 0; }
     /// Whether the clock begins at 0 when it starts next.
@@ -122,8 +121,6 @@ public Q_SLOTS:
     void stopAndSaveRecording(QObject* sender = nullptr);
     /// The format's label: goes to the settings while there is no session.
     void showSettings();
-    /// The label of the last recording: has it played.
-    void playLast();
 
 Q_SIGNALS:
     void outletsChanged();
@@ -144,6 +141,7 @@ private:
     void stopFromWatch();
     void endSession(bool enablesTabBar);
     void didSave(const QString& fileName);
+    void didEnd();
 
     void createDirAtSharedContainerPath() const;
     void initWaveViewMirror();
@@ -173,8 +171,8 @@ private:
     /// Base name of the session that was stopped last.
     QString m_name;
 
-    QString m_lastName;
-    QString m_lastTime;
+    /// What the clock said at its end.
+    QString m_time;
     QString m_lblFileType;
     QString m_lblDate;
 };

@@ -2,6 +2,7 @@
 
 #include "recording/SessionGuard.h"
 #include "support/FakeAudioFileRepair.h"
+#include "support/FakeExtAudioFile.h"
 #include "support/FakeServices.h"
 
 namespace tavi::test {
@@ -19,8 +20,11 @@ struct FakeRecording {
     RecordingRescue rescue{{fakes.container, repair, fakes.runLoop, fakes.notifications, notices}};
     SessionFile file{{fakes.settings, fakes.formatHold, fakes.container, fakes.runLoop, fakes.notifications, presenter,
                       mail, notices, rescue, cloud}};
+    FakeAudioDuration durations{};
+    FakeExtAudioFiles sounds{};
+    LastRecording last{{fakes.container, durations, sounds, fakes.runLoop}};
     AudioRecordVC vc{{fakes.session, fakes.recorders, fakes.settings, fakes.container, fakes.runLoop, presenter, tabBar,
-                      file, notices, cloud}};
+                      file, notices, cloud, last}};
     SystemSleep systemSleep{};
     FakeSessionEnd sessionEnd{};
     SessionGuard guard{vc, fakes.formatHold, systemSleep, sessionEnd};

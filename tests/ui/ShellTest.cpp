@@ -105,7 +105,7 @@ TEST(Session, EndsWithANoticeThatPlays) {
         shell.settle();
         shell.tap(button);
         EXPECT_EQ(shell.tabBar.selectedIndex(), 1);
-        EXPECT_EQ(shell.library.playingName(), shell.recording.lastName());
+        EXPECT_EQ(shell.library.playingName(), shell.fakeRecording.last.name());
         shell.library.playerClose();
     }
 }

@@ -31,6 +31,7 @@ Rectangle {
         centreLine: Theme.lineStrong
         barColor: Theme.accent
         ghostColor: Theme.ghost
+        earlier: box.screen.last.shape
         scaleColor: Theme.lineStrong
         columnWidth: 4
         headColor: box.screen.isRecordingRunning ? Theme.text : box.screen.isRecording ? Theme.faint : "transparent"
@@ -104,11 +105,11 @@ Rectangle {
         width: Math.min(implicitWidth, parent.width - 4)
         objectName: "last"
         horizontalPadding: 10
-        visible: box.screen.isIdle && !box.screen.isDismissable && box.screen.lastName !== ""
-        text: qsTrId("record_last").arg(box.screen.lastName).arg(box.screen.lastTime.replace(/^00:/, ""))
+        visible: box.screen.isIdle && !box.screen.isDismissable && box.screen.last.name !== ""
+        text: qsTrId("record_last").arg(box.screen.last.name).arg(box.screen.last.time.replace(/^00:/, ""))
         tint: Theme.label
         font.pixelSize: Theme.textDetail
-        Accessible.name: qsTrId("a11y_play_last").arg(box.screen.lastName)
-        onClicked: box.screen.playLast()
+        Accessible.name: qsTrId("a11y_play_last").arg(box.screen.last.name)
+        onClicked: box.screen.last.play()
     }
 }

@@ -45,6 +45,17 @@ void WaveViewItem::setHeadColor(const QColor& color) {
     }
 }
 
+void WaveViewItem::setEarlier(const QList<double>& levels) {
+    if (levels == m_earlier) {
+        return;
+    }
+    m_earlier = levels;
+    Q_EMIT earlierChanged();
+    if (m_wave && m_wave->newPoint().x() <= 0.0 && !levels.isEmpty()) {
+        display(QRectF(QPointF(), m_wave->frameSize()));
+    }
+}
+
 void WaveViewItem::adoptSize() {
     // An empty size is a layout still in the making; it must not rewind the wave.
     if (m_wave && !size().isEmpty()) {
@@ -98,6 +109,7 @@ void WaveViewItem::display(const QRectF& rect) {
     const bool isAll = rect.contains(QRectF(QPointF(), m_wave->frameSize()));
     QPainter painter(&m_picture);
     if (isAll) {
+        haunt();
         keepPass();
         drawGround(painter, 0, qCeil(width() / m_columnWidth));
     }
@@ -110,6 +122,20 @@ void WaveViewItem::display(const QRectF& rect) {
     }
     painter.end();
     isAll ? update() : update(shown.adjusted(0.0, 0.0, kBlankColumns * m_columnWidth, 0.0).toAlignedRect());
+}
+
+void WaveViewItem::haunt() {
+    if (!m_pass.empty()) {
+        m_earlier.clear();
+    }
+    if (m_earlier.isEmpty()) {
+        return;
+    }
+    m_ghost.resize(static_cast<std::size_t>(std::max(1.0, m_wave->frameSize().width())));
+    for (std::size_t column = 0; column < m_ghost.size(); ++column) {
+        const auto part = static_cast<qsizetype>(column * static_cast<std::size_t>(m_earlier.size()) / m_ghost.size());
+        m_ghost[column] = static_cast<float>(m_earlier[part]);
+    }
 }
 
 void WaveViewItem::keepPass() {

@@ -30,6 +30,8 @@ class WaveViewItem : public QQuickPaintedItem {
     Q_PROPERTY(QColor barColor MEMBER m_barColor)
     /// Colour of the bars of an earlier pass; unset, there are none.
     Q_PROPERTY(QColor ghostColor MEMBER m_ghostColor)
+    /// Levels from 0 to 1, spread over the width: they stand in for an earlier pass as long as there is none.
+    Q_PROPERTY(QList<double> earlier READ earlier WRITE setEarlier NOTIFY earlierChanged)
     /// Colour of the lines at -15 and -30 dB of a mirror from 0 to -45, and of a tick a second; unset, there are none.
     Q_PROPERTY(QColor scaleColor MEMBER m_scaleColor)
     Q_PROPERTY(double columnWidth MEMBER m_columnWidth)
@@ -45,12 +47,15 @@ public:
     void paint(QPainter* painter) override;
     /// What is on screen, in device pixels.
     const QImage& picture() const { return m_picture; }
+    const QList<double>& earlier() const { return m_earlier; }
+    void setEarlier(const QList<double>& levels);
     QColor headColor() const { return m_headColor; }
     void setHeadColor(const QColor& color);
 
 Q_SIGNALS:
     void waveChanged();
     void headColorChanged();
+    void earlierChanged();
 
 protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
@@ -60,6 +65,8 @@ private:
     void adoptSize();
     void display(const QRectF& rect);
     void keepPass();
+    /// Gives an empty ghost the shape of what was there earlier.
+    void haunt();
     /// Paints what lies below the strip, from the column on.
     void drawGround(QPainter& painter, int from, int columns) const;
     void drawMirror(QPainter& painter);
@@ -80,6 +87,7 @@ private:
     /// none.
     std::vector<float> m_pass;
     std::vector<float> m_ghost;
+    QList<double> m_earlier;
 };
 
 /// Names the view for QML, which is handed one and makes none.

@@ -12,7 +12,7 @@ namespace tavi {
 namespace {
 
 /// Seconds.
-constexpr double kStretch = 0.25;
+constexpr double kListened = 2.0;
 constexpr double kWalked = 600.0;
 constexpr double kHighestRate = 384'000.0;
 
@@ -42,6 +42,12 @@ double level(ExtAudioFile& file, std::int64_t first, std::vector<float>& room) {
 
 WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path, const std::stop_token& stop) {
     WaveformSample sample{};
+    sampleWaveform(files, path, sample, stop);
+    return sample;
+}
+
+void sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path, std::span<float> levels,
+                    const std::stop_token& stop) {
     std::unique_ptr<ExtAudioFile> file;
     AudioStreamBasicDescription format;
     std::int64_t length = 0;
@@ -50,25 +56,25 @@ WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path&
         format.sampleRate > kHighestRate ||
         file->setClientDataFormat(EZAudioUtilities::monoFloatFormatWithSampleRate(format.sampleRate)) !=
             kAudioNoError) {
-        return sample;
+        return;
     }
     if (!file->isRandomAccess()) {
         length = std::min(length, static_cast<std::int64_t>(kWalked * format.sampleRate));
     }
-    const auto eighth = length / static_cast<std::int64_t>(sample.size());
-    const auto stretch = std::min(eighth, static_cast<std::int64_t>(std::ceil(kStretch * format.sampleRate)));
+    const auto count = static_cast<double>(levels.size());
+    const auto part = length / static_cast<std::int64_t>(levels.size());
+    const auto stretch = std::min(part, static_cast<std::int64_t>(std::ceil(kListened / count * format.sampleRate)));
     std::vector<float> room(static_cast<std::size_t>(std::max<std::int64_t>(stretch, 0)));
-    std::int64_t first = (eighth - stretch) / 2;
-    for (float& one : sample) {
+    std::int64_t first = (part - stretch) / 2;
+    for (float& one : levels) {
         one = static_cast<float>(std::sqrt(level(*file, first, room)));
-        first += eighth;
+        first += part;
     }
-    if (const float loudest = *std::max_element(sample.begin(), sample.end()); loudest > 0.0F) {
-        for (float& one : sample) {
+    if (const float loudest = *std::max_element(levels.begin(), levels.end()); loudest > 0.0F) {
+        for (float& one : levels) {
             one /= loudest;
         }
     }
-    return sample;
 }
 
 }  // namespace tavi

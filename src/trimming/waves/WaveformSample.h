@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <span>
 #include <stop_token>
 
 #include "platform/ExtAudioFile.h"
@@ -12,10 +13,13 @@ namespace tavi {
 /// cannot be read, is all 0.
 using WaveformSample = std::array<float, 8>;
 
-/// Listens to a quarter of a second in the middle of each eighth of a file, and to nothing else: hours cost as much as
-/// seconds. Where getting to a place means reading all before it, only the first ten minutes stand for the file. Asking
-/// for the stop ends it soon, with any shape. Any thread.
+/// Listens to two seconds of a file in all, a little in the middle of each of as many parts as there are levels, and to
+/// nothing else: hours cost as much as seconds. Where getting to a place means reading all before it, only the first
+/// ten minutes stand for the file. Asking for the stop ends it soon, with any shape. Any thread.
 WaveformSample sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path,
                               const std::stop_token& stop = {});
+/// The same of any number of parts; levels that are all 0 stay so where nothing can be read.
+void sampleWaveform(ExtAudioFiles& files, const std::filesystem::path& path, std::span<float> levels,
+                    const std::stop_token& stop = {});
 
 }  // namespace tavi

@@ -511,6 +511,45 @@ TEST_F(AudioRecordVCTest, WhatIsSavedGoesToTheCloudWhileThatIsOn) {
     EXPECT_EQ(lastAlert(), "signin_icloud_account");
 }
 
+TEST_F(AudioRecordVCTest, ShowsTheNewestRecordingThatPlays) {
+    namespace fs = std::filesystem;
+    const fs::path folder = container.documentsPath();
+    const auto at = [](int hour) { return fs::file_time_type(std::chrono::hours(hour)); };
+    for (const auto& [name, hour] : {std::pair{"a.wav", 2}, {"b.wav", 3}, {"c.wav", 1}, {".d.wav", 4}}) {
+        std::ofstream(folder / name) << "sound";
+        fs::last_write_time(folder / name, at(hour));
+    }
+    fs::create_directory(folder / "e.wav");
+    recording.durations.seconds = {{"a.wav", 7.0}, {"b.wav", 3725.6}, {".d.wav", 1.0}};
+    auto sound = std::make_shared<FakeSound>();
+    sound->rate = 100;
+    sound->planes = {std::vector<float>(9000, 0.25F)};
+    std::fill_n(sound->planes[0].begin(), 4500, 1.0F);
+    recording.sounds.sounds[folder / "b.wav"] = sound;
+    LastRecording& last = recording.last;
+    const auto seen = [&] {
+        screen.viewWillAppear();
+        runLoop.advance(1.0);
+        return last.name() + QLatin1Char(' ') + last.time();
+    };
+    EXPECT_EQ(seen(), QStringLiteral("b.wav 01:02:06"));
+    EXPECT_EQ(std::pair(last.shape().first(), last.shape().last()), std::pair(1.0, 0.5));
+    QString played;
+    QObject::connect(&screen, &AudioRecordVC::playRequested, &screen,
+                     [&played](const QString& name) { played = name; });
+    last.play();
+    EXPECT_EQ(played, QStringLiteral("b.wav"));
+    fs::remove(folder / "b.wav");
+    EXPECT_EQ(seen(), QStringLiteral("a.wav 00:00:07"));
+    // What is saved meanwhile is newer than what a search finds.
+    screen.viewWillAppear();
+    last.show(QStringLiteral("new"), QStringLiteral("00:00:01"));
+    runLoop.advance(1.0);
+    EXPECT_EQ(last.name(), QStringLiteral("new"));
+    fs::last_write_time(folder / "c.wav", at(9));
+    EXPECT_EQ(seen(), QStringLiteral(" ")) << "plays not";
+}
+
 TEST_F(AudioRecordVCTest, TheEndOfTheProgramWaitsForTheRecording) {
     // While it runs, is paused, is stopped but not whole (W), waits to be moved, and has another one waiting behind it.
     qsizetype saved = 0;
