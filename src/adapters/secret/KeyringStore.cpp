@@ -57,9 +57,18 @@ QByteArray accessibleOf(const KeychainAttributes& attributes) {
     return QByteArray::number(static_cast<int>(attributes.accessible));
 }
 
+/// The session's bus, with which the process does not end.
+GlibHandle<GDBusConnection> sessionBus(GCancellable* cancellable, GError** error) {
+    GlibHandle<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, error));
+    if (bus) {
+        g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    }
+    return bus;
+}
+
 /// The library hands out a bus that has ended until the last part of the process has let it go.
 bool isClosedBusKept(GCancellable* cancellable) {
-    const GlibHandle<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr));
+    const auto bus = sessionBus(cancellable, nullptr);
     return bus && g_dbus_connection_is_closed(bus.get()) != FALSE;
 }
 
@@ -91,12 +100,10 @@ bool KeyringStore::answers() {
 
 StoreAnswer KeyringStore::ping() {
     GError* error = nullptr;
-    const GlibHandle<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, m_cancellable.get(), &error));
+    const auto bus = sessionBus(m_cancellable.get(), &error);
     if (!bus) {
         return answerOf(error);
     }
-    // Else the process would end with the bus.
-    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     // The library itself waits much longer for one that hangs.
     const GlibHandle<GVariant> pong(
         g_dbus_connection_call_sync(bus.get(), kService, kServicePath, "org.freedesktop.DBus.Peer", "Ping", nullptr,
