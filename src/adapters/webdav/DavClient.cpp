@@ -21,6 +21,7 @@ constexpr int kBusyPause = 60;
 constexpr int kFullPause = 600;
 /// Of an answer that is kept in memory: a listing of a hundred thousand files.
 constexpr qint64 kLongestAnswer = 64LL << 20;
+constexpr qint64 kReadAhead = 1LL << 20;
 constexpr char kProperties[] =
     "<?xml version=\"1.0\" encoding=\"utf-8\"?><D:propfind xmlns:D=\"DAV:\"><D:prop><D:resourcetype/>"
     "<D:getcontentlength/><D:getetag/><D:getlastmodified/></D:prop></D:propfind>";
@@ -146,6 +147,8 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
         question.setHeader(QNetworkRequest::ContentLengthHeader, upload->size());
     }
     const std::unique_ptr<QNetworkReply> reply(m_manager.sendCustomRequest(question, verb, upload));
+    // What comes faster than it is read waits at the server, and not in memory.
+    reply->setReadBufferSize(kReadAhead);
     m_reply = reply.get();
     DavReply answer;
     bool& isRefused = answer.isRefused;
