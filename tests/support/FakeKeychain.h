@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QMap>
 #include <QUrl>
 #include <tuple>

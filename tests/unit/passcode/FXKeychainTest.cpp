@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <QDateTime>
+
 #include "passcode/FXKeychain.h"
 #include "support/FakeKeychain.h"
 #include "support/Printers.h"
