@@ -86,6 +86,10 @@ Window {
         appear()
     }
 
+    HeldKeys {
+        target: window
+    }
+
     Binding {
         target: Theme
         property: "reducedMotion"
@@ -187,8 +191,8 @@ Window {
             // What is behind the trimmer is out of the keyboard's reach.
             enabled: !window.trimming && !shortcuts.shown && !window.savePanel.active
             // A focused control takes the space bar first; anywhere else on the record tab it records and pauses.
-            Keys.onSpacePressed: event => {
-                if (window.tabBar.selectedIndex === 0 && !event.isAutoRepeat)
+            Keys.onSpacePressed: {
+                if (window.tabBar.selectedIndex === 0)
                     window.recording.playAndPauseRecording(window)
             }
             Keys.onPressed: event => {

@@ -113,14 +113,14 @@ void unlock(Shell& shell) {
 }
 
 const State kStates[] = {
-    {"idle", 0, "Record|Tap the red button to record|Desk|Microphone: Desk|!Too loud", {}},
+    {"idle", 0, "Record|Tap the red button to record|Desk|Microphone: Desk|!Too loud|no btnStop|!no lblFileType", {}},
     {"microphone", 0, "Microphone|Default of the system|Headset",
      [](Shell& s) {
          s.tap("microphone");
          s.session.setInputs({{QStringLiteral("head"), QStringLiteral("Headset")}});
          s.runLoop.drain();
      }},
-    {"recording", 0, "Pause|Recording", record},
+    {"recording", 0, "Pause|Recording|no lblFileType|no tab0|!no btnStop", record},
     {"loud", 0, "Too loud", [](Shell& s) { record(s), s.hear(0.0F); }},
     {"silent", 0, "!Too loud|Nothing has been heard for ten seconds. Is the microphone on?",
      [](Shell& s) { s.startRecording(), s.hear(-70.0F), s.runLoop.advance(10.0); }},
@@ -136,7 +136,7 @@ const State kStates[] = {
     {"empty", 1, "", {}},
     {"list", 1, "", showLibrary},
     {"playing", 1, "01:15 / 04:05 · 2×|01:15 of 04:05", play},
-    {"unplayable", 1, "This file cannot be played",
+    {"unplayable", 1, "This file cannot be played|no btnplaypuas|no backSkip|no forwardSkip|no btnSlow",
      [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
     {"found", 1, "", [](Shell& s) { showLibrary(s), s.table.setSearchText(QStringLiteral("1")); }},
     {"menu", 1, "Trim to M4A|Rename|Upload to a drive", [](Shell& s) { showLibrary(s), s.tap("more"); }},
@@ -180,7 +180,7 @@ const State kStates[] = {
          s.rating.rater.showRater();
          s.runLoop.advance(AppRater::kMoment);
      }},
-    {"settingsHeld", 2, "", [](Shell& s) { s.formatHold.setHeld(true); }},
+    {"settingsHeld", 2, "no extention|no quality|!no rewind", [](Shell& s) { s.formatHold.setHeld(true); }},
     {"sheet", 2, "", [](Shell& s) { s.settingVC.showExtentionActionsheet(); }},
     {"alert", 0, "",
      [](Shell& s) { presentAlert(s, QStringLiteral("This cannot be undone. لا يمكن التراجع عن هذا.")); }},
@@ -196,7 +196,7 @@ const State kStates[] = {
     {"trimmerZoomed", 1, "2.5×", [](Shell& s) { trim(s), s.trimmers.screen()->zoom()->show(0.1, 0.5); }},
     {"trimmerPlaying", 1, "",
      [](Shell& s) { trim(s), s.trimmers.screen()->btnPlayPauseTapped(), s.runLoop.drain(), s.runLoop.advance(14.1); }},
-    {"trimmerExporting", 1, "40 %",
+    {"trimmerExporting", 1, "40 %|no btnCancel|no btnReset|!no btnCancelExport",
      [](Shell& s) {
          s.assets.areExportsHeldBack = true;
          trim(s), s.trimmers.screen()->btnUploadTapped();
@@ -363,10 +363,17 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
             AudioTrimScreen { anchors.fill: parent; screen: window.controller }
         })",
                {{QStringLiteral("controller"), QVariant::fromValue(&screen)}});
-    const QQuickItem* thumb = shown.item("minThumb");
+    QQuickItem* thumb = shown.item("minThumb");
     shown.drag(*thumb, 60.0);
     EXPECT_GT(screen.leftValue(), 10.0);
     lookAtEverySize(shown, "trimScreen", false);
+    const double before = screen.leftValue();
+    auto* actions = QAccessible::queryAccessibleInterface(thumb)->actionInterface();
+    for (const auto& [action, seconds] :
+         {std::pair{actions->increaseAction(), 1.0}, {actions->decreaseAction(), 0.0}}) {
+        actions->doAction(action);
+        EXPECT_NEAR(screen.leftValue(), before + seconds, 0.01);
+    }
     shown.item("maxThumb")->forceActiveFocus(Qt::TabFocusReason);
     shown.key(Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_NEAR(screen.rightValue(), 72.0, 0.01);
@@ -376,6 +383,8 @@ TEST(TrimScreen, FitsEverySizeAndFollowsTheMouseAndTheKeys) {
     }
     for (const int trims : {1, 2}) {
         shown.item("btnTrim")->forceActiveFocus(Qt::TabFocusReason);
+        const bool isTrimming = (shown.key(Qt::Key_Space), shown.words().contains("no btnClose"));
+        EXPECT_TRUE(isTrimming) << "covered while it trims";
         for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Right}) {
             shown.key(key);
         }
@@ -397,6 +406,10 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
     EXPECT_TRUE(shell.settings.isCloudSyncOn());
     EXPECT_TRUE(shell.item("icloud")->property("checked").toBool());
 
+    shell.tap("passcodeLock");
+    shell.key(Qt::Key_Escape);
+    EXPECT_FALSE(shell.item("passcodeLock")->property("checked").toBool()) << "it was given up";
+
     QQuickItem* slider = shell.item("QQuickSlider");
     shell.drag(*slider, 0.0);  // Its middle is 32.5 seconds, which the screen rounds.
     EXPECT_DOUBLE_EQ(shell.settingVC.rewindValue(), 35.0);
@@ -408,6 +421,11 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
         seconds.push_back(shell.settingVC.rewindValue());
     }
     EXPECT_EQ(seconds, (std::vector{30.0, 50.0, 60.0, 40.0, 5.0}));
+    shell.notices.postNotice({QStringLiteral("A line over the last row")});
+    shell.settle();
+    const QQuickItem* row = shell.item("reportBug");
+    shell.item("reportBug")->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_LE(row->mapToScene({0.0, row->height()}).y(), shell.item("notice")->mapToScene({0.0, 0.0}).y());
 }
 
 TEST(AssistiveTechnology, OperatesTheControls) {
@@ -469,17 +487,28 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     EXPECT_LT(shell.item("find")->mapToScene({0.0, 0.0}).y(), 0.0) << "an empty search does not stay";
 
     shell.players.seconds[shell.table.arrRecordings().back().nativeName()] = 60.0;
+    const QQuickItem* last = list->property("currentItem").value<QQuickItem*>();
+    shell.key(Qt::Key_Up);
     const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(60'000);
     for (int click = 0; click < 2; ++click) {
-        shell.drag(*list->property("currentItem").value<QQuickItem*>(), 0.0);
+        shell.drag(*last, 0.0);
     }
+    EXPECT_EQ(list->property("currentItem").value<QQuickItem*>(), last) << "the keys are about another row";
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(interval);
     EXPECT_TRUE(shell.library.isPlaying()) << "a double click plays";
     shell.settleFor(700);
     shell.item("slider_player")->forceActiveFocus(Qt::TabFocusReason);
-    shell.key(Qt::Key_PageUp);
-    EXPECT_NEAR(shell.player.currentTime(), 6.0, 0.1);
+    for (const auto& [key, seconds] : {std::pair{Qt::Key_L, 30.0}, {Qt::Key_J, 20.0}, {Qt::Key_PageUp, 26.0}}) {
+        shell.key(key);
+        EXPECT_NEAR(shell.player.currentTime(), seconds, 0.1);
+    }
+    for (const char* spoken : {"a11y_row_playing", "a11y_row_paused"}) {
+        EXPECT_TRUE(QAccessible::queryAccessibleInterface(list->property("currentItem").value<QQuickItem*>())
+                        ->text(QAccessible::Description)
+                        .endsWith(qtTrId(spoken)));
+        shell.tap("btnplaypuas");
+    }
     const QQuickItem* slider = shell.item("slider_player");
     shell.mouse(QEvent::MouseMove, slider->mapToScene({slider->width() * 0.76, 30.0}), false);
     EXPECT_TRUE((shell.settle(), shell.words()).contains("00:45")) << "the moment under the pointer";
@@ -512,6 +541,11 @@ TEST(Library, HandsAndKeysFindTheirWay) {
         EXPECT_TRUE(shell.item("fold")->isVisible());
         shell.key(Qt::Key_Escape);
     }
+    shell.key(Qt::Key_Return);
+    shell.settleFor(700);
+    shell.item("stopAudio")->forceActiveFocus(Qt::TabFocusReason);
+    shell.key(Qt::Key_Return);
+    EXPECT_TRUE(list->hasActiveFocus()) << "the keyboard is not lost with the small player";
 }
 
 }  // namespace

@@ -75,6 +75,14 @@ public:
         settle();
     }
 
+    /// What a key that is held down sends after its press.
+    void hold(int key, const QString& text = {}) const {
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, text, true);
+            QCoreApplication::sendEvent(window, &event);
+        }
+    }
+
     void mouse(QEvent::Type type, const QPointF& at, bool isDown, Qt::MouseButton button = Qt::LeftButton) const {
         QMouseEvent event(type, at, window->mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button,
                           isDown ? button : Qt::NoButton, Qt::NoModifier);
@@ -118,10 +126,11 @@ public:
         return items;
     }
 
-    /// All that can be read, or heard from a screen reader.
+    /// All that can be read, or heard from a screen reader, and "no NAME" of what is disabled.
     std::set<std::string> words() const {
         std::set<std::string> all;
         for (QQuickItem* item : visibleItems()) {
+            all.insert(item->isEnabled() ? std::string() : "no " + item->objectName().toStdString());
             all.insert(item->property("text").toString().toStdString());
             const auto* access = QAccessible::queryAccessibleInterface(item);
             for (const auto part : {QAccessible::Name, QAccessible::Description}) {

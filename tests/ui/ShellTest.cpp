@@ -45,6 +45,12 @@ TEST(Keyboard, RecordsWhereNothingElseHasTheKeys) {
     };
     press(Qt::Key_Space);
     EXPECT_TRUE(shell.recording.isRecordingRunning());
+    for (const char* focused : {"btnRecord", "QQuickFlickable"}) {
+        shell.item(focused)->forceActiveFocus(Qt::TabFocusReason);
+        shell.hold(Qt::Key_Space, QStringLiteral(" "));
+        shell.hold(Qt::Key_Return);
+        EXPECT_TRUE(shell.session.questions.empty()) << focused << ": a key that is held is one press";
+    }
     // Stopping disables the button that had the mouse; the space bar must still record afterwards.
     shell.tap("btnStop");
     shell.runLoop.drain();
@@ -90,8 +96,12 @@ TEST(Session, KeepsAWayBackAndOut) {
     shell.tap("sessionReturn");
     shell.tap("btnStop");
     shell.runLoop.drain();
-    EXPECT_TRUE(
-        (shell.settle(), shell.item("last")->property("text").toString()).endsWith(QStringLiteral(" · 01:00:12")));
+    const QString last = (shell.settle(), shell.item("last")->property("text").toString());
+    EXPECT_TRUE(last.endsWith(QStringLiteral(" · 01:00:12")));
+    shell.session.inputAvailable = false;
+    shell.startRecording();
+    shell.key(Qt::Key_Escape);
+    EXPECT_FALSE(shell.words().contains(last.toStdString())) << "one thing at a time: Dismiss";
 }
 
 TEST(Session, EndsWithANoticeThatPlays) {
@@ -196,12 +206,18 @@ TEST(Alerts, QueueAndAnswerKeys) {
         return made;
     };
     auto& presenter = shell.presenter;
-    presenter.presentAlert(alert("1", {{"Keep", Style::Cancel}, {"Delete", Style::Destructive}}));
+    presenter.presentAlert(alert("1", {{"Delete", Style::Destructive}, {"Keep", Style::Cancel}}));
     presenter.presentActionSheet(alert("2", {{"A", Style::Default}, {"B", Style::Default}, {"No", Style::Cancel}}));
     presenter.presentAlert(alert("3", {{"OK", Style::Default}}));
     presenter.presentAlert(alert("4", {{"A", Style::Default}, {"B", Style::Default}}));
     presenter.presentActionSheet(alert("5", {{"A", Style::Default}, {"No", Style::Cancel}}));
+    for (const char* title : {"6", "7"}) {
+        Alert menu = alert(title, {{"A", Style::Default}, {"No", Style::Cancel}});
+        menu.anchor = QPointF(100.0, 100.0);
+        presenter.presentActionSheet(menu);
+    }
     shell.settle();
+    shell.tap("btnRecord");                     // Beside an alert.
     shell.key(Qt::Key_3, Qt::ControlModifier);  // Below an alert keys choose no tab.
     shell.key(Qt::Key_Return);                  // Harmless beside Delete.
     shell.key(Qt::Key_Return);                  // A sheet has no default.
@@ -212,7 +228,9 @@ TEST(Alerts, QueueAndAnswerKeys) {
     shell.key(Qt::Key_Escape);  // Two choices and no cancelling one: it stays.
     shell.tap("action1");
     shell.key(Qt::Key_Escape);
-    EXPECT_EQ(chosen, "1Keep 2B 3OK 4B 5No ");
+    shell.tap("action0");
+    shell.tap("action0");
+    EXPECT_EQ(chosen, "1Keep 2B 3OK 4B 5No 6A 7A ");
     EXPECT_FALSE(presenter.isActive());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
@@ -302,7 +320,8 @@ TEST(SavePanel, AsksForAFolderAndAName) {
         shell.settle();
     };
     present();
-    shell.key(Qt::Key_Return);
+    EXPECT_EQ(shell.item("saveName")->property("selectedText").toString().size(), 2) << "the extension stays";
+    shell.tap("saveAccept");
     EXPECT_EQ(picked.back(), root / "a\xff.m4a") << "the name's own bytes";
     present();
     EXPECT_EQ(shell.savePanel.places().mid(1), QStringList{QStringLiteral("STICK")});
@@ -318,8 +337,10 @@ TEST(SavePanel, AsksForAFolderAndAName) {
     EXPECT_EQ(shell.savePanel.folders(), QStringList{QStringLiteral("In")});
     for (const char* name : {"", "a/b", "..", "b.wav"}) {
         shell.item("saveName")->setProperty("text", QString::fromLatin1(name));
-        shell.tap("saveAccept");
+        shell.item("saveName")->forceActiveFocus(Qt::TabFocusReason);
+        shell.key(Qt::Key_Return);
     }
+    EXPECT_EQ(picked.size(), 2U);
     EXPECT_EQ(picked.back(), root / "Talks 2/b.wav");
     EXPECT_FALSE(shell.savePanel.isActive());
     present();

@@ -33,7 +33,7 @@ FocusScope {
     Keys.onPressed: event => {
         const loaded = root.screen.isPlaying
         event.accepted = true
-        if (event.key === Qt.Key_Space && !event.isAutoRepeat && (loaded || list.currentItem))
+        if (event.key === Qt.Key_Space && (loaded || list.currentItem))
             root.screen.spacePressed(list.currentItem ? list.currentItem.row : -1)
         else if (event.key === Qt.Key_J && loaded)
             root.player.backSkip()

@@ -14,8 +14,8 @@ FocusScope {
     anchors.fill: parent
     focus: true
     Keys.onEscapePressed: exporting ? screen.cancelExport() : screen.btnCancelTapped()
-    Keys.onSpacePressed: event => {
-        if (!event.isAutoRepeat && !exporting && !screen.isEditingViewHidden)
+    Keys.onSpacePressed: {
+        if (!exporting && !screen.isEditingViewHidden)
             screen.btnPlayPauseTapped()
     }
     // No key and no touch reaches what lies below.

@@ -354,6 +354,11 @@ TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
     recorders.last()->input = QStringLiteral("Headset");
     EXPECT_EQ(said(0.1, 100), "microphone_changed");
     EXPECT_EQ(said(0.1, 100), "");
+    tapStop();
+    runLoop.advance(1.0);
+    notices.posted.clear();
+    tapRecord();
+    EXPECT_EQ(said(0.1, 100), "") << "another recording, with whatever microphone";
 }
 
 TEST_F(AudioRecordVCTest, TheMicrophoneIsNamedAndChosenAndKeptUntilItIsAbsent) {
@@ -384,7 +389,10 @@ TEST_F(AudioRecordVCTest, TheMicrophoneIsNamedAndChosenAndKeptUntilItIsAbsent) {
         }
         EXPECT_EQ(titles.join(QLatin1Char(' ')).toStdString(), row.sheet);
         const auto choose = presenter.sheets.back().actions[static_cast<std::size_t>(row.taken)].handler;
-        choose ? choose() : void();
+        if (choose) {
+            choose();
+            EXPECT_EQ(told, row.name) << "before it records";
+        }
         // As in another run of the program.
         session.preferredInput.clear();
         notices.posted.clear();
