@@ -39,6 +39,9 @@ class Companion(test_app.AppTest):
     def test_commands_start_pause_stop_and_tell(self):
         self.listen()
         self.assertIn("not running", self.companion("stop", status=1).stderr)
+        without_bus = self.desktop.run("env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nobody", self.program, "--container", self.container,
+                                       "stop", check=False)
+        self.assertIn("not running", without_bus.stderr)
         self.companion("record")
         self.play_while_recording()
         self.companion("record")

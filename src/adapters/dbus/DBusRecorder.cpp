@@ -45,6 +45,12 @@ DBusRecorder::DBusRecorder(const QDBusConnection& sessionBus, const QString& bus
 }
 
 void DBusRecorder::ask() {
+    if (!m_bus.isConnected()) {
+        // A call that is never sent is never answered.
+        QMetaObject::invokeMethod(
+            this, [this] { setState({}); }, Qt::QueuedConnection);
+        return;
+    }
     QDBusMessage question =
         QDBusMessage::createMethodCall(m_busName, kApplicationObjectPath, kProperties, QStringLiteral("GetAll"));
     question.setAutoStartService(false);
@@ -93,18 +99,25 @@ bool DBusRecorder::start(const QUrl& url) const {
 }
 
 void DBusRecorder::open(const QUrl& url, std::function<void(Outcome outcome, const Error& error)> completion) {
+    const auto startFor = [this, completion](const QUrl& asked) {
+        completion(start(asked) ? Outcome::Opened : Outcome::Failed,
+                   {QStringLiteral("The recorder cannot be started as “%1”.").arg(m_startCommand.first())});
+    };
+    if (!m_bus.isConnected()) {
+        startFor(url);
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(m_busName, kApplicationObjectPath, kApplicationInterface,
                                                        QStringLiteral("Open"));
     call.setAutoStartService(false);
     call << QStringList{url.toString()} << QVariantMap();
     auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call, kPatienceMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, url, completion = std::move(completion)] {
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, url, startFor, completion] {
         answer->deleteLater();
         if (!answer->isError()) {
             completion(Outcome::Opened, {});
-        } else if (isAbsence(answer->error()) || !m_bus.isConnected()) {
-            completion(start(url) ? Outcome::Opened : Outcome::Failed,
-                       {QStringLiteral("The recorder cannot be started as “%1”.").arg(m_startCommand.first())});
+        } else if (isAbsence(answer->error())) {
+            startFor(url);
         } else {
             const bool isLocked = answer->error().name() == kLockedError;
             completion(isLocked ? Outcome::Locked : Outcome::Failed, {answer->error().message()});
