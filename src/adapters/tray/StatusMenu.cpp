@@ -6,7 +6,6 @@ namespace tavi {
 
 using tray::Item;
 using tray::Layout;
-using tray::RemovedItem;
 
 StatusMenu::StatusMenu(const QDBusConnection& sessionBus) : m_bus(sessionBus) {
     tray::registerTypes();
