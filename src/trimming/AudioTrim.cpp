@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 #include "cloud/CloudSaving.h"
 #include "files/FileMove.h"
@@ -122,6 +123,7 @@ void AudioTrim::trimAudio() {
     }
     m_isTrimmed = true;
     m_indicatorText = qtTrId("trim_progress");
+    m_cloudCut = std::make_shared<CloudCut>();
     Q_EMIT outletsChanged();
     m_outputPath =
         trimrules::outputPath(m_services.container.documentsPath(), m_services.runLoop.clock().now(), m_fileName);
@@ -136,24 +138,26 @@ void AudioTrim::trimAudio() {
         }
     });
     // The value is stored inverted: on means that nothing goes to the cloud.
-    if (!m_services.settings.isCloudSyncOn() || m_section != QLatin1String("1")) {
-        close();
-    } else {
-        saveImagesInIPhone();
+    if (!goesToCloud()) {
+        return close();
     }
-}
-
-void AudioTrim::saveImagesInIPhone() const {
+    // Should the program end before, it goes there when it starts next.
     m_services.settings.setCloudPending(m_outputPath, true);
     // Of this cut, whatever comes next and whether or not the screen is still there.
-    m_services.runLoop.dispatchAfter(kCloudDelay, [services = m_services, path = m_outputPath] {
+    m_services.runLoop.dispatchAfter(kCloudDelay, [services = m_services, path = m_outputPath, cut = m_cloudCut] {
         qCInfo(lcTrimming, "Do some work");
-        // A long cut is not written yet: then it goes there when the program starts next.
+        cut->isDue = true;
+        saveImagesInIPhone(services, path, *cut);
+    });
+}
+
+void AudioTrim::saveImagesInIPhone(const Services& services, const std::filesystem::path& path, CloudCut& cut) {
+    if (cut.isDue && cut.isComplete && !std::exchange(cut.isSaved, true)) {
         saveFileToCloud(services.cloud, services.runLoop, path,
                         [path, &settings = services.settings](const auto&, const FileContents&, const auto& error) {
                             error ? void() : settings.setCloudPending(path, false);
                         });
-    });
+    }
 }
 
 bool AudioTrim::exportAsset(const Asset& asset, const std::filesystem::path& path) {
@@ -179,14 +183,17 @@ bool AudioTrim::exportAsset(const Asset& asset, const std::filesystem::path& pat
     // On purpose whatever the name says: this screen always makes M4A data.
     session->setOutputFileType(AssetFileType::AppleM4A);
     const QPointer<AudioTrim> self(this);
-    session->exportAsynchronously([self, session, &runLoop = m_services.runLoop, reload = m_reloadTableViewDataSource] {
-        runLoop.dispatchMain([self, session, reload] {
+    session->exportAsynchronously([self, session, services = m_services, path, reload = m_reloadTableViewDataSource,
+                                   cut = m_cloudCut ? m_cloudCut : std::make_shared<CloudCut>()] {
+        services.runLoop.dispatchMain([self, session, services, path, reload, cut] {
             const bool isCompleted = session->status() == AssetExportStatus::Completed;
             if (self) {
                 self->m_indicatorText.clear();
                 self->m_isTrimDone = isCompleted;
                 Q_EMIT self->outletsChanged();
             }
+            cut->isComplete = isCompleted;
+            saveImagesInIPhone(services, path, *cut);
             if (isCompleted && reload) {
                 reload();
             }

@@ -91,7 +91,14 @@ Q_SIGNALS:
 
 private:
     bool isTrimming() const { return !m_indicatorText.isEmpty(); }
-    void saveImagesInIPhone() const;
+    /// A cut that goes to the cloud once it is complete, and not before its time.
+    struct CloudCut {
+        bool isDue = false;
+        bool isComplete = false;
+        bool isSaved = false;
+    };
+    static void saveImagesInIPhone(const Services& services, const std::filesystem::path& path, CloudCut& cut);
+    bool goesToCloud() const { return m_services.settings.isCloudSyncOn() && m_section == QLatin1String("1"); }
     void close();
 
     Services m_services;
@@ -102,6 +109,7 @@ private:
     AudioTrimPlayer m_player;
     std::function<void()> m_reloadTableViewDataSource;
     std::filesystem::path m_outputPath;
+    std::shared_ptr<CloudCut> m_cloudCut;
     QString m_indicatorText;
     double m_leftValue = 0.0;
     double m_rightValue = 0.0;

@@ -81,9 +81,11 @@ TEST_F(AudioTrimTest, OneTrimAtATimeAndEachGoesToTheCloud) {
     runLoop.manualClock().advance(1.0);
     screen->trimAudio();
     ASSERT_EQ(assets.sessions.size(), 2U);
-    assets.sessions[1]->finish();
     screen.reset();
     runLoop.advance(2.5);
+    EXPECT_TRUE(cloud.saves.empty()) << "not before it is complete";
+    assets.sessions[1]->finish();
+    runLoop.drain();
     EXPECT_EQ(cloud.saves, Names{"Trim_2024_Mar_05_14_04_00.wav"}) << "what failed has no file";
 }
 
