@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -18,7 +19,7 @@ struct PickedDocument {
     bool mayReplace = false;
 };
 
-/// Lets the user choose where a file goes. Main thread only; no call waits.
+/// Lets the user choose where a file goes, or a folder. Main thread only; no call waits.
 class DocumentPicker {
 public:
     /// Nothing where the user has chosen nothing.
@@ -29,6 +30,8 @@ public:
     /// Asks where a copy of the file is to go, and proposes its name. Whoever asked makes the copy. The completion is
     /// called once, on the main thread, after this has returned, and not once this is gone.
     virtual void presentForExport(const std::filesystem::path& file, Completion completion) = 0;
+    /// Asks for a folder that is there, under that title. The completion comes as above.
+    virtual void presentForFolder(const QString& title, Completion completion) = 0;
 };
 
 }  // namespace tavi

@@ -58,8 +58,17 @@ SavePanel::SavePanel(DispatchQueues& queues)
     : SavePanel(queues, QFile::encodeName(QDir::homePath()).toStdString(), mountsOfDesktops()) {}
 
 void SavePanel::presentForExport(const std::filesystem::path& file, Completion completion) {
+    present(file, {}, std::move(completion));
+}
+
+void SavePanel::presentForFolder(const QString& title, Completion completion) {
+    present({}, title, std::move(completion));
+}
+
+void SavePanel::present(const std::filesystem::path& file, const QString& title, Completion completion) {
     finish(std::nullopt);
     m_file = file;
+    m_title = title;
     m_completion = std::move(completion);
     // Where the last one went, the next one probably goes, too.
     open(m_folder);
@@ -133,6 +142,10 @@ void SavePanel::save(const QString& typed) {
             typed == name() ? m_file.filename() : std::filesystem::path(QFile::encodeName(typed).toStdString());
         finish(PickedDocument{.path = m_folder / chosen});
     }
+}
+
+void SavePanel::choose() {
+    finish(PickedDocument{.path = m_folder});
 }
 
 void SavePanel::cancel() {

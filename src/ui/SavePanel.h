@@ -12,8 +12,8 @@
 
 namespace tavi {
 
-/// Asks for a folder and a name where the desktop has no dialog for that. Folders are read in the background. What has
-/// the chosen name already is not asked for here.
+/// Asks for a folder and a name, or a folder alone, where the desktop has no dialog for that. Folders are read in the
+/// background. What has the chosen name already is not asked for here.
 class SavePanel : public QObject, public DocumentPicker {
     Q_OBJECT
     QML_ELEMENT
@@ -27,6 +27,9 @@ class SavePanel : public QObject, public DocumentPicker {
     Q_PROPERTY(QStringList folders READ folders NOTIFY changed)
     /// The proposed name.
     Q_PROPERTY(QString name READ name NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    /// Whether no name is asked for.
+    Q_PROPERTY(bool choosesFolder READ choosesFolder NOTIFY changed)
 
 public:
     /// Begins in that folder. Drives are the folders in the given ones; the queues must outlive this.
@@ -36,12 +39,15 @@ public:
     explicit SavePanel(DispatchQueues& queues);
 
     void presentForExport(const std::filesystem::path& file, Completion completion) override;
+    void presentForFolder(const QString& title, Completion completion) override;
 
     bool isActive() const { return m_completion != nullptr; }
     QStringList places() const;
     QString folder() const;
     QStringList folders() const;
     QString name() const;
+    QString title() const { return choosesFolder() ? m_title : qtTrId("save_title"); }
+    bool choosesFolder() const { return !m_title.isEmpty(); }
 
 public Q_SLOTS:
     /// Opens a folder of the list, that above the one that is open, or a place.
@@ -52,12 +58,15 @@ public Q_SLOTS:
     bool isName(const QString& name) const;
     /// Chooses that name in the folder that is open; nothing happens with what is no name.
     void save(const QString& name);
+    /// Chooses the folder that is open.
+    void choose();
     void cancel();
 
 Q_SIGNALS:
     void changed();
 
 private:
+    void present(const std::filesystem::path& file, const QString& title, Completion completion);
     void open(const std::filesystem::path& folder);
     void finish(const std::optional<PickedDocument>& picked);
 
@@ -65,6 +74,7 @@ private:
     std::filesystem::path m_home;
     std::vector<std::filesystem::path> m_mounts;
     std::filesystem::path m_file;
+    QString m_title;
     std::filesystem::path m_folder;
     /// Paths, in the order shown.
     std::vector<std::filesystem::path> m_folders;

@@ -33,6 +33,7 @@ public:
         asked.push_back(file);
         completion(answer);
     }
+    void presentForFolder(const QString&, Completion completion) override { completion(answer); }
 
     std::vector<std::filesystem::path> asked;
     Result<std::optional<PickedDocument>> answer;

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QStringList>
+#include <utility>
 
 #include "files/FileNames.h"
 #include "files/FileUri.h"
@@ -24,10 +25,21 @@ Result<std::optional<PickedDocument>> pickedOf(const QVariantMap& results) {
 }  // namespace
 
 void DesktopDocumentPicker::presentForExport(const std::filesystem::path& file, Completion completion) {
+    ask(QStringLiteral("SaveFile"), m_title, {{QStringLiteral("current_name"), pathText(file.filename())}},
+        std::move(completion), [this, file](const Completion& chosen) { m_otherwise.presentForExport(file, chosen); });
+}
+
+void DesktopDocumentPicker::presentForFolder(const QString& title, Completion completion) {
+    ask(QStringLiteral("OpenFile"), title, {{QStringLiteral("directory"), true}}, std::move(completion),
+        [this, title](const Completion& chosen) { m_otherwise.presentForFolder(title, chosen); });
+}
+
+void DesktopDocumentPicker::ask(const QString& method, const QString& title, const QVariantMap& options,
+                                Completion completion, Otherwise otherwise) {
     m_portal.ask(
-        QStringLiteral("FileChooser"), QStringLiteral("SaveFile"), {m_title},
-        {{QStringLiteral("current_name"), pathText(file.filename())}},
-        [self = QPointer(this), file, completion](PortalRequests::Outcome outcome, const QVariantMap& results) {
+        QStringLiteral("FileChooser"), method, {title}, options,
+        [self = QPointer(this), completion = std::move(completion), otherwise = std::move(otherwise)](
+            PortalRequests::Outcome outcome, const QVariantMap& results) {
             if (!self) {
                 return;
             }
@@ -37,7 +49,7 @@ void DesktopDocumentPicker::presentForExport(const std::filesystem::path& file, 
                 case PortalRequests::Outcome::Cancelled:
                     return completion(std::optional<PickedDocument>());
                 case PortalRequests::Outcome::Unavailable:
-                    return self->m_otherwise.presentForExport(file, completion);
+                    return otherwise(completion);
                 case PortalRequests::Outcome::Failed:
                     return completion(failure(QStringLiteral("The desktop's dialog ended without an answer.")));
             }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 
 #include "adapters/desktop/PortalRequests.h"
 #include "platform/DocumentPicker.h"
@@ -18,8 +19,13 @@ public:
         : m_portal(portal), m_title(title), m_otherwise(otherwise) {}
 
     void presentForExport(const std::filesystem::path& file, Completion completion) override;
+    void presentForFolder(const QString& title, Completion completion) override;
 
 private:
+    using Otherwise = std::function<void(const Completion& completion)>;
+    void ask(const QString& method, const QString& title, const QVariantMap& options, Completion completion,
+             Otherwise otherwise);
+
     PortalRequests& m_portal;
     QString m_title;
     DocumentPicker& m_otherwise;

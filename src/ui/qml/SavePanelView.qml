@@ -9,18 +9,24 @@ FocusScope {
     readonly property bool low: height < 420
 
     function save() {
-        if (panel.isName(name.text))
+        if (panel.choosesFolder)
+            panel.choose()
+        else if (panel.isName(name.text))
             panel.save(name.text)
     }
 
     focus: true
     Accessible.role: Accessible.Dialog
-    Accessible.name: qsTrId("save_title")
+    Accessible.name: panel.title
     Keys.onEscapePressed: panel.cancel()
     // No key reaches what lies below.
     Keys.onPressed: event => event.accepted = true
     Component.onCompleted: {
         name.text = panel.name
+        if (panel.choosesFolder) {
+            list.forceActiveFocus(Qt.TabFocusReason)
+            return
+        }
         name.forceActiveFocus(Qt.PopupFocusReason)
         // What is before the extension is what is changed.
         name.select(0, name.text.lastIndexOf(".") > 0 ? name.text.lastIndexOf(".") : name.text.length)
@@ -59,7 +65,7 @@ FocusScope {
             width: parent.width - 2 * x
             height: view.low ? 0 : 52
             visible: !view.low
-            text: qsTrId("save_title")
+            text: view.panel.title
             color: Theme.text
             font.pixelSize: Theme.textDialog
             font.weight: Font.Medium
@@ -215,6 +221,8 @@ FocusScope {
             x: Theme.margin
             y: buttons.y - height
             width: parent.width - 2 * x
+            height: visible ? implicitHeight : Theme.gap
+            visible: !view.panel.choosesFolder
             objectName: "saveName"
             placeholderText: qsTrId("save_name")
             Accessible.name: qsTrId("save_name")
@@ -238,9 +246,9 @@ FocusScope {
 
             TButton {
                 objectName: "saveAccept"
-                text: qsTrId("save_accept")
+                text: view.panel.choosesFolder ? qsTrId("save_choose") : qsTrId("save_accept")
                 kind: TButton.Filled
-                enabled: view.panel.isName(name.text)
+                enabled: view.panel.choosesFolder || view.panel.isName(name.text)
                 onClicked: view.save()
             }
         }

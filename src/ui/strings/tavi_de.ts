@@ -1391,6 +1391,199 @@
         <source></source>
         <translation>--remove-vanished entfernt sie auch hier, --keep-vanished sendet sie noch einmal.</translation>
     </message>
+    <!-- The cloud: account page and rows -->
+    <message id="cloud_title">
+        <source></source>
+        <translation>Cloud</translation>
+    </message>
+    <message id="cloud_details">
+        <source></source>
+        <translation>Cloud-Konto</translation>
+    </message>
+    <message id="cloud_back">
+        <source></source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="cloud_account">
+        <source></source>
+        <translation>Konto</translation>
+    </message>
+    <message id="cloud_ask">
+        <source></source>
+        <translation>Wo ist Ihre Cloud?</translation>
+    </message>
+    <message id="cloud_ask_hint">
+        <source></source>
+        <translation>Jede Aufnahme, die Sie sichern, wird auch dort abgelegt. Auf diesem Gerät wird nichts verschoben oder entfernt.</translation>
+    </message>
+    <message id="cloud_hint">
+        <source></source>
+        <translation>Beim Trennen bleiben alle Aufnahmen, wo sie sind: hier und in der Cloud.</translation>
+    </message>
+    <message id="cloud_folder">
+        <source></source>
+        <translation>Ein Ordner, den ein anderes Programm abgleicht</translation>
+    </message>
+    <message id="cloud_choose_title">
+        <source></source>
+        <translation>Cloud-Ordner auswählen</translation>
+    </message>
+    <message id="cloud_server">
+        <source></source>
+        <translation>Ein WebDAV-Server</translation>
+    </message>
+    <message id="cloud_address">
+        <source></source>
+        <translation>Adresse, etwa https://example.org/dav/</translation>
+    </message>
+    <message id="cloud_user">
+        <source></source>
+        <translation>Benutzername</translation>
+    </message>
+    <message id="cloud_password">
+        <source></source>
+        <translation>Passwort</translation>
+    </message>
+    <message id="cloud_connect">
+        <source></source>
+        <translation>Verbinden</translation>
+    </message>
+    <message id="cloud_connecting">
+        <source></source>
+        <translation>Verbindung wird geprüft…</translation>
+    </message>
+    <message id="cloud_place">
+        <source></source>
+        <translation>Ort</translation>
+    </message>
+    <message id="cloud_place_of">
+        <source></source>
+        <translation>%1, als %2</translation>
+    </message>
+    <message id="cloud_state">
+        <source></source>
+        <translation>Zustand</translation>
+    </message>
+    <message id="cloud_last_sync">
+        <source></source>
+        <translation>Abgleich</translation>
+    </message>
+    <message id="cloud_never">
+        <source></source>
+        <translation>Noch keiner</translation>
+    </message>
+    <message id="cloud_state_off">
+        <source></source>
+        <translation>Aus. Der Schalter in den Einstellungen schaltet den Abgleich ein.</translation>
+    </message>
+    <message id="cloud_state_folder">
+        <source></source>
+        <translation>Verbunden. Ein anderes Programm gleicht diesen Ordner ab.</translation>
+    </message>
+    <message id="cloud_state_working">
+        <source></source>
+        <translation>Wird abgeglichen…</translation>
+    </message>
+    <message id="cloud_state_in_step">
+        <source></source>
+        <translation>Alles ist in der Cloud.</translation>
+    </message>
+    <message id="cloud_state_troubled">
+        <source></source>
+        <translation>Nicht abgeglichen. Es wird von selbst erneut versucht.</translation>
+    </message>
+    <message id="cloud_state_asking">
+        <source></source>
+        <translation>Auf dem Server fehlende Dateien: %1. Hier wird nichts entfernt, bevor Sie es sagen.</translation>
+    </message>
+    <message id="cloud_sync">
+        <source></source>
+        <translation>Jetzt abgleichen</translation>
+    </message>
+    <message id="cloud_decide">
+        <source></source>
+        <translation>Entscheiden…</translation>
+    </message>
+    <message id="cloud_disconnect">
+        <source></source>
+        <translation>Trennen</translation>
+    </message>
+    <message id="cloud_disconnect_title">
+        <source></source>
+        <translation>Cloud trennen?</translation>
+    </message>
+    <message id="cloud_disconnect_text">
+        <source></source>
+        <translation>%1 wird nicht mehr benutzt, das Passwort wird vergessen. Alle Aufnahmen bleiben, hier wie dort.</translation>
+    </message>
+    <message id="cloud_clear_title">
+        <source></source>
+        <translation>Ungeschützt senden?</translation>
+    </message>
+    <message id="cloud_clear_text">
+        <source></source>
+        <translation>Die Adresse beginnt mit http://. Unterwegs kann jeder Ihre Aufnahmen und Ihr Passwort lesen.</translation>
+    </message>
+    <message id="cloud_clear_yes">
+        <source></source>
+        <translation>Trotzdem senden</translation>
+    </message>
+    <message id="cloud_vanished_title">
+        <source></source>
+        <translation>Dateien fehlen in der Cloud</translation>
+    </message>
+    <message id="cloud_vanished_text">
+        <source></source>
+        <translation>Dateien, die nicht mehr auf dem Server sind: %1. Sollen sie auch hier in den Papierkorb, oder erneut gesendet werden?</translation>
+    </message>
+    <message id="cloud_vanished_later">
+        <source></source>
+        <translation>Später entscheiden</translation>
+    </message>
+    <message id="cloud_vanished_keep">
+        <source></source>
+        <translation>Erneut senden</translation>
+    </message>
+    <message id="cloud_vanished_remove">
+        <source></source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message id="save_choose">
+        <source></source>
+        <translation>Auswählen</translation>
+    </message>
+    <message id="cloud_row_waiting">
+        <source></source>
+        <translation>Wartet auf das Senden</translation>
+    </message>
+    <message id="cloud_row_sending">
+        <source></source>
+        <translation>Wird gesendet, %1 %</translation>
+    </message>
+    <message id="cloud_row_there">
+        <source></source>
+        <translation>In der Cloud</translation>
+    </message>
+    <message id="cloud_row_only">
+        <source></source>
+        <translation>Nur in der Cloud. Zum Laden tippen</translation>
+    </message>
+    <message id="cloud_row_arriving">
+        <source></source>
+        <translation>Unterwegs. Zum erneuten Anfordern tippen</translation>
+    </message>
+    <message id="cloud_row_conflict">
+        <source></source>
+        <translation>Andere Fassung. Beide bleiben</translation>
+    </message>
+    <message id="cloud_refreshing">
+        <source></source>
+        <translation>Aufnahmen in der Cloud werden aktualisiert</translation>
+    </message>
+    <message id="shortcut_refresh">
+        <source></source>
+        <translation>Aufnahmen in der Cloud aktualisieren</translation>
+    </message>
     <!-- The companion -->
     <message id="companion_absent">
         <source></source>

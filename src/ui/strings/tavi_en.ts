@@ -1390,6 +1390,199 @@
         <source></source>
         <translation>Say --remove-vanished to remove them here, too, or --keep-vanished to send them again.</translation>
     </message>
+    <!-- The cloud: account page and rows -->
+    <message id="cloud_title">
+        <source></source>
+        <translation>Cloud</translation>
+    </message>
+    <message id="cloud_details">
+        <source></source>
+        <translation>Cloud account</translation>
+    </message>
+    <message id="cloud_back">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="cloud_account">
+        <source></source>
+        <translation>Account</translation>
+    </message>
+    <message id="cloud_ask">
+        <source></source>
+        <translation>Where is your cloud?</translation>
+    </message>
+    <message id="cloud_ask_hint">
+        <source></source>
+        <translation>Every recording that you save is copied there. Nothing on this device is moved or removed.</translation>
+    </message>
+    <message id="cloud_hint">
+        <source></source>
+        <translation>Disconnecting leaves all recordings where they are, here and in the cloud.</translation>
+    </message>
+    <message id="cloud_folder">
+        <source></source>
+        <translation>A folder that another program syncs</translation>
+    </message>
+    <message id="cloud_choose_title">
+        <source></source>
+        <translation>Choose the Cloud Folder</translation>
+    </message>
+    <message id="cloud_server">
+        <source></source>
+        <translation>A WebDAV server</translation>
+    </message>
+    <message id="cloud_address">
+        <source></source>
+        <translation>Address, such as https://example.org/dav/</translation>
+    </message>
+    <message id="cloud_user">
+        <source></source>
+        <translation>User name</translation>
+    </message>
+    <message id="cloud_password">
+        <source></source>
+        <translation>Password</translation>
+    </message>
+    <message id="cloud_connect">
+        <source></source>
+        <translation>Connect</translation>
+    </message>
+    <message id="cloud_connecting">
+        <source></source>
+        <translation>Testing the connection…</translation>
+    </message>
+    <message id="cloud_place">
+        <source></source>
+        <translation>Place</translation>
+    </message>
+    <message id="cloud_place_of">
+        <source></source>
+        <translation>%1, as %2</translation>
+    </message>
+    <message id="cloud_state">
+        <source></source>
+        <translation>State</translation>
+    </message>
+    <message id="cloud_last_sync">
+        <source></source>
+        <translation>Last sync</translation>
+    </message>
+    <message id="cloud_never">
+        <source></source>
+        <translation>Not yet</translation>
+    </message>
+    <message id="cloud_state_off">
+        <source></source>
+        <translation>Off. Turn on the switch in the settings to sync.</translation>
+    </message>
+    <message id="cloud_state_folder">
+        <source></source>
+        <translation>Connected. Another program syncs this folder.</translation>
+    </message>
+    <message id="cloud_state_working">
+        <source></source>
+        <translation>Syncing…</translation>
+    </message>
+    <message id="cloud_state_in_step">
+        <source></source>
+        <translation>Everything is in the cloud.</translation>
+    </message>
+    <message id="cloud_state_troubled">
+        <source></source>
+        <translation>Not in sync. It is tried again by itself.</translation>
+    </message>
+    <message id="cloud_state_asking">
+        <source></source>
+        <translation>Files missing from the server: %1. Nothing is removed here before you say so.</translation>
+    </message>
+    <message id="cloud_sync">
+        <source></source>
+        <translation>Sync Now</translation>
+    </message>
+    <message id="cloud_decide">
+        <source></source>
+        <translation>Decide…</translation>
+    </message>
+    <message id="cloud_disconnect">
+        <source></source>
+        <translation>Disconnect</translation>
+    </message>
+    <message id="cloud_disconnect_title">
+        <source></source>
+        <translation>Disconnect the Cloud?</translation>
+    </message>
+    <message id="cloud_disconnect_text">
+        <source></source>
+        <translation>%1 is no longer used, and its password is forgotten. All recordings stay, here and there.</translation>
+    </message>
+    <message id="cloud_clear_title">
+        <source></source>
+        <translation>Send Without Protection?</translation>
+    </message>
+    <message id="cloud_clear_text">
+        <source></source>
+        <translation>The address begins with http://. Anyone on the way can read your recordings and your password.</translation>
+    </message>
+    <message id="cloud_clear_yes">
+        <source></source>
+        <translation>Send Anyway</translation>
+    </message>
+    <message id="cloud_vanished_title">
+        <source></source>
+        <translation>Files Missing in the Cloud</translation>
+    </message>
+    <message id="cloud_vanished_text">
+        <source></source>
+        <translation>Files that are no longer on the server: %1. Should they go to the trash here, too, or be sent again?</translation>
+    </message>
+    <message id="cloud_vanished_later">
+        <source></source>
+        <translation>Decide Later</translation>
+    </message>
+    <message id="cloud_vanished_keep">
+        <source></source>
+        <translation>Send Again</translation>
+    </message>
+    <message id="cloud_vanished_remove">
+        <source></source>
+        <translation>Move to Trash</translation>
+    </message>
+    <message id="save_choose">
+        <source></source>
+        <translation>Choose</translation>
+    </message>
+    <message id="cloud_row_waiting">
+        <source></source>
+        <translation>Waiting to be sent</translation>
+    </message>
+    <message id="cloud_row_sending">
+        <source></source>
+        <translation>Sending, %1 %</translation>
+    </message>
+    <message id="cloud_row_there">
+        <source></source>
+        <translation>In the cloud</translation>
+    </message>
+    <message id="cloud_row_only">
+        <source></source>
+        <translation>Only in the cloud. Tap to fetch it</translation>
+    </message>
+    <message id="cloud_row_arriving">
+        <source></source>
+        <translation>On its way. Tap to ask again</translation>
+    </message>
+    <message id="cloud_row_conflict">
+        <source></source>
+        <translation>Another version. Both are kept</translation>
+    </message>
+    <message id="cloud_refreshing">
+        <source></source>
+        <translation>Refreshing the cloud recordings</translation>
+    </message>
+    <message id="shortcut_refresh">
+        <source></source>
+        <translation>Refresh the cloud recordings</translation>
+    </message>
     <!-- The companion -->
     <message id="companion_absent">
         <source></source>
