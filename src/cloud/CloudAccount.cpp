@@ -22,10 +22,13 @@ CloudAccount CloudAccount::server(const QString& address, const QString& user, b
     return account;
 }
 
-bool CloudAccount::isInClear() const {
+bool CloudAccount::isElsewhere() const {
     static const QRegularExpression here(QStringLiteral("^(localhost|127\\.[0-9.]+|::1)$"));
-    const QUrl url(address);
-    return kind == Kind::Server && url.scheme() == QLatin1String("http") && !here.match(url.host()).hasMatch();
+    return kind == Kind::Server && !here.match(QUrl(address).host()).hasMatch();
+}
+
+bool CloudAccount::isInClear() const {
+    return isElsewhere() && QUrl(address).scheme() == QLatin1String("http");
 }
 
 CloudAccount CloudAccount::of(const UserDefaults& defaults) {

@@ -24,6 +24,8 @@ struct CloudAccount {
     static CloudAccount of(const UserDefaults& defaults);
     /// False where the settings could not be written.
     bool store(UserDefaults& defaults) const;
+    /// Whether it is reached by the network.
+    bool isElsewhere() const;
     /// Whether it must be asked for that first: an address that is http, and not of this machine.
     bool isInClear() const;
     /// Says which account it is; empty for none.

@@ -300,7 +300,10 @@ void FolderCloud::look() {
             constexpr std::uint32_t kChanges =
                 IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_CLOSE_WRITE | IN_DELETE_SELF | IN_MOVE_SELF;
             // Before the look, so that what changes afterwards is heard; harmless where it is watched already.
-            ::inotify_add_watch(events->get(), folder.c_str(), kChanges | IN_ONLYDIR);
+            if (::inotify_add_watch(events->get(), folder.c_str(), kChanges | IN_ONLYDIR) < 0) {
+                // It is made by the first file that is saved.
+                ::inotify_add_watch(events->get(), folder.parent_path().c_str(), kChanges | IN_ONLYDIR);
+            }
             *listing = listFolder(folder);
         },
         [self = QPointer(this), listing, token = m_place.token] {
