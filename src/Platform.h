@@ -15,6 +15,7 @@
 #include "adapters/desktop/DesktopDocumentPicker.h"
 #include "adapters/desktop/DesktopMailComposer.h"
 #include "adapters/desktop/DesktopUrlOpener.h"
+#include "adapters/network/SystemReachability.h"
 #include "adapters/player/FilePlayer.h"
 #include "adapters/plist/LibplistPropertyLists.h"
 #include "adapters/pulse/PulseAudioInput.h"
@@ -83,6 +84,7 @@ struct Platform {
     JHUD hudView;
     DesktopUrlOpener urlOpener{portal};
     AppstreamCatalogue catalogue;
+    SystemReachability reachability{QDBusConnection::systemBus()};
     AtSpiAnnouncer announcer;
     Announcements announcements{announcer};
     TabBarController tabBar;

@@ -23,7 +23,9 @@
 #include "Screens.h"
 #include "adapters/qt/TerminationSignals.h"
 #include "app/AppDelegate.h"
+#include "app/CloudPage.h"
 #include "app/SettingVC.h"
+#include "library/CloudSection.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingExport.h"
 #include "library/RecordingImport.h"
@@ -120,6 +122,7 @@ struct Screens {
                              .last = lastRecording}};
     SessionGuard sessionGuard{recording, platform.formatHold, platform.systemSleep, platform.sessionEnd};
     RecordingLister lister{platform.media, platform.runLoop};
+    RecordingLister cloudLister{platform.media, platform.runLoop};
     RecordingShapes shapes{platform.media, platform.runLoop};
     WaveformLoader waveforms{waveformServices};
     PlayerPanel player{{.players = platform.audioPlayers,
@@ -140,8 +143,11 @@ struct Screens {
          .notifications = platform.notifications,
          .notices = platform.notices,
          .runLoop = platform.runLoop}};
-    RecordingTable table{
-        {.settings = platform.settings.store, .container = platform.container, .lister = lister, .shapes = shapes}};
+    RecordingTable table{{.settings = platform.settings.store,
+                          .container = platform.container,
+                          .lister = lister,
+                          .cloudLister = cloudLister,
+                          .shapes = shapes}};
     RecordingExport exporter{{.documentPicker = platform.documentPicker,
                               .presenter = platform.presenter,
                               .notices = platform.notices,
@@ -174,14 +180,22 @@ struct Screens {
                               .presenter = platform.presenter,
                               .notices = platform.notices,
                               .runLoop = platform.runLoop}};
+    CloudSection cloudSection{{.documents = cloud.documents(),
+                               .connection = cloud,
+                               .table = table,
+                               .settings = platform.settings.store,
+                               .container = platform.container,
+                               .runLoop = platform.runLoop,
+                               .presenter = platform.presenter,
+                               .reachability = platform.reachability}};
     VoiceMemoVC library{{.settings = platform.settings.store,
                          .notifications = platform.notifications,
                          .remoteControl = platform.remoteControl,
-                         .notices = platform.notices,
-                         .cloud = cloud.documents()},
+                         .notices = platform.notices},
                         table,
                         player,
-                        actions};
+                        actions,
+                        cloudSection};
     RatingStore ratingStore{platform.settings.standard};
     AppRater appRater{{.store = ratingStore,
                        .runLoop = platform.runLoop,
@@ -204,13 +218,18 @@ struct Screens {
                                   .runLoop = platform.runLoop,
                                   .presenter = platform.presenter,
                                   .lockState = platform.lockState}};
+    CloudPage cloudPage{{.cloud = cloud,
+                         .picker = platform.documentPicker,
+                         .presenter = platform.presenter,
+                         .reachability = platform.reachability}};
     SettingVC settings{{.settings = platform.settings.store,
                         .formatHold = platform.formatHold,
                         .runLoop = platform.runLoop,
                         .presenter = platform.presenter,
                         .tabBar = platform.tabBar,
                         .support = supportRows,
-                        .passcode = passcode}};
+                        .passcode = passcode,
+                        .cloud = cloudPage}};
     RecordingImport imports{{.container = platform.container,
                              .runLoop = platform.runLoop,
                              .notices = platform.notices,
@@ -316,6 +335,7 @@ void connectWindow(QQuickWindow* window, Screens& screens) {
         qCDebug(lcApp, "first-frame");
         rescue.rescue();
         imports.removeLeftovers();
+        platform.reachability.load();
         platform.runLoop.dispatchBackground([&media = platform.media] { media.load(); });
     };
     QObject::connect(window, &QQuickWindow::frameSwapped, window, shown, Qt::SingleShotConnection);

@@ -9,7 +9,7 @@ target_link_libraries(tavi PRIVATE
   tavi_screens
   tavi_adapter_qt tavi_adapter_pulse tavi_adapter_recorder tavi_adapter_player tavi_adapter_quick
   tavi_adapter_dbus tavi_adapter_desktop tavi_adapter_plist tavi_adapter_secret tavi_adapter_folder tavi_adapter_webdav
-  tavi_companion_parts
+  tavi_adapter_network tavi_companion_parts
   tavi_warnings)
 # Its modules are linked above; those of Qt are found at run time.
 set_target_properties(tavi PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)

@@ -36,6 +36,7 @@ double snappedSkipSeconds(double sliderValue) {
 
 SettingVC::SettingVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     connect(&m_services.formatHold, &FormatHold::heldChanged, this, &SettingVC::storeWaiting);
+    connect(&m_services.cloud, &CloudPage::accountChanged, this, &SettingVC::cloudAccountChanged);
 }
 
 QStringList SettingVC::sectionarray() const {
@@ -178,10 +179,19 @@ void SettingVC::forwardSliderChange(double value) {
 }
 
 void SettingVC::hideShowiClound(bool on) {
+    if (on && !m_services.cloud.hasAccount()) {
+        m_services.cloud.open();
+        return Q_EMIT rowsChanged();
+    }
     m_services.settings.setCloudSyncOn(on);
     m_isCloudSyncOn = m_services.settings.isCloudSyncOn();
     qInfo("%d", m_isCloudSyncOn ? 0 : 1);
+    m_services.cloud.settingsChanged();
     Q_EMIT rowsChanged();
+}
+
+void SettingVC::cloudAccountChanged() {
+    hideShowiClound(m_services.cloud.hasAccount());
 }
 
 void SettingVC::autoQuickMail(bool on) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "app/CloudPage.h"
 #include "app/SupportRows.h"
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
@@ -38,6 +39,7 @@ class SettingVC : public QObject {
     Q_PROPERTY(QString quickMailText READ quickMailText NOTIFY rowsChanged)
     Q_PROPERTY(bool isQuickMailOn READ isQuickMailOn NOTIFY rowsChanged)
     Q_PROPERTY(tavi::SupportRows* support READ support CONSTANT)
+    Q_PROPERTY(tavi::CloudPage* cloud READ cloud CONSTANT)
     Q_PROPERTY(QString passcodeText READ passcodeText NOTIFY rowsChanged)
     Q_PROPERTY(QString changePassText READ changePassText NOTIFY rowsChanged)
     Q_PROPERTY(bool passcodeEnabled READ passcodeEnabled NOTIFY rowsChanged)
@@ -53,6 +55,7 @@ public:
         TabBar& tabBar;
         SupportRows& support;
         PasscodeCoordinator& passcode;
+        CloudPage& cloud;
     };
 
     explicit SettingVC(const Services& services, QObject* parent = nullptr);
@@ -78,6 +81,7 @@ public:
     QString quickMailText() const { return m_quickMailText; }
     bool isQuickMailOn() const { return m_isQuickMailOn; }
     SupportRows* support() const { return &m_services.support; }
+    CloudPage* cloud() const { return &m_services.cloud; }
     QString passcodeText() const { return m_passcodeText; }
     QString changePassText() const { return m_changePassText; }
     /// Whether the passcode can be changed.
@@ -99,7 +103,8 @@ public Q_SLOTS:
     /// The user moved a slider to that position.
     void rewindSliderChange(double value);
     void forwardSliderChange(double value);
-    /// The user turned a switch.
+    /// The user turned a switch. That of the cloud asks where it is, where nobody has said so yet: it goes on once
+    /// there is one.
     void hideShowiClound(bool on);
     void autoQuickMail(bool on);
     /// The user turned the switch of the passcode lock: it goes back where the passcode is not given.
@@ -117,6 +122,7 @@ private:
     void buildSliderRows();
     void loadDataSoon();
     void showPasscode(bool enabled);
+    void cloudAccountChanged();
 
     Services m_services;
     bool m_rowsBuilt = false;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/settings/SettingsStore.h"
-#include "cloud/CloudDocuments.h"
 #include "platform/Notices.h"
 #include "platform/NotificationCenter.h"
 #include "platform/RemoteControl.h"
@@ -14,7 +13,6 @@ struct LibraryServices {
     NotificationCenter& notifications;
     RemoteControl& remoteControl;
     Notices& notices;
-    CloudDocuments& cloud;
 };
 
 }  // namespace tavi

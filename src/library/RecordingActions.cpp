@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <utility>
 
+#include "cloud/CloudSaving.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
 #include "library/RecordingFiles.h"
@@ -265,9 +266,9 @@ void RecordingActions::trashed(const Target& target, const Result<std::filesyste
     if (place) {
         removed(target);
         m_services.notices.postNotice({qtTrId("delete_trashed").arg(name), qtTrId("delete_undo"),
-                                       [self = QPointer(this), place = *place, path = target.path] {
+                                       [self = QPointer(this), place = *place, target] {
                                            if (self) {
-                                               self->undo(place, path);
+                                               self->undo(place, target);
                                            }
                                        }});
         return;
@@ -286,11 +287,11 @@ void RecordingActions::trashed(const Target& target, const Result<std::filesyste
            }}}});
 }
 
-void RecordingActions::undo(const std::filesystem::path& trashed, const std::filesystem::path& path) {
+void RecordingActions::undo(const std::filesystem::path& trashed, const Target& target) {
     RunLoop& runLoop = m_services.runLoop;
-    runLoop.dispatchBackground([self = QPointer(this), &runLoop, &trash = m_services.trash, trashed, path] {
-        const auto back = trash.putBack(trashed, path);
-        runLoop.dispatchMain([self, path, back] {
+    runLoop.dispatchBackground([self = QPointer(this), &runLoop, &trash = m_services.trash, trashed, target] {
+        const auto back = trash.putBack(trashed, target.path);
+        runLoop.dispatchMain([self, target, path = target.path, back] {
             if (!self) {
                 return;
             }
@@ -300,12 +301,24 @@ void RecordingActions::undo(const std::filesystem::path& trashed, const std::fil
             if (*back != path) {
                 self->tell("delete_undone_beside", path, lineText(back->filename()));
             }
+            self->putBackInCloud(target, *back);
             Q_EMIT self->reloadRequested();
             if (const int row = self->m_services.table.rowOf(0, back->filename()); row >= 0) {
                 Q_EMIT self->rowRevealed(row);
             }
         });
     });
+}
+
+void RecordingActions::putBackInCloud(const Target& target, const std::filesystem::path& file) {
+    if (target.isInCloud && m_services.settings.isCloudSyncOn()) {
+        saveFileToCloud(m_services.cloud, m_services.runLoop, file,
+                        [self = QPointer(this)](const auto&, const FileContents&, const auto& /*error*/) {
+                            if (self) {
+                                Q_EMIT self->cloudRefreshRequested();
+                            }
+                        });
+    }
 }
 
 void RecordingActions::deleteForGood(const Target& target) {

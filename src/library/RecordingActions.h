@@ -92,7 +92,9 @@ private:
     void deleteInCloud(const std::filesystem::path& name);
     void removed(const Target& target);
     void trashed(const Target& target, const Result<std::filesystem::path>& place);
-    void undo(const std::filesystem::path& trashed, const std::filesystem::path& path);
+    void undo(const std::filesystem::path& trashed, const Target& target);
+    /// What was deleted in the cloud's list goes there again.
+    void putBackInCloud(const Target& target, const std::filesystem::path& file);
     void deleteForGood(const Target& target);
     void reloadSoon();
     void tell(const char* id, const std::filesystem::path& path, const QString& reason = {}) const;

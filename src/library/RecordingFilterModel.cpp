@@ -4,16 +4,6 @@
 
 namespace tavi {
 
-QVariant RecordingFilterModel::data(const QModelIndex& index, int role) const {
-    return role == RowRole ? QVariant(mapToSource(index).row()) : QSortFilterProxyModel::data(index, role);
-}
-
-QHash<int, QByteArray> RecordingFilterModel::roleNames() const {
-    QHash<int, QByteArray> names = QSortFilterProxyModel::roleNames();
-    names.insert(RowRole, "row");
-    return names;
-}
-
 void RecordingFilterModel::setText(const QString& text) {
     if (text != m_text) {
         m_text = text;

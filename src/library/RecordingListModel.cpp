@@ -1,7 +1,9 @@
 #include "library/RecordingListModel.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "files/FileNames.h"
 #include "files/PathText.h"
 
 namespace tavi {
@@ -25,22 +27,86 @@ QVariant RecordingListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
         return {};
     }
-    const RecordingEntry& entry = m_entries[static_cast<std::size_t>(index.row())];
+    const int row = index.row();
+    const RecordingEntry& entry = m_entries[static_cast<std::size_t>(row)];
+    const bool isHere = static_cast<std::size_t>(row) < m_rows.here;
     switch (role) {
         case NameTextRole:
             return lineText(entry.value(entrykey::kFilename));
         case DetailTextRole:
-            return detailText(entry);
+            return isHere ? detailText(entry) : QString();
         case ShapeRole:
-            return QVariant::fromValue(
-                m_shapes.levelsOf(entry.identity(), m_container.documentsPath() / entry.nativeName()));
+            return QVariant::fromValue(shape(row));
+        case SectionRole:
+            return isLocal(row) ? 0 : 1;
+        case RowRole:
+            return isLocal(row) ? row : row - static_cast<int>(m_rows.local);
+        case IsHereRole:
+            return isHere;
+        case CloudStateRole:
+            return cloudState(row);
+        case ProgressRole:
+            return cloudFile(row) != nullptr ? cloudFile(row)->progress : 0.0;
         default:
             return {};
     }
 }
 
+QList<qreal> RecordingListModel::shape(int row) const {
+    const RecordingEntry& entry = m_entries[static_cast<std::size_t>(row)];
+    const std::filesystem::path folder = m_container.documentsPath() / (isLocal(row) ? "" : foldername::kCloud);
+    return m_shapes.levelsOf(entry.identity(), folder / entry.nativeName());
+}
+
+const CloudFile* RecordingListModel::cloudFile(int row) const {
+    const auto found =
+        isLocal(row) ? m_rows.files.end() : m_rows.files.find(m_entries[static_cast<std::size_t>(row)].nativeName());
+    return found != m_rows.files.end() ? &found->second : nullptr;
+}
+
+QString RecordingListModel::cloudState(int row) const {
+    const CloudFile* file = cloudFile(row);
+    if (file == nullptr) {
+        return {};
+    }
+    switch (file->state) {
+        case CloudFile::State::There:
+            return file->isConflict ? QStringLiteral("conflict") : QStringLiteral("there");
+        case CloudFile::State::Waiting:
+            return QStringLiteral("waiting");
+        case CloudFile::State::Sending:
+            return QStringLiteral("sending");
+        case CloudFile::State::OnlyThere:
+            return QStringLiteral("only");
+        case CloudFile::State::Arriving:
+            return QStringLiteral("arriving");
+    }
+    return {};
+}
+
 QHash<int, QByteArray> RecordingListModel::roleNames() const {
-    return {{NameTextRole, "nameText"}, {DetailTextRole, "detailText"}, {ShapeRole, "shape"}};
+    return {{NameTextRole, "nameText"},
+            {DetailTextRole, "detailText"},
+            {ShapeRole, "shape"},
+            {SectionRole, "section"},
+            {RowRole, "row"},
+            {IsHereRole, "isHere"},
+            {CloudStateRole, "cloudState"},
+            {ProgressRole, "progress"}};
+}
+
+void RecordingListModel::setRows(RecordingRows rows) {
+    std::vector<RecordingEntry> entries = std::exchange(rows.entries, {});
+    const bool isMoved = rows.local != m_rows.local || rows.here != m_rows.here;
+    const bool isOther = isMoved || rows.files != m_rows.files;
+    m_rows.local = rows.local;
+    m_rows.here = rows.here;
+    m_rows.files = std::move(rows.files);
+    setEntries(entries);
+    const int first = static_cast<int>(std::min(m_rows.local, m_entries.size()));
+    if (isOther && first < rowCount()) {
+        Q_EMIT dataChanged(index(first), index(rowCount() - 1));
+    }
 }
 
 void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) {
@@ -61,6 +127,7 @@ void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) 
         endResetModel();
         return;
     }
+    const bool isShifted = gone != come;
     // At one place there is one more row, one less, or another one.
     if (gone > come) {
         beginRemoveRows({}, row, row);
@@ -70,6 +137,9 @@ void RecordingListModel::setEntries(const std::vector<RecordingEntry>& entries) 
         beginInsertRows({}, row, row);
         m_entries.insert(m_entries.begin() + row, entries[static_cast<std::size_t>(row)]);
         endInsertRows();
+    }
+    if (isShifted && row < rowCount()) {
+        Q_EMIT dataChanged(index(row), index(rowCount() - 1), {RowRole});
     }
     const auto [first, last] = std::mismatch(entries.begin(), entries.end(), m_entries.begin());
     if (first == entries.end()) {

@@ -2,8 +2,11 @@
 
 #include <QPointer>
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "files/FileNames.h"
+#include "files/PathText.h"
 #include "library/RecordingOrder.h"
 
 namespace tavi {
@@ -14,6 +17,11 @@ RecordingTable::RecordingTable(const Services& services, QObject* parent)
     m_btnSortName.title = qtTrId("Name");
     m_btnSortDate.title = qtTrId("Date");
     m_btnSortSize.title = qtTrId("Size");
+}
+
+bool RecordingTable::showsCloudRows() const {
+    const QModelIndex last = m_filter.index(m_filter.rowCount() - 1, 0);
+    return last.data(RecordingListModel::SectionRole).toInt() == 1;
 }
 
 const RecordingEntry* RecordingTable::entryOf(int section, int row) const {
@@ -44,31 +52,82 @@ void RecordingTable::getAlltheFiles() {
     m_arrRecordings = m_services.lister.list(m_services.container.documentsPath(), RecordingLister::Lengths::Known);
     setDefaultSortingButton();
     reloadTable();
-    if (!m_services.lister.isComplete()) {
-        m_services.lister.measure([self = QPointer(this)] {
+    measure(m_services.lister, m_arrRecordings);
+}
+
+void RecordingTable::getAlltheFilesAndFolderFromDirectoryInIcloud() {
+    m_arrIcloudFiles = m_services.cloudLister.list(m_services.container.documentsPath() / foldername::kCloud,
+                                                   RecordingLister::Lengths::Known);
+    reloadTable();
+    measure(m_services.cloudLister, m_arrIcloudFiles);
+}
+
+void RecordingTable::measure(RecordingLister& lister, std::vector<RecordingEntry>& entries) {
+    if (!lister.isComplete()) {
+        lister.measure([self = QPointer(this), &lister, &entries] {
             if (self) {
-                self->durationsArrived();
+                self->durationsArrived(lister, entries);
             }
         });
     }
 }
 
-void RecordingTable::durationsArrived() {
-    for (RecordingEntry& entry : m_arrRecordings) {
-        if (m_services.lister.wasOpen(entry.nativeName())) {
-            entry.setValue(entrykey::kDuration, m_services.lister.durationText(entry.nativeName()));
+void RecordingTable::durationsArrived(RecordingLister& lister, std::vector<RecordingEntry>& entries) {
+    for (RecordingEntry& entry : entries) {
+        if (lister.wasOpen(entry.nativeName())) {
+            entry.setValue(entrykey::kDuration, lister.durationText(entry.nativeName()));
         }
     }
     reloadTable();
 }
 
+void RecordingTable::setCloudFiles(std::map<std::filesystem::path, CloudFile> files) {
+    if (files != m_cloudFiles) {
+        m_cloudFiles = std::move(files);
+        reloadTable();
+    }
+}
+
+std::vector<RecordingEntry> RecordingTable::awaited() const {
+    std::set<std::filesystem::path> shown;
+    for (const RecordingEntry& entry : m_arrIcloudFiles) {
+        shown.insert(entry.nativeName());
+    }
+    std::vector<RecordingEntry> entries;
+    for (const auto& [name, file] : m_cloudFiles) {
+        if (!shown.contains(name)) {
+            entries.emplace_back();
+            entries.back().setNativeName(name);
+            entries.back().setValue(entrykey::kFilename, pathText(name));
+        }
+    }
+    return entries;
+}
+
+std::filesystem::path RecordingTable::awaitedName(int row) const {
+    const std::vector<RecordingEntry> entries = awaited();
+    const auto index = static_cast<std::size_t>(row) - m_arrIcloudFiles.size();
+    return row >= 0 && index < entries.size() ? entries[index].nativeName() : std::filesystem::path();
+}
+
 void RecordingTable::setSearchText(const QString& text) {
     m_filter.setText(text);
     Q_EMIT outletsChanged();
+    Q_EMIT cloudRowsChanged();
 }
 
 void RecordingTable::reloadTable() {
-    m_tableView.setEntries(m_arrRecordings);
+    RecordingRows rows{m_arrRecordings, m_arrRecordings.size(), m_arrRecordings.size(), {}};
+    if (numberOfSections() > 1) {
+        rows.entries.insert(rows.entries.end(), m_arrIcloudFiles.begin(), m_arrIcloudFiles.end());
+        rows.here = rows.entries.size();
+        for (RecordingEntry& entry : awaited()) {
+            rows.entries.push_back(std::move(entry));
+        }
+        rows.files = m_cloudFiles;
+    }
+    m_tableView.setRows(std::move(rows));
+    Q_EMIT cloudRowsChanged();
     Q_EMIT reloaded();
 }
 

@@ -3,9 +3,11 @@
 #include <QList>
 #include <QObject>
 #include <filesystem>
+#include <map>
 #include <vector>
 
 #include "app/settings/SettingsStore.h"
+#include "cloud/CloudConnection.h"
 #include "library/RecordingFilterModel.h"
 #include "library/RecordingListModel.h"
 #include "library/RecordingLister.h"
@@ -13,8 +15,8 @@
 
 namespace tavi {
 
-/// The rows of the library screen: the recordings in the documents folder, their order, and the search. Main thread
-/// only.
+/// The rows of the library screen: the recordings in the documents folder, their order, the files of the cloud, and the
+/// search. Main thread only.
 ///
 /// There is no index: the list is the folder, read again whenever it is asked for. Rows change their places then, and
 /// who means a recording keeps its name.
@@ -24,6 +26,8 @@ class RecordingTable : public QObject {
     Q_PROPERTY(tavi::ButtonOutlet btnSortDate READ btnSortDate NOTIFY outletsChanged)
     Q_PROPERTY(tavi::ButtonOutlet btnSortSize READ btnSortSize NOTIFY outletsChanged)
     Q_PROPERTY(QAbstractItemModel* tableView READ tableView CONSTANT)
+    /// Whether the search leaves a row of the cloud.
+    Q_PROPERTY(bool showsCloudRows READ showsCloudRows NOTIFY cloudRowsChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY outletsChanged)
 
 public:
@@ -32,6 +36,8 @@ public:
         SettingsStore& settings;
         const AppContainer& container;
         RecordingLister& lister;
+        /// For the files of the cloud.
+        RecordingLister& cloudLister;
         RecordingShapes& shapes;
     };
 
@@ -46,6 +52,7 @@ public:
     /// Shows only rows whose names hold this text, in any case; it changes neither order nor arrRecordings().
     QString searchText() const { return m_filter.text(); }
     void setSearchText(const QString& text);
+    bool showsCloudRows() const;
     /// The local recordings in the order shown, and those of the cloud's folder.
     const std::vector<RecordingEntry>& arrRecordings() const { return m_arrRecordings; }
     const std::vector<RecordingEntry>& arrIcloudFiles() const { return m_arrIcloudFiles; }
@@ -60,6 +67,11 @@ public:
     std::filesystem::path pathOf(int section, int row) const;
     /// The shape of a row's sound, numbers from 0 to 1; empty while it is not known.
     QList<qreal> shapeOf(int section, int row) const;
+    /// What is known of the cloud's files, by native name. Those that are in no row yet have one after the others.
+    void setCloudFiles(std::map<std::filesystem::path, CloudFile> files);
+    const std::map<std::filesystem::path, CloudFile>& cloudFiles() const { return m_cloudFiles; }
+    /// The native name of a row after those of section 1, whose file has not come yet; empty where there is none.
+    std::filesystem::path awaitedName(int row) const;
     /// The row of a native name; -1 where it has none.
     int rowOf(int section, const std::filesystem::path& name) const;
 
@@ -67,6 +79,8 @@ public Q_SLOTS:
     /// Reads the documents folder, sorts as remembered and reloads the table; done when it returns. What cannot be read
     /// shows as an empty list, 0 KB or 00:00.
     void getAlltheFiles();
+    /// The same of the cloud's files, which are not sorted.
+    void getAlltheFilesAndFolderFromDirectoryInIcloud();
     /// Sorts as "Sort" says and stores nothing; where it is no code from 1 to 6 the order stays.
     void setDefaultSortingButton();
     /// Each sorts by its button's state. With a sender, the tapped button, it turns the direction round and stores it
@@ -85,6 +99,7 @@ public:
 
 Q_SIGNALS:
     void outletsChanged();
+    void cloudRowsChanged();
     /// The table has been reloaded; rows may have other places.
     void reloaded();
 
@@ -93,7 +108,9 @@ private:
         return section == 0 ? m_arrRecordings : m_arrIcloudFiles;
     }
     void sortBy(ButtonOutlet& button, int evenCode, const QString& key, const QObject* sender);
-    void durationsArrived();
+    void durationsArrived(RecordingLister& lister, std::vector<RecordingEntry>& entries);
+    void measure(RecordingLister& lister, std::vector<RecordingEntry>& entries);
+    std::vector<RecordingEntry> awaited() const;
 
     Services m_services;
     ButtonOutlet m_btnSortName;
@@ -101,6 +118,7 @@ private:
     ButtonOutlet m_btnSortSize;
     std::vector<RecordingEntry> m_arrRecordings;
     std::vector<RecordingEntry> m_arrIcloudFiles;
+    std::map<std::filesystem::path, CloudFile> m_cloudFiles;
     RecordingListModel m_tableView;
     RecordingFilterModel m_filter;
 };

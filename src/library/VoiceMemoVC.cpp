@@ -21,13 +21,16 @@ std::filesystem::path existing(const std::filesystem::path& path) {
 }  // namespace
 
 VoiceMemoVC::VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player,
-                         RecordingActions& actions, QObject* parent)
-    : QObject(parent), m_services(services), m_table(table), m_player(player), m_actions(actions) {
+                         RecordingActions& actions, CloudSection& cloud, QObject* parent)
+    : QObject(parent), m_services(services), m_table(table), m_player(player), m_actions(actions), m_cloud(cloud) {
     m_services.remoteControl.setDelegate(this);
     connect(&m_table, &RecordingTable::reloaded, this, &VoiceMemoVC::follow);
     connect(&m_actions, &RecordingActions::stopRequested, this, &VoiceMemoVC::stopFile);
     connect(&m_actions, &RecordingActions::reloadRequested, this, &VoiceMemoVC::reloadData);
     connect(&m_actions, &RecordingActions::rowRevealed, this, &VoiceMemoVC::rowRevealed);
+    connect(&m_actions, &RecordingActions::cloudRefreshRequested, &m_cloud, &CloudSection::getCloudDocuments);
+    connect(&m_cloud, &CloudSection::resetRequested, this, &VoiceMemoVC::resetCell);
+    connect(&m_cloud, &CloudSection::reloadRequested, this, &VoiceMemoVC::reloadData);
     connect(&m_player, &PlayerPanel::finished, this, &VoiceMemoVC::audioPlayerDidFinishPlaying);
 }
 
@@ -47,7 +50,9 @@ void VoiceMemoVC::viewDidLoad() {
 void VoiceMemoVC::viewWillAppear() {
     m_cloudHeaderText = m_table.numberOfSections() == 2 ? qtTrId("iCloud Sync Recording's") : QString();
     Q_EMIT outletsChanged();
+    m_cloud.viewWillAppear();
     m_table.getAlltheFiles();
+    m_cloud.listAppeared();
     resetCell();
 }
 
@@ -74,13 +79,13 @@ void VoiceMemoVC::follow() {
 
 void VoiceMemoVC::didSelectRowAtIndexPath(int section, int row) {
     if (row < 0 || row >= m_table.numberOfRowsInSection(section)) {
-        return;
+        return section == 1 ? m_cloud.askFor(m_table.awaitedName(row)) : void();
     }
-    m_section = QString::number(section);
+    const int previous = std::exchange(m_section, QString::number(section)).toInt();
     m_newName.clear();
     m_newRow = -1;
     viewAnimation();
-    if (row != m_selectedIndex) {
+    if (row != m_selectedIndex || section != previous) {
         m_selectRow = row;
         if (m_selectedIndex != -1) {
             teardown();
@@ -111,8 +116,9 @@ QString VoiceMemoVC::playingName() const {
 }
 
 QString VoiceMemoVC::playingDetail() const {
-    const int row = m_player.urlPath().empty() ? -1 : m_table.rowOf(0, m_player.urlPath().filename());
-    const RecordingEntry* entry = m_table.entryOf(0, row);
+    const int section = selectedSection();
+    const int row = m_player.urlPath().empty() ? -1 : m_table.rowOf(section, m_player.urlPath().filename());
+    const RecordingEntry* entry = m_table.entryOf(section, row);
     return entry != nullptr ? RecordingListModel::detailText(*entry) : QString();
 }
 
@@ -138,11 +144,11 @@ void VoiceMemoVC::playAudio(int tag, bool selected) {
     m_player.playOrPause(selected);
 }
 
-void VoiceMemoVC::spacePressed(int row) {
+void VoiceMemoVC::spacePressed(int section, int row) {
     if (m_isPlaying) {
         playAudio(m_selectedIndex, m_player.btnplaypuas().selected);
     } else {
-        didSelectRowAtIndexPath(0, row);
+        didSelectRowAtIndexPath(section, row);
     }
 }
 
@@ -240,7 +246,7 @@ void VoiceMemoVC::notificationPosted(const QString& name, const QVariant& object
 
 void VoiceMemoVC::playRecording(const QString& fileName) {
     const int row = m_table.rowOf(0, nativePath(fileName));
-    if (row >= 0 && row != m_selectedIndex) {
+    if (row >= 0 && (row != m_selectedIndex || selectedSection() != 0)) {
         m_table.setSearchText({});
         didSelectRowAtIndexPath(0, row);
         Q_EMIT rowRevealed(row);

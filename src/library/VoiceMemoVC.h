@@ -3,6 +3,7 @@
 #include <QObject>
 #include <filesystem>
 
+#include "library/CloudSection.h"
 #include "library/LibraryServices.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingActions.h"
@@ -21,6 +22,8 @@ class VoiceMemoVC : public QObject, private RemoteControlDelegate {
     Q_PROPERTY(tavi::RecordingTable* table READ table CONSTANT)
     Q_PROPERTY(tavi::PlayerPanel* player READ player CONSTANT)
     Q_PROPERTY(tavi::RecordingActions* actions READ actions CONSTANT)
+    Q_PROPERTY(tavi::CloudSection* cloud READ cloud CONSTANT)
+    Q_PROPERTY(int selectedSection READ selectedSection NOTIFY selectionChanged)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
     Q_PROPERTY(int selectRow READ selectRow NOTIFY selectionChanged)
     Q_PROPERTY(bool isPlaying READ isPlaying NOTIFY selectionChanged)
@@ -36,7 +39,7 @@ public:
 
     /// All of it must outlive the screen.
     VoiceMemoVC(const Services& services, RecordingTable& table, PlayerPanel& player, RecordingActions& actions,
-                QObject* parent = nullptr);
+                CloudSection& cloud, QObject* parent = nullptr);
     ~VoiceMemoVC() override;
 
     QString title() const { return m_title; }
@@ -46,6 +49,8 @@ public:
     RecordingTable* table() const { return &m_table; }
     PlayerPanel* player() const { return &m_player; }
     RecordingActions* actions() const { return &m_actions; }
+    CloudSection* cloud() const { return &m_cloud; }
+    int selectedSection() const { return m_section.toInt(); }
     /// Row of the expanded recording; -1 for none.
     int selectedIndex() const { return m_selectedIndex; }
     /// Row whose icon is highlighted.
@@ -65,14 +70,15 @@ public:
 public Q_SLOTS:
     void viewDidLoad();
     void viewWillAppear();
-    /// A tap on a row: opens it and plays its recording, or, on the open one, closes it.
+    /// A tap on a row: opens it and plays its recording, or, on the open one, closes it. One whose file has not come is
+    /// asked for again.
     void didSelectRowAtIndexPath(int section, int row);
     /// A press on a play button of that row and state: loads a recording if none is loaded, and plays or pauses.
     void playAudio(int tag, bool selected);
     /// Opens and plays the recording of that file name, wherever it is in the list; nothing where it plays already.
     void playRecording(const QString& fileName);
     /// The space bar: plays or pauses what is loaded; without, plays the recording of a row.
-    void spacePressed(int row);
+    void spacePressed(int section, int row);
     void stopAudio();
     void playerClose();
     /// Slides the player's panel in and out.
@@ -116,6 +122,7 @@ private:
     RecordingTable& m_table;
     PlayerPanel& m_player;
     RecordingActions& m_actions;
+    CloudSection& m_cloud;
     QString m_section;
     int m_selectedIndex = -1;
     /// The native name of the expanded recording.

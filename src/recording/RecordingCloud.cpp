@@ -59,7 +59,8 @@ void RecordingCloud::refreshCloudListAfterSetup() {
 
 void RecordingCloud::iCloudAvailabilityDidChangeToState(bool isAvailable, const QString& /*token*/,
                                                         const std::filesystem::path& /*container*/) {
-    if (!isAvailable) {
+    // Who has just turned it off is told of nothing.
+    if (!isAvailable && m_services.settings.isCloudSyncOn()) {
         m_services.presenter.presentAlert(
             {qtTrId("cloud_unavail"), qtTrId("signin_icloud_account"), {{qtTrId("alert_okay")}}});
     }

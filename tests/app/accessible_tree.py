@@ -1,5 +1,5 @@
 """What a screen reader finds in a program: accessible_tree.py NAME prints its tree, a line an object, without what does not show;
-accessible_tree.py NAME --listen prints what the program announces; with --keep it keeps hold of all objects, seen or not, and for each
+accessible_tree.py NAME --press TEXT presses what shows and is called so; accessible_tree.py NAME --listen prints what the program announces; with --keep it keeps hold of all objects, seen or not, and for each
 line of its input prints what they, and those that are there now, say and offer: a word a line, then an empty one. For Debian's own
 python3, which has pyatspi."""
 
@@ -87,6 +87,11 @@ if "--keep" in sys.argv:
     for _ in sys.stdin:
         said = {word for one in [*kept, *walk(tavi)] for word in words(one)} - {""}
         print(*sorted(said), "", sep="\n", flush=True)
+elif "--press" in sys.argv:
+    called = sys.argv[-1]
+    shown = [one for one in walk(application(sys.argv[1])) if one.name == called and one.getState().contains(pyatspi.STATE_SHOWING)]
+    actions = [one.queryAction() for one in shown if "Action" in one.get_interfaces()]
+    sys.exit(0 if actions and actions[-1].doAction(0) else f"{called} cannot be pressed")
 elif "--listen" in sys.argv:
     pyatspi.Registry.registerEventListener(lambda event: print(event.any_data, flush=True), "object:announcement")
     print("listening", flush=True)

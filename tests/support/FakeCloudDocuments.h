@@ -15,7 +15,14 @@ public:
     void setDelegate(CloudDelegate* newDelegate) override { m_delegate = newDelegate; }
     CloudDelegate* delegate() const override { return m_delegate; }
     void setVerboseLogging(bool isVerbose) override { isVerboseLogging = isVerbose; }
-    void setupiCloudDocumentSyncWithUbiquityContainer(const QString&) override { ++setups; }
+    void setupiCloudDocumentSyncWithUbiquityContainer(const QString&) override {
+        ++setups;
+        m_runLoop.dispatchMain([this] {
+            if (m_delegate != nullptr && hasAccount) {
+                m_delegate->iCloudDidFinishInitializingWitUbiquityToken(QStringLiteral("account"), "/cloud");
+            }
+        });
+    }
     bool quickCloudCheck() const override { return hasAccount; }
     void updateFiles() override { ++updates; }
     std::optional<std::vector<std::filesystem::path>> listCloudFiles() override {

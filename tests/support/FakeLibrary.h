@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/VoiceMemoVC.h"
+#include "support/FakeCloudConnection.h"
 #include "support/FakeServices.h"
 #include "support/FakeSharing.h"
 
@@ -13,11 +14,14 @@ struct FakeLibrary {
     Presenter& presenter;
     Notices& notices;
 
+    FakeCloudConnection connection{fakes.runLoop};
+    FakeReachability reachability{};
     RecordingLister lister{lengths, fakes.runLoop};
+    RecordingLister cloudLister{lengths, fakes.runLoop};
     RecordingShapes shapes{fakes.files, fakes.runLoop};
     WaveformLoader waveforms{{fakes.files, fakes.converters, fakes.runLoop}};
     PlayerPanel player{{fakes.players, fakes.session, fakes.remote, fakes.settings, notices, fakes.runLoop, waveforms}};
-    RecordingTable table{{fakes.settings, fakes.container, lister, shapes}};
+    RecordingTable table{{fakes.settings, fakes.container, lister, cloudLister, shapes}};
     FakeTrash trash{fakes.container.root() / ".Trash"};
     FakeDocumentInteraction documents{};
     FakeDocumentPicker picker{};
@@ -29,7 +33,9 @@ struct FakeLibrary {
                                notices, fakes.runLoop, fakes.cloud}};
     RecordingActions actions{{table, fakes.settings, fakes.cloud, sharing, trash, fakes.trimmers, audioTrims, presenter,
                               notices, fakes.runLoop}};
-    VoiceMemoVC vc{{fakes.settings, fakes.notifications, fakes.remote, notices, fakes.cloud}, table, player, actions};
+    CloudSection section{
+        {fakes.cloud, connection, table, fakes.settings, fakes.container, fakes.runLoop, presenter, reachability}};
+    VoiceMemoVC vc{{fakes.settings, fakes.notifications, fakes.remote, notices}, table, player, actions, section};
 };
 
 }  // namespace tavi::test

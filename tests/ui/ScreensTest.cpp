@@ -79,6 +79,32 @@ void showLibrary(Shell& shell) {
     shell.runLoop.advance(1.0);
 }
 
+void showCloud(Shell& shell) {
+    shell.settings.setCloudSyncOn(true);
+    shell.connection.place.kind = CloudAccount::Kind::Folder;
+    for (const char* name : {"Walk along the river.mp4", "Shopping list.caf"}) {
+        shell.container.addDocument(name, QByteArray(560'000, 'x'));
+    }
+    const std::map<std::filesystem::path, CloudFile> files{
+        {"Team call, Monday.m4a", {CloudFile::State::Sending, false, 0.42}},
+        {"2026_Nov_22_18_04_51.m4a", {CloudFile::State::Waiting}},
+        {"Harbour meeting.m4a", {CloudFile::State::There}},
+        {"Choir rehearsal (conflict 2026-11-12 Phone).wav", {CloudFile::State::There, true}},
+        {"Grandfather tells of 1958.m4a", {CloudFile::State::OnlyThere}},
+        {"On its way with a very long name that nobody reads.wav", {CloudFile::State::Arriving}}};
+    for (const auto& [name, file] : files) {
+        if (file.state != CloudFile::State::OnlyThere && file.state != CloudFile::State::Arriving) {
+            shell.cloud.files[name] = std::string(900'000, 'x');
+        }
+    }
+    shell.library.viewWillAppear();
+    shell.runLoop.advance(1.0);
+    shell.connection.known = files;
+    Q_EMIT shell.connection.filesChanged();
+    shell.runLoop.advance(1.0);
+    shell.settle();
+}
+
 void play(Shell& shell) {
     showLibrary(shell);
     shell.players.seconds[shell.table.arrRecordings().at(5).nativeName()] = 245.0;
@@ -139,6 +165,15 @@ const State kStates[] = {
     {"unplayable", 1, "This file cannot be played|no btnplaypuas|no backSkip|no forwardSkip|no btnSlow",
      [](Shell& s) { showLibrary(s), s.library.didSelectRowAtIndexPath(0, 1), s.settleFor(700); }},
     {"found", 1, "", [](Shell& s) { showLibrary(s), s.table.setSearchText(QStringLiteral("1")); }},
+    {"cloud", 1,
+     "Cloud Recordings|Sending, 42 %|Waiting to be sent|Only in the cloud. Tap to fetch it|On its way. Tap to ask "
+     "again|"
+     "Another version. Both are kept|!Refreshing the cloud recordings",
+     showCloud},
+    {"cloudRefresh", 1, "Refreshing the cloud recordings",
+     [](Shell& s) { showCloud(s), s.cloud.hasAccount = true, s.key(Qt::Key_End), s.key(Qt::Key_F5); }},
+    {"cloudEmpty", 1, "Cloud Recordings|No recordings yet",
+     [](Shell& s) { s.settings.setCloudSyncOn(true), s.library.viewWillAppear(); }},
     {"menu", 1, "Trim to M4A|Rename|Upload to a drive", [](Shell& s) { showLibrary(s), s.tap("more"); }},
     {"rowSheet", 1, "Trim|!Trim to M4A",
      [](Shell& s) { showLibrary(s), s.key(Qt::Key_Down), s.key(Qt::Key_F10, Qt::ShiftModifier); }},
@@ -174,6 +209,33 @@ const State kStates[] = {
      }},
     {"settings", 2, "Rate This App|More Apps|Report a Problem|Done", {}},
     {"settingsEnd", 2, "", [](Shell& s) { s.settle(), s.item("reportBug")->forceActiveFocus(Qt::TabFocusReason); }},
+    {"cloudPlace", 2, "Where is your cloud?|A WebDAV server|!Disconnect",
+     [](Shell& s) { s.settle(), s.tap("icloud"); }},
+    {"cloudServer", 2, "Connect|Password|!Disconnect",
+     [](Shell& s) {
+         s.settle(), s.tap("icloud"), s.tap("cloudServer"),
+             s.item("cloudAddress")->setProperty("text", QStringLiteral("https://c.example/dav/"));
+         s.connection.answer = failure(QStringLiteral("The server refuses the user or the password."));
+         s.fakeLibrary.reachability.flags = ReachabilityFlags{.reachable = true};
+         s.tap("cloudConnect"), s.runLoop.drain();
+     }},
+    {"cloudConnecting", 2, "Testing the connection…",
+     [](Shell& s) {
+         s.settle(), s.tap("icloud"), s.cloudPage.connectToServer(QStringLiteral("http://localhost/"), {}, {});
+     }},
+    {"cloudAccount", 2, "Sync Now|Disconnect|https://cloud.example.org/remote.php/dav/files/anna/Recordings/, as anna",
+     [](Shell& s) {
+         s.connection.place = CloudAccount::server(
+             QStringLiteral("https://cloud.example.org/remote.php/dav/files/anna/Recordings"), QStringLiteral("anna"));
+         s.connection.how = {CloudCondition::State::Troubled, QDateTime({2026, 11, 23}, {19, 30}),
+                             QStringLiteral("The server is full. What waits is sent once there is room."), 0};
+         s.settings.setCloudSyncOn(true), s.settingVC.loadData(), s.cloudPage.open();
+     }},
+    {"cloudFolder", 2, "Choose the Cloud Folder|Folder above|!Name",
+     [](Shell& s) {
+         std::filesystem::create_directories(s.container.root() / "Synced");
+         s.settle(), s.tap("icloud"), s.tap("cloudFolder"), s.runLoop.drain();
+     }},
     {"rating", 0, "Do You Like This Recorder?|No, Thanks|Rate It Now|Ask Me Later",
      [](Shell& s) {
          s.rating.store.setStoreIdentifier(QStringLiteral("com.example.store"));
@@ -402,6 +464,7 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
     Shell shell;
     shell.tabBar.setSelectedIndex(2);
     shell.settle();
+    shell.connection.place.kind = CloudAccount::Kind::Folder;
     shell.tap("icloud");
     EXPECT_TRUE(shell.settings.isCloudSyncOn());
     EXPECT_TRUE(shell.item("icloud")->property("checked").toBool());

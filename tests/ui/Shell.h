@@ -177,13 +177,15 @@ struct ShellScreens : FakeServices {
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
+    FakeCloudConnection& connection = fakeLibrary.connection;
     RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
     FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
     SupportRows supportRows{{rating.rater, rating.urlOpener, fakeRecording.mail, notices, settings, session}};
     FakeSecureStore keychain;
     LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
-    SettingVC settingVC{{settings, formatHold, runLoop, presenter, tabBar, supportRows, passcode}};
+    CloudPage cloudPage{{connection, savePanel, presenter, fakeLibrary.reachability}};
+    SettingVC settingVC{{settings, formatHold, runLoop, presenter, tabBar, supportRows, passcode, cloudPage}};
     FakeApplication application;
     FakeIdleTimer idleTimer;
     AppDelegate delegate{{application, idleTimer, settings, defaults, container, session, tabBar, recording, imports,

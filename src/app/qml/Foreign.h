@@ -2,6 +2,7 @@
 
 #include <QtQml/qqml.h>
 
+#include "app/CloudPage.h"
 #include "app/SettingVC.h"
 #include "app/SupportRows.h"
 
@@ -11,6 +12,13 @@ struct SettingVCForeign {
     Q_GADGET
     QML_FOREIGN(tavi::SettingVC)
     QML_NAMED_ELEMENT(SettingVC)
+    QML_UNCREATABLE("The program has one.")
+};
+
+struct CloudPageForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::CloudPage)
+    QML_NAMED_ELEMENT(CloudPage)
     QML_UNCREATABLE("The program has one.")
 };
 

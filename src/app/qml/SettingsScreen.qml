@@ -24,6 +24,7 @@ FocusScope {
         id: table
 
         anchors.fill: parent
+        visible: !account.active
         contentHeight: rows.height + root.footRoom
         clip: true
         boundsBehavior: Flickable.StopAtBounds
@@ -114,13 +115,34 @@ FocusScope {
                 text: root.screen.headerTexts[3] ?? ""
             }
 
-            TSwitch {
-                objectName: "icloud"
-                imageName: "12.png"
+            Item {
                 width: parent.width
-                text: root.screen.iCloundText
-                on: root.screen.isCloudSyncOn
-                onTurned: on => root.screen.hideShowiClound(on)
+                height: cloudRow.height
+
+                TSwitch {
+                    id: cloudRow
+
+                    objectName: "icloud"
+                    imageName: "12.png"
+                    width: parent.width - cloudDetails.width
+                    rightPadding: 0
+                    text: root.screen.iCloundText
+                    on: root.screen.isCloudSyncOn
+                    onTurned: on => root.screen.hideShowiClound(on)
+                }
+
+                IconButton {
+                    id: cloudDetails
+
+                    anchors.right: parent.right
+                    height: parent.height
+                    objectName: "cloudDetails"
+                    imageName: "chevron-right.png"
+                    imageSize: 16
+                    tint: Theme.light
+                    name: qsTrId("cloud_details")
+                    onClicked: root.screen.cloud.open()
+                }
             }
 
             SectionHeader {
@@ -206,5 +228,27 @@ FocusScope {
 
     ScrollMark {
         flickable: table
+        visible: table.visible
+    }
+
+    Loader {
+        id: account
+
+        property bool wasOpen: false
+
+        anchors.fill: parent
+        active: root.screen.cloud.isOpen
+        focus: active
+        sourceComponent: AccountPage {
+            page: root.screen.cloud
+            footRoom: root.footRoom
+            focus: true
+        }
+        onLoaded: {
+            wasOpen = true
+            forceActiveFocus(Qt.OtherFocusReason)
+        }
+        // Back to where it was asked for.
+        onActiveChanged: if (!active && wasOpen) cloudRow.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QtQml/qqml.h>
 
+#include "library/CloudSection.h"
 #include "library/PlayerPanel.h"
 #include "library/RecordingActions.h"
 #include "library/RecordingImport.h"
@@ -15,6 +16,13 @@ struct VoiceMemoVCForeign {
     QML_FOREIGN(tavi::VoiceMemoVC)
     QML_NAMED_ELEMENT(VoiceMemoVC)
     QML_UNCREATABLE("The program has one.")
+};
+
+struct CloudSectionForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::CloudSection)
+    QML_NAMED_ELEMENT(CloudSection)
+    QML_UNCREATABLE("The library screen has one.")
 };
 
 struct RecordingActionsForeign {

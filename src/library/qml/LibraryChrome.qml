@@ -8,6 +8,8 @@ FocusScope {
 
     required property VoiceMemoVC screen
     required property bool isEmpty
+    /// Of the section that is below.
+    required property string sectionText
     readonly property PlayerPanel player: screen.player
     readonly property int titleHeight: 44
     /// The search has been unfolded, or still hides recordings.
@@ -120,7 +122,7 @@ FocusScope {
 
         y: root.titleHeight + 44
         width: parent.width
-        text: root.screen.headerText
+        text: root.sectionText
         textColor: Theme.light
     }
 }

@@ -34,7 +34,7 @@ FocusScope {
         const loaded = root.screen.isPlaying
         event.accepted = true
         if (event.key === Qt.Key_Space && (loaded || list.currentItem))
-            root.screen.spacePressed(list.currentItem ? list.currentItem.row : -1)
+            root.screen.spacePressed(list.currentItem ? list.currentItem.section : 0, list.currentItem ? list.currentItem.row : -1)
         else if (event.key === Qt.Key_J && loaded)
             root.player.backSkip()
         else if (event.key === Qt.Key_L && loaded)
@@ -55,6 +55,20 @@ FocusScope {
         sequence: "Ctrl+F"
         enabled: root.visible && root.activeFocus
         onActivated: chrome.search()
+    }
+
+    Repeater {
+        model: ["F5", "Ctrl+R"]
+
+        Item {
+            required property string modelData
+
+            Shortcut {
+                sequence: modelData
+                enabled: root.visible && root.activeFocus && root.screen.cloud.canRefresh
+                onActivated: root.screen.cloud.refresh()
+            }
+        }
     }
 
     Connections {
@@ -84,6 +98,7 @@ FocusScope {
             height: implicitHeight
             screen: root.screen
             isEmpty: list.count === 0
+            sectionText: list.isCloudOnTop ? root.screen.cloudHeaderText : root.screen.headerText
             onLeave: list.forceActiveFocus(Qt.OtherFocusReason)
         }
 
@@ -100,6 +115,28 @@ FocusScope {
         ScrollMark {
             flickable: list
             coveredTop: chrome.y + chrome.height
+        }
+
+        Rectangle {
+            readonly property real shown: root.screen.cloud.isRefreshing ? 1 : Math.min(1, list.pulled / list.pullLength)
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: chrome.y + chrome.height + 8
+            width: 44
+            height: 44
+            radius: 22
+            visible: shown > 0
+            opacity: shown
+            color: Theme.panel
+            border.color: Theme.control
+            Accessible.role: Accessible.ProgressBar
+            Accessible.name: qsTrId("cloud_refreshing")
+
+            ProgressRing {
+                anchors.centerIn: parent
+                width: 28
+                height: 28
+            }
         }
 
         EmptyState {

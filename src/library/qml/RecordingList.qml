@@ -19,6 +19,14 @@ ListView {
     readonly property bool isFrameShown: activeFocus && isByKey
     /// What is dragged to other programs.
     readonly property alias carried: carried
+    /// What is below the chrome are the cloud's rows.
+    readonly property bool isCloudOnTop: {
+        const item = count > 0 ? itemAt(width / 2, contentY + stayingHeight) : null
+        return item !== null && item.section === 1
+    }
+    /// How far the list has to be pulled for a refresh, and is.
+    readonly property real pullLength: 64
+    readonly property real pulled: Math.max(0, -scrolled)
 
     /// When a tap has last opened a row, in milliseconds.
     property real opened: 0
@@ -43,7 +51,7 @@ ListView {
 
     function play() {
         if (currentItem)
-            screen.didSelectRowAtIndexPath(0, currentItem.row)
+            screen.didSelectRowAtIndexPath(currentItem.section, currentItem.row)
     }
 
     /// What a key does with the current row; false where it is none of these.
@@ -76,7 +84,8 @@ ListView {
     focus: true
     activeFocusOnTab: true
     reuseItems: true
-    boundsBehavior: Flickable.StopAtBounds
+    boundsBehavior: screen.cloud.canRefresh ? Flickable.DragOverBounds : Flickable.StopAtBounds
+    onDragEnded: if (pulled >= pullLength) screen.cloud.refresh()
     // The mark of the current row jumps: nothing here moves by itself.
     highlightMoveDuration: 0
     highlightResizeDuration: 0
@@ -93,9 +102,28 @@ ListView {
     footer: SectionHeader {
         width: list.width
         height: visible ? implicitHeight : 0
-        visible: text !== ""
+        visible: text !== "" && !list.screen.table.showsCloudRows
         text: list.screen.cloudHeaderText
         textColor: Theme.light
+    }
+    section.property: "section"
+    // The list itself hides and shows the outer item.
+    section.delegate: Item {
+        // That of the first section stays above the list. The list hands the section over by its context: it has a property of
+        // that name itself.
+        readonly property bool isShown: section === "1"
+
+        width: list.width
+        height: isShown ? header.implicitHeight : 0
+
+        SectionHeader {
+            id: header
+
+            width: parent.width
+            visible: parent.isShown
+            text: list.screen.cloudHeaderText
+            textColor: Theme.light
+        }
     }
     delegate: RecordingRow {
         screen: list.screen

@@ -11,18 +11,46 @@ Item {
     required property string nameText
     required property string detailText
     required property var shape
-    /// The row of the table, which a search may show elsewhere.
+    /// The row of its section of the table, which a search may show elsewhere.
     required property int row
+    required property int section
+    /// Whether its file is here, where it is in the cloud, and how much of it has been sent or has arrived.
+    required property bool isHere
+    required property string cloudState
+    required property real progress
     required property VoiceMemoVC screen
-    readonly property bool expanded: screen.selectedIndex === row
+    readonly property bool expanded: screen.selectedIndex === row && screen.selectedSection === section
     /// In the player, or made just now.
-    readonly property bool chosen: expanded || screen.newRow === row
+    readonly property bool chosen: expanded || section === 0 && screen.newRow === row
     readonly property bool narrow: width < 360
+    readonly property string stateImage: ({
+            waiting: "cloud-wait",
+            sending: "cloud-send",
+            there: "cloud-there",
+            only: "cloud-only",
+            arriving: "cloud-only",
+            conflict: "cloud-conflict"
+        })[cloudState] ?? ""
+    readonly property string stateText: {
+        if (cloudState === "sending")
+            return qsTrId("cloud_row_sending").arg(Math.round(progress * 100))
+        return ({
+                waiting: qsTrId("cloud_row_waiting"),
+                only: qsTrId("cloud_row_only"),
+                arriving: qsTrId("cloud_row_arriving"),
+                conflict: qsTrId("cloud_row_conflict")
+            })[cloudState] ?? ""
+    }
+    readonly property color stateColor: cloudState === "conflict" ? Theme.amber : ["waiting", "there"].includes(cloudState) ? Theme.label : Theme.light
+    readonly property string said: expanded ? detailText + " | " + (screen.player.isPlayerPlaying ? qsTrId("a11y_row_playing") : qsTrId("a11y_row_paused"))
+                                     : detailText
+    /// What is going on or wanted has a line of its own.
+    readonly property bool hasStateLine: isHere && stateText !== ""
 
     /// The recording that the next action is about.
     function aim() {
         ListView.view.currentIndex = index
-        screen.actions.aim("0", row, mapToItem(null, 0, 0, width, height))
+        screen.actions.aim(String(section), row, mapToItem(null, 0, 0, width, height))
     }
 
     /// The second way to the actions, at a point of the row.
@@ -51,17 +79,16 @@ Item {
     }
 
     width: ListView.view.width
-    height: narrow ? 60 : 64
+    height: (narrow ? 60 : 64) + (hasStateLine ? 16 : 0)
     // A row that waits to be used again is nowhere.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
     Accessible.role: Accessible.ListItem
     Accessible.name: nameText
-    Accessible.description: expanded ? detailText + " | " + (screen.player.isPlayerPlaying ? qsTrId("a11y_row_playing") : qsTrId("a11y_row_paused"))
-                                     : detailText
+    Accessible.description: [said, stateText || (cloudState === "there" ? qsTrId("cloud_row_there") : "")].filter(text => text !== "").join(" | ")
     Accessible.selectable: true
     Accessible.selected: chosen
-    Accessible.onPressAction: screen.didSelectRowAtIndexPath(0, row)
+    Accessible.onPressAction: screen.didSelectRowAtIndexPath(section, row)
 
     Rectangle {
         anchors.fill: parent
@@ -86,7 +113,7 @@ Item {
 
         onTapped: {
             if (root.ListView.view.take(root.index))
-                root.screen.didSelectRowAtIndexPath(0, root.row)
+                root.screen.didSelectRowAtIndexPath(root.section, root.row)
         }
         // Who drags a row holds it for long, too.
         onLongPressed: if (!pull.active) root.ask(point.position)
@@ -117,7 +144,7 @@ Item {
         id: tile
 
         x: Theme.margin
-        y: 10
+        y: (root.height - height) / 2
         width: 44
         height: 44
         visible: !root.narrow
@@ -140,7 +167,7 @@ Item {
 
         x: root.narrow ? Theme.margin : tile.x + tile.width + 12
         y: root.narrow ? 8 : 10
-        width: more.x - x
+        width: (cloud.visible ? cloud.x - Theme.gap : more.x) - x
         height: 23
         text: root.nameText
         font.pixelSize: 16
@@ -156,12 +183,53 @@ Item {
         y: name.y + name.height
         width: name.width
         height: 19
-        text: root.detailText
+        text: root.isHere ? root.detailText : root.stateText
+        color: root.isHere ? Theme.label : root.stateColor
         font.pixelSize: 13
         // The times stay, the size goes first.
         elide: Text.ElideLeft
         maximumLineCount: 1
         horizontalAlignment: Text.AlignLeft
+    }
+
+    Row {
+        x: name.x
+        y: name.y + name.height + 19
+        height: 16
+        spacing: Theme.gap
+        visible: root.hasStateLine
+
+        Label {
+            height: parent.height
+            width: Math.min(implicitWidth, name.width - (bar.visible ? bar.width + parent.spacing : 0))
+            text: root.stateText
+            color: root.stateColor
+            font.pixelSize: Theme.textCaption
+            elide: Text.ElideRight
+        }
+
+        ProgressBar {
+            id: bar
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(88, name.width / 3)
+            implicitHeight: 4
+            visible: root.cloudState === "sending"
+            name: root.stateText
+            value: root.progress
+        }
+    }
+
+    Icon {
+        id: cloud
+
+        anchors.right: more.left
+        anchors.verticalCenter: parent.verticalCenter
+        width: 22
+        height: 22
+        visible: root.stateImage !== ""
+        name: root.stateImage
+        color: root.stateColor
     }
 
     IconButton {
@@ -170,6 +238,7 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         objectName: "more"
+        visible: root.isHere
         imageName: "more.png"
         tint: Theme.light
         name: qsTrId("a11y_more").arg(root.nameText)

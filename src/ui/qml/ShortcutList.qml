@@ -22,6 +22,7 @@ FocusScope {
         [ctrl("C"), qsTrId("shortcut_copy")],
         [ctrl("E"), qsTrId("shortcut_export")],
         [qsTrId("key_menu"), qsTrId("shortcut_menu")],
+        ["F5 " + ctrl("R"), qsTrId("shortcut_refresh")],
         ["+ −", qsTrId("shortcut_zoom")],
         [qsTrId("key_escape"), qsTrId("shortcut_close")],
         ["? F1", qsTrId("shortcut_list")],

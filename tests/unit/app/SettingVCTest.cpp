@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+#include "support/FakeCloudConnection.h"
 #include "support/FakeSecureStore.h"
 #include "support/FakeServices.h"
+#include "support/FakeSharing.h"
 #include "support/FakeSupport.h"
 
 namespace tavi::test {
@@ -61,7 +63,11 @@ struct SettingVCTest : ::testing::Test, FakeServices {
     FakeSecureStore keychain;
     LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
-    SettingVC::Services services{settings, formatHold, runLoop, presenter, tabBar, support, passcode};
+    FakeCloudConnection connection{runLoop};
+    FakeDocumentPicker picker;
+    FakeReachability reachability;
+    CloudPage page{{connection, picker, presenter, reachability}};
+    SettingVC::Services services{settings, formatHold, runLoop, presenter, tabBar, support, passcode, page};
     SettingVC vc{services};
     std::string told;
 };
@@ -173,6 +179,7 @@ TEST_F(SettingVCTest, TypeAndQualityWaitForTheEndOfARecording) {
 }
 
 TEST_F(SettingVCTest, SwitchesAreStoredNegated) {
+    connection.place.kind = CloudAccount::Kind::Folder;
     for (const bool on : {true, false, true}) {
         writes();
         vc.hideShowiClound(on);
@@ -181,6 +188,74 @@ TEST_F(SettingVCTest, SwitchesAreStoredNegated) {
         EXPECT_EQ(defaults.boolForKey(QStringLiteral("Iclound")), !on);
         EXPECT_EQ(defaults.boolForKey(QStringLiteral("QuickMail")), !on);
         EXPECT_EQ((std::pair{vc.isCloudSyncOn(), vc.isQuickMailOn()}), (std::pair{on, on}));
+    }
+    EXPECT_EQ(connection.asked, std::vector<std::string>(3, "settings"));
+}
+
+TEST_F(SettingVCTest, TheCloudsSwitchAsksWhereItIsAndGoesOnOnceThereIsOne) {
+    settings.setCloudSyncOn(false);
+    writes();
+    vc.hideShowiClound(true);
+    EXPECT_TRUE(page.isOpen());
+    EXPECT_EQ(writes(), "");
+    const struct {
+        const char* address;
+        bool hasNetwork;
+        /// The last alert; "!" where it is agreed to.
+        const char* alert;
+        const char* asked;
+        Result<void> answer;
+    } attempts[] = {
+        {"https://a.example/d", false, "Network Error", "", {}},
+        {"https://a.example/d", true, "", "connect me@https://a.example/d/ secret", failure(QStringLiteral("no"))},
+        {"http://localhost/d", false, "", "connect me@http://localhost/d/ secret", failure(QStringLiteral("no"))},
+        {"http://a.example/d", true, "cloud_clear_title", "", {}},
+        {"http://a.example/d", true, "cloud_clear_title!", "connect me@http://a.example/d/ secret", {}},
+    };
+    for (const auto& [address, hasNetwork, alert, asked, answer] : attempts) {
+        SCOPED_TRACE(address);
+        connection.asked = {""};
+        presenter.alerts = {{QStringLiteral("Wort "), {}, {}}};
+        connection.answer = answer;
+        reachability.flags = ReachabilityFlags{.reachable = hasNetwork};
+        page.connectToServer(QLatin1String(address), QStringLiteral("me"), QStringLiteral("secret"));
+        const bool isAgreed = QLatin1String(alert).endsWith(QLatin1Char('!'));
+        EXPECT_EQ(presenter.alerts.back().title.mid(5) + QLatin1String(isAgreed ? "!" : ""), QLatin1String(alert));
+        isAgreed ? presenter.alerts.back().actions.back().handler() : void();
+        EXPECT_EQ(page.isConnecting(), *asked != 0);
+        EXPECT_EQ(connection.asked.back(), asked);
+        runLoop.drain();
+        EXPECT_FALSE(page.isConnecting());
+        EXPECT_EQ(page.errorText(), answer ? QString() : QStringLiteral("no"));
+        EXPECT_EQ(settings.isCloudSyncOn(), isAgreed);
+    }
+    EXPECT_TRUE(vc.isCloudSyncOn());
+
+    // It asks by itself once, however often it is said that files have vanished.
+    presenter.alerts.clear();
+    connection.how = {CloudCondition::State::Asking, {}, {}, 7};
+    Q_EMIT connection.conditionChanged();
+    Q_EMIT connection.conditionChanged();
+    ASSERT_EQ(presenter.alerts.size(), 1U);
+    presenter.alerts.back().actions[1].handler();
+    presenter.alerts.back().actions[2].handler();
+    EXPECT_EQ((std::vector(connection.asked.end() - 2, connection.asked.end())),
+              (std::vector<std::string>{"vanished no", "vanished yes"}));
+
+    page.disconnectAccount();
+    EXPECT_TRUE(page.hasAccount());
+    presenter.alerts.back().actions[1].handler();
+    EXPECT_FALSE(page.hasAccount() || page.isOpen() || vc.isCloudSyncOn() || settings.isCloudSyncOn());
+
+    // A folder is asked for in a dialog; an answer to an attempt that was given up is none.
+    for (const bool isGivenUp : {true, false}) {
+        picker.answer = std::optional<PickedDocument>({.path = "/cloud"});
+        connection.answer = isGivenUp ? failure(QStringLiteral("late")) : Result<void>();
+        page.askForFolder();
+        isGivenUp ? page.close() : void();
+        runLoop.drain();
+        EXPECT_EQ(page.errorText(), QString());
+        EXPECT_EQ(page.placeText(), QLatin1String(isGivenUp ? "" : "/cloud"));
     }
 }
 

@@ -95,7 +95,7 @@ struct World : FakeServices {
 const std::map<std::string, std::function<void(World&, double)>> kActions = {
     {"tap", [](World& w, double row) { w.vc.didSelectRowAtIndexPath(0, static_cast<int>(row)); }},
     {"play", [](World& w, double) { w.vc.playAudio(w.vc.selectedIndex(), w.player.btnplaypuas().selected); }},
-    {"space", [](World& w, double row) { w.vc.spacePressed(static_cast<int>(row)); }},
+    {"space", [](World& w, double row) { w.vc.spacePressed(0, static_cast<int>(row)); }},
     {"trim",
      [](World& w, double row) {
          w.library.actions.aim(QStringLiteral("0"), static_cast<int>(row), {});

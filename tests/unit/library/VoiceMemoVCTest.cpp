@@ -154,7 +154,7 @@ TEST_F(VoiceMemoVCTest, theSearchLeavesWhatHoldsItsTextAndEachRowItsPlace) {
         table.setSearchText(QString::fromUtf8(typed));
         std::string found;
         for (std::size_t i = 0; i < texts(table).size(); ++i) {
-            found += texts(table, RecordingFilterModel::RowRole)[i] + ' ' + texts(table)[i] + ',';
+            found += texts(table, RecordingListModel::RowRole)[i] + ' ' + texts(table)[i] + ',';
         }
         EXPECT_EQ(found, expected) << typed;
         EXPECT_EQ(table.numberOfRowsInSection(0), 4);

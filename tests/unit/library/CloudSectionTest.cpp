@@ -1,0 +1,185 @@
+#include "library/CloudSection.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/FakeLibrary.h"
+
+namespace tavi::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::UnorderedElementsAre;
+using State = CloudFile::State;
+
+class CloudSectionTest : public ::testing::Test, protected FakeServices {
+protected:
+    CloudSectionTest() {
+        settings.setCloudSyncOn(true);
+        cloud.files = {{"a.m4a", "A"}, {"b.m4a", "B"}};
+        library.connection.place.kind = CloudAccount::Kind::Folder;
+        library.vc.viewDidLoad();
+    }
+    void appear() {
+        library.vc.viewWillAppear();
+        settle();
+    }
+    void settle() { runLoop.advance(1.0); }
+    void tell(std::map<std::filesystem::path, CloudFile> known) {
+        library.connection.known = std::move(known);
+        Q_EMIT library.connection.filesChanged();
+        settle();
+    }
+    static void write(const std::filesystem::path& path, const std::string& text) {
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path) << text;
+    }
+    /// Name and contents of what is in a folder.
+    static std::vector<std::string> filesIn(const std::filesystem::path& folder) {
+        std::vector<std::string> found;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            if (entry.is_regular_file()) {
+                std::ifstream file(entry.path());
+                found.push_back(entry.path().filename().string() + ' ' +
+                                std::string(std::istreambuf_iterator(file), {}));
+            }
+        }
+        return found;
+    }
+    /// Section, row, name and state of every row.
+    std::vector<std::string> rows() {
+        std::vector<std::string> all;
+        const QAbstractItemModel& model = *library.table.tableView();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QString text;
+            for (const int role : {RecordingListModel::SectionRole, RecordingListModel::RowRole,
+                                   RecordingListModel::NameTextRole, RecordingListModel::CloudStateRole}) {
+                text += model.index(row, 0).data(role).toString() + QLatin1Char(' ');
+            }
+            const bool isHere = model.index(row, 0).data(RecordingListModel::IsHereRole).toBool();
+            all.push_back((isHere ? text.trimmed() : text.trimmed() + QLatin1Char('?')).toStdString());
+        }
+        return all;
+    }
+
+    FakePresenter presenter;
+    FakeLibrary library{*this, durations, presenter, notices};
+    const std::filesystem::path recordings = container.documentsPath();
+    const std::filesystem::path cache = recordings / "ICloud";
+};
+
+TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRecordings) {
+    write(cache / "mine.m4a", "mine");
+    write(cache / "a.m4a", "mine, too");
+    write(recordings / "mine.m4a", "local");
+    for (int times = 0; times < 2; ++times) {
+        appear();
+        EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));
+        EXPECT_THAT(filesIn(recordings), UnorderedElementsAre("mine.m4a local", "mine_2.m4a mine", "a.m4a mine, too"));
+    }
+    EXPECT_EQ((std::pair{library.table.numberOfRowsInSection(0), library.table.numberOfRowsInSection(1)}),
+              (std::pair{3, 2}));
+    // A copy that somebody has changed since is the user's; what a killed refresh was writing is nobody's.
+    write(cache / "b.m4a", "changed");
+    write(cache / ".tavi-unfinished-0123456789abcdef", "half");
+    FakeLibrary next{*this, durations, presenter, notices};
+    next.vc.viewWillAppear();
+    settle();
+    EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));
+    EXPECT_THAT(filesIn(recordings), ::testing::Contains("b.m4a changed"));
+    EXPECT_EQ(filesIn(recordings).size(), 4U);
+
+    // A pull fetches what is listed, and what no longer is goes.
+    cloud.files = {{"c.m4a", "C"}, {"a.m4a", "A2"}};
+    next.section.refresh();
+    settle();
+    EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A2", "c.m4a C"));
+    EXPECT_FALSE(next.section.isRefreshing());
+    EXPECT_EQ(filesIn(recordings).size(), 4U);
+    // Without a list everything stays.
+    cloud.hasAccount = false;
+    next.vc.viewWillAppear();
+    settle();
+    EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A2", "c.m4a C"));
+}
+
+TEST_F(CloudSectionTest, EveryFileOfTheCloudHasARowThatSaysHowItIsAndATapAsksAgain) {
+    write(recordings / "local.m4a", "L");
+    appear();
+    tell({{"a.m4a", {State::Sending, false, 0.42}},
+          {"b.m4a", {State::There, true}},
+          {"far.m4a", {State::OnlyThere}},
+          {"late.m4a", {State::Arriving}}});
+    EXPECT_THAT(rows(),
+                UnorderedElementsAre("0 0 local.m4a", ::testing::AnyOf("1 0 a.m4a sending", "1 1 a.m4a sending"),
+                                     ::testing::AnyOf("1 0 b.m4a conflict", "1 1 b.m4a conflict"), "1 2 far.m4a only?",
+                                     "1 3 late.m4a arriving?"));
+    EXPECT_EQ(library.table.numberOfRowsInSection(1), 2) << "those that are here";
+    for (const int row : {2, 3, 4}) {
+        library.vc.didSelectRowAtIndexPath(1, row);
+    }
+    EXPECT_THAT(library.connection.asked, ElementsAre("download far.m4a", "download late.m4a"));
+    EXPECT_EQ(library.vc.selectedIndex(), -1);
+
+    // What has come is fetched by itself.
+    cloud.files["far.m4a"] = "F";
+    tell({{"far.m4a", {State::There}}, {"a.m4a", {State::There}}, {"b.m4a", {State::There}}});
+    EXPECT_THAT(filesIn(cache), ::testing::Contains("far.m4a F"));
+    library.vc.didSelectRowAtIndexPath(1, library.table.rowOf(1, "far.m4a"));
+    EXPECT_EQ((std::pair{library.vc.selectedSection(), library.vc.selectedIndex()}),
+              (std::pair{1, library.table.rowOf(1, "far.m4a")}));
+    // Once for every file, the cloud says that they have changed.
+    const std::vector<std::filesystem::path> names{"a.m4a", "b.m4a"};
+    cloud.delegate()->iCloudFilesDidChange({}, names);
+    settle();
+    EXPECT_EQ(library.vc.selectedIndex(), -1);
+
+    settings.setCloudSyncOn(false);
+    appear();
+    EXPECT_THAT(rows(), ElementsAre("0 0 local.m4a"));
+    EXPECT_EQ(cloud.delegate(), nullptr);
+}
+
+TEST_F(CloudSectionTest, WhatIsDoneInTheCloudsListIsDoneInTheCloud) {
+    write(recordings / "a.m4a", "local");
+    appear();
+    const auto act = [this](const char* section, const char* name, auto operation) {
+        library.actions.aim(QLatin1String(section), library.table.rowOf(section[0] - '0', name), {});
+        operation();
+        settle();
+    };
+    act("0", "a.m4a", [this] { library.actions.deleteAudio(); });
+    EXPECT_TRUE(cloud.files.contains("a.m4a")) << "only the local file";
+    act("1", "a.m4a", [this] { library.actions.deleteAudio(); });
+    EXPECT_FALSE(cloud.files.contains("a.m4a"));
+    EXPECT_THAT(filesIn(cache), ElementsAre("b.m4a B"));
+    notices.posted.back().action();
+    settle();
+    EXPECT_EQ(cloud.files["a.m4a"], "A");
+    act("1", "b.m4a", [this] {
+        library.actions.kReNameAudio();
+        presenter.alerts.back().actions[0].textHandler(QStringLiteral("talk"));
+    });
+    EXPECT_EQ(cloud.files["talk.m4a"], "B");
+    EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "talk.m4a B"));
+}
+
+TEST_F(CloudSectionTest, ARefreshLooksForTheNetworkFirst) {
+    library.connection.place = CloudAccount::server(QStringLiteral("https://c.example/"), {});
+    appear();
+    for (const bool hasNetwork : {false, true}) {
+        library.reachability.flags = ReachabilityFlags{.reachable = hasNetwork};
+        library.section.refresh();
+        EXPECT_EQ(library.section.isRefreshing(), hasNetwork);
+        EXPECT_EQ(library.connection.asked.size(), hasNetwork ? 1U : 0U);
+        EXPECT_EQ(presenter.alerts.size(), 1U);
+    }
+    cloud.delegate()->iCloudAvailabilityDidChangeToState(false, {}, {});
+    EXPECT_EQ(presenter.alerts.back().title, qtTrId("iCloud not available"));
+    EXPECT_FALSE(library.section.isRefreshing());
+}
+
+}  // namespace
+}  // namespace tavi::test
