@@ -52,7 +52,8 @@ class Lock(test_accessibility.ReaderTest):
         """From the settings, as it is done by keys."""
         self.desktop.keys("ctrl+3")
         self.wait_for_words("heading 'Data Security'")
-        self.desktop.keys(*["Tab"] * 6, "Return")
+        self.wait(lambda: "'Passcode Lock' focused" in self.tree() or self.desktop.keys("Tab"), "the keyboard at the switch")
+        self.desktop.keys("Return")
         self.wait_for_words("Enter a new passcode")
         self.type(digits)
         self.wait_for_words("Enter the new passcode again")
