@@ -31,7 +31,7 @@ def line(one):
         words.append(f"({one.description})")
     try:
         value = one.queryValue()
-        words.append(f"{value.currentValue:g} of {value.minimumValue:g} to {value.maximumValue:g}")
+        words.append(f"{value.currentValue:.4g} of {value.minimumValue:g} to {value.maximumValue:g}")
     except NotImplementedError:
         pass
     words += [word for state, word in TOLD.items() if states.contains(state)]

@@ -45,7 +45,7 @@ class Cloud(test_accessibility.ReaderTest):
 
         self.desktop.keys("ctrl+2")
         self.wait(lambda: self.tree().count(f"'{saved.name}'") == 2 and "In the cloud)" in self.tree(), "both rows")
-        for says, *keys in (("'Rename Recording'", "End", "F2"), ("'talk.m4a'", *"talk", "Return"),
+        for says, *keys in (("'Rename Recording'", "End", "F2"), ("'Actions for talk.m4a'", *"talk", "Return"),
                             ("'Delete Recording'", "End", "Delete")):
             self.desktop.keys(*keys)
             self.wait_for_words(says)
