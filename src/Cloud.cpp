@@ -218,6 +218,11 @@ void Cloud::connectTo(const CloudAccount& account, const QString& password, Comp
                                          });
 }
 
+void Cloud::giveUp() {
+    ++m_attempt;
+    m_probe.reset();
+}
+
 void Cloud::take(const CloudAccount& account, const QString& password) {
     const CloudAccount old = this->account();
     if (old.token() != account.token()) {

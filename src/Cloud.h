@@ -41,6 +41,7 @@ public:
     CloudCondition condition() const override;
     std::map<std::filesystem::path, CloudFile> files() const override;
     void connectTo(const CloudAccount& account, const QString& password, Completion completion) override;
+    void giveUp() override;
     void removeAccount() override;
     void settingsChanged() override;
     void syncNow() override;

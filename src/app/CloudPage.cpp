@@ -51,15 +51,20 @@ void CloudPage::open() {
     Q_EMIT changed();
 }
 
-void CloudPage::close() {
+void CloudPage::giveUp() {
     ++m_attempt;
+    m_isConnecting ? m_services.cloud.giveUp() : void();
+}
+
+void CloudPage::close() {
+    giveUp();
     m_isOpen = m_isServerAsked = m_isConnecting = false;
     m_connectError.clear();
     Q_EMIT changed();
 }
 
 void CloudPage::askForServer(bool isAsked) {
-    ++m_attempt;
+    giveUp();
     m_isServerAsked = isAsked;
     m_isConnecting = false;
     m_connectError.clear();
@@ -159,12 +164,20 @@ void CloudPage::conditionChanged() {
 }
 
 void CloudPage::askAboutVanished() {
-    const auto answer = [self = QPointer(this)](bool areRemoved) {
-        return [self, areRemoved] { self ? self->m_services.cloud.answerVanished(areRemoved) : void(); };
+    const int asked = m_services.cloud.condition().vanished;
+    const auto answer = [self = QPointer(this), asked](bool areRemoved) {
+        return [self, asked, areRemoved] {
+            if (self && self->m_services.cloud.condition().vanished == asked) {
+                self->m_services.cloud.answerVanished(areRemoved);
+            } else if (self && self->isAsking()) {
+                // There are others by now, of which the user knows nothing.
+                self->askAboutVanished();
+            }
+        };
     };
     m_services.presenter.presentAlert(
         {qtTrId("cloud_vanished_title"),
-         qtTrId("cloud_vanished_text").arg(m_services.cloud.condition().vanished),
+         qtTrId("cloud_vanished_text").arg(asked),
          {{qtTrId("cloud_vanished_later"), AlertAction::Style::Cancel},
           {qtTrId("cloud_vanished_keep"), AlertAction::Style::Default, answer(false)},
           {qtTrId("cloud_vanished_remove"), AlertAction::Style::Destructive, answer(true)}}});

@@ -75,6 +75,7 @@ private:
     CloudAccount account() const { return m_services.cloud.account(); }
     void connectTo(const CloudAccount& account, const QString& password);
     void conditionChanged();
+    void giveUp();
     bool mayUseNetwork(const CloudAccount& account) const;
 
     Services m_services;

@@ -77,6 +77,8 @@ public:
     /// comes later, on the main thread, and says clearly what does not work; then all is as it was. Not while another
     /// one is under way: that one is given up, and its completion is not called.
     virtual void connectTo(const CloudAccount& account, const QString& password, Completion completion) = 0;
+    /// Gives up what connectTo() has begun: all stays as it was, and its completion is not called.
+    virtual void giveUp() = 0;
     /// There is no cloud any more: the account and its password go, what is here and there stays.
     virtual void removeAccount() = 0;
     /// The account or the switch may have changed in the settings: off stops, on starts.

@@ -95,7 +95,8 @@ bool waitFor(Companion& companion, Sender& sender, Signal signal, Condition cond
         }
     });
     const auto timer = companion.runLoop.scheduledTimer(kPatience, false, [] { QCoreApplication::exit(EXIT_FAILURE); });
-    const bool isMet = condition() || QCoreApplication::exec() == EXIT_SUCCESS;
+    // A signal to the program ends the loop, too.
+    const bool isMet = condition() || (QCoreApplication::exec() == EXIT_SUCCESS && condition());
     timer->invalidate();
     return isMet;
 }
@@ -106,6 +107,10 @@ int runCommand(Companion& companion, const CompanionLine& line, CompanionCommand
         companion.onState = [] { QCoreApplication::quit(); };
         QCoreApplication::exec();
         companion.onState = {};
+        if (!companion.recorder.isKnown()) {
+            // A signal came first: nothing is asked of the recorder any more.
+            return EXIT_FAILURE;
+        }
     }
     const bool isBySession = companion.channel && isOfSession(*line.channel);
     LocalWatchSession* session = isBySession ? &companion.channel->session() : nullptr;

@@ -39,10 +39,16 @@ bool haveSameDate(const FileIdentity& identity, const struct stat& attributes) {
            identity.nanoseconds == attributes.st_mtim.tv_nsec;
 }
 
+/// Without the device: many file systems have another number after each start of the machine.
+FileIdentity lastingIdentity(struct stat attributes) {
+    attributes.st_dev = 0;
+    return FileIdentity(attributes);
+}
+
 /// Of the entry itself, be it a link.
 std::optional<FileIdentity> identityAt(const std::filesystem::path& path) {
     struct stat attributes = {};
-    return ::lstat(path.c_str(), &attributes) == 0 ? std::optional(FileIdentity(attributes)) : std::nullopt;
+    return ::lstat(path.c_str(), &attributes) == 0 ? std::optional(lastingIdentity(attributes)) : std::nullopt;
 }
 
 bool writeAll(int fd, const FileContents& contents) {
@@ -80,6 +86,7 @@ void CloudCache::read() {
         m_made.emplace();
         std::ifstream file(m_record);
         for (FileIdentity each; file >> each.device >> each.node >> each.size >> each.seconds >> each.nanoseconds;) {
+            each.device = 0;
             m_made->insert(each);
         }
     }
@@ -146,7 +153,7 @@ int CloudCache::write(const std::filesystem::path& name, const FileContents& con
         return errno;
     }
     // Noted before it has its name, so that nobody takes it for the user's own after a kill.
-    const FileIdentity made(attributes);
+    const FileIdentity made = lastingIdentity(attributes);
     if (!(std::ofstream(m_record, std::ios::app) << lineOf(made) << std::flush)) {
         return EIO;
     }

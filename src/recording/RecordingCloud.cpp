@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "cloud/CloudSaving.h"
+#include "cloud/iCloudDocument.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
 
@@ -40,12 +41,13 @@ void RecordingCloud::save(const std::filesystem::path& path) {
     m_services.settings.setCloudPending(path, true);
     saveFileToCloud(m_services.documents, m_services.runLoop, path,
                     [path, &settings = m_services.settings, name = pathText(path.filename())](
-                        const std::shared_ptr<iCloudDocument>&, const FileContents& contents,
+                        const std::shared_ptr<iCloudDocument>& document, const FileContents& contents,
                         const std::optional<CloudError>& error) {
                         if (error) {
                             qCWarning(lcRecording, "iCloud Document save error: %s", qUtf8Printable(errorText(*error)));
                         } else {
-                            settings.setCloudPending(path, false);
+                            // Without the cloud's folder it has gone nowhere but to itself, and is still to go.
+                            settings.setCloudPending(path, document != nullptr && document->fileURL() == path);
                             qCInfo(lcRecording, "iCloud Document, %s, saved with text: %s", qUtf8Printable(name),
                                    qUtf8Printable(contentsText(contents)));
                         }

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "cloud/CloudSaving.h"
+#include "cloud/iCloudDocument.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
 #include "files/PathText.h"
@@ -154,8 +155,11 @@ void AudioTrim::trimAudio() {
 void AudioTrim::saveImagesInIPhone(const Services& services, const std::filesystem::path& path, CloudCut& cut) {
     if (cut.isDue && cut.isComplete && !std::exchange(cut.isSaved, true)) {
         saveFileToCloud(services.cloud, services.runLoop, path,
-                        [path, &settings = services.settings](const auto&, const FileContents&, const auto& error) {
-                            error ? void() : settings.setCloudPending(path, false);
+                        [path, &settings = services.settings](const std::shared_ptr<iCloudDocument>& document,
+                                                              const FileContents&, const auto& error) {
+                            // Without the cloud's folder it has gone nowhere but to itself, and is still to go.
+                            const bool isPending = document != nullptr && document->fileURL() == path;
+                            error ? void() : settings.setCloudPending(path, isPending);
                         });
     }
 }

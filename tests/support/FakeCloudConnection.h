@@ -27,6 +27,7 @@ public:
             completion(answer);
         });
     }
+    void giveUp() override { asked.emplace_back("give up"); }
     void removeAccount() override {
         place = {};
         how = {};

@@ -103,7 +103,7 @@ std::optional<std::filesystem::path> FolderCloud::urlForUbiquityContainerIdentif
         return std::nullopt;
     }
     const auto found =
-        m_thread.within<bool>(kPatience, [container = place.container] { return isContainer(container); });
+        m_finder.within<bool>(kPatience, [container = place.container] { return isContainer(container); });
     return found.value_or(false) ? std::optional(place.container) : std::nullopt;
 }
 

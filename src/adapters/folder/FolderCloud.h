@@ -111,6 +111,8 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     bool m_isLooking = false, m_isAskedAgain = false, m_isTimed = false;
     FolderThread m_thread{m_services.runLoop};
+    /// A long file that is being written says nothing of whether the folder is there.
+    FolderThread m_finder{m_services.runLoop};
 };
 
 }  // namespace tavi

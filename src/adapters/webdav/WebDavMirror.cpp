@@ -97,8 +97,9 @@ void WebDavMirror::run() {
         const QDateTime lastSync = m_journal->lastSync();
         pause = outcome.isInStep ? std::min(pause * 2, kLongestPause) : kShortestPause;
         continued = outcome.isToBeContinued ? continued + 1 : 0;
-        pause = continued > 0 && continued <= kMostContinued ? 0 : pause;
-        pause = std::max(pause, std::min(outcome.retryAfter, kLongestPause));
+        // The next pause is reckoned from the one before, and not from none.
+        const int wait = std::max(continued > 0 && continued <= kMostContinued ? 0 : pause,
+                                  std::min(outcome.retryAfter, kLongestPause));
         // A server that asks to be left alone is, whatever changes here.
         const bool isPatient = outcome.retryAfter > 0;
         update([&] {
@@ -111,7 +112,7 @@ void WebDavMirror::run() {
             ++m_condition.passes;
         });
         lock.lock();
-        if (m_wake.wait_for(lock, std::chrono::seconds(pause),
+        if (m_wake.wait_for(lock, std::chrono::seconds(wait),
                             [&] { return (m_isAsked && !isPatient) || m_hasEnded; })) {
             pause = kShortestPause;
         }

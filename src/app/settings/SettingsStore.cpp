@@ -1,5 +1,7 @@
 #include "app/settings/SettingsStore.h"
 
+#include <QStringList>
+
 namespace tavi {
 
 namespace {
@@ -15,6 +17,11 @@ double secondsOr(const UserDefaults& defaults, QLatin1String key, double fallbac
 QString textOr(const UserDefaults& defaults, QLatin1String key, QLatin1String fallback) {
     const QString stored = defaults.stringForKey(key);
     return stored.isEmpty() ? QString(fallback) : stored;
+}
+
+/// One text for all of them, as settings hold no lists; none of them has a space.
+QStringList pendingTexts(const UserDefaults& defaults) {
+    return defaults.stringForKey(settingskey::kCloudPending).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 }  // namespace
@@ -75,7 +82,7 @@ void SettingsStore::setCloudSyncOn(bool on) {
 
 std::vector<std::filesystem::path> SettingsStore::cloudPending() const {
     std::vector<std::filesystem::path> files;
-    for (const QString& text : m_defaults.objectForKey(settingskey::kCloudPending).toStringList()) {
+    for (const QString& text : pendingTexts(m_defaults)) {
         // Percent signs keep names that are no text.
         files.push_back(QByteArray::fromPercentEncoding(text.toLatin1()).toStdString());
     }
@@ -83,12 +90,12 @@ std::vector<std::filesystem::path> SettingsStore::cloudPending() const {
 }
 
 void SettingsStore::setCloudPending(const std::filesystem::path& file, bool isPending) {
-    QStringList texts = m_defaults.objectForKey(settingskey::kCloudPending).toStringList();
+    QStringList texts = pendingTexts(m_defaults);
     const QString text =
         QString::fromLatin1(QByteArray::fromStdString(file.native()).toPercentEncoding(QByteArrayLiteral("/")));
     if (texts.contains(text) != isPending) {
         isPending ? texts.append(text) : void(texts.removeAll(text));
-        write(settingskey::kCloudPending, texts);
+        write(settingskey::kCloudPending, texts.join(QLatin1Char(' ')));
     }
 }
 

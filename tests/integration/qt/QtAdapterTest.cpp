@@ -10,6 +10,7 @@
 #include "adapters/qt/QtTrash.h"
 #include "adapters/qt/QtUserDefaults.h"
 #include "adapters/qt/TerminationSignals.h"
+#include "app/settings/SettingsStore.h"
 #include "files/FileNames.h"
 #include "support/EventLoop.h"
 
@@ -99,6 +100,18 @@ TEST_F(SettingsFile, ShowsWhatOthersWroteAndKeepsIt) {
     defaults.setObject(2, QStringLiteral("mine"));
     ASSERT_TRUE(defaults.synchronize());
     EXPECT_EQ(text(), "[General]\nmine=2\nmore=9\ntheirs=false\n");
+}
+
+TEST_F(SettingsFile, NamesEveryRecordingThatIsStillToGoToTheCloud) {
+    const std::vector<std::filesystem::path> files{"/a b.m4a", "/c,d.m4a", "/\xff%20.m4a"};
+    for (std::size_t count = 1; count <= files.size(); ++count) {
+        QtUserDefaults defaults(m_path.toStdString());
+        SettingsStore(defaults).setCloudPending(files[count - 1], true);
+        ASSERT_TRUE(defaults.synchronize());
+        QtUserDefaults read(m_path.toStdString());
+        EXPECT_EQ(SettingsStore(read).cloudPending(),
+                  std::vector(files.begin(), files.begin() + static_cast<long>(count)));
+    }
 }
 
 TEST_F(SettingsFile, SurvivesDamageAndRecoversFromWhatIsInTheWay) {
