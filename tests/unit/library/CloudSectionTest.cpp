@@ -164,6 +164,11 @@ TEST_F(CloudSectionTest, WhatIsDoneInTheCloudsListIsDoneInTheCloud) {
     });
     EXPECT_EQ(cloud.files["talk.m4a"], "B");
     EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "talk.m4a B"));
+    library.actions.aim(QStringLiteral("1"), library.table.rowOf(1, "a.m4a"), {});
+    cloud.files["0.m4a"] = "0";
+    appear();
+    EXPECT_EQ(library.actions.Buttontag(), library.table.rowOf(1, "a.m4a"));
+    EXPECT_EQ(library.actions.Buttontag(), 1) << "another row of the cloud has come before it";
 }
 
 TEST_F(CloudSectionTest, ARefreshLooksForTheNetworkFirst) {
