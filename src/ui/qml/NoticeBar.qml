@@ -10,31 +10,55 @@ Rectangle {
     required property NoticeLine notices
     /// Something stands before it: its time begins when that is gone.
     property bool behind: false
+    readonly property bool told: notices.active
+    // What it says and offers, or said last while it fades out.
+    property string text
+    property string actionTitle
     readonly property real actionWidth: action.visible ? action.implicitWidth : 0
+
+    function adopt() {
+        if (!told)
+            return
+        text = notices.text
+        actionTitle = notices.actionTitle
+    }
+
+    function fade(from, to, duration) {
+        fading.from = from
+        fading.to = to
+        fading.duration = duration
+        fading.restart()
+    }
 
     implicitWidth: words.implicitWidth + 2 * Theme.gapWide + actionWidth
     implicitHeight: Math.max(48, words.implicitHeight + 20)
-    visible: notices.active
+    visible: told || fading.running
     radius: Theme.radiusControl
     color: Theme.control
     border.color: Theme.edge
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: notices.text
-    onVisibleChanged: if (visible) entrance.restart()
+    // Not from nothing: what cannot be seen at all is not read aloud.
+    onToldChanged: told ? fade(0.1, 1, Theme.noticeIn) : fade(opacity, 0, Theme.noticeOut)
+    Component.onCompleted: adopt()
+
+    Connections {
+        target: root.notices
+
+        function onNoticeChanged() {
+            root.adopt()
+        }
+    }
 
     NumberAnimation {
-        id: entrance
+        id: fading
 
         target: root
         property: "opacity"
-        // Not from nothing: what cannot be seen at all is not read aloud.
-        from: 0.1
-        to: 1
-        duration: Theme.noticeIn
     }
 
     HoverHandler {
         id: pointer
+
+        enabled: root.told
     }
 
     Binding {
@@ -43,11 +67,21 @@ Rectangle {
         value: pointer.hovered || action.activeFocus || root.behind
     }
 
+    // For who cannot see it, gone as soon as the notice is.
+    Item {
+        objectName: "noticeTold"
+        anchors.fill: parent
+        visible: root.told
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.notices.text
+    }
+
     Rectangle {
         objectName: "noticeProgress"
-        x: root.radius
+        anchors.left: parent.left
+        anchors.leftMargin: root.radius
         y: root.height - height
-        width: (root.width - 2 * x) * Math.max(0, root.notices.progress)
+        width: (root.width - 2 * root.radius) * Math.max(0, root.notices.progress)
         height: 3
         radius: height / 2
         visible: root.notices.progress >= 0
@@ -60,10 +94,11 @@ Rectangle {
     Label {
         id: words
 
-        x: Theme.gapWide
-        width: root.width - 2 * x - root.actionWidth
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.gapWide
+        width: root.width - 2 * Theme.gapWide - root.actionWidth
         height: root.height
-        text: root.notices.text
+        text: root.text
         color: Theme.text
         wrapMode: Text.Wrap
         maximumLineCount: 3
@@ -80,7 +115,7 @@ Rectangle {
         objectName: "noticeAction"
         visible: text !== ""
         kind: TButton.Tint
-        text: root.notices.actionTitle
+        text: root.actionTitle
         onClicked: root.notices.act()
     }
 }
