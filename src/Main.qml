@@ -61,6 +61,8 @@ Window {
             focusScreen()
     }
 
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 390
     height: 844
     minimumWidth: Math.min(leastSide, Screen.width)
@@ -215,9 +217,9 @@ Window {
             Item {
                 id: content
 
-                x: window.railed ? bar.width : 0
+                x: window.railed && !Theme.mirrored ? bar.width : 0
                 y: session.height
-                width: parent.width - x
+                width: parent.width - (window.railed ? bar.width : 0)
                 height: parent.height - y - (window.railed ? 0 : bar.height)
 
                 TabPage {
@@ -255,6 +257,7 @@ Window {
                 id: bar
 
                 objectName: "tabBar"
+                anchors.left: parent.left
                 y: window.railed ? 0 : parent.height - height
                 width: window.railed ? implicitWidth : parent.width
                 height: window.railed ? parent.height : implicitHeight

@@ -280,7 +280,7 @@ void describe(QGuiApplication& application) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavi"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quillfen.voicerecorder"));
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
-    installTexts(application);
+    QGuiApplication::setLayoutDirection(installTexts(application));
     installAccessibleItems();
 }
 

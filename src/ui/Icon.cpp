@@ -1,6 +1,7 @@
 #include "ui/Icon.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
@@ -47,6 +48,9 @@ QString drawingOf(QString image) {
         std::find_if(kDrawings.begin(), kDrawings.end(), [&image](const auto& entry) { return entry.first == image; });
     return found == kDrawings.end() ? image : QString(found->second);
 }
+
+/// Points to where the words run.
+constexpr QLatin1StringView kPointer("chevron-right");
 
 }  // namespace
 
@@ -100,7 +104,7 @@ QImage Icon::rendered() const {
     image.fill(Qt::transparent);
     QPainter painter(&image);
     drawing.render(&painter);
-    return image;
+    return QGuiApplication::isRightToLeft() && drawingOf(m_name) == kPointer ? image.mirrored(true, false) : image;
 }
 
 QSGNode* Icon::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {

@@ -365,11 +365,18 @@ void compareWithReference(const QImage& picture, const QString& name) {
 /// With TAVI_PICTURES in the environment the pictures are saved there, to be looked at.
 std::set<std::string> lookAtEverySize(const UserWindow& shown, const char* name, bool isCovered) {
     std::set<std::string> words;
-    // The last one is 320 pixels wide, with everything half as large again.
-    for (const QSize size :
-         {QSize(390, 844), QSize(320, 568), QSize(844, 390), QSize(800, 600), QSize(1200, 800), QSize(213, 379)}) {
+    // The smallest is 320 pixels wide, with everything half as large again. Two are written from right to left.
+    for (const auto& [size, direction] : {std::pair{QSize(390, 844), Qt::LeftToRight},
+                                          {QSize(320, 568), Qt::LeftToRight},
+                                          {QSize(844, 390), Qt::LeftToRight},
+                                          {QSize(800, 600), Qt::LeftToRight},
+                                          {QSize(1200, 800), Qt::LeftToRight},
+                                          {QSize(213, 379), Qt::LeftToRight},
+                                          {QSize(360, 640), Qt::RightToLeft},
+                                          {QSize(840, 392), Qt::RightToLeft}}) {
         SCOPED_TRACE(::testing::Message() << name << " at " << size.width() << "x" << size.height());
         shown.window->resize(size);
+        QGuiApplication::setLayoutDirection(direction);
         const QImage picture = (shown.settle(), checkItems(shown, isCovered), shown.settle());
         words.merge(shown.words());
         const QString file = QStringLiteral("%1-%2").arg(QLatin1String(name)).arg(size.width());
@@ -380,6 +387,7 @@ std::set<std::string> lookAtEverySize(const UserWindow& shown, const char* name,
             EXPECT_TRUE(picture.save(QStringLiteral("%1/%2.png").arg(folder, file)));
         }
     }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     return words;
 }
 

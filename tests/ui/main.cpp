@@ -23,11 +23,11 @@ void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& tex
 int main(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    // The texts that are compared are English, wherever the tests run.
-    qputenv("LANGUAGE", "en");
+    // The texts that are compared are English, wherever the tests run. Pictures can be looked at in others.
+    qputenv("LANGUAGE", qEnvironmentVariable("TAVI_LANGUAGE", QStringLiteral("en")).toUtf8());
     QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
-    tavi::installTexts(application);
+    QGuiApplication::setLayoutDirection(tavi::installTexts(application));
     tavi::installAccessibleItems();
     // As with a screen reader on the desktop.
     QAccessible::setActive(true);

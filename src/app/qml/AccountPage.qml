@@ -24,7 +24,8 @@ FocusScope {
         Accessible.name: name + ": " + text
 
         Label {
-            x: Theme.margin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.margin
             width: 96
             height: 45
             text: fact.name
@@ -35,9 +36,11 @@ FocusScope {
         Label {
             id: value
 
-            x: 120
+            anchors.left: parent.left
+            anchors.leftMargin: 120
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
-            width: parent.width - x - Theme.margin
             text: fact.text
             color: fact.textColor
             wrapMode: Text.Wrap
@@ -205,7 +208,8 @@ FocusScope {
                 TButton {
                     id: connectButton
 
-                    x: Theme.margin
+                    anchors.left: parent.left
+                    anchors.leftMargin: Theme.margin
                     objectName: "cloudConnect"
                     text: qsTrId("cloud_connect")
                     kind: TButton.Filled
@@ -215,7 +219,8 @@ FocusScope {
             }
 
             Row {
-                x: Theme.margin
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.margin
                 height: visible ? 60 : 0
                 spacing: Theme.gapWide
                 visible: root.page.isConnecting
@@ -240,7 +245,8 @@ FocusScope {
                 visible: problem.text !== ""
 
                 Icon {
-                    x: Theme.margin
+                    anchors.left: parent.left
+                    anchors.leftMargin: Theme.margin
                     y: Theme.gapWide
                     width: 20
                     height: 20
@@ -251,9 +257,11 @@ FocusScope {
                 Label {
                     id: problem
 
-                    x: 48
+                    anchors.left: parent.left
+                    anchors.leftMargin: 48
+                    anchors.right: parent.right
+                    anchors.rightMargin: Theme.margin
                     y: Theme.gapWide
-                    width: parent.width - x - Theme.margin
                     objectName: "cloudError"
                     text: root.page.errorText
                     color: Theme.tint

@@ -6,8 +6,9 @@ Item {
     implicitHeight: 1
 
     Rectangle {
-        x: 52
-        width: parent.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: 52
+        anchors.right: parent.right
         height: 1
         color: Theme.line
     }

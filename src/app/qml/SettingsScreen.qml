@@ -122,10 +122,11 @@ FocusScope {
                 TSwitch {
                     id: cloudRow
 
+                    anchors.left: parent.left
                     objectName: "icloud"
                     imageName: "12.png"
                     width: parent.width - cloudDetails.width
-                    rightPadding: 0
+                    tail: 0
                     text: root.screen.iCloundText
                     on: root.screen.isCloudSyncOn
                     onTurned: on => root.screen.hideShowiClound(on)

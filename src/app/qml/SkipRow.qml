@@ -14,7 +14,8 @@ Item {
     implicitHeight: 45
 
     Icon {
-        x: Theme.margin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         width: 20
         height: 20
@@ -25,7 +26,8 @@ Item {
     Label {
         id: label
 
-        x: 48
+        anchors.left: parent.left
+        anchors.leftMargin: 48
         width: 126
         height: parent.height
         text: row.text
@@ -33,17 +35,22 @@ Item {
         Accessible.ignored: true
     }
 
-    TSlider {
+    // The slider itself is not mirrored, but its place is.
+    Item {
         anchors.left: label.right
         anchors.right: parent.right
         anchors.leftMargin: Theme.gapWide
         anchors.rightMargin: Theme.margin
         height: parent.height
-        from: 5
-        to: 60
-        stepSize: 5
-        rest: row.seconds
-        Accessible.name: row.text
-        onSlid: value => row.slid(value)
+
+        TSlider {
+            anchors.fill: parent
+            from: 5
+            to: 60
+            stepSize: 5
+            rest: row.seconds
+            Accessible.name: row.text
+            onSlid: value => row.slid(value)
+        }
     }
 }

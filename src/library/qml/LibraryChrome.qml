@@ -33,8 +33,10 @@ FocusScope {
     }
 
     Label {
-        x: Theme.margin
-        width: parent.width - x - 2 * Theme.touch
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
+        anchors.right: parent.right
+        anchors.rightMargin: 2 * Theme.touch
         height: root.titleHeight
         visible: !root.finding
         text: root.screen.title
@@ -76,8 +78,9 @@ FocusScope {
 
         property bool open: false
 
-        x: 8
-        width: speaker.x - x
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        anchors.right: speaker.left
         height: root.titleHeight
         objectName: "search"
         visible: open || root.screen.table.searchText !== ""
@@ -89,7 +92,8 @@ FocusScope {
     }
 
     Row {
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         y: root.titleHeight
 
         SortButton {

@@ -17,7 +17,7 @@ FocusScope {
     /// What a notice takes of the list while it shows.
     property real footRoom: 0
     /// Where a notice hides nothing of the player: over the list.
-    readonly property rect noticeArea: Qt.rect(0, 0, page.width, page.height)
+    readonly property rect noticeArea: Qt.rect(page.x, 0, page.width, page.height)
 
     /// Opens and closes the player. What disappears with the keyboard inside it first hands that to the list.
     function follow() {
@@ -82,6 +82,7 @@ FocusScope {
     Item {
         id: page
 
+        anchors.left: parent.left
         width: root.beside ? Math.min(Math.max(360, Math.min(Math.round(Theme.window.width * 0.34), 480)), Math.round(root.width * 0.52))
                            : parent.width
         height: parent.height - (root.beside ? 0 : panel.shownHeight)
@@ -152,7 +153,7 @@ FocusScope {
     }
 
     Rectangle {
-        x: page.width
+        anchors.left: page.right
         width: 1
         height: parent.height
         visible: root.beside
@@ -168,9 +169,10 @@ FocusScope {
         /// How much of the list it covers.
         readonly property real shownHeight: root.beside ? 0 : Math.round(height * shown)
 
-        x: root.beside ? page.width + 1 : 0
+        anchors.left: root.beside ? page.right : parent.left
+        anchors.leftMargin: root.beside ? 1 : 0
+        anchors.right: parent.right
         y: root.beside ? 0 : parent.height - shownHeight
-        width: parent.width - x
         height: root.beside ? parent.height : root.folded ? mini.implicitHeight : Math.min(view.implicitHeight, parent.height)
         visible: root.beside || shownHeight > 0
         clip: !root.beside

@@ -39,7 +39,8 @@ FocusScope {
     IconButton {
         id: play
 
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         y: 9
         objectName: "btnplaypuas"
         imageName: root.player.btnplaypuas.image
@@ -55,9 +56,11 @@ FocusScope {
     Label {
         id: name
 
-        x: play.x + play.width + 8
+        anchors.left: play.right
+        anchors.leftMargin: 8
+        anchors.right: stop.left
+        anchors.rightMargin: 4
         y: 10
-        width: stop.x - x - 4
         height: 22
         text: root.screen.playingName
         color: Theme.text
@@ -65,7 +68,6 @@ FocusScope {
         font.weight: Font.Medium
         elide: Text.ElideMiddle
         maximumLineCount: 1
-        horizontalAlignment: Text.AlignLeft
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }
@@ -73,7 +75,7 @@ FocusScope {
     Label {
         readonly property string times: qsTrId("player_times").arg(root.player.lblSongMinTime.text).arg(root.player.lblSongMaxTime.text)
 
-        x: name.x
+        anchors.left: name.left
         y: 32
         width: name.width
         height: 18

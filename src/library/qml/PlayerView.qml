@@ -43,7 +43,9 @@ FocusScope {
                 height: root.spacious ? 68 : Theme.touch
 
                 Label {
-                    width: (close.visible ? close.x : parent.width) - 4
+                    anchors.left: parent.left
+                    anchors.right: root.beside ? parent.right : close.left
+                    anchors.rightMargin: 4
                     height: root.spacious ? 32 : parent.height
                     text: root.screen.playingName
                     color: Theme.text
@@ -51,7 +53,6 @@ FocusScope {
                     font.weight: root.spacious ? Font.Normal : Font.Medium
                     elide: Text.ElideMiddle
                     maximumLineCount: 1
-                    horizontalAlignment: Text.AlignLeft
                     Accessible.role: Accessible.Heading
                     Accessible.name: text
                 }
@@ -64,7 +65,6 @@ FocusScope {
                     text: root.detail
                     elide: Text.ElideLeft
                     maximumLineCount: 1
-                    horizontalAlignment: Text.AlignLeft
                     Accessible.role: Accessible.StaticText
                     Accessible.name: text
                 }
@@ -121,6 +121,9 @@ FocusScope {
             }
 
             Item {
+                // Below the ends of the wave.
+                LayoutMirroring.enabled: false
+                LayoutMirroring.childrenInherit: true
                 width: parent.width
                 height: 24
 
@@ -150,6 +153,9 @@ FocusScope {
                 height: root.oneRow ? 88 : 136
 
                 Row {
+                    // Back is where the wave begins.
+                    LayoutMirroring.enabled: false
+                    LayoutMirroring.childrenInherit: true
                     anchors.horizontalCenter: parent.horizontalCenter
                     y: root.oneRow ? 20 : 4
                     spacing: 20
@@ -196,6 +202,7 @@ FocusScope {
                 SpeedControl {
                     id: speeds
 
+                    anchors.left: parent.left
                     y: root.oneRow ? 30 : 80
                     player: root.player
                 }

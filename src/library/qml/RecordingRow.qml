@@ -98,6 +98,7 @@ Item {
     }
 
     Rectangle {
+        anchors.left: parent.left
         width: 3
         height: root.height - 1
         visible: root.chosen
@@ -143,7 +144,8 @@ Item {
     Rectangle {
         id: tile
 
-        x: Theme.margin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
         y: (root.height - height) / 2
         width: 44
         height: 44
@@ -165,21 +167,21 @@ Item {
     Label {
         id: name
 
-        x: root.narrow ? Theme.margin : tile.x + tile.width + 12
+        anchors.left: parent.left
+        anchors.leftMargin: root.narrow ? Theme.margin : Theme.margin + tile.width + 12
+        anchors.right: cloud.visible ? cloud.left : more.left
+        anchors.rightMargin: cloud.visible ? Theme.gap : 0
         y: root.narrow ? 8 : 10
-        width: (cloud.visible ? cloud.x - Theme.gap : more.x) - x
         height: 23
         text: root.nameText
         font.pixelSize: 16
         font.weight: Font.Medium
         elide: Text.ElideMiddle
         maximumLineCount: 1
-        // As the rows are aligned, whatever the name's own direction.
-        horizontalAlignment: Text.AlignLeft
     }
 
     Label {
-        x: name.x
+        anchors.left: name.left
         y: name.y + name.height
         width: name.width
         height: 19
@@ -189,11 +191,10 @@ Item {
         // The times stay, the size goes first.
         elide: Text.ElideLeft
         maximumLineCount: 1
-        horizontalAlignment: Text.AlignLeft
     }
 
     Row {
-        x: name.x
+        anchors.left: name.left
         y: name.y + name.height + 19
         height: 16
         spacing: Theme.gap
@@ -251,9 +252,9 @@ Item {
     }
 
     Rectangle {
-        x: name.x
+        anchors.left: name.left
+        anchors.right: parent.right
         y: root.height - 1
-        width: root.width - x
         height: 1
         color: Theme.line
     }

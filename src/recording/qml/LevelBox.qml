@@ -100,7 +100,8 @@ Rectangle {
     }
 
     TButton {
-        x: 2
+        anchors.left: parent.left
+        anchors.leftMargin: 2
         y: parent.height - height - 2
         width: Math.min(implicitWidth, parent.width - 4)
         objectName: "last"

@@ -116,7 +116,7 @@ FocusScope {
         Item {
             id: caption
 
-            x: root.beside ? page.width - width - Theme.margin : Math.round((page.width - width) / 2)
+            x: root.beside ? (Theme.mirrored ? Theme.margin : page.width - width - Theme.margin) : Math.round((page.width - width) / 2)
             y: root.beside ? 4 : clock.y + clock.height + Math.round(root.gap) - 8
             width: root.side
             height: root.dated ? Theme.touch : 0
@@ -125,6 +125,7 @@ FocusScope {
             Label {
                 id: date
 
+                anchors.left: parent.left
                 height: parent.height
                 objectName: "lblDate"
                 text: root.screen.lblDate.text
@@ -135,10 +136,11 @@ FocusScope {
 
             TButton {
                 /// Between the date and the format, or in a line of its own.
-                readonly property real room: root.beside ? caption.width : format.x - date.width
+                readonly property real room: caption.width - (root.beside ? 0 : format.width + date.width)
+                readonly property real lead: Theme.mirrored ? format.width : date.width
                 readonly property string name: root.screen.microphone.name || qsTrId("microphone_unknown")
 
-                x: root.beside ? -leftPadding : Math.round(date.width + (room - width) / 2)
+                x: !root.beside ? Math.round(lead + (room - width) / 2) : Theme.mirrored ? room - width + rightPadding : -leftPadding
                 y: root.beside ? caption.height : 0
                 width: Math.min(implicitWidth, room)
                 objectName: "microphone"
@@ -155,7 +157,7 @@ FocusScope {
             T.AbstractButton {
                 id: format
 
-                x: parent.width - width
+                anchors.right: parent.right
                 width: Math.min(words.implicitWidth + 8, parent.width - date.width - (root.beside ? Theme.gap : Theme.touch))
                 height: parent.height
                 objectName: "lblFileType"
@@ -193,7 +195,7 @@ FocusScope {
         LevelBox {
             id: box
 
-            x: root.beside ? Theme.margin : Math.round((page.width - width) / 2)
+            x: root.beside ? (Theme.mirrored ? page.width - width - Theme.margin : Theme.margin) : Math.round((page.width - width) / 2)
             y: root.beside ? Theme.margin : caption.y + caption.height
             width: root.beside ? page.width - root.side - 3 * Theme.margin - 4 : root.side
             height: root.beside ? page.height - 2 * Theme.margin : Math.round(root.boxHeight)

@@ -18,7 +18,8 @@ Rectangle {
     Rectangle {
         id: dot
 
-        x: Theme.margin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10
@@ -30,8 +31,9 @@ Rectangle {
     }
 
     Label {
-        x: dot.visible ? dot.x + dot.width + Theme.gap : Theme.margin
-        width: actions.x - x
+        anchors.left: dot.visible ? dot.right : parent.left
+        anchors.leftMargin: dot.visible ? Theme.gap : Theme.margin
+        anchors.right: actions.left
         height: parent.height
         objectName: "session"
         text: bar.screen.isRecording ? qsTrId("session_running").arg(bar.screen.lblRecording.text).arg(bar.clock)

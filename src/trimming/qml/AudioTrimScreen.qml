@@ -27,7 +27,8 @@ FocusScope {
         IconButton {
             id: close
 
-            x: 4
+            anchors.left: parent.left
+            anchors.leftMargin: 4
             y: 4
             objectName: "btnClose"
             imageName: "close.png"
@@ -38,7 +39,7 @@ FocusScope {
         }
 
         Label {
-            x: close.width + 8
+            x: Theme.touch + 8
             y: 4
             width: parent.width - 2 * x
             height: Theme.touch
@@ -107,6 +108,8 @@ FocusScope {
                 }
 
                 Item {
+                    LayoutMirroring.enabled: false
+                    LayoutMirroring.childrenInherit: true
                     width: parent.width
                     height: 18
 
@@ -134,6 +137,7 @@ FocusScope {
                 }
 
                 Row {
+                    LayoutMirroring.enabled: false
                     anchors.horizontalCenter: parent.horizontalCenter
                     spacing: 16
 

@@ -6,6 +6,10 @@ import Tavi.Ui
 FocusScope {
     id: root
 
+    // Sound runs from left to right, and what is done with it stands where it is.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
+
     required property AudioTrimmerViewController screen
     /// A phone on its side.
     required property bool low

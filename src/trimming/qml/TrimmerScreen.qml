@@ -60,7 +60,8 @@ FocusScope {
             TButton {
                 id: cancel
 
-                x: 8
+                anchors.left: parent.left
+                anchors.leftMargin: 8
                 y: root.wide ? 10 : 4
                 objectName: "btnCancel"
                 text: qsTrId("Cancel")
@@ -70,7 +71,9 @@ FocusScope {
             Label {
                 id: title
 
-                x: root.low ? (parent.width - width - file.width - 12) / 2 : (parent.width - width) / 2
+                readonly property real both: width + 12 + file.width
+
+                x: (parent.width + (root.low && Theme.mirrored ? both - 2 * width : root.low ? -both : -width)) / 2
                 y: cancel.y
                 height: Theme.touch
                 text: qsTrId("trimmer_title")
@@ -84,7 +87,8 @@ FocusScope {
             TButton {
                 id: done
 
-                x: parent.width - width - 12
+                anchors.right: parent.right
+                anchors.rightMargin: 12
                 y: cancel.y
                 objectName: "btnUpload"
                 visible: !root.screen.isDoneHidden
@@ -97,7 +101,7 @@ FocusScope {
             Label {
                 id: file
 
-                x: root.low ? title.x + title.width + 12 : (parent.width - width) / 2
+                x: root.low ? title.x + (Theme.mirrored ? -width - 12 : title.width + 12) : (parent.width - width) / 2
                 y: root.low ? 4 : cancel.y + 46
                 width: Math.min(implicitWidth, root.low ? parent.width - cancel.width - done.width - title.width - 80
                                                         : parent.width - 2 * Theme.margin)

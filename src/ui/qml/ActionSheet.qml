@@ -74,7 +74,8 @@ Rectangle {
     Rectangle {
         id: tile
 
-        x: Theme.margin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.margin
         y: Theme.margin
         width: Theme.touch
         height: Theme.touch
@@ -115,8 +116,10 @@ Rectangle {
                 required property string modelData
                 required property int index
 
-                x: sheet.hasTile ? tile.x + tile.width + Theme.gapWide : Theme.margin
-                width: parent.width - x - Theme.margin
+                anchors.left: parent.left
+                anchors.leftMargin: sheet.hasTile ? Theme.margin + tile.width + Theme.gapWide : Theme.margin
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.margin
                 maximumLineCount: sheet.isMenu ? 1 : 100
                 visible: text !== ""
                 text: modelData

@@ -103,7 +103,7 @@ Rectangle {
 
     ScrollMark {
         flickable: words
-        x: words.x + words.width + 8
+        inset: -8 - width
     }
 
     TField {

@@ -16,8 +16,9 @@ Rectangle {
         return Math.max(Theme.gap, Math.min(place, room - size - Theme.gap))
     }
 
-    // To the left of the point where there is no room to its right.
-    x: within(at.x + width + Theme.gap > parent.width ? at.x - width : at.x, parent.width, width)
+    // On the other side of the point where there is no room on the one to which the words run.
+    x: within((Theme.mirrored ? at.x >= width + Theme.gap : at.x + width + Theme.gap > parent.width) ? at.x - width : at.x,
+              parent.width, width)
     y: within(at.y, parent.height, height)
     width: 232
     height: Math.min(choices.contentHeight + 12, parent.height - 2 * Theme.gap)

@@ -21,7 +21,8 @@ T.Button {
 
     contentItem: Item {
         Icon {
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20
@@ -30,8 +31,10 @@ T.Button {
         }
 
         Label {
-            x: 50
-            width: keys.x - x - Theme.gap
+            anchors.left: parent.left
+            anchors.leftMargin: 50
+            anchors.right: keys.left
+            anchors.rightMargin: Theme.gap
             height: parent.height
             text: item.text
             color: item.tint
@@ -42,7 +45,8 @@ T.Button {
         Label {
             id: keys
 
-            x: parent.width - width - 14
+            anchors.right: parent.right
+            anchors.rightMargin: 14
             height: parent.height
             text: item.modelData.shortcut
             font.pixelSize: Theme.textCaption

@@ -7,5 +7,7 @@ Text {
     font.family: Theme.family
     font.pixelSize: Theme.textBody
     textFormat: Text.PlainText
+    // As the screen is laid out, whatever the words' own direction.
+    horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
 }

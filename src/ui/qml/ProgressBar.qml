@@ -19,6 +19,7 @@ Rectangle {
     Accessible.description: Math.round(value * 100) + " %"
 
     Rectangle {
+        anchors.left: parent.left
         width: parent.width * bar.value
         height: parent.height
         radius: parent.radius

@@ -14,6 +14,7 @@ Rectangle {
     color: pressed ? Theme.control : selected ? Theme.panel : hovered ? Theme.rowHover : "transparent"
 
     Rectangle {
+        anchors.left: parent.left
         width: 3
         height: parent.height
         visible: ground.selected

@@ -100,7 +100,8 @@ FocusScope {
         IconButton {
             id: up
 
-            x: Theme.gap
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.gap
             y: places.y + places.height
             objectName: "saveUp"
             imageName: "arrow-up.png"
@@ -112,14 +113,15 @@ FocusScope {
         }
 
         Label {
-            x: up.x + up.width + Theme.gap
+            anchors.left: up.right
+            anchors.leftMargin: Theme.gap
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.margin
             y: up.y
-            width: parent.width - x - Theme.margin
             height: up.height
             text: view.panel.folder
             elide: Text.ElideLeft
             maximumLineCount: 1
-            horizontalAlignment: Text.AlignLeft
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
@@ -148,8 +150,8 @@ FocusScope {
             Accessible.name: qsTrId("save_folders")
             Keys.onReturnPressed: view.panel.enter(currentIndex)
             Keys.onEnterPressed: view.panel.enter(currentIndex)
-            Keys.onRightPressed: view.panel.enter(currentIndex)
-            Keys.onLeftPressed: view.panel.goUp()
+            Keys.onRightPressed: Theme.mirrored ? view.panel.goUp() : view.panel.enter(currentIndex)
+            Keys.onLeftPressed: Theme.mirrored ? view.panel.enter(currentIndex) : view.panel.goUp()
             delegate: Item {
                 id: row
 
@@ -180,22 +182,24 @@ FocusScope {
                 }
 
                 Label {
-                    x: Theme.margin
-                    width: next.x - x - Theme.gap
+                    anchors.left: parent.left
+                    anchors.leftMargin: Theme.margin
+                    anchors.right: next.left
+                    anchors.rightMargin: Theme.gap
                     height: parent.height
                     text: row.modelData
                     color: Theme.text
                     font.pixelSize: Theme.textControl
                     elide: Text.ElideMiddle
                     maximumLineCount: 1
-                    horizontalAlignment: Text.AlignLeft
                 }
 
                 Icon {
                     id: next
 
                     anchors.verticalCenter: parent.verticalCenter
-                    x: parent.width - width - Theme.margin
+                    anchors.right: parent.right
+                    anchors.rightMargin: Theme.margin
                     width: 16
                     height: 16
                     name: "chevron-right.png"

@@ -7,8 +7,8 @@ TField {
 
     signal leave()
 
-    leftPadding: 38
-    rightPadding: clear.visible ? clear.width : Theme.gapWide
+    lead: 38
+    tail: clear.visible ? clear.width : Theme.gapWide
     Accessible.name: placeholderText
     Keys.onEscapePressed: {
         clear.clicked()
@@ -19,7 +19,8 @@ TField {
     Keys.onEnterPressed: leave()
 
     Icon {
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         width: 18
         height: 18

@@ -17,6 +17,9 @@ Item {
     Row {
         id: row
 
+        // A scale of speeds, as of sound.
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
         anchors.fill: parent
     }
 

@@ -23,7 +23,8 @@ T.AbstractButton {
         opacity: row.enabled ? 1.0 : Theme.disabledOpacity
 
         Icon {
-            x: Theme.margin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20
@@ -32,9 +33,11 @@ T.AbstractButton {
         }
 
         Label {
-            x: 48
+            anchors.left: parent.left
+            anchors.leftMargin: 48
+            anchors.right: row.detail === "" ? chevron.left : value.left
+            anchors.rightMargin: Theme.gap
             height: parent.height
-            width: (row.detail === "" ? chevron.x : value.x) - x - Theme.gap
             text: row.text
             wrapMode: Text.Wrap
             maximumLineCount: 2

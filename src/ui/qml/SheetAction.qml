@@ -23,7 +23,8 @@ T.Button {
 
     contentItem: Item {
         Icon {
-            x: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 20
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20
@@ -33,8 +34,10 @@ T.Button {
         }
 
         Label {
-            x: control.modelData.cancel ? Theme.gap : 56
-            width: parent.width - x - (control.modelData.cancel ? Theme.gap : Theme.margin)
+            anchors.left: parent.left
+            anchors.leftMargin: control.modelData.cancel ? Theme.gap : 56
+            anchors.right: parent.right
+            anchors.rightMargin: control.modelData.cancel ? Theme.gap : Theme.margin
             height: parent.height
             text: control.text
             color: control.tint

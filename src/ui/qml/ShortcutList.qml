@@ -78,8 +78,9 @@ FocusScope {
         }
 
         Label {
-            x: Theme.margin
-            width: close.x - x
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.margin
+            anchors.right: close.left
             height: 52
             text: qsTrId("shortcuts_title")
             color: Theme.text
@@ -132,8 +133,10 @@ FocusScope {
                         Label {
                             id: deed
 
-                            x: Theme.margin
-                            width: keys.x - x - Theme.gap
+                            anchors.left: parent.left
+                            anchors.leftMargin: Theme.margin
+                            anchors.right: keys.left
+                            anchors.rightMargin: Theme.gap
                             height: parent.height
                             text: parent.modelData[1]
                             color: Theme.light
@@ -143,7 +146,8 @@ FocusScope {
                         Label {
                             id: keys
 
-                            x: parent.width - width - Theme.margin
+                            anchors.right: parent.right
+                            anchors.rightMargin: Theme.margin
                             width: parent.width * 0.38
                             height: parent.height
                             text: parent.modelData[0]

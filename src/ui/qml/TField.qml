@@ -6,22 +6,28 @@ import QtQuick.Templates as T
 T.TextField {
     id: field
 
+    /// Before and after the words.
+    property int lead: Theme.gapWide
+    property int tail: Theme.gapWide
+
     implicitHeight: Theme.touch
-    leftPadding: Theme.gapWide
-    rightPadding: Theme.gapWide
+    leftPadding: Theme.mirrored ? tail : lead
+    rightPadding: Theme.mirrored ? lead : tail
     color: Theme.text
     placeholderTextColor: Theme.label
     selectionColor: Theme.accent
     selectedTextColor: Theme.text
     font.family: Theme.family
     font.pixelSize: Theme.textControl
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
     inputMethodHints: Qt.ImhNoPredictiveText
     Accessible.role: Accessible.EditableText
 
     Label {
-        x: field.leftPadding
+        anchors.left: parent.left
+        anchors.leftMargin: field.lead
         height: parent.height
         visible: field.text === "" && field.preeditText === ""
         text: field.placeholderText

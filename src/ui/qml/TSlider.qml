@@ -19,6 +19,9 @@ T.Slider {
         value = Math.max(from, Math.min(wanted, to))
     }
 
+    // From left to right, as sound does, in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     implicitWidth: 160
     implicitHeight: Theme.touch
     padding: 0

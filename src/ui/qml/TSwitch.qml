@@ -9,11 +9,13 @@ T.Switch {
     /// What the switch stands for; a turn of the user's that the owner does not adopt springs back.
     required property bool on
     property string imageName
+    readonly property int lead: imageName === "" ? Theme.margin : 48
+    property int tail: Theme.margin
     signal turned(bool on)
 
     implicitHeight: 45
-    leftPadding: imageName === "" ? Theme.margin : 48
-    rightPadding: Theme.margin
+    leftPadding: mirrored ? tail : lead
+    rightPadding: mirrored ? lead : tail
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     font.family: Theme.family
@@ -38,14 +40,16 @@ T.Switch {
         wrapMode: Text.Wrap
         maximumLineCount: 2
         elide: Text.ElideRight
-        rightPadding: indicator.width + 12
+        leftPadding: control.mirrored ? indicator.width + 12 : 0
+        rightPadding: control.mirrored ? 0 : indicator.width + 12
         opacity: control.enabled ? 1.0 : Theme.disabledOpacity
     }
 
     indicator: Rectangle {
         id: indicator
 
-        x: control.width - width - control.rightPadding
+        anchors.right: parent.right
+        anchors.rightMargin: control.tail
         y: (control.height - height) / 2
         width: 52
         height: 30
@@ -57,7 +61,7 @@ T.Switch {
         border.color: Theme.edge
 
         Rectangle {
-            x: control.checked ? parent.width - width - 3 : 3
+            x: control.checked !== control.mirrored ? parent.width - width - 3 : 3
             y: 3
             width: 24
             height: 24
@@ -81,7 +85,8 @@ T.Switch {
         focused: control.visualFocus
 
         Icon {
-            x: Theme.margin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
             width: 20
             height: 20

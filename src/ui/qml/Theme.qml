@@ -80,6 +80,8 @@ QtObject {
     /// Windows lower than this that are wider than high are phones on their side.
     readonly property int lowHeight: 480
 
+    /// From right to left, as the language is written. Sound runs from left to right all the same.
+    readonly property bool mirrored: Qt.application.layoutDirection === Qt.RightToLeft
     /// The window as the screens are laid out in it.
     property size window: Qt.size(390, 844)
 
