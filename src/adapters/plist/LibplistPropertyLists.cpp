@@ -109,7 +109,7 @@ std::optional<QVariant> unarchived(const QVariantMap& typedValue) {
         return QString::fromUtf8(value.toByteArray());
     }
     if (type == QLatin1String("date")) {
-        return QDateTime::fromMSecsSinceEpoch(value.toLongLong(), Qt::UTC);
+        return QDateTime::fromMSecsSinceEpoch(value.toLongLong()).toUTC();
     }
     if (type == QLatin1String("unsigned")) {
         return value.toByteArray().toULongLong();

@@ -116,8 +116,8 @@ QDateTime dateOf(plist_t node) {
     std::int32_t microseconds = 0;
     plist_get_date_val(node, &seconds, &microseconds);
     const qint64 fraction = std::llround(microseconds / 1000.0);
-    return QDateTime::fromMSecsSinceEpoch(kEpoch + qint64{seconds} * 1000 + (seconds < 0 ? -fraction : fraction),
-                                          Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(kEpoch + qint64{seconds} * 1000 + (seconds < 0 ? -fraction : fraction))
+        .toUTC();
 }
 
 std::optional<QVariant> valueOf(plist_t node, int depth);

@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QNetworkReply>
 #include <QSslError>
+#include <QTimeZone>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -56,7 +57,7 @@ int pauseAfter(const DavReply& reply) {
 QDateTime timeOfHttp(const QByteArray& text) {
     QDateTime time =
         QLocale::c().toDateTime(QString::fromLatin1(text.trimmed()), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
-    time.setTimeSpec(Qt::UTC);
+    time.setTimeZone(QTimeZone::utc());
     return time;
 }
 

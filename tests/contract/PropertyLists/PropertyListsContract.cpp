@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QTimeZone>
 #include <limits>
 
 #include "adapters/plist/LibplistPropertyLists.h"
@@ -11,7 +12,7 @@ namespace tavi::test {
 
 namespace {
 
-const QDateTime kDate(QDate(2026, 11, 23), QTime(16, 20, 59, 123), Qt::UTC);
+const QDateTime kDate(QDate(2026, 11, 23), QTime(16, 20, 59, 123), QTimeZone::utc());
 
 QVariant nested(int depth) {
     QVariant value = 1;
@@ -43,7 +44,7 @@ TEST_P(PropertyListsContract, GivesBackEveryTypeAsItWas) {
         QByteArray("\xff\x00\xfe", 3),
         QByteArray(1 << 20, '\xff'),
         kDate,
-        QDateTime(QDate(1999, 1, 2), QTime(3, 4, 5, 678), Qt::UTC),
+        QDateTime(QDate(1999, 1, 2), QTime(3, 4, 5, 678), QTimeZone::utc()),
         QVariantList{},
         QVariantMap{},
         QVariantMap{{QStringLiteral("ä"), QVariantList{1, QVariantMap{{QString(), kDate}}}}, {QStringLiteral("b"), 2}},
@@ -80,8 +81,8 @@ INSTANTIATE_TEST_SUITE_P(, PropertyListsContract, ::testing::Values(&g_real, &g_
 TEST(LibplistPropertyLists, ArchivesWhatTheFormatCannotHoldAtAnyDepth) {
     const QVariant odd = QVariantList{QStringLiteral("a\0b").leftJustified(4, QChar(0)),
                                       QVariantMap{{QString(QChar(0)), QVariant()}},
-                                      QDateTime(QDate(2000, 12, 31), QTime(23, 59, 59, 500), Qt::UTC),
-                                      QDateTime(QDate(2101, 1, 1), QTime(0, 0), Qt::UTC),
+                                      QDateTime(QDate(2000, 12, 31), QTime(23, 59, 59, 500), QTimeZone::utc()),
+                                      QDateTime(QDate(2101, 1, 1), QTime(0, 0), QTimeZone::utc()),
                                       QStringLiteral("text"),
                                       true,
                                       kDate};

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QSslConfiguration>
+#include <QTimeZone>
 #include <fstream>
 #include <random>
 
@@ -360,7 +361,7 @@ TEST(WebDav, TrustsACertificateOnlyForItsNameAndByWhomTheSystemTrusts) {
 
 TEST(WebDav, LeavesAServerAloneForAsLongAsItsOwnClockSays) {
     const QByteArray date = "Mon, 23 Nov 2026 20:00:00 GMT";
-    const QDateTime now(QDate(2026, 11, 23), QTime(12, 0), Qt::UTC);
+    const QDateTime now(QDate(2026, 11, 23), QTime(12, 0), QTimeZone::utc());
     const std::tuple<QByteArray, QByteArray, int> cases[] = {
         {"120", date, 120},      {"Mon, 23 Nov 2026 20:01:00 GMT", date, 60}, {"Mon, 23 Nov 2026 12:01:30 GMT", "", 90},
         {"-5", date, 0},         {"Mon, 23 Nov 2026 19:01:00 GMT", date, 0},  {"soon", date, 0},
