@@ -20,7 +20,8 @@ public:
     Peer(const char* end, Type type, const TemporaryContainer& container) {
         m_process.start(QStringLiteral(TAVI_CHANNEL_PEER),
                         {QLatin1String(end), QLatin1String(kTransitingTypeNames[static_cast<std::size_t>(type)]),
-                         QString::fromStdString(container.root())});
+                         QString::fromStdString(container.root()),
+                         QLatin1String(end == std::string("recorder") ? "Record" : "Unheard")});
         waitFor("there");
     }
     ~Peer() {
@@ -77,7 +78,6 @@ TEST_P(CompanionChannelTest, BringsMessagesThroughDeathsAndRestarts) {
     const bool bySession = isOfSession(GetParam());
     const bool everyOne = GetParam() == Type::SessionFile || GetParam() == Type::SessionMessage;
     auto recorder = start("recorder");
-    recorder->act("listen Record");
     auto companion = start("companion");
     const auto meet = [&](Peer& one, Peer& other) {
         EXPECT_TRUE(!bySession || (one.waitFor("reached") && other.waitFor("reached")));
@@ -116,7 +116,6 @@ TEST_P(CompanionChannelTest, BringsMessagesThroughDeathsAndRestarts) {
     EXPECT_TRUE(!bySession || companion->waitFor("alone"));
     companion->act("pass Record meanwhile");
     recorder = start("recorder");
-    recorder->act("listen Record");
     if (GetParam() == Type::SessionContext) {
         ASSERT_TRUE(recorder->waitFor("heard meanwhile"));
     }

@@ -1,5 +1,5 @@
-// One end of a channel: channel_peer recorder|companion WAY CONTAINER. Does what lines on the standard input say, and
-// prints what it hears.
+// One end of a channel: channel_peer recorder|companion WAY CONTAINER [IDENTIFIER]. Listens to that from its start,
+// does what lines on the standard input say, and prints what it hears.
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -34,10 +34,7 @@ void say(const std::string& line) {
 
 void act(CompanionChannel& channel, const QStringList& words) {
     const QString id = words.value(1);
-    if (words[0] == u"listen") {
-        channel.receiver().listenForMessageWithIdentifier(id,
-                                                          [](const QVariant& value) { say("heard " + shown(value)); });
-    } else if (words[0] == u"time") {
+    if (words[0] == u"time") {
         // A message is the moment at which it was passed.
         channel.receiver().listenForMessageWithIdentifier(
             id, [](const QVariant& value) { say("took " + std::to_string(microseconds() - value.toLongLong())); });
@@ -70,6 +67,10 @@ int main(int argc, char** argv) {
                              transitingTypeNamed(argv[2]));
     const auto reached = [&] { say(channel.session().isReachable() ? "reached" : "alone"); };
     QObject::connect(&channel.session(), &LocalWatchSession::reachabilityChanged, &application, reached);
+    if (argc > 4) {
+        channel.receiver().listenForMessageWithIdentifier(QString::fromLatin1(argv[4]),
+                                                          [](const QVariant& value) { say("heard " + shown(value)); });
+    }
     QSocketNotifier input(0, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &application, [&] {
         std::string line;
