@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -17,6 +18,8 @@ namespace {
 
 constexpr std::size_t kMostCompanions = 16;
 constexpr const char* kSocket = "session";
+/// For a recorder that is there and takes nobody now.
+constexpr auto kPause = std::chrono::milliseconds(500);
 constexpr const char* kNewSocket = "session.new";
 
 std::filesystem::path madePrivate(std::filesystem::path folder) {
@@ -54,6 +57,8 @@ void LocalWatchSession::activateSession() {
         return;
     }
     m_watcher = std::make_unique<QFileSystemWatcher>(QStringList{pathText(m_folder)});
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, &LocalWatchSession::tryToConnect);
     connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this, &LocalWatchSession::tryToConnect);
     tryToConnect();
 }
@@ -181,7 +186,11 @@ void LocalWatchSession::tryToConnect() {
     auto socket = std::make_unique<QLocalSocket>();
     socket->connectToServer(shortPath(kSocket));
     if (socket->state() == QLocalSocket::ConnectedState) {
+        m_later.stop();
         addLink(std::move(socket));
+    } else if (socket->state() == QLocalSocket::ConnectingState) {
+        // As many wait to be taken as the system lets.
+        m_later.start(kPause);
     }
 }
 
@@ -211,13 +220,19 @@ void LocalWatchSession::removeLink(SessionLink* link) {
     if (found == m_links.end()) {
         return;
     }
+    const bool wasReady = link->isReady();
     // It is the one that calls.
     found->release()->deleteLater();
     m_links.erase(found);
     Q_EMIT reachabilityChanged();
     if (m_end == End::Companion) {
-        // The recorder may have come back before its end was noticed.
-        tryToConnect();
+        if (wasReady) {
+            // The recorder may have come back before its end was noticed.
+            tryToConnect();
+        } else {
+            // It has as many companions as it takes.
+            m_later.start(kPause);
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QFileSystemWatcher>
 #include <QLocalServer>
 #include <QObject>
+#include <QTimer>
 #include <filesystem>
 #include <memory>
 #include <vector>
@@ -68,6 +69,7 @@ private:
     SessionContext m_received;
     std::unique_ptr<QLocalServer> m_server;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
+    QTimer m_later;
     std::vector<std::unique_ptr<SessionLink>> m_links;
 };
 

@@ -1,7 +1,10 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 
 #include <QLocalSocket>
+#include <cstring>
 #include <fstream>
 
 #include "adapters/local/LocalWatchSession.h"
@@ -165,7 +168,7 @@ TEST(LocalWatchSession, TakesNothingFromWhoBreaksTheRulesOrDiesHalfWay) {
     const auto size = static_cast<int>(list.size());
     for (const QByteArray& bytes :
          {hello + head(3, size, 0) + list.chopped(1), hello + head(4, size, 9) + list + QByteArray(8, '1'),
-          head(3, size, 0) + list, hello + head(3, 4, 0) + "junk", hello + head(2, size, 0) + list}) {
+          hello + head(3, 4, 0) + "junk", hello + head(2, size, 0) + list}) {
         ASSERT_TRUE(say(bytes));
     }
     for (const QByteArray& bytes :
@@ -175,10 +178,75 @@ TEST(LocalWatchSession, TakesNothingFromWhoBreaksTheRulesOrDiesHalfWay) {
     }
     ASSERT_TRUE(spinUntil([&here] { return !here.isReachable(); }));
     EXPECT_THAT(ear.messages + ear.contexts, IsEmpty());
-    const auto honest = say(hello + head(3, size, 0) + list);
+    const auto honest = say(head(2, size, 0) + list + hello + head(3, size, 0) + list);
     ASSERT_TRUE(spinUntil([&ear] { return !ear.messages.isEmpty(); }));
     EXPECT_THAT(ear.messages, ElementsAre(QVariant(1)));
+    EXPECT_THAT(ear.contexts, IsEmpty());
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ends.m_folder), {}), 1);
+}
+
+/// A recorder's end as the system has it: it takes whom the test lets in.
+class BareRecorder {
+public:
+    explicit BareRecorder(const std::filesystem::path& folder)
+        : m_folder(FileDescriptor::open(folder, O_PATH | O_DIRECTORY)), m_socket(newSocket()) {
+        const std::string made = "/proc/self/fd/" + std::to_string(m_folder.get()) + "/made";
+        EXPECT_EQ(at(::bind, m_socket, made), 0);
+        EXPECT_EQ(::listen(m_socket.get(), 0), 0);
+        std::filesystem::rename(made, folder / "session");
+    }
+    /// Connects so many that nobody else gets in.
+    void fill() {
+        do {
+            m_others.push_back(newSocket());
+        } while (at(::connect, m_others.back(), "/proc/self/fd/" + std::to_string(m_folder.get()) + "/session") == 0);
+    }
+    /// Lets in who waits until one of them greets, and greets back.
+    bool meet() {
+        return spinUntil([this] {
+            m_others.emplace_back(::accept4(m_socket.get(), nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC));
+            return std::any_of(m_others.begin(), m_others.end(), [](const FileDescriptor& other) {
+                std::array<char, 13> hello = {};
+                return ::recv(other.get(), hello.data(), hello.size(), 0) == 13 && hello[0] == 1 &&
+                       ::send(other.get(), hello.data(), hello.size(), MSG_NOSIGNAL) == 13;
+            });
+        });
+    }
+    void hangUp() { m_others.clear(); }
+
+private:
+    static FileDescriptor newSocket() {
+        return FileDescriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    }
+    template <class Function>
+    static int at(Function function, const FileDescriptor& socket, const std::string& path) {
+        sockaddr_un address = {.sun_family = AF_UNIX, .sun_path = {}};
+        std::strncpy(address.sun_path, path.c_str(), sizeof(address.sun_path) - 1);
+        return function(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+    }
+
+    FileDescriptor m_folder;
+    FileDescriptor m_socket;
+    std::vector<FileDescriptor> m_others;
+};
+
+TEST(LocalWatchSession, ComesToARecorderThatIsBusyOrThatCameBackUnseen) {
+    LocalEnds ends;
+    WatchSession& there = ends.startThere();
+    BareRecorder busy(ends.m_folder);
+    busy.fill();
+    there.activateSession();
+    EXPECT_FALSE(there.isReachable());
+    ASSERT_TRUE(busy.meet());
+    ASSERT_TRUE(spinUntil([&there] { return there.isReachable(); }));
+    QFileSystemWatcher watcher({pathText(ends.m_folder)});
+    bool isSeen = false;
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, [&isSeen] { isSeen = true; });
+    BareRecorder next(ends.m_folder);
+    ASSERT_TRUE(spinUntil([&isSeen] { return isSeen; }));
+    busy.hangUp();
+    EXPECT_TRUE(next.meet());
+    EXPECT_TRUE(spinUntil([&there] { return there.isReachable(); }));
 }
 
 }  // namespace
