@@ -12,6 +12,8 @@ QString statusText(const RecorderState& state) {
     switch (state.phase) {
         case Phase::Absent:
             return qtTrId("companion_absent");
+        case Phase::Silent:
+            return qtTrId("companion_silent");
         case Phase::Locked:
             return qtTrId("companion_locked");
         case Phase::Idle:
@@ -30,6 +32,7 @@ QString recordText(Phase phase) {
             return qtTrId("companion_pause");
         case Phase::Paused:
             return qtTrId("companion_resume");
+        case Phase::Silent:
         case Phase::Locked:
             return qtTrId("companion_record_or_pause");
         case Phase::Absent:
@@ -46,6 +49,7 @@ QString iconName(Phase phase) {
         case Phase::Paused:
             return QStringLiteral("media-playback-pause");
         case Phase::Absent:
+        case Phase::Silent:
         case Phase::Locked:
         case Phase::Idle:
             break;
@@ -68,7 +72,7 @@ QString companionClock(qint64 seconds) {
 
 StatusContent companionContent(const RecorderState& state) {
     const Phase phase = state.phase;
-    const bool canStop = phase == Phase::Recording || phase == Phase::Paused || phase == Phase::Locked;
+    const bool canStop = phase != Phase::Absent && phase != Phase::Idle;
     return {.iconName = iconName(phase),
             .title = qtTrId("app_name"),
             .tip = statusText(state),

@@ -8,8 +8,8 @@ namespace tavi {
 
 /// What companions are told of the recorder.
 struct RecorderState {
-    /// Absent: no recorder runs. Locked: it says nothing more.
-    enum class Phase { Absent, Locked, Idle, Recording, Paused };
+    /// Absent: no recorder runs. Silent: one runs and does not answer. Locked: it says nothing more.
+    enum class Phase { Absent, Silent, Locked, Idle, Recording, Paused };
 
     Phase phase = Phase::Absent;
     /// On the recording's clock when it came to this.
@@ -19,9 +19,9 @@ struct RecorderState {
 };
 
 /// The phases as words for programs, in their order.
-inline constexpr std::array<QLatin1String, 5> kPhaseNames = {QLatin1String("absent"), QLatin1String("locked"),
-                                                             QLatin1String("idle"), QLatin1String("recording"),
-                                                             QLatin1String("paused")};
+inline constexpr std::array<QLatin1String, 6> kPhaseNames = {QLatin1String("absent"),    QLatin1String("silent"),
+                                                             QLatin1String("locked"),    QLatin1String("idle"),
+                                                             QLatin1String("recording"), QLatin1String("paused")};
 
 inline QString phaseName(RecorderState::Phase phase) {
     return kPhaseNames[static_cast<std::size_t>(phase)];

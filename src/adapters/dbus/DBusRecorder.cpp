@@ -5,6 +5,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QProcess>
+#include <limits>
 #include <utility>
 
 #include "adapters/dbus/BusNames.h"
@@ -15,7 +16,6 @@ namespace tavi {
 
 namespace {
 
-constexpr int kPatienceMs = 5000;
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 bool isAbsence(const QDBusError& error) {
@@ -25,10 +25,12 @@ bool isAbsence(const QDBusError& error) {
 
 }  // namespace
 
-DBusRecorder::DBusRecorder(const QDBusConnection& sessionBus, const QString& busName, QStringList startCommand)
+DBusRecorder::DBusRecorder(const QDBusConnection& sessionBus, const QString& busName, QStringList startCommand,
+                           std::chrono::milliseconds patience)
     : m_bus(sessionBus),
       m_busName(busName),
       m_startCommand(std::move(startCommand)),
+      m_patienceMs(static_cast<int>(patience.count())),
       m_watcher(busName, sessionBus, QDBusServiceWatcher::WatchForOwnerChange) {
     m_bus.connect(m_busName, kApplicationObjectPath, kProperties, QStringLiteral("PropertiesChanged"), this,
                   SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
@@ -38,13 +40,13 @@ DBusRecorder::DBusRecorder(const QDBusConnection& sessionBus, const QString& bus
                     ++m_questions;
                     setState({});
                 } else {
-                    ask();
+                    ask(m_patienceMs);
                 }
             });
-    ask();
+    ask(m_patienceMs);
 }
 
-void DBusRecorder::ask() {
+void DBusRecorder::ask(int patienceMs) {
     if (!m_bus.isConnected()) {
         // A call that is never sent is never answered.
         QMetaObject::invokeMethod(
@@ -55,12 +57,20 @@ void DBusRecorder::ask() {
         QDBusMessage::createMethodCall(m_busName, kApplicationObjectPath, kProperties, QStringLiteral("GetAll"));
     question.setAutoStartService(false);
     question << QString(kRecordingInterface);
-    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question, kPatienceMs), this);
+    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question, patienceMs), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, number = ++m_questions] {
         answer->deleteLater();
         if (number == m_questions) {
             const QDBusPendingReply<QVariantMap> reply = *answer;
-            apply(reply.isValid() ? reply.value() : QVariantMap());
+            if (reply.isValid() || isAbsence(reply.error())) {
+                apply(reply.isValid() ? reply.value() : QVariantMap());
+                return;
+            }
+            setState({.phase = RecorderState::Phase::Silent});
+            if (reply.error().type() == QDBusError::NoReply) {
+                // It may be busy. The bus keeps the question, so that nobody wakes to ask again.
+                ask(std::numeric_limits<int>::max());
+            }
         }
     });
 }
@@ -111,7 +121,7 @@ void DBusRecorder::open(const QUrl& url, std::function<void(Outcome outcome, con
                                                        QStringLiteral("Open"));
     call.setAutoStartService(false);
     call << QStringList{url.toString()} << QVariantMap();
-    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call, kPatienceMs), this);
+    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call, m_patienceMs), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, url, startFor, completion] {
         answer->deleteLater();
         if (!answer->isError()) {
@@ -120,7 +130,9 @@ void DBusRecorder::open(const QUrl& url, std::function<void(Outcome outcome, con
             startFor(url);
         } else {
             const bool isLocked = answer->error().name() == kLockedError;
-            completion(isLocked ? Outcome::Locked : Outcome::Failed, {answer->error().message()});
+            const bool isSilent = answer->error().type() == QDBusError::NoReply;
+            completion(isLocked ? Outcome::Locked : Outcome::Failed,
+                       {isSilent ? QStringLiteral("The recorder does not answer.") : answer->error().message()});
         }
     });
 }

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
+#include <chrono>
 
 #include "platform/Recorder.h"
 
@@ -16,8 +17,10 @@ class DBusRecorder final : public QObject, public Recorder {
     Q_OBJECT
 
 public:
-    /// The command starts the recorder: a program and its arguments, to which the URL is added.
-    DBusRecorder(const QDBusConnection& sessionBus, const QString& busName, QStringList startCommand);
+    /// The command starts the recorder: a program and its arguments, to which the URL is added. A recorder that has not
+    /// answered by then is silent; what it answers later counts all the same.
+    DBusRecorder(const QDBusConnection& sessionBus, const QString& busName, QStringList startCommand,
+                 std::chrono::milliseconds patience = std::chrono::seconds(5));
 
     RecorderState state() const override { return m_state; }
     void setStateHandler(std::function<void()> handler) override { m_handler = std::move(handler); }
@@ -30,7 +33,7 @@ private Q_SLOTS:
     void onPropertiesChanged(const QString& interface, const QVariantMap& changed, const QStringList& invalidated);
 
 private:
-    void ask();
+    void ask(int patienceMs);
     bool start(const QUrl& url) const;
     void setState(const RecorderState& state);
     void apply(const QVariantMap& properties);
@@ -38,6 +41,7 @@ private:
     QDBusConnection m_bus;
     const QString m_busName;
     const QStringList m_startCommand;
+    const int m_patienceMs;
     QDBusServiceWatcher m_watcher;
     std::function<void()> m_handler;
     RecorderState m_state;

@@ -1589,6 +1589,10 @@
         <source></source>
         <translation>Läuft nicht</translation>
     </message>
+    <message id="companion_silent">
+        <source></source>
+        <translation>Antwortet nicht</translation>
+    </message>
     <message id="companion_locked">
         <source></source>
         <translation>Gesperrt</translation>

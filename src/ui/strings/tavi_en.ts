@@ -1588,6 +1588,10 @@
         <source></source>
         <translation>Not running</translation>
     </message>
+    <message id="companion_silent">
+        <source></source>
+        <translation>Does not answer</translation>
+    </message>
     <message id="companion_locked">
         <source></source>
         <translation>Locked</translation>

@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "adapters/dbus/BusNames.h"
+#include "adapters/dbus/DBusRecorder.h"
 #include "adapters/dbus/HandOver.h"
 #include "adapters/dbus/InstanceLock.h"
 #include "adapters/dbus/LogindSleep.h"
@@ -351,6 +352,42 @@ TEST_F(DBusApplicationTest, TheMachineSleepsOnceNobodyHoldsItUp) {
     m_desktop.own(FakeDesktop::login());
     // The delay that was given back may be seen to go only now.
     EXPECT_TRUE(spinUntil([&] { return told == std::vector{90.0, 0.0} && m_desktop.isSleepDelayed(); }));
+}
+
+/// Takes any call, and leaves it without an answer.
+class Hung : public Callee {
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+        asked << message;
+        return true;
+    }
+
+public:
+    QList<QDBusMessage> asked;
+};
+
+TEST(DBusRecorder, IsSilentAndNotAbsentWhileItHangs) {
+    PrivateBus bus;
+    Hung object;
+    QDBusConnection there = bus.connect();
+    const QString name = busNameForContainer({});
+    ASSERT_TRUE(there.registerVirtualObject(kApplicationObjectPath, &object) && there.registerService(name));
+    DBusRecorder recorder(bus.connect(), name, {QStringLiteral("/absent")}, std::chrono::milliseconds(50));
+    QStringList phases;
+    recorder.setStateHandler([&] { phases << phaseName(recorder.state().phase); });
+    ASSERT_TRUE(spinUntil([&] { return recorder.isKnown() && !object.asked.isEmpty(); }));
+    std::string why;
+    recorder.open(QUrl(QStringLiteral("x:y")),
+                  [&why](Recorder::Outcome, const Error& error) { why = error.text.toStdString(); });
+    ASSERT_TRUE(spinUntil([&why] { return !why.empty(); }));
+    EXPECT_EQ(why, "The recorder does not answer.");
+    // It answers everything when it goes on.
+    for (const QDBusMessage& question : object.asked) {
+        there.send(question.createReply(QVariantMap{{QStringLiteral("State"), QStringLiteral("paused")}}));
+    }
+    ASSERT_TRUE(spinUntil([&phases] { return phases.size() == 2; }));
+    there.unregisterService(name);
+    ASSERT_TRUE(spinUntil([&phases] { return phases.size() == 3; }));
+    EXPECT_EQ(phases.join(u' ').toStdString(), "silent paused absent");
 }
 
 TEST(BusName, IsOneForEachFolder) {

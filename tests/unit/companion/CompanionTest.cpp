@@ -50,6 +50,7 @@ TEST(CompanionIcon, ShowsWhatTheRecorderTellsAndCountsOn) {
     // Texts show as their ids here.
     const std::pair<RecorderState, const char*> cases[] = {
         {{Phase::Absent, 0}, "companion_absent|companion_record"},
+        {{Phase::Silent, 0}, "companion_silent|companion_record_or_pause|stop"},
         {{Phase::Locked, 0}, "companion_locked|companion_record_or_pause|stop"},
         {{Phase::Idle, 0}, "companion_idle|companion_record"},
         {{Phase::Recording, 9}, "companion_recording|companion_pause|stop"},
@@ -63,7 +64,7 @@ TEST(CompanionIcon, ShowsWhatTheRecorderTellsAndCountsOn) {
         // Nothing wakes a program that has nothing to count.
         EXPECT_EQ(runLoop.activeTimers(), state.phase == Phase::Recording ? 1U : 0U);
     }
-    EXPECT_EQ(recorder.opened.size(), 4);
+    EXPECT_EQ(recorder.opened.size(), 5);
     EXPECT_EQ(troubles, QStringList(QStringLiteral("companion_not_running")));
     EXPECT_EQ(companionClock(359'999 + 3600), QStringLiteral("100:59:59"));
 }
