@@ -18,6 +18,9 @@ from private_desktop import PrivateDesktop, Trouble, wait_for
 
 KINDS = ("recording", "recording", "paused", "saving")
 TYPES = ("m4a", "mp4", "aac", "wav", "caf")
+QUALITIES = {"Low": 8000, "Medium": 16000, "High": 44100}
+# Frames that a decoder puts before the sound, since nothing in the file says that they are none.
+PRIMING = {"aac": 1024}
 RATE = 8000
 # Half a second may be lost of what was captured. As much again is left to what the server holds and to a busy machine.
 MOST_SECONDS = 1.0
@@ -33,8 +36,10 @@ class Recorder:
         self.log = desktop.folder / "tavi.log"
         desktop.environment["TAVI_TRACE"] = "1"
 
-    def start(self, file_type):
-        self.desktop.run(*self.command, "set", "AudioFileType", file_type)
+    def start(self, file_type, quality):
+        self.priming = PRIMING.get(file_type, 0) / QUALITIES[quality]
+        for name, value in (("AudioFileType", file_type), ("AudioQualityType", quality)):
+            self.desktop.run(*self.command, "set", name, value)
         self.log.write_text("")
         self.app = self.desktop.spawn(*self.command, log=self.log)
         self.desktop.window(self.app)
@@ -73,20 +78,20 @@ class Recorder:
             if done.returncode != 0 or done.stderr:
                 raise Trouble(f"{path.name} is damaged:\n{done.stderr.decode()}")
             path.unlink()
-            return len(done.stdout) / 2 / RATE
+            return len(done.stdout) / 2 / RATE - self.priming
         return 0.0
 
 
-def lost_by_stop(recorder, file_type):
-    recorder.start(file_type)
+def lost_by_stop(recorder):
+    recorder.start(TYPES[0], "High")
     truth = recorder.record(2.0, "saving")
     wait_for(lambda: any(path.is_file() for path in recorder.documents.glob("*")), "the recording")
     recorder.desktop.stop(recorder.app)
     return truth - recorder.take_length()
 
 
-def lost_by_kill(recorder, file_type, kind, chance):
-    recorder.start(file_type)
+def lost_by_kill(recorder, file_type, quality, kind, chance):
+    recorder.start(file_type, quality)
     rest = {"recording": 0.0, "paused": chance.uniform(0.1, 1.0), "saving": chance.uniform(0.0, 0.1)}[kind]
     truth = recorder.record(chance.uniform(0.0, 5.0), kind, rest)
     recorder.desktop.stop(recorder.app, signal.SIGKILL)
@@ -100,28 +105,28 @@ def lost_by_kill(recorder, file_type, kind, chance):
         raise Trouble(f"not recovered: {left}")
     length = recorder.take_length()
     if truth - length > MOST_SECONDS:
-        print(f"too much: {length:.2f} s are left of {truth:.2f} s of {file_type}, killed while {kind}")
+        print(f"too much: {length:.2f} s are left of {truth:.2f} s of {file_type}, {quality}, killed while {kind}")
     return truth - length
 
 
 def main(program, count):
     seed = int(os.environ.get("SEED", random.randrange(10**6)))
     chance = random.Random(seed)
-    lost = {file_type: [] for file_type in TYPES}
+    lost = {(file_type, quality): [] for file_type in TYPES for quality in QUALITIES}
     with PrivateDesktop() as desktop:
         recorder = Recorder(desktop, program)
-        stopped = lost_by_stop(recorder, TYPES[0])
+        stopped = lost_by_stop(recorder)
         for number in range(count):
             file_type = TYPES[number % len(TYPES)]
-            kind = chance.choice(KINDS)
-            lost[file_type].append((lost_by_kill(recorder, file_type, kind, chance), kind))
+            quality, kind = chance.choice(list(QUALITIES)), chance.choice(KINDS)
+            lost[file_type, quality].append((lost_by_kill(recorder, file_type, quality, kind, chance), kind))
     print(f"seconds lost by {count} kills, seed {seed}; stopped instead: {stopped:.2f}")
-    print("type  killed while  times   mean   most")
-    for file_type, all_lost in lost.items():
+    print("type  quality  killed while  times   mean   most")
+    for (file_type, quality), all_lost in lost.items():
         for wanted in sorted(set(KINDS)):
             some = [seconds for seconds, kind in all_lost if kind == wanted]
             if some:
-                print(f"{file_type}   {wanted:12}  {len(some):5}  {sum(some) / len(some):5.2f}  {max(some):5.2f}")
+                print(f"{file_type}   {quality:7}  {wanted:12}  {len(some):5}  {sum(some) / len(some):5.2f}  {max(some):5.2f}")
     return int(any(seconds > MOST_SECONDS for all_lost in lost.values() for seconds, _ in all_lost))
 
 

@@ -41,18 +41,18 @@ private:
 };
 
 /// The step that makes the file an ordinary one: everything up to the new movie header becomes media data.
-int coverFragments(int fd, std::int64_t from, std::int64_t to, const PwriteFunction& pwrite) {
+int coverFragments(int fd, std::int64_t from, std::int64_t to, const PwriteFunction& pwrite, const SyncFunction& sync) {
     ByteWriter header;
     header.u32(1);
     header.u32(mp4Type("mdat"));
     header.u64(static_cast<std::uint64_t>(to - from));
     const WriteResult result = writeFully(pwrite, fd, header.data().data(), header.size(), from);
-    return result.error == 0 && ::fsync(fd) != 0 ? errno : result.error;
+    return result.error == 0 && sync(fd) != 0 ? errno : result.error;
 }
 
 }  // namespace
 
-FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite) {
+FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite, const SyncFunction& sync) {
     const auto movie = Mp4Movie::read(fd);
     if (!movie) {
         return fileFailure("This is no recording in an MP4 file.");
@@ -95,7 +95,7 @@ FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite) {
         writeMp4Movie(sound, *totals, runs, [&](std::span<const std::uint8_t> bytes) { appender.append(bytes); });
     int error = appender.error();
     if (appended && error == 0) {
-        error = ::fsync(fd) != 0 ? errno : coverFragments(fd, movie->box.offset, fragmentsEnd, pwrite);
+        error = sync(fd) != 0 ? errno : coverFragments(fd, movie->box.offset, fragmentsEnd, pwrite, sync);
         return error == 0 ? FileResult<void>() : fileFailure(writeErrorText(error));
     }
     // The file goes on as a fragmented one, without half a header at its end.

@@ -17,6 +17,7 @@ namespace tavi {
 /// Does nothing to an ordinary MP4 file. Fails, without changing it, on a file that it does not understand: one with
 /// several tracks, without a fragment that makes sense, or none of MPEG-4. The descriptor must be open for reading and
 /// writing. Its memory does not grow with the file. Any thread; nobody else may write to the file.
-FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite = systemPwrite());
+FileResult<void> finalizeMp4(int fd, const PwriteFunction& pwrite = systemPwrite(),
+                             const SyncFunction& sync = systemSync());
 
 }  // namespace tavi

@@ -339,13 +339,18 @@ TEST(Mp4Test, MakingAFileOrdinaryCanFailAtAnyWriteAndBeDoneAgain) {
         SCOPED_TRACE(failing);
         const FileDescriptor file = memoryFile(before);
         int calls = 0;
-        const auto result = finalizeMp4(file.get(), [&](int fd, const void* data, std::size_t size, off_t offset) {
+        int unsynced = 0;
+        const auto pwrite = [&](int fd, const void* data, std::size_t size, off_t offset) {
+            EXPECT_TRUE(offset >= std::ssize(before) || unsynced == 0) << "a power cut can take either header";
+            ++unsynced;
             errno = ENOSPC;
             return calls++ == failing ? ssize_t{-1} : ::pwrite(fd, data, size, offset);
-        });
+        };
+        const auto result = finalizeMp4(file.get(), pwrite, [&](int) { return unsynced = 0; });
         EXPECT_EQ(result.has_value(), failing >= calls);
         EXPECT_TRUE(result || result.error().text == "The disk is full.");
         EXPECT_EQ(isFragmented(file), !result);
+        EXPECT_TRUE(!result || unsynced == 0);
         EXPECT_TRUE(failing > 1 || contents(file) == before);
         expectPackets(file, all);
         EXPECT_TRUE(finalizeMp4(file.get()));
