@@ -89,9 +89,10 @@ Result<void> syncCloud(const CloudAccount& account, std::optional<bool> areVanis
     if (outcome.isInStep) {
         return {};
     }
-    return failure(!outcome.vanished.empty() ? qtTrId("error_cloud_vanished").arg(outcome.vanished.size()) +
-                                                   QLatin1Char(' ') + qtTrId("command_cloud_vanished")
-                                             : outcome.error);
+    return failure(!outcome.vanished.empty()
+                       ? qtTrId("error_cloud_vanished", static_cast<int>(outcome.vanished.size())) + QLatin1Char(' ') +
+                             qtTrId("command_cloud_vanished")
+                       : outcome.error);
 }
 
 CloudOverview lookAtCloud(const CloudAccount& account, const AppContainer& container) {

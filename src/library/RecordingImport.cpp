@@ -179,7 +179,7 @@ void RecordingImport::importFiles(const QList<QUrl>& urls) {
 
 void RecordingImport::showLine() {
     const QString text = m_batch->count == 1 ? qtTrId("import_running").arg(m_batch->last)
-                                             : qtTrId("import_running_many").arg(m_batch->count);
+                                             : qtTrId("import_running_many", m_batch->count);
     m_batch->line = m_services.notices.postProgress({text, qtTrId("Cancel"), [self = QPointer(this)] {
                                                          if (self) {
                                                              self->cancel();
@@ -264,7 +264,7 @@ void RecordingImport::tell(const Batch& batch) const {
     };
     if (batch.failures.empty()) {
         m_services.notices.postNotice(
-            {batch.count == 1 ? qtTrId("import_done").arg(batch.last) : qtTrId("import_done_many").arg(batch.count)});
+            {batch.count == 1 ? qtTrId("import_done").arg(batch.last) : qtTrId("import_done_many", batch.count)});
     } else if (batch.count == 1) {
         m_services.notices.postNotice({lineOf(batch.failures[0])});
     } else {
@@ -273,10 +273,10 @@ void RecordingImport::tell(const Batch& batch) const {
             lines += lineOf(batch.failures[i]);
         }
         if (batch.failures.size() > kMostLines) {
-            lines += qtTrId("import_more").arg(batch.failures.size() - kMostLines);
+            lines += qtTrId("import_more", static_cast<int>(batch.failures.size() - kMostLines));
         }
         m_services.notices.postNotice(
-            {qtTrId("import_some").arg(batch.imported()).arg(batch.failures.size()), qtTrId("import_details"),
+            {qtTrId("import_some", batch.imported()).arg(batch.failures.size()), qtTrId("import_details"),
              [&presenter = m_services.presenter, text = lines.join(QLatin1Char('\n'))] {
                  presenter.presentAlert({qtTrId("import_details_title"), text, {{qtTrId("OK")}}});
              }});

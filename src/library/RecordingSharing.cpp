@@ -91,7 +91,7 @@ void RecordingSharing::copyToClipboard(const std::vector<std::filesystem::path>&
         m_services.pasteboard.setMimeData(std::move(data));
         m_services.notices.postNotice({files.size() == 1
                                            ? qtTrId("share_copied").arg(lineText(files.front().filename()))
-                                           : qtTrId("share_copied_many").arg(files.size())});
+                                           : qtTrId("share_copied_many", static_cast<int>(files.size()))});
     } else if (!paths.empty()) {
         isThere(paths.front());
     }

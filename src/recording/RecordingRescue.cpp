@@ -149,8 +149,9 @@ void RecordingRescue::didRescue(const std::vector<Rescued>& all) {
     m_waiting = std::move(waiting);
     if (!saved.empty()) {
         m_services.notifications.postNotification(kDataUpdatedNotification);
-        m_services.notices.postNotice({saved.size() == 1 ? qtTrId("rescue_saved").arg(saved.front())
-                                                         : qtTrId("rescue_saved_many").arg(saved.size())});
+        m_services.notices.postNotice({saved.size() == 1
+                                           ? qtTrId("rescue_saved").arg(saved.front())
+                                           : qtTrId("rescue_saved_many", static_cast<int>(saved.size()))});
     } else if (isNew) {
         m_services.notices.postNotice({qtTrId("rescue_waits")});
     }

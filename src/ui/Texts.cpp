@@ -10,16 +10,15 @@ Qt::LayoutDirection installTexts(QCoreApplication& application) {
     const QString folder = QStringLiteral(":/strings");
     const QString name = QStringLiteral("tavi");
     const QString separator = QStringLiteral("_");
-    Qt::LayoutDirection direction = Qt::LeftToRight;
-    // The last one installed is asked first; what it does not have is said in English.
-    for (const QLocale& locale : {QLocale(QLocale::English), QLocale::system()}) {
-        auto* translator = new QTranslator(&application);
+    // Every language has every text, so one is enough.
+    auto* translator = new QTranslator(&application);
+    for (const QLocale& locale : {QLocale::system(), QLocale(QLocale::English)}) {
         if (translator->load(locale, name, separator, folder)) {
             QCoreApplication::installTranslator(translator);
-            direction = QLocale(translator->language()).textDirection();
+            return QLocale(translator->language()).textDirection();
         }
     }
-    return direction;
+    return Qt::LeftToRight;
 }
 
 }  // namespace tavi

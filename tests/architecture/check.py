@@ -57,6 +57,8 @@ PLAIN_FOR_QT = "files/PathText.h"
 QT = re.compile(r"^(Qt?[A-Z]|Q[A-Z])")
 GRAPHICS = re.compile(r"^(Qt(Quick|Qml|Gui|Widgets)\b|QQ(uick|ml)|QGuiApplication|QPainter|QWindow|QImage)")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+# How many forms a text with a number has; two where nothing is said.
+PLURALS = {"pl": 3, "ru": 3, "ar": 6, "tr": 1, "ja": 1, "zh_CN": 1}
 TEXT = re.compile(r'q[st]TrId\("([^"]+)"')
 NOISE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.DOTALL)
 
@@ -144,21 +146,30 @@ def placeholders(text):
 
 
 def check_texts(root):
-    """Every text that is asked for, in every language, with the same places to fill."""
+    """Every text that is asked for and no other, in every language, with the same places to fill and all plural forms."""
     tables = {}
     for file in sorted((root / "src").glob("ui/strings/*.ts")):
         tables[file.name] = {message.get("id"): ["".join(form.itertext()) for form in message.findall("translation/numerusform")
                                                  or message.findall("translation")]
                              for message in xml.etree.ElementTree.parse(file).iter("message")}
-    asked = {text for file in (root / "src").rglob("*") if file.suffix in (".cpp", ".h", ".qml")
-             for text in TEXT.findall(file.read_text(encoding="utf-8"))}
+    sources = [file.read_text(encoding="utf-8") for file in (root / "src").rglob("*") if file.suffix in (".cpp", ".h", ".qml")]
+    asked = {text for source in sources for text in TEXT.findall(source)}
     everything = asked.union(*tables.values())
+    english = tables.get("tavi_en.ts", {})
+    named = "\n".join(sources)
+    yield from (f"tavi_en.ts: nobody asks for {text}" for text in english if f'"{text}"' not in named)
     for name, table in tables.items():
         yield from (f"{name}: no text for {text}" for text in sorted(everything - table.keys()))
         for text, forms in table.items():
-            wanted = placeholders(tables["tavi_en.ts"].get(text, [""])[-1])
-            if not all(forms) or placeholders(forms[-1]) != wanted:
+            model = english.get(text, [""])
+            if not all(form.strip() for form in forms) or placeholders(forms[-1]) != placeholders(model[-1]):
                 yield f"{name}: {text} is empty or has other places to fill"
+            plurals = PLURALS.get(name.removeprefix("tavi_").removesuffix(".ts"), 2) if "%n" in model[-1] else 1
+            if len(forms) != plurals:
+                yield f"{name}: {text} has {len(forms)} forms, not {plurals}"
+            spoken = name != "tavi_en.ts" and not text.startswith("key_")
+            if spoken and forms == model and len(re.findall(r"\w{3,}", model[0])) > 2:
+                yield f"{name}: {text} is English"
 
 
 def check(root):
@@ -207,14 +218,18 @@ CROWD = "#include <pulse/simple.h>\nQTimer t;\nauto n = QDateTime::currentDateTi
 CROWD_FAULTS = ["<pulse/simple.h>", "QDBusConnection", "QDateTime::currentDateTime", "QTimer"]
 
 
-# A text that has no German, one that has another place to fill there, and one that nobody wrote.
+# A text that has no German, one that has another place to fill there, one that nobody wrote, and one that nobody asks for,
+# that is not translated, and that lacks a plural.
+SPARE = '<message id="d"><translation>%n words that are English</translation></message>'
 WORDS = {
     "src/ui/strings/tavi_en.ts": '<TS><message id="a"><translation>A</translation></message>'
-                                 '<message id="b"><translation>%1 b</translation></message></TS>',
-    "src/ui/strings/tavi_de.ts": '<TS><message id="b"><translation>b</translation></message></TS>',
-    "src/ui/Words.cpp": 'auto c = qtTrId("c");\n',
+                                 '<message id="b"><translation>%1 b</translation></message>' + SPARE + "</TS>",
+    "src/ui/strings/tavi_de.ts": '<TS><message id="b"><translation>b</translation></message>' + SPARE + "</TS>",
+    "src/ui/Words.cpp": 'auto c = qtTrId("c") + qtTrId("a") + qtTrId("b");\n',
 }
-WORDS_FAULTS = ["tavi_de.ts: no text for a", "tavi_de.ts: no text for c", "tavi_de.ts: b is empty", "tavi_en.ts: no text for c"]
+WORDS_FAULTS = ["tavi_en.ts: nobody asks for d", "tavi_de.ts: no text for a", "tavi_de.ts: no text for c", "tavi_de.ts: b is empty",
+                "tavi_de.ts: d has 1 forms, not 2", "tavi_de.ts: d is English", "tavi_en.ts: no text for c",
+                "tavi_en.ts: d has 1 forms"]
 
 
 def self_test():

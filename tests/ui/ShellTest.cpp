@@ -447,7 +447,7 @@ TEST(Import, TakesCopiesOfWhatIsDroppedOnTheWindow) {
     shell.runLoop.drain();
     EXPECT_TRUE(std::filesystem::exists(shell.container.documentsPath() / "talk.wav"));
     EXPECT_EQ(shell.tabBar.selectedIndex(), 1);
-    EXPECT_EQ(shell.notices.text(), QStringLiteral("1 files have been imported, 499 have not"));
+    EXPECT_EQ(shell.notices.text(), QStringLiteral("1 file has been imported, 499 not"));
     shell.notices.act();
     shell.settle();
     EXPECT_TRUE(shell.presenter.isActive());

@@ -308,9 +308,12 @@
         <source></source>
         <translation>„%1“ liegt in der Zwischenablage.</translation>
     </message>
-    <message id="share_copied_many">
+    <message id="share_copied_many" numerus="yes">
         <source></source>
-        <translation>%1 Aufnahmen liegen in der Zwischenablage.</translation>
+        <translation>
+            <numerusform>%n Aufnahme liegt in der Zwischenablage.</numerusform>
+            <numerusform>%n Aufnahmen liegen in der Zwischenablage.</numerusform>
+        </translation>
     </message>
     <message id="export_no_dialog">
         <source></source>
@@ -667,9 +670,12 @@
         <source></source>
         <translation>Eine Aufnahme wurde gerettet: %1</translation>
     </message>
-    <message id="rescue_saved_many">
+    <message id="rescue_saved_many" numerus="yes">
         <source></source>
-        <translation>%1 Aufnahmen wurden gerettet.</translation>
+        <translation>
+            <numerusform>%n Aufnahme wurde gerettet.</numerusform>
+            <numerusform>%n Aufnahmen wurden gerettet.</numerusform>
+        </translation>
     </message>
     <message id="rescue_waits">
         <source></source>
@@ -743,25 +749,34 @@
         <source></source>
         <translation>%1 wird importiert</translation>
     </message>
-    <message id="import_running_many">
+    <message id="import_running_many" numerus="yes">
         <source></source>
-        <translation>%1 Dateien werden importiert</translation>
+        <translation>
+            <numerusform>%n Datei wird importiert</numerusform>
+            <numerusform>%n Dateien werden importiert</numerusform>
+        </translation>
     </message>
     <message id="import_done">
         <source></source>
         <translation>%1 wurde importiert</translation>
     </message>
-    <message id="import_done_many">
+    <message id="import_done_many" numerus="yes">
         <source></source>
-        <translation>%1 Dateien wurden importiert</translation>
+        <translation>
+            <numerusform>%n Datei wurde importiert</numerusform>
+            <numerusform>%n Dateien wurden importiert</numerusform>
+        </translation>
     </message>
     <message id="import_failed">
         <source></source>
         <translation>%1 wurde nicht importiert: %2</translation>
     </message>
-    <message id="import_some">
+    <message id="import_some" numerus="yes">
         <source></source>
-        <translation>%1 Dateien wurden importiert, %2 nicht</translation>
+        <translation>
+            <numerusform>%n Datei wurde importiert, %1 nicht</numerusform>
+            <numerusform>%n Dateien wurden importiert, %1 nicht</numerusform>
+        </translation>
     </message>
     <message id="import_details">
         <source></source>
@@ -771,9 +786,12 @@
         <source></source>
         <translation>Nicht importiert</translation>
     </message>
-    <message id="import_more">
+    <message id="import_more" numerus="yes">
         <source></source>
-        <translation>und %1 weitere</translation>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
     <message id="import_cancelled">
         <source></source>
@@ -1375,13 +1393,12 @@
         <source></source>
         <translation>Ein anderer Prozess kümmert sich gerade um die Cloud.</translation>
     </message>
-    <message id="error_cloud_disk">
+    <message id="error_cloud_vanished" numerus="yes">
         <source></source>
-        <translation>Der Ordner ist nicht zu erreichen.</translation>
-    </message>
-    <message id="error_cloud_vanished">
-        <source></source>
-        <translation>%1 Dateien sind auf einmal vom Server verschwunden.</translation>
+        <translation>
+            <numerusform>%n Datei ist auf einmal vom Server verschwunden.</numerusform>
+            <numerusform>%n Dateien sind auf einmal vom Server verschwunden.</numerusform>
+        </translation>
     </message>
     <message id="error_cloud_no_server">
         <source></source>

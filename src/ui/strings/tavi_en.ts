@@ -307,9 +307,12 @@
         <source></source>
         <translation>“%1” is on the clipboard.</translation>
     </message>
-    <message id="share_copied_many">
+    <message id="share_copied_many" numerus="yes">
         <source></source>
-        <translation>%1 recordings are on the clipboard.</translation>
+        <translation>
+            <numerusform>%n recording is on the clipboard.</numerusform>
+            <numerusform>%n recordings are on the clipboard.</numerusform>
+        </translation>
     </message>
     <message id="export_no_dialog">
         <source></source>
@@ -666,9 +669,12 @@
         <source></source>
         <translation>A recording was recovered: %1</translation>
     </message>
-    <message id="rescue_saved_many">
+    <message id="rescue_saved_many" numerus="yes">
         <source></source>
-        <translation>%1 recordings were recovered.</translation>
+        <translation>
+            <numerusform>%n recording was recovered.</numerusform>
+            <numerusform>%n recordings were recovered.</numerusform>
+        </translation>
     </message>
     <message id="rescue_waits">
         <source></source>
@@ -742,25 +748,34 @@
         <source></source>
         <translation>Importing %1</translation>
     </message>
-    <message id="import_running_many">
+    <message id="import_running_many" numerus="yes">
         <source></source>
-        <translation>Importing %1 files</translation>
+        <translation>
+            <numerusform>Importing %n file</numerusform>
+            <numerusform>Importing %n files</numerusform>
+        </translation>
     </message>
     <message id="import_done">
         <source></source>
         <translation>%1 has been imported</translation>
     </message>
-    <message id="import_done_many">
+    <message id="import_done_many" numerus="yes">
         <source></source>
-        <translation>%1 files have been imported</translation>
+        <translation>
+            <numerusform>%n file has been imported</numerusform>
+            <numerusform>%n files have been imported</numerusform>
+        </translation>
     </message>
     <message id="import_failed">
         <source></source>
         <translation>%1 has not been imported: %2</translation>
     </message>
-    <message id="import_some">
+    <message id="import_some" numerus="yes">
         <source></source>
-        <translation>%1 files have been imported, %2 have not</translation>
+        <translation>
+            <numerusform>%n file has been imported, %1 not</numerusform>
+            <numerusform>%n files have been imported, %1 not</numerusform>
+        </translation>
     </message>
     <message id="import_details">
         <source></source>
@@ -770,9 +785,12 @@
         <source></source>
         <translation>Not imported</translation>
     </message>
-    <message id="import_more">
+    <message id="import_more" numerus="yes">
         <source></source>
-        <translation>and %1 more</translation>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
     </message>
     <message id="import_cancelled">
         <source></source>
@@ -1374,13 +1392,12 @@
         <source></source>
         <translation>Another process looks after the cloud now.</translation>
     </message>
-    <message id="error_cloud_disk">
+    <message id="error_cloud_vanished" numerus="yes">
         <source></source>
-        <translation>The folder cannot be reached.</translation>
-    </message>
-    <message id="error_cloud_vanished">
-        <source></source>
-        <translation>%1 files are gone from the server all at once.</translation>
+        <translation>
+            <numerusform>%n file is gone from the server all at once.</numerusform>
+            <numerusform>%n files are gone from the server all at once.</numerusform>
+        </translation>
     </message>
     <message id="error_cloud_no_server">
         <source></source>

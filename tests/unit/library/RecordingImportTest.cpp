@@ -30,10 +30,12 @@ struct Texts : QTranslator {
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* key, const char*, int) const override {
         const QString text = QString::fromLatin1(key).section(QLatin1Char('_'), 1);
-        const QStringList one{QStringLiteral("done"), QStringLiteral("done_many"), QStringLiteral("running"),
-                              QStringLiteral("running_many"), QStringLiteral("more")};
-        const bool hasTwo = text == QLatin1String("failed") || text == QLatin1String("some");
-        return text + QLatin1String(hasTwo ? " %1 %2" : one.contains(text) ? " %1" : "");
+        const QHash<QString, const char*> places{
+            {QStringLiteral("done"), " %1"},     {QStringLiteral("done_many"), " %n"},
+            {QStringLiteral("running"), " %1"},  {QStringLiteral("running_many"), " %n"},
+            {QStringLiteral("more"), " %n"},     {QStringLiteral("some"), " %n %1"},
+            {QStringLiteral("failed"), " %1 %2"}};
+        return text + QLatin1String(places.value(text, ""));
     }
 };
 
