@@ -156,9 +156,13 @@ void CloudPage::disconnectAccount() {
 }
 
 void CloudPage::conditionChanged() {
-    // Asked once by itself: whoever puts it off finds the question on the page.
-    if (!std::exchange(m_wasAsking, isAsking()) && isAsking()) {
-        askAboutVanished();
+    // Asked once by itself: whoever puts it off finds the question on the page. A look that failed settles nothing.
+    const CloudCondition::State state = m_services.cloud.condition().state;
+    const bool isUnsettled = state == CloudCondition::State::Troubled || state == CloudCondition::State::Working;
+    if (isAsking()) {
+        std::exchange(m_wasAsking, true) ? void() : askAboutVanished();
+    } else if (m_hasAnswered || !isUnsettled) {
+        m_wasAsking = m_hasAnswered = false;
     }
     Q_EMIT changed();
 }
@@ -168,6 +172,7 @@ void CloudPage::askAboutVanished() {
     const auto answer = [self = QPointer(this), asked](bool areRemoved) {
         return [self, asked, areRemoved] {
             if (self && self->m_services.cloud.condition().vanished == asked) {
+                self->m_hasAnswered = true;
                 self->m_services.cloud.answerVanished(areRemoved);
             } else if (self && self->isAsking()) {
                 // There are others by now, of which the user knows nothing.

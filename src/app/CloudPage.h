@@ -82,7 +82,8 @@ private:
     bool m_isOpen = false;
     bool m_isServerAsked = false;
     bool m_isConnecting = false;
-    bool m_wasAsking = false;
+    /// The user has been asked about what has vanished, and has answered.
+    bool m_wasAsking = false, m_hasAnswered = false;
     /// Counts attempts, so that the answer to one that was given up is none.
     int m_attempt = 0;
     QString m_connectError;

@@ -122,7 +122,12 @@ bool CloudCache::empty(const std::optional<std::set<std::filesystem::path>>& sta
         qCInfo(lcLibrary, "%s", isDone ? "done" : "failed");
     }
     m_made = std::move(left);
-    std::ofstream(m_record, std::ios::trunc) << lines;
+    // In one step: a record that is cut off would make the user's own of what is left.
+    removeLeftovers(m_record.parent_path(), std::time(nullptr));
+    DurableFile record = DurableFile::create(m_record, {}, Existing::Replace);
+    if (!record.isValid() || !writeAll(record.fd(), FileContents(lines)) || record.publish() != 0) {
+        qCWarning(lcLibrary, "%s: not written", m_record.c_str());
+    }
     return hasMoved;
 }
 

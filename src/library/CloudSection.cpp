@@ -62,10 +62,15 @@ void CloudSection::viewWillAppear() {
         }
         return endRefreshing();
     }
-    m_services.documents.setDelegate(this);
     m_services.documents.setVerboseLogging(true);
     m_hasList = false;
     m_isListAwaited = true;
+    setUp();
+}
+
+void CloudSection::setUp() {
+    m_isMissing = false;
+    m_services.documents.setDelegate(this);
     m_services.documents.setupiCloudDocumentSyncWithUbiquityContainer({});
 }
 
@@ -93,6 +98,7 @@ void CloudSection::iCloudDidFinishInitializingWitUbiquityToken(const QString& /*
 
 void CloudSection::iCloudAvailabilityDidChangeToState(bool isAvailable, const QString& /*token*/,
                                                       const std::filesystem::path& /*container*/) {
+    m_isMissing = !isAvailable && m_isListAwaited;
     // Who has just turned it off is told of nothing.
     if (!isAvailable && m_services.settings.isCloudSyncOn()) {
         m_services.presenter.presentAlert(
@@ -132,6 +138,9 @@ void CloudSection::refresh() {
     Q_EMIT changed();
     m_services.runLoop.dispatchAfter(kLongestRefresh,
                                      [self = QPointer(this)] { self ? self->endRefreshing() : void(); });
+    if (m_isMissing) {
+        return setUp();
+    }
     m_hasList ? getCloudDocuments() : refreshCloudList();
 }
 
@@ -273,6 +282,11 @@ void CloudSection::filesChanged() {
         return;
     }
     m_services.table.setCloudFiles(m_services.connection.files());
+    const bool wasEmpty = std::exchange(m_isEmpty, m_services.table.cloudFiles().empty());
+    if (m_isMissing && wasEmpty && !m_isEmpty) {
+        // The folder has come back.
+        return setUp();
+    }
     // What has come since is fetched, too.
     const bool isIdle = m_next == m_names.size() && m_underWay == 0 && m_uses == 0 && !m_waiting && !m_isListAwaited;
     if (!isIdle) {

@@ -78,6 +78,8 @@ private:
     void iCloudFilesDidChange(std::span<const MetadataItem> files,
                               std::span<const std::filesystem::path> names) override;
 
+    /// Looks for the container.
+    void setUp();
     /// Empties the cache, all of it or of what is no longer listed, and fetches the files.
     void start(const Names& names, bool isAnew);
     void startNext();
@@ -95,6 +97,9 @@ private:
     bool m_hasList = false;
     /// Nothing is fetched before the first list.
     bool m_isListAwaited = true;
+    /// There was no container when it was looked for, such as a folder whose disk is not connected.
+    bool m_isMissing = false;
+    bool m_isEmpty = true;
     bool m_isResetAsked = false;
     bool m_isShowAsked = false;
     /// What is fetched; answers to an earlier fetch are none.

@@ -178,6 +178,7 @@ void RecordingActions::rename(const QString& typed) {
         return tell("rename_failed", file->path, renamed.error().text);
     }
     Q_EMIT stopRequested(file->path);
+    m_services.settings.moveCloudPending(file->path, newPath);
     m_target.path = newPath;
     renameInCloud(file->path.filename(), newPath.filename());
     // Twice, on purpose: the second one sees what the first was too early for.
@@ -192,18 +193,22 @@ void RecordingActions::rename(const QString& typed) {
 }
 
 void RecordingActions::renameInCloud(const std::filesystem::path& oldName, const std::filesystem::path& newName) {
+    // A local recording need not be there.
+    const bool isTold = m_target.isInCloud;
     if (!m_services.settings.isCloudSyncOn()) {
         return;
     }
-    m_services.cloud.renameOriginalDocument(oldName, newName, [self = QPointer(this)](const auto& /*error*/) {
-        if (self) {
-            self->m_services.runLoop.dispatchAfter(kReloadDelay, [self] {
-                if (self) {
-                    Q_EMIT self->cloudRefreshRequested();
-                }
-            });
-        }
-    });
+    m_services.cloud.renameOriginalDocument(
+        oldName, newName, [self = QPointer(this), oldName, isTold](const auto& error) {
+            if (self) {
+                error&& isTold ? self->tell("rename_failed", oldName, error->domain) : void();
+                self->m_services.runLoop.dispatchAfter(kReloadDelay, [self] {
+                    if (self) {
+                        Q_EMIT self->cloudRefreshRequested();
+                    }
+                });
+            }
+        });
 }
 
 void RecordingActions::showDeletealert() {
@@ -241,13 +246,11 @@ void RecordingActions::deleteAudio() {
 }
 
 void RecordingActions::deleteInCloud(const std::filesystem::path& name) {
-    m_services.cloud.deleteDocumentWithName(name, [self = QPointer(this)](const auto& error) {
-        if (error) {
-            qCInfo(lcLibrary, "Delete Document  error");
-            return;
-        }
-        qCInfo(lcLibrary, "Delete Success");
+    m_services.cloud.deleteDocumentWithName(name, [self = QPointer(this), name](const auto& error) {
+        qCInfo(lcLibrary, "%s", error ? "Delete Document  error" : "Delete Success");
         if (self) {
+            error ? self->tell("delete_failed", name, error->domain) : void();
+            // After an error, too: the row comes back.
             Q_EMIT self->cloudRefreshRequested();
         }
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <utility>
 
 #include "cloud/CloudDocuments.h"
 #include "support/ManualRunLoop.h"
@@ -38,7 +39,9 @@ public:
         complete(std::move(completion), content, [this, name, content] { files[name] = content.head(content.size()); });
     }
     void retrieveCloudDocumentWithName(const std::filesystem::path& name, DocumentCompletion completion) override {
+        const auto refused = std::exchange(error, std::nullopt);
         complete(std::move(completion), FileContents(files[name]), [] {});
+        error = refused;
     }
     void deleteDocumentWithName(const std::filesystem::path& name, ErrorCompletion completion) override {
         complete(std::move(completion), [this, name] { files.erase(name); });
@@ -55,7 +58,7 @@ public:
 
     /// Without one nothing completes.
     bool hasAccount = true;
-    /// What comes of everything from now on.
+    /// What comes of every change from now on.
     std::optional<CloudError> error;
     std::map<std::filesystem::path, std::string> files;
     /// Names, in the order in which they were asked for.

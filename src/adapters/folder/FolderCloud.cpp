@@ -38,6 +38,23 @@ Result<void> moveWithoutReplacing(const std::filesystem::path& from, const std::
     return error == 0 ? Result<void>() : failure(QString::fromStdString(writeErrorText(error)));
 }
 
+/// Watches a folder; where it is missing, for its coming.
+void watch(int events, std::filesystem::path folder) {
+    constexpr std::uint32_t kChanges = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_CLOSE_WRITE |
+                                       IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+    constexpr std::uint32_t kComing = IN_CREATE | IN_MOVED_TO | IN_ONLYDIR | IN_ONESHOT;
+    // It is made by the first file that is saved.
+    const bool isWatched = ::inotify_add_watch(events, folder.c_str(), kChanges) >= 0 ||
+                           ::inotify_add_watch(events, folder.parent_path().c_str(), kChanges) >= 0;
+    // The container itself is gone, such as with a disk.
+    for (folder = folder.parent_path(); !isWatched && folder.has_relative_path();) {
+        folder = folder.parent_path();
+        if (::inotify_add_watch(events, folder.c_str(), kComing) >= 0) {
+            break;
+        }
+    }
+}
+
 /// A removal that nobody notes would be undone by what the server still has.
 Result<void> mirrorMissing() {
     return failure(qtTrId("error_cloud_untold"));
@@ -297,13 +314,8 @@ void FolderCloud::look() {
     const auto listing = std::make_shared<FolderListing>();
     m_thread.post(
         [listing, folder = documentsFolder(), events = m_events] {
-            constexpr std::uint32_t kChanges =
-                IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_CLOSE_WRITE | IN_DELETE_SELF | IN_MOVE_SELF;
             // Before the look, so that what changes afterwards is heard; harmless where it is watched already.
-            if (::inotify_add_watch(events->get(), folder.c_str(), kChanges | IN_ONLYDIR) < 0) {
-                // It is made by the first file that is saved.
-                ::inotify_add_watch(events->get(), folder.parent_path().c_str(), kChanges | IN_ONLYDIR);
-            }
+            watch(events->get(), folder);
             *listing = listFolder(folder);
         },
         [self = QPointer(this), listing, token = m_place.token] {

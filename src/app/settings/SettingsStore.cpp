@@ -1,6 +1,7 @@
 #include "app/settings/SettingsStore.h"
 
 #include <QStringList>
+#include <algorithm>
 
 namespace tavi {
 
@@ -96,6 +97,14 @@ void SettingsStore::setCloudPending(const std::filesystem::path& file, bool isPe
     if (texts.contains(text) != isPending) {
         isPending ? texts.append(text) : void(texts.removeAll(text));
         write(settingskey::kCloudPending, texts.join(QLatin1Char(' ')));
+    }
+}
+
+void SettingsStore::moveCloudPending(const std::filesystem::path& from, const std::filesystem::path& to) {
+    const auto pending = cloudPending();
+    if (std::find(pending.begin(), pending.end(), from) != pending.end()) {
+        setCloudPending(from, false);
+        setCloudPending(to, true);
     }
 }
 

@@ -65,6 +65,8 @@ public:
     /// Files that are to be in the cloud and have not been handed to it for sure, such as at the program's end.
     std::vector<std::filesystem::path> cloudPending() const;
     void setCloudPending(const std::filesystem::path& file, bool isPending);
+    /// A file has another path by now.
+    void moveCloudPending(const std::filesystem::path& from, const std::filesystem::path& to);
 
     /// The library's sort code, 1 to 6; anything else leaves the folder's order.
     int sort() const;

@@ -181,6 +181,16 @@ TEST(FolderCloud, IsNotThereWithoutItsMarkAndNeverWaitsForADisk) {
     EXPECT_EQ(world->cloud.attributesOfItem(world->documents() / "a"), std::nullopt);
     world.reset();
     hanging->release();
+
+    // A disk that goes and comes again.
+    Folder other;
+    for (const char* name : {"a", "b"}) {
+        std::filesystem::create_directories(other.documents());
+        other.put(name, "1");
+        EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().contains(name); }));
+        std::filesystem::remove_all(other.documents().parent_path());
+        EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().empty(); }));
+    }
 }
 
 TEST(FolderCloud, AVersionThatNobodyHasSeenStaysAsAConflict) {

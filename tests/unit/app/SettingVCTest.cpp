@@ -231,16 +231,23 @@ TEST_F(SettingVCTest, TheCloudsSwitchAsksWhereItIsAndGoesOnOnceThereIsOne) {
     }
     EXPECT_TRUE(vc.isCloudSyncOn());
 
-    // It asks by itself once, however often it is said that files have vanished.
+    // It asks by itself once, however often it is said that files have vanished, and whatever fails between.
+    using State = CloudCondition::State;
     presenter.alerts.clear();
-    connection.how = {CloudCondition::State::Asking, {}, {}, 7};
-    Q_EMIT connection.conditionChanged();
-    Q_EMIT connection.conditionChanged();
+    for (const State state : {State::InStep, State::Asking, State::Troubled, State::Working, State::Asking}) {
+        connection.how = {state, {}, {}, state == State::Asking ? 7 : 0};
+        Q_EMIT connection.conditionChanged();
+    }
     ASSERT_EQ(presenter.alerts.size(), 1U);
     presenter.alerts.back().actions[1].handler();
     presenter.alerts.back().actions[2].handler();
     EXPECT_EQ((std::vector(connection.asked.end() - 2, connection.asked.end())),
               (std::vector<std::string>{"vanished no", "vanished yes"}));
+    for (const State state : {State::Asking, State::Troubled, State::Asking}) {
+        connection.how.state = state;
+        Q_EMIT connection.conditionChanged();
+    }
+    EXPECT_EQ(presenter.alerts.size(), 2U) << "once answered, the next ones are others";
 
     page.disconnectAccount();
     EXPECT_TRUE(page.hasAccount());

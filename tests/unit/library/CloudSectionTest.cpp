@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "support/FakeLibrary.h"
+#include "support/Texts.h"
 
 namespace tavi::test {
 namespace {
@@ -74,10 +75,14 @@ TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRec
     write(cache / "mine.m4a", "mine");
     write(cache / "a.m4a", "mine, too");
     write(recordings / "mine.m4a", "local");
+    const std::filesystem::path record = container.cachesPath() / "cloud-cache";
     for (int times = 0; times < 2; ++times) {
         appear();
         EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));
         EXPECT_THAT(filesIn(recordings), UnorderedElementsAre("mine.m4a local", "mine_2.m4a mine", "a.m4a mine, too"));
+        EXPECT_EQ(std::filesystem::hard_link_count(record), 1U)
+            << "the record is replaced whole, never cut and rewritten";
+        std::filesystem::create_hard_link(record, std::filesystem::path(record) += std::to_string(times));
     }
     EXPECT_EQ((std::pair{library.table.numberOfRowsInSection(0), library.table.numberOfRowsInSection(1)}),
               (std::pair{3, 2}));
@@ -169,6 +174,43 @@ TEST_F(CloudSectionTest, WhatIsDoneInTheCloudsListIsDoneInTheCloud) {
     appear();
     EXPECT_EQ(library.actions.Buttontag(), library.table.rowOf(1, "a.m4a"));
     EXPECT_EQ(library.actions.Buttontag(), 1) << "another row of the cloud has come before it";
+}
+
+TEST_F(CloudSectionTest, WhatTheCloudRefusesToDoIsToldAndShownAsItIs) {
+    const Texts texts{{{"delete_failed", QStringLiteral("%1 stays: %2")}, {"rename_failed", QStringLiteral("%1: %2")}}};
+    appear();
+    cloud.error = CloudError{QStringLiteral("no"), 1};
+    for (const bool isDeleted : {true, false}) {
+        ASSERT_GE(library.table.rowOf(1, "a.m4a"), 0);
+        library.actions.aim(QStringLiteral("1"), library.table.rowOf(1, "a.m4a"), {});
+        if (isDeleted) {
+            library.actions.deleteAudio();
+        } else {
+            library.actions.kReNameAudio();
+            presenter.alerts.back().actions[0].textHandler(QStringLiteral("talk"));
+        }
+        settle();
+        EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));
+        EXPECT_EQ(notices.posted.back().text,
+                  isDeleted ? QStringLiteral("a.m4a stays: no") : QStringLiteral("a.m4a: no"));
+    }
+}
+
+TEST_F(CloudSectionTest, AFolderThatComesBackIsFetchedWhileTheLibraryIsOpen) {
+    for (const bool isPulled : {false, true}) {
+        cloud.hasAccount = false;
+        std::filesystem::remove_all(cache);
+        tell({});
+        appear();
+        cloud.delegate()->iCloudAvailabilityDidChangeToState(false, {}, {});
+        const int setups = cloud.setups;
+        tell({});
+        EXPECT_EQ(cloud.setups, setups) << "it is asked again when something is there, not for nothing";
+        cloud.hasAccount = true;
+        isPulled ? library.section.refresh() : tell({{"a.m4a", {State::There}}, {"b.m4a", {State::There}}});
+        settle();
+        EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));
+    }
 }
 
 TEST_F(CloudSectionTest, ARefreshLooksForTheNetworkFirst) {

@@ -184,11 +184,13 @@ TEST_F(RecordingActionsTest, ANameIsCheckedAndTheRowStaysInSight) {
     }
     aim("b.wav");
     library.vc.didSelectRowAtIndexPath(0, 1);
+    settings.setCloudPending(container.documentsPath() / "b.wav", true);
     actions.kReNameAudio();
     confirm("OK", QStringLiteral("z"));
     EXPECT_FALSE(library.vc.isPlaying()) << "nothing plays on under a name that is no more";
     runLoop.drain();
     EXPECT_TRUE(cloud.files.contains("z.wav"));
+    EXPECT_THAT(settings.cloudPending(), ElementsAre(container.documentsPath() / "z.wav"));
     EXPECT_THAT(listed(), ElementsAre("a.m4a", "b.wav", "c.aac", "d.MP3"));
     runLoop.advance(0.2);
     EXPECT_THAT(listed(), ElementsAre("a.m4a", "c.aac", "d.MP3", "z.wav"));
