@@ -130,8 +130,9 @@ Window {
     Connections {
         target: window.presenter
 
+        // Not at once: whether the screen is covered may be known only after who is told here.
         function onFrontChanged() {
-            window.focusScreen()
+            Qt.callLater(window.focusScreen)
         }
     }
 

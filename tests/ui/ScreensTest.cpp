@@ -472,6 +472,9 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
     Shell shell;
     shell.tabBar.setSelectedIndex(2);
     shell.settle();
+    shell.tap("icloud");
+    shell.key(Qt::Key_Escape);
+    EXPECT_FALSE(shell.item("icloud")->property("checked").toBool()) << "there is no cloud yet";
     shell.connection.place.kind = CloudAccount::Kind::Folder;
     shell.tap("icloud");
     EXPECT_TRUE(shell.settings.isCloudSyncOn());
@@ -492,6 +495,11 @@ TEST(Settings, ControlsShowWhatTheScreenDecides) {
         seconds.push_back(shell.settingVC.rewindValue());
     }
     EXPECT_EQ(seconds, (std::vector{30.0, 50.0, 60.0, 40.0, 5.0}));
+    shell.item("quality")->forceActiveFocus(Qt::TabFocusReason);
+    for (const auto& [key, isAsked] : {std::pair{Qt::Key_Enter, true}, {Qt::Key_Escape, false}}) {
+        shell.key(key);
+        EXPECT_EQ(shell.presenter.isActive(), isAsked);
+    }
     shell.notices.postNotice({QStringLiteral("A line over the last row")});
     shell.settle();
     const QQuickItem* row = shell.item("reportBug");
