@@ -1,11 +1,12 @@
-// Scrolling a library of ten thousand recordings in a phone's window, rendered in software: how long a picture takes
-// from the movement of the list until it is there.
+// Scrolling a library of ten thousand recordings, rendered in software: how long a picture takes from the movement of
+// the list until it is there. In a phone's window, or scroll_bench WIDTH HEIGHT [SCALE].
 
 #include <QElapsedTimer>
 #include <QFont>
 #include <QGuiApplication>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 #include "Screens.h"
 #include "ui/Shell.h"
@@ -23,6 +24,8 @@ constexpr double kFrame = 16.0;
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", argc > 3 ? argv[3] : "1");
+    const QSize size = argc > 2 ? QSize(std::atoi(argv[1]), std::atoi(argv[2])) : QSize(390, 844);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
@@ -34,7 +37,7 @@ int main(int argc, char** argv) {
         }
         made.tabBar.select(1);
     });
-    shell.window->resize(390, 844);
+    shell.window->resize(size);
     shell.settle();
     QQuickItem* list = shell.item("tableView");
     if (list->property("count").toInt() != kRecordings) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <qpa/qwindowsysteminterface.h>
+
 #include "Shell.h"
 
 namespace tavi::test {
@@ -55,6 +57,38 @@ TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
     shell.key(Qt::Key_Plus);
     shell.tap("zoomIn");
     EXPECT_EQ(zoom.factor(), 4.0);
+    const QQuickItem* plot = shell.item("tavi::EZAudioPlotItem");
+    const QPointF quarter = plot->mapToScene({plot->width() / 4.0, 50.0});
+    const auto turn = [&](int angle, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event(quarter, quarter, {}, {0, angle}, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(shell.window, &event);
+    };
+    const QPointingDevice touch(QStringLiteral("touch"), 1, QInputDevice::DeviceType::TouchScreen,
+                                QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 2, 0);
+    const auto pinch = [&](double distance, QEventPoint::State state) {
+        QWindowSystemInterface::TouchPoint point;
+        point.state = state;
+        QList<QWindowSystemInterface::TouchPoint> points(2, point);
+        for (const int finger : {0, 1}) {
+            points[finger].id = finger;
+            points[finger].area.moveCenter(
+                shell.window->mapToGlobal(quarter + QPointF((finger - 0.5) * distance, 0.0)));
+        }
+        QWindowSystemInterface::handleTouchEvent<QWindowSystemInterface::SynchronousDelivery>(shell.window, &touch,
+                                                                                              points);
+    };
+    turn(120, Qt::ControlModifier);
+    EXPECT_NEAR(zoom.factor(), 5.0, 1e-6);
+    EXPECT_NEAR(zoom.from(), 0.3875, 1e-3) << "what is under the pointer stays";
+    turn(-120, Qt::NoModifier);
+    EXPECT_NEAR(zoom.from(), 0.4275, 1e-3) << "without Ctrl it scrolls";
+    for (const double distance : {40.0, 60.0, 80.0, 100.0, 120.0, 160.0}) {
+        pinch(distance, distance == 40.0 ? QEventPoint::Pressed : QEventPoint::Updated);
+    }
+    pinch(160.0, QEventPoint::Released);
+    EXPECT_NEAR(zoom.factor(), 10.0, 1e-6);
+    EXPECT_NEAR(zoom.from(), 0.4525, 1e-3) << "what is between the fingers stays";
+    zoom.show(0.375, 0.625);
     shell.tap("tavi::EZAudioPlotItem");
     EXPECT_NEAR(player.indicatorX(), zoom.offset() + zoom.viewWidth() / 2.0, 1.0) << "a tap moves the play head";
     shell.drag(*shell.item("overview"), 50.0);

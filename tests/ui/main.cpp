@@ -25,6 +25,8 @@ int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     // The texts that are compared are English, wherever the tests run. Pictures can be looked at in others.
     qputenv("LANGUAGE", qEnvironmentVariable("TAVI_LANGUAGE", QStringLiteral("en")).toUtf8());
+    // A movement of the fingers is heard at once, not with the next picture.
+    qputenv("QML_NO_TOUCH_COMPRESSION", "1");
     QGuiApplication application(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("Roboto")));
     QGuiApplication::setLayoutDirection(tavi::installTexts(application));
