@@ -33,7 +33,12 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
-        return isUntold() ? QString() : QAccessibleQuickItem::text(kind);
+        if (isUntold()) {
+            return {};
+        }
+        // Qt gives a field for a password no name: it is called after what it asks for.
+        return kind == QAccessible::Name && state().passwordEdit ? item()->property("placeholderText").toString()
+                                                                 : QAccessibleQuickItem::text(kind);
     }
     using QAccessibleQuickItem::text;
 

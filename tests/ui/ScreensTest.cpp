@@ -331,6 +331,8 @@ void checkItems(const UserWindow& shown, bool isCovered) {
             const bool mayElide = item->property("elide").toInt() != Qt::ElideNone;
             EXPECT_TRUE(mayElide || item->property("contentWidth").toDouble() <= item->width() + 0.5);
         }
+        EXPECT_TRUE(!item->inherits("QQuickTextField") ||
+                    !QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name).isEmpty());
         if (!isControl(*item) || !item->isEnabled()) {
             continue;
         }

@@ -8,6 +8,15 @@ FocusScope {
 
     required property CloudPage page
     property real footRoom: 0
+    readonly property Item focused: root.Window.activeFocusItem
+
+    function reveal(item) {
+        const top = item.mapToItem(rows, 0, 0).y
+        table.contentY = Math.max(0, top + item.height + footRoom - table.height, Math.min(table.contentY, top - Theme.touch))
+    }
+
+    // What has the keyboard comes into view, and what went wrong.
+    onFocusedChanged: if (focused !== null && activeFocus && focused !== root) reveal(focused)
 
     /// What is known of the cloud: what it is, and the words for it.
     component Fact: Item {
@@ -112,6 +121,7 @@ FocusScope {
                 }
 
                 RowLine {
+                    inset: Theme.margin
                     width: parent.width
                 }
 
@@ -122,6 +132,7 @@ FocusScope {
                 }
 
                 RowLine {
+                    inset: Theme.margin
                     width: parent.width
                     visible: root.page.isServer
                 }
@@ -243,6 +254,7 @@ FocusScope {
                 width: parent.width
                 height: visible ? problem.implicitHeight + 2 * Theme.gapWide : 0
                 visible: problem.text !== ""
+                onVisibleChanged: if (visible) Qt.callLater(root.reveal, this)
 
                 Icon {
                     anchors.left: parent.left

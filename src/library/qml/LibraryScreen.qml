@@ -228,7 +228,7 @@ FocusScope {
 
         EmptyState {
             anchors.centerIn: parent
-            width: Math.min(parent.width - 4 * Theme.margin, 320)
+            width: Math.min(parent.width - 4 * Theme.margin, 280)
             visible: root.beside && !panel.open
             imageName: "play_player.png"
             title: qsTrId("player_nothing")

@@ -84,6 +84,8 @@ FocusScope {
                                      : times + " · " + (root.player.rate === 0.5 ? "½" : root.player.rate) + "×"
         color: root.player.hasPlayer ? Theme.label : Theme.tint
         font.pixelSize: 13
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
         elide: Text.ElideRight
         maximumLineCount: 1
         Accessible.role: Accessible.StaticText

@@ -69,8 +69,10 @@ Item {
             text: root.screen.source.problem || (root.screen.source.isLoading ? qsTrId("trimmer_loading") : "")
             visible: text !== ""
             color: root.screen.source.problem ? Theme.tint : Theme.label
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
             elide: Text.ElideRight
-            maximumLineCount: 1
+            horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
