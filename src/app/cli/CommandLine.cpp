@@ -119,9 +119,12 @@ CLI::Validator seconds() {
 }
 
 /// Takes the name of a folder for the settings, whose file has to have a name that is text. An option or a command in
-/// its place is a folder that was forgotten.
+/// its place is a folder that was forgotten; so is no name at all, which would mean the user's own recordings.
 CLI::Validator folderName(const CLI::App& app) {
     const auto check = [&app](const std::string& name) {
+        if (name.empty()) {
+            return std::string("the name is empty");
+        }
         const auto isNamed = [&name](const CLI::App* command) { return command->get_name() == name; };
         if (name.starts_with('-') || !app.get_subcommands(isNamed).empty()) {
             return "no folder before “" + name + "”; one of that name is ./" + name;

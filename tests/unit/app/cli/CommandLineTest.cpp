@@ -70,6 +70,7 @@ TEST(CommandLine, IsUnderstoodOrSaysWhatIsWrong) {
         {"--container|list", "! --container: no folder before “list”; one of that name is ./list"},
         {"--container|--json|list", "! --container: no folder before “--json”; one of that name is ./--json"},
         {"--container=|record", "! --container= needs a value"},
+        {"--container||list", "! --container: the name is empty"},
         {"--container|\xff", "! --container: the name is not text: “\uFFFD”"},
         {"record|stop", "? stop"},
         {"--companion-channel=pigeon", "? pigeon"},
