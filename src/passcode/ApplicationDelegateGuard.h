@@ -10,7 +10,7 @@
 namespace tavi {
 
 /// Hands everything on, but what is to be opened while the program is locked: files and the library wait until it is
-/// unlocked. Recording starts and stops at once, as companions must work. Main thread only.
+/// unlocked, 10,000 at most. Recording starts and stops at once, as companions must work. Main thread only.
 class ApplicationDelegateGuard final : public QObject, public ApplicationDelegate {
     Q_OBJECT
 
@@ -28,6 +28,9 @@ public:
     void applicationWillTerminate() override { m_delegate.applicationWillTerminate(); }
     bool applicationOpenURL(const QUrl& url) override {
         if (m_lockState.isLocked() && !isForRecording(url)) {
+            if (m_waiting.size() >= kMostWaiting || url.toString().size() > kMostCharacters) {
+                return false;
+            }
             m_waiting.append(url);
             return true;
         }
@@ -54,6 +57,10 @@ private:
             }
         }
     }
+
+    /// More than anybody hands over by hand, and longer than any path with each byte as three characters.
+    static constexpr qsizetype kMostWaiting = 10'000;
+    static constexpr qsizetype kMostCharacters = 16 * 1024;
 
     ApplicationDelegate& m_delegate;
     const LockState& m_lockState;

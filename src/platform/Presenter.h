@@ -38,12 +38,15 @@ struct Alert {
     std::optional<QPointF> anchor = {};
     /// For a sheet with an anchor: the shape of the sound that it is about, numbers from 0 to 1. Shown at its head.
     QList<qreal> levels = {};
+    /// Another program has it shown, and may do so any number of times; nobody waits for an answer.
+    bool isFromOutside = false;
 };
 
 /// Shows alerts and sheets over whatever is on screen. Main thread only.
 ///
-/// An alert presented while another one stands waits for its turn; none is dropped. Dismissing without a choice counts
-/// as the action of style Cancel, or the only action.
+/// An alert presented while another one stands waits for its turn. None is dropped, but of those from outside
+/// the oldest that waits where more than 16 do. Dismissing without a choice counts as the action of style Cancel, or
+/// the only action.
 class Presenter {
 public:
     virtual ~Presenter() = default;

@@ -8,10 +8,10 @@
 #include <QPointer>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 #include "files/PathText.h"
 #include "library/utility/DateTexts.h"
-#include "library/utility/Utility.h"
 #include "recording/AudioSettings.h"
 
 namespace tavi {
@@ -22,6 +22,7 @@ Q_LOGGING_CATEGORY(lcRecording, "tavi.recording", QtInfoMsg)
 
 constexpr int kRecordTab = 0;
 constexpr int kSettingsTab = 2;
+constexpr qsizetype kMostToldCharacters = 1000;
 constexpr double kLoudest = 0.0;
 constexpr double kSilence = -160.0;
 constexpr double kZeroPoint = -45.0;
@@ -124,7 +125,10 @@ void AudioRecordVC::listenToWormhole() {
     const QPointer<AudioRecordVC> self(this);
     m_wormhole->listenForMessageWithIdentifier(QStringLiteral("ChangeRecord"), [self](const QVariant& message) {
         if (self) {
-            Utility::showAlrtWithTitle(message.toString(), {}, self->m_services.presenter);
+            // Nobody reads more, and laying out a text of megabytes would hold up the window.
+            Alert alert{message.toString().left(kMostToldCharacters), {}, {AlertAction{qtTrId("OK")}}};
+            alert.isFromOutside = true;
+            self->m_services.presenter.presentAlert(std::move(alert));
         }
     });
     m_wormhole->listenForMessageWithIdentifier(QStringLiteral("Record"), [self](const QVariant&) {

@@ -1,9 +1,17 @@
 #include "ui/AlertPresenter.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace tavi {
+
+namespace {
+
+/// In a flood from outside the user reads the first one, and so many of the last.
+constexpr std::ptrdiff_t kMostFromOutside = 16;
+
+}  // namespace
 
 void AlertPresenter::present(Entry entry) {
     if (entry.alert.actions.empty()) {
@@ -11,8 +19,17 @@ void AlertPresenter::present(Entry entry) {
         entry.alert.actions.push_back({qtTrId("OK"), AlertAction::Style::Cancel});
     }
     m_queue.push_back(std::move(entry));
+    boundFlood();
     if (m_queue.size() == 1) {
         Q_EMIT frontChanged();
+    }
+}
+
+void AlertPresenter::boundFlood() {
+    const auto isFromOutside = [](const Entry& entry) { return entry.alert.isFromOutside; };
+    const auto waiting = m_queue.begin() + 1;
+    if (std::count_if(waiting, m_queue.end(), isFromOutside) > kMostFromOutside) {
+        m_queue.erase(std::find_if(waiting, m_queue.end(), isFromOutside));
     }
 }
 

@@ -69,6 +69,7 @@ private:
     };
 
     void present(Entry entry);
+    void boundFlood();
     int actionOfStyle(AlertAction::Style style) const;
 
     std::deque<Entry> m_queue;

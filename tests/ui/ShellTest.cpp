@@ -237,6 +237,25 @@ TEST(Alerts, QueueAndAnswerKeys) {
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
 }
 
+TEST(AlertPresenter, KeepsItsOwnAndTheLastOfAFloodFromOutside) {
+    AlertPresenter presenter;
+    int own = 0;
+    for (int i = 0; i < 100; ++i) {
+        Alert told{QString::number(i), {}, {}};
+        told.isFromOutside = true;
+        presenter.presentAlert(told);
+        presenter.presentAlert({QStringLiteral("own"), {}, {}});
+    }
+    QStringList told;
+    while (presenter.isActive()) {
+        presenter.title() == u"own" ? void(++own) : void(told << presenter.title());
+        presenter.dismiss();
+    }
+    EXPECT_EQ(own, 100);
+    EXPECT_EQ(told.size(), 17);
+    EXPECT_EQ(told.first() + told.last(), QStringLiteral("099"));
+}
+
 TEST(Rating, WaitsUntilNothingStandsBeforeTheScreens) {
     Shell shell;
     const auto isCovered = [&shell] { return (shell.settle(), shell.rating.rater.isCovered()); };

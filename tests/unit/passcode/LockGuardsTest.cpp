@@ -145,6 +145,13 @@ TEST(ApplicationDelegateGuard, RecordsWhileLockedAndOpensTheRestLater) {
     }
     expected << QStringLiteral("file:///b") << QStringLiteral("taviliteconnect:") << QStringLiteral("file:///a");
     EXPECT_EQ(opener.opened, expected);
+    // No flood of them fills the memory.
+    lock.setLocked(true);
+    int taken = guard.applicationOpenURL(QUrl(QStringLiteral("file:///") + QString(100'000, u'x'))) ? 1 : 0;
+    for (int i = 0; i < 20'000; ++i) {
+        taken += guard.applicationOpenURL(QUrl(QStringLiteral("file:///c"))) ? 1 : 0;
+    }
+    EXPECT_EQ(taken, 10'000);
 }
 
 }  // namespace

@@ -275,6 +275,8 @@ TEST_F(AudioRecordVCTest, WhatStandsInTheWayIsSaidInOneAlert) {
     }
     hearFromCompanion("ChangeRecord", "from afar");
     EXPECT_EQ(presenter.alerts.back().title, QStringLiteral("from afar"));
+    hearFromCompanion("ChangeRecord", std::string(1 << 20, 'x').c_str());
+    EXPECT_EQ(presenter.alerts.back().title.size(), 1000);
 }
 
 TEST_F(AudioRecordVCTest, ARecordingThatEndsByItselfIsSavedAndSaid) {
