@@ -78,6 +78,19 @@ const FakePropertyLists g_fake;
 INSTANTIATE_TEST_SUITE_P(, PropertyListsContract, ::testing::Values(&g_real, &g_fake),
                          [](const auto& one) { return std::string(one.param == &g_real ? "Libplist" : "Fake"); });
 
+TEST(LibplistPropertyLists, RefusesAnArchiveThatLacksAValueForAKey) {
+    for (const int keys : {1, 2}) {
+        const QVariantMap root{
+            {QStringLiteral("type"), QStringLiteral("dictionary")},
+            {QStringLiteral("keys"), QVariantList(keys, QByteArray("a"))},
+            {QStringLiteral("values"), QVariantList{QVariantMap{{QStringLiteral("type"), QStringLiteral("nothing")}}}}};
+        const auto data = g_real.dataWithPropertyList(QVariantMap{{QStringLiteral("$archiver"), QStringLiteral("tavi")},
+                                                                  {QStringLiteral("$version"), 1},
+                                                                  {QStringLiteral("root"), root}});
+        EXPECT_EQ(g_real.unarchiveObjectWithData(data.value()).has_value(), keys == 1);
+    }
+}
+
 TEST(LibplistPropertyLists, ArchivesWhatTheFormatCannotHoldAtAnyDepth) {
     const QVariant odd = QVariantList{QStringLiteral("a\0b").leftJustified(4, QChar(0)),
                                       QVariantMap{{QString(QChar(0)), QVariant()}},

@@ -80,6 +80,9 @@ TEST(CompanionLine, IsUnderstoodOrSaysWhatIsWrong) {
     EXPECT_EQ(meaning(""), "0");
     EXPECT_EQ(meaning("--container|/a b|--channel|record"), "1/a bfile");
     EXPECT_EQ(meaning("--channel=transfer|say|a text"), "1a texttransfer");
+    EXPECT_EQ(meaning("--channel|say|gr\xC3\xBC\xC3\x9F"),
+              "1gr\xC3\xBC\xC3\x9F"
+              "file");
     EXPECT_EQ(meaning("--version"), "2");
     EXPECT_EQ(meaning("say|a text"), "! say needs --channel");
     EXPECT_EQ(meaning("--container=|record"), "! --container= needs a value");
