@@ -39,7 +39,7 @@ public:
         complete(std::move(completion), content, [this, name, content] { files[name] = content.head(content.size()); });
     }
     void retrieveCloudDocumentWithName(const std::filesystem::path& name, DocumentCompletion completion) override {
-        const auto refused = std::exchange(error, std::nullopt);
+        const auto refused = std::exchange(error, files[name] == "?" ? std::optional(CloudError()) : std::nullopt);
         complete(std::move(completion), FileContents(files[name]), [] {});
         error = refused;
     }
@@ -60,6 +60,7 @@ public:
     bool hasAccount = true;
     /// What comes of every change from now on.
     std::optional<CloudError> error;
+    /// What holds "?" cannot be read.
     std::map<std::filesystem::path, std::string> files;
     /// Names, in the order in which they were asked for.
     std::vector<std::filesystem::path> saves;

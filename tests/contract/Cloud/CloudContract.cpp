@@ -191,6 +191,21 @@ TEST(FolderCloud, IsNotThereWithoutItsMarkAndNeverWaitsForADisk) {
         std::filesystem::remove_all(other.documents().parent_path());
         EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().empty(); }));
     }
+    std::filesystem::create_directories(other.documents());
+    std::ofstream(other.documents().parent_path() / "moved") << "1234";
+    std::filesystem::rename(other.documents().parent_path() / "moved", other.documents() / "moved");
+    EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().contains("moved"); }));
+    // What is cut short while it is saved is not saved.
+    Client client;
+    client.contents = *FileContents::ofFile(other.documents() / "moved");
+    std::filesystem::resize_file(other.documents() / "moved", 2);
+    std::optional<Result<void>> saved;
+    const auto document = other.cloud.documentWithFileURL(other.documents() / "cut", client);
+    document->save(DocumentSave::ForCreating, [&saved](const Result<void>& result) { saved = result; });
+    EXPECT_TRUE(other.until([&] { return saved.has_value(); }));
+    EXPECT_FALSE(saved->has_value() || std::filesystem::exists(other.documents() / "cut"));
+    other.cloud.setPlace({});
+    EXPECT_TRUE(other.cloud.knownItems().empty());
 }
 
 TEST(FolderCloud, AVersionThatNobodyHasSeenStaysAsAConflict) {

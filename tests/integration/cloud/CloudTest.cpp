@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "CloudCommands.h"
 #include "CloudPlace.h"
 #include "adapters/qt/QtRunLoop.h"
 #include "support/EventLoop.h"
@@ -41,7 +42,7 @@ protected:
     }
 
     PrivateDav server{QStringLiteral("rclone")};
-    CloudAccount account = CloudAccount::server(server.url().toString(), QStringLiteral("u"));
+    CloudAccount account = CloudAccount::server(server.url().toString().chopped(1), QStringLiteral("u"));
     TemporaryContainer container;
     FakeUserDefaults defaults;
     SettingsStore settings{defaults};
@@ -61,12 +62,15 @@ TEST_F(CloudTest, AnAccountComesAndGoesAndItsSwitchStopsAndStartsIt) {
     EXPECT_TRUE(settings.isCloudSyncOn());
     EXPECT_TRUE(becomes(State::InStep));
     EXPECT_TRUE(cloud->condition().lastSync.isValid());
+    int told = 0;
+    QObject::connect(cloud.get(), &CloudConnection::conditionChanged, [&] { ++told; });
     record("a (conflict D x).m4a");
     EXPECT_TRUE(arrives("a (conflict D x).m4a"));
     EXPECT_TRUE(spinUntil([&] {
         return cloud->files() == std::map<std::filesystem::path, CloudFile>{
                                      {"a (conflict D x).m4a", {CloudFile::State::There, true, 0.0}}};
     }));
+    EXPECT_TRUE(spinUntil([&] { return told > 1; })) << "as often as it changes";
     settings.setCloudSyncOn(false);
     cloud->settingsChanged();
     EXPECT_EQ(cloud->condition().state, State::Off);
@@ -86,7 +90,7 @@ TEST_F(CloudTest, AnAccountComesAndGoesAndItsSwitchStopsAndStartsIt) {
 TEST_F(CloudTest, BeginsOnceTheKeyringIsThereAndNobodyElseLooksAfterIt) {
     account.store(defaults);
     settings.setCloudSyncOn(true);
-    keepPassword(account, QStringLiteral("p"), keychain);
+    keepPassword(account, QStringLiteral("old"), keychain);
     keychain.troubleText = QStringLiteral("locked");
     FileDescriptor other = takeCloudLock(container);
     start();
@@ -97,7 +101,20 @@ TEST_F(CloudTest, BeginsOnceTheKeyringIsThereAndNobodyElseLooksAfterIt) {
     EXPECT_EQ(cloud->condition().error, QLatin1String("error_cloud_password"));
     keychain.troubleText.clear();
     cloud->keychainChanged();
+    EXPECT_TRUE(spinUntil([&] { return cloud->condition().error == QLatin1String("error_cloud_refused"); }));
+    EXPECT_EQ(connected("p"), "") << "another password of the same account";
     EXPECT_TRUE(becomes(State::InStep));
+    cloud.reset();
+    EXPECT_NE(mirrorFolder(account, container),
+              mirrorFolder(CloudAccount::server(account.address, QStringLiteral("v")), container));
+
+    std::ofstream(server.files() / "far") << "sound";
+    const std::filesystem::path here = mirrorFolder(account, container) / kUbiquityDocumentsFolder / "far";
+    EXPECT_TRUE(syncCloud(account, {}, container, keychain));
+    EXPECT_TRUE(std::filesystem::remove(here)) << "it has been fetched";
+    EXPECT_TRUE(lookAtCloud(account, container).files.contains("far"));
+    (*SyncJournal::open(journalPath(account, container)))->setRemovedHere("far", true);
+    EXPECT_FALSE(lookAtCloud(account, container).files.contains("far"));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QCryptographicHash>
 #include <QSslConfiguration>
 #include <QTimeZone>
 #include <fstream>
@@ -282,6 +283,28 @@ TEST(WebDav, AsksBeforeManyFilesThatAreGoneThereGoHereToo) {
     a.sync();
     EXPECT_THAT(a.contents(), ::testing::ElementsAre(::testing::Key("a"), ::testing::Key("new")));
     EXPECT_EQ(contentsIn(a.trash.folder).size(), 5U) << "what was agreed on, and no more";
+
+    // A file that is missed twice, and is there again between, stays.
+    a.answer = {};
+    for (const char letter : std::string("bcde")) {
+        a.write({letter}, {letter});
+    }
+    a.sync();
+    for (int times = 0; times < 2; ++times) {
+        std::filesystem::rename(server.files() / "new", server.files().parent_path() / "new");
+        a.sync();
+        EXPECT_TRUE(a.contents().contains("new"));
+        std::filesystem::rename(server.files().parent_path() / "new", server.files() / "new");
+        EXPECT_TRUE(a.sync().isInStep);
+    }
+    // A handful goes without a question.
+    EXPECT_EQ(a.contents().size(), 5U);
+    for (const auto& [name, bytes] : a.contents()) {
+        std::filesystem::remove(server.files() / name);
+    }
+    EXPECT_TRUE(a.sync().vanished.empty());
+    a.sync();
+    EXPECT_TRUE(a.contents().empty());
 }
 
 TEST(WebDav, DoesWithWhatAServerRefusesAndSaysWhatThatIs) {
@@ -309,6 +332,22 @@ TEST(WebDav, DoesWithWhatAServerRefusesAndSaysWhatThatIs) {
     }
     EXPECT_TRUE(a.sync().isInStep);
     EXPECT_FALSE(*a.client.stat("caught")) << "nobody else is asked";
+    Device b(server.url());
+    answer("GET=cut");
+    b.sync();
+    b.sync();
+    EXPECT_TRUE(b.contents().empty()) << "a part is nothing";
+    answer("GET=0");
+    // A version that nobody here has seen is neither replaced nor left hidden.
+    const auto hash = [](const char* bytes) { return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256); };
+    DavFolder dav(b.client, *b.journal);
+    dav.create("x", FileContents("1"), hash("1"));
+    EXPECT_EQ(dav.replace("x", FileContents("3"), hash("3"), hash("2"))->outcome, DavFolder::Outcome::Taken);
+    EXPECT_EQ(b.client.get("x", -1, {}), hash("1"));
+    b.journal->addScrap(".tavi-old-0123456789-x", "x");
+    b.client.put(".tavi-old-0123456789-x", FileContents("old"));
+    EXPECT_TRUE(*dav.recover());
+    EXPECT_TRUE(*b.client.stat(conflictName("x", "old", "012345")));
     // A rename that is refused waits, and is no new file beside the old one.
     answer("MOVE=403");
     a.rename("a", "renamed");
@@ -326,6 +365,9 @@ TEST(WebDav, DoesWithWhatAServerRefusesAndSaysWhatThatIs) {
     answer("PUT=403");
     EXPECT_EQ(probeFolder(a.client).error().text, QLatin1String("error_cloud_read_only"));
     answer("PUT=0");
+    answer("DELETE=403");
+    EXPECT_FALSE(probeFolder(a.client));
+    answer("DELETE=0");
     EXPECT_TRUE(probeFolder(a.client));
 }
 

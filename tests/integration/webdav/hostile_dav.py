@@ -4,7 +4,7 @@ GET /?SEED makes it misbehave from then on, at random by that seed; GET /?0 make
 said that it keeps, since nothing could be proved of a server that does; all else is allowed: it overwrites whatever the
 preconditions say, forgets to answer, answers and does nothing, keeps a part of what was sent, and lies about tags.
 GET /?VERB=STATUS has it answer so from then on, with "=elsewhere" by a redirect to another origin (asked there it makes a
-file "caught"), with "=path" by 400 where a destination is no path; GET /?VERB=0 makes that good again.
+file "caught"), with "=path" by 400 where a destination is no path, with "=cut" by a part; GET /?VERB=0 makes that good again.
 """
 
 import email.utils
@@ -69,7 +69,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
         if fault == "lose":
             self.close_connection = True
             return None
-        return self.reply(status, answer, fault == "cut")
+        return self.reply(status, answer, "cut" in (fault, rule))
 
     def act(self, path, body, fault):
         method = self.command
