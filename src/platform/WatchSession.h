@@ -41,7 +41,8 @@ public:
 
     /// To an end that is reachable; fails otherwise, and no answer is asked for.
     virtual Result<void> sendMessage(const QVariantMap& message) = 0;
-    /// Sends a copy of the file as it is now.
+    /// Sends the file that has this name now. Another may take its name while it is on its way; the file itself must
+    /// stay as it is.
     virtual Result<void> transferFile(const std::filesystem::path& file, const QVariantMap& metadata) = 0;
 };
 

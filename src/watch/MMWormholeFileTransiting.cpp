@@ -56,8 +56,8 @@ bool MMWormholeFileTransiting::writeMessageObject(const QVariant& message, const
         return !identifier.isEmpty();
     }
     const auto path = filePathForIdentifier(identifier);
-    const auto archive = archived(message);
-    return path && archive && writeFile(*path, *archive);
+    const auto archive = path ? archived(message) : std::nullopt;
+    return archive && writeFile(*path, *archive);
 }
 
 QVariant MMWormholeFileTransiting::messageObjectForIdentifier(const QString& identifier) {

@@ -112,15 +112,19 @@ Result<void> LocalWatchSession::transferFile(const std::filesystem::path& file, 
     if (!isReachable()) {
         return failure(QStringLiteral("Nobody is there to receive it."));
     }
-    qint64 size = 0;
-    const auto copy = copyOf(file, size);
-    if (!copy) {
-        return tl::unexpected(copy.error());
+    // It is read while it is sent, so that a large one holds up nobody here.
+    struct stat attributes = {};
+    const FileDescriptor source = openRegular(file, attributes);
+    if (!source.isValid()) {
+        return failure(qt_error_string(errno));
+    }
+    if (attributes.st_size > SessionLink::kMostFileBytes) {
+        return failure(QStringLiteral("The file is larger than 256 MB."));
     }
     bool isSent = false;
     for (const auto& link : m_links) {
-        const int own = link->isReady() ? ::fcntl(copy->get(), F_DUPFD_CLOEXEC, 0) : -1;
-        isSent = (own >= 0 && link->sendFile(*bytes, FileDescriptor(own), size)) || isSent;
+        const int own = link->isReady() ? ::fcntl(source.get(), F_DUPFD_CLOEXEC, 0) : -1;
+        isSent = (own >= 0 && link->sendFile(*bytes, FileDescriptor(own), attributes.st_size)) || isSent;
     }
     return isSent ? Result<void>() : failure(QStringLiteral("The other end does not keep up."));
 }
@@ -131,24 +135,6 @@ Result<QByteArray> LocalWatchSession::encoded(const QVariantMap& dictionary) con
         return failure(QStringLiteral("The message is larger than 16 MB."));
     }
     return bytes;
-}
-
-Result<FileDescriptor> LocalWatchSession::copyOf(const std::filesystem::path& file, qint64& size) const {
-    struct stat attributes = {};
-    const FileDescriptor source = openRegular(file, attributes);
-    if (!source.isValid()) {
-        return failure(qt_error_string(errno));
-    }
-    if (attributes.st_size > SessionLink::kMostFileBytes) {
-        return failure(QStringLiteral("The file is larger than 256 MB."));
-    }
-    FileDescriptor copy = SessionLink::namelessFile(m_folder, attributes.st_size);
-    const int error = copy.isValid() ? copyContents(source.get(), attributes, copy.get()) : errno;
-    if (error != 0) {
-        return failure(qt_error_string(error));
-    }
-    size = attributes.st_size;
-    return copy;
 }
 
 std::filesystem::path LocalWatchSession::fileOf(End end, const char* what) const {

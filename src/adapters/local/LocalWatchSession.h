@@ -58,7 +58,6 @@ private:
     void receive(SessionLink::Kind kind, const QByteArray& dictionary, const std::filesystem::path& file);
     void receiveContext(const QByteArray& encoded);
     Result<QByteArray> encoded(const QVariantMap& dictionary) const;
-    Result<FileDescriptor> copyOf(const std::filesystem::path& file, qint64& size) const;
 
     const std::filesystem::path m_folder;
     const End m_end;

@@ -82,6 +82,7 @@ bool SessionLink::sendFile(const QByteArray& metadata, FileDescriptor file, qint
     m_waiting.push_back({.kind = Kind::File,
                          .bytes = headOf(Kind::File, metadata.size(), size) + metadata,
                          .file = std::move(file),
+                         .fileSize = size,
                          .fileLeft = size});
     pump();
     return true;
@@ -130,7 +131,7 @@ bool SessionLink::pumpFirst() {
         return frame.written == frame.bytes.size() && frame.fileLeft == 0;
     }
     QByteArray part(std::min(frame.fileLeft, kChunkBytes), Qt::Uninitialized);
-    const qint64 offset = regularFileSize(frame.file.get()) - frame.fileLeft;
+    const qint64 offset = frame.fileSize - frame.fileLeft;
     if (readFully(frame.file.get(), part.data(), static_cast<std::size_t>(part.size()), offset) !=
         static_cast<std::size_t>(part.size())) {
         // The rest of it is lost, and with it where the next frame would begin.

@@ -63,6 +63,7 @@ private:
         Kind kind = Kind::Message;
         QByteArray bytes = {};
         FileDescriptor file = {};
+        qint64 fileSize = 0;
         qint64 fileLeft = 0;
         qint64 written = 0;
     };

@@ -103,7 +103,8 @@ TEST_P(WatchSessionContract, BringsEverythingInItsOrderToAnEndThatIsThere) {
         ASSERT_TRUE(there->sendMessage(dictionary(i)));
     }
     ASSERT_TRUE(there->transferFile(file, dictionary(QStringLiteral("file"))));
-    std::ofstream(file, std::ios::binary) << "changed since";
+    std::filesystem::remove(file);
+    std::ofstream(file, std::ios::binary) << "another since";
     std::filesystem::resize_file(file, (256U << 20) + 1);
     EXPECT_FALSE(there->transferFile(file, dictionary(0)));
     ASSERT_TRUE(there->sendMessage(dictionary(QByteArray(16 << 20, 'x'))));
