@@ -75,7 +75,8 @@ QString rangeText(const TrimTimes& times) {
         return QString::number(all / kHundredthsPerMinute) + QLatin1Char(':') +
                twoDigits(all % kHundredthsPerMinute / 100) + QLatin1Char('.') + twoDigits(all % 100);
     };
-    return qtTrId("trimmer_range").arg(exact(times.start), exact(times.end), QString::number(times.length(), 'f', 1));
+    return qtTrId("trimmer_range")
+        .arg(exact(times.start), exact(times.end), QLocale().toString(times.length(), 'f', 1));
 }
 
 std::string pathExtension(const std::filesystem::path& name) {

@@ -110,6 +110,20 @@ FocusScope {
                 onSlid: value => root.screen.forwardSliderChange(value)
             }
 
+            // In English there is nothing to explain.
+            Label {
+                objectName: "englishWords"
+                x: Theme.margin
+                width: parent.width - 2 * x
+                topPadding: 8
+                bottomPadding: Theme.margin
+                visible: root.screen.qualityText !== "Quality"
+                text: qsTrId("settings_english")
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
             SectionHeader {
                 width: parent.width
                 text: root.screen.headerTexts[3] ?? ""

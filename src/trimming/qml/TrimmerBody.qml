@@ -119,6 +119,7 @@ FocusScope {
         screen: root.screen
         filling: !root.oneRow
         spread: root.wide
-        withImages: !root.low && root.width >= 360
+        // Beside the play button there is room for long words, or for images.
+        withImages: !root.low && root.width >= (root.wide ? 760 : 360)
     }
 }

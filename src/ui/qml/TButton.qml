@@ -63,6 +63,8 @@ T.Button {
                 text: control.text
                 color: control.tint
                 font: control.font
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 11
                 elide: Text.ElideRight
             }
 

@@ -113,6 +113,10 @@
         <source></source>
         <translation>تقديم ( %1 ث )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>تبقى Low وMedium وHigh بالإنجليزية في كل اللغات، لأن صيغة التسجيل تتحدد بهذه الكلمات. وكذلك ما يظهر بعد تحريك المنزلق.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>مزامنة التسجيلات مع السحابة</translation>
@@ -986,7 +990,7 @@
     </message>
     <message id="trimmer_range">
         <source></source>
-        <translation>%1 – %2 · %3 s</translation>
+        <translation>‎%1 – %2 · %3 ث</translation>
     </message>
     <message id="a11y_zoom">
         <source></source>

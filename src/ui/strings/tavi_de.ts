@@ -114,6 +114,10 @@
         <source></source>
         <translation>Vor ( %1 Sek )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium und High sind in jeder Sprache englisch, denn aus diesen Wörtern ergibt sich das Format der Aufnahme. Englisch ist auch, was ein bewegter Regler zeigt.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Aufnahmen in die Cloud spiegeln</translation>
@@ -947,7 +951,7 @@
     </message>
     <message id="trimmer_rerecord">
         <source></source>
-        <translation>Neu aufnehmen</translation>
+        <translation>Neuaufnahme</translation>
     </message>
     <message id="trimmer_play">
         <source></source>
@@ -987,11 +991,11 @@
     </message>
     <message id="trimmer_total">
         <source></source>
-        <translation>insgesamt %1</translation>
+        <translation>gesamt %1</translation>
     </message>
     <message id="trimmer_exporting">
         <source></source>
-        <translation>Die Auswahl wird gespeichert</translation>
+        <translation>Auswahl wird gesichert</translation>
     </message>
     <message id="trimmer_stop_recording">
         <source></source>

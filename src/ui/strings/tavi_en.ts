@@ -113,6 +113,10 @@
         <source></source>
         <translation>Forward ( %1 Sec )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium and High are English in every language, because recordings take their format from these words. So is what a slider shows after it was moved.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Sync Recordings with the Cloud</translation>

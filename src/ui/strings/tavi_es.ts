@@ -113,6 +113,10 @@
         <source></source>
         <translation>Avanzar ( %1 s )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium y High están en inglés en todos los idiomas, porque el formato de las grabaciones depende de esas palabras. También lo está el texto de un control deslizante movido.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Sincronizar con la nube</translation>

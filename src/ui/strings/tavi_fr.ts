@@ -113,6 +113,10 @@
         <source></source>
         <translation>Avancer ( %1 s )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium et High restent en anglais dans toutes les langues, car le format des enregistrements dépend de ces mots. Il en va de même du libellé d’un curseur déplacé.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Synchroniser avec le nuage</translation>

@@ -113,6 +113,10 @@
         <source></source>
         <translation>Avanti ( %1 s )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium e High restano in inglese in tutte le lingue, perché il formato delle registrazioni dipende da queste parole. Lo stesso vale per il testo di un cursore spostato.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Sincronizza con il cloud</translation>

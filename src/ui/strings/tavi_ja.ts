@@ -113,6 +113,10 @@
         <source></source>
         <translation>早送り ( %1 秒 )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low、Medium、High はどの言語でも英語のままです。録音の形式がこの語で決まるためです。動かしたスライダーの表示も英語になります。</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>録音をクラウドと同期</translation>
@@ -956,7 +960,7 @@
     </message>
     <message id="trimmer_range">
         <source></source>
-        <translation>%1 – %2 · %3 s</translation>
+        <translation>%1 – %2 · %3 秒</translation>
     </message>
     <message id="a11y_zoom">
         <source></source>

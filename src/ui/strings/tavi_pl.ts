@@ -113,6 +113,10 @@
         <source></source>
         <translation>W przód ( %1 s )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium i High są po angielsku w każdym języku, bo od tych słów zależy format nagrań. Tak samo jest z opisem przesuniętego suwaka.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Synchronizuj z chmurą</translation>

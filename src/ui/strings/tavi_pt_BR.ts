@@ -113,6 +113,10 @@
         <source></source>
         <translation>Avançar ( %1 s )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium e High ficam em inglês em todos os idiomas, pois o formato das gravações depende dessas palavras. O mesmo vale para o texto de um controle que foi movido.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Sincronizar com a nuvem</translation>

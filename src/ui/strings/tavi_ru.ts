@@ -113,6 +113,10 @@
         <source></source>
         <translation>Вперёд ( %1 с )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium и High остаются английскими на всех языках: от этих слов зависит формат записей. Подпись передвинутого ползунка — тоже.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Синхронизировать с облаком</translation>
@@ -968,7 +972,7 @@
     </message>
     <message id="trimmer_range">
         <source></source>
-        <translation>%1 – %2 · %3 s</translation>
+        <translation>%1 – %2 · %3 с</translation>
     </message>
     <message id="a11y_zoom">
         <source></source>
@@ -1176,7 +1180,7 @@
     </message>
     <message id="record_level_value">
         <source></source>
-        <translation>%1 dB</translation>
+        <translation>%1 дБ</translation>
     </message>
     <message id="a11y_format">
         <source></source>

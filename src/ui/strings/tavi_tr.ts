@@ -113,6 +113,10 @@
         <source></source>
         <translation>İleri sar ( %1 sn )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low, Medium ve High her dilde İngilizcedir, çünkü kayıtların biçimi bu sözcüklere bağlıdır. Oynatılan bir kaydırıcının yazısı da öyledir.</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>Kayıtları bulutla eşitle</translation>
@@ -956,7 +960,7 @@
     </message>
     <message id="trimmer_range">
         <source></source>
-        <translation>%1 – %2 · %3 s</translation>
+        <translation>%1 – %2 · %3 sn</translation>
     </message>
     <message id="a11y_zoom">
         <source></source>

@@ -113,6 +113,10 @@
         <source></source>
         <translation>快进 ( %1 秒 )</translation>
     </message>
+    <message id="settings_english">
+        <source></source>
+        <translation>Low、Medium 和 High 在所有语言中都是英文，因为录音格式由这些词决定。移动滑块后显示的文字也是英文。</translation>
+    </message>
     <message id="use_icloud">
         <source></source>
         <translation>与云端同步录音</translation>
@@ -956,7 +960,7 @@
     </message>
     <message id="trimmer_range">
         <source></source>
-        <translation>%1 – %2 · %3 s</translation>
+        <translation>%1 – %2 · %3 秒</translation>
     </message>
     <message id="a11y_zoom">
         <source></source>
