@@ -9,6 +9,7 @@
 #include "files/ConflictNames.h"
 #include "files/FileNames.h"
 #include "files/FolderListing.h"
+#include "platform/Application.h"
 
 namespace tavi {
 
@@ -66,10 +67,17 @@ Cloud::Cloud(const Services& services)
       m_documents(
           {m_folder, m_folder, m_folder, m_folder, services.notifications, services.container, services.runLoop}) {
     connect(&m_folder, &FolderCloud::changed, this, &CloudConnection::filesChanged);
+    connect(&m_services.notifications, &NotificationCenter::posted, this, [this](const QString& name) {
+        m_isVisible = name == applicationnotification::kWillEnterForeground ||
+                      (m_isVisible && name != applicationnotification::kDidEnterBackground);
+        tellCircumstances();
+    });
+    m_services.reachability.setObserver([this] { tellCircumstances(); });
     apply();
 }
 
 Cloud::~Cloud() {
+    m_services.reachability.setObserver(nullptr);
     m_probe.reset();
     m_folder.setPlace({});
     m_mirror ? m_mirror->stop() : void();
@@ -138,7 +146,14 @@ void Cloud::startMirror(const CloudAccount& account) {
     follow();
 }
 
+void Cloud::tellCircumstances() {
+    if (m_mirror) {
+        m_mirror->setCircumstances(!m_mirrored.isElsewhere() || !m_services.reachability.isOffline(), m_isVisible);
+    }
+}
+
 void Cloud::follow() {
+    tellCircumstances();
     // Many changes are one for those who show them.
     m_mirror->setConditionObserver([told = m_isTold, self = QPointer(this), &runLoop = m_services.runLoop] {
         if (!told->exchange(true)) {

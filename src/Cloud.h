@@ -14,6 +14,7 @@
 #include "cloud/iCloud.h"
 #include "files/FileDescriptor.h"
 #include "platform/Keychain.h"
+#include "platform/Reachability.h"
 
 namespace tavi {
 
@@ -28,6 +29,7 @@ public:
         RunLoop& runLoop;
         NotificationCenter& notifications;
         Keychain& keychain;
+        Reachability& reachability;
     };
 
     explicit Cloud(const Services& services);
@@ -55,6 +57,7 @@ private:
     void stopMirror();
     void take(const CloudAccount& account, const QString& password);
     void follow();
+    void tellCircumstances();
 
     Services m_services;
     QtTrash m_trash;
@@ -67,6 +70,7 @@ private:
     std::shared_ptr<std::atomic<bool>> m_isTold = std::make_shared<std::atomic<bool>>(false);
     std::thread m_stopping;
     bool m_isWaitingForLock = false;
+    bool m_isVisible = true;
     int m_attempt = 0;
     std::unique_ptr<DavProbe> m_probe;
     FolderThread m_disk;

@@ -85,7 +85,8 @@ struct Screens {
                  .settings = platform.settings.store,
                  .runLoop = platform.runLoop,
                  .notifications = platform.notifications,
-                 .keychain = platform.keychain}};
+                 .keychain = platform.keychain,
+                 .reachability = platform.reachability}};
     RecordingCloud recordingCloud{{.documents = cloud.documents(),
                                    .settings = platform.settings.store,
                                    .presenter = platform.presenter,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 namespace tavi {
@@ -20,6 +21,10 @@ public:
     /// The flags of the all-zero IPv4 address, which stands for any way out; none where they cannot be read. Returns
     /// at once. Main thread only.
     virtual std::optional<ReachabilityFlags> flagsOfZeroAddress() const = 0;
+    /// Whether there is no network, and its return will be told; false where nobody would tell. Main thread only.
+    virtual bool isOffline() const = 0;
+    /// Calls on the main thread whenever that may have changed; nullptr for nobody.
+    virtual void setObserver(std::function<void()> observer) = 0;
 };
 
 }  // namespace tavi

@@ -95,8 +95,12 @@ struct FakeNotices : Notices {
 
 struct FakeReachability : Reachability {
     std::optional<ReachabilityFlags> flagsOfZeroAddress() const override { return flags; }
+    bool isOffline() const override { return isGone; }
+    void setObserver(std::function<void()> newObserver) override { observer = std::move(newObserver); }
 
     std::optional<ReachabilityFlags> flags;
+    bool isGone = false;
+    std::function<void()> observer;
 };
 
 struct FakeProgressView : ProgressView {

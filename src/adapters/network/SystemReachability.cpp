@@ -21,12 +21,20 @@ void SystemReachability::load() {
                                        QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
     ping.setAutoStartService(false);
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(ping, kPatience), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [](QDBusPendingCallWatcher* finished) {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
         finished->deleteLater();
-        if (!finished->isError()) {
-            QNetworkInformation::loadDefaultBackend();
+        if (finished->isError() || !QNetworkInformation::loadDefaultBackend()) {
+            return;
         }
+        const auto tell = [this] { m_observer ? m_observer() : void(); };
+        connect(QNetworkInformation::instance(), &QNetworkInformation::reachabilityChanged, this, tell);
+        tell();
     });
+}
+
+bool SystemReachability::isOffline() const {
+    const auto* network = QNetworkInformation::instance();
+    return network != nullptr && network->reachability() == QNetworkInformation::Reachability::Disconnected;
 }
 
 std::optional<ReachabilityFlags> SystemReachability::flagsOfZeroAddress() const {

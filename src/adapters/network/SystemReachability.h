@@ -22,9 +22,13 @@ public:
     /// A machine behind a login page of a hotspot requires a connection. One that only sees others nearby is not
     /// reachable.
     std::optional<ReachabilityFlags> flagsOfZeroAddress() const override;
+    /// By NetworkManager alone: the kernel's routes tell of no change.
+    bool isOffline() const override;
+    void setObserver(std::function<void()> observer) override { m_observer = std::move(observer); }
 
 private:
     QDBusConnection m_bus;
+    std::function<void()> m_observer;
 };
 
 }  // namespace tavi

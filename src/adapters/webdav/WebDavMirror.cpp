@@ -11,11 +11,6 @@ namespace tavi {
 
 namespace {
 
-constexpr int kShortestPause = 60;
-constexpr int kLongestPause = 3600;
-/// Passes in a row without a pause.
-constexpr int kMostContinued = 3;
-
 Result<void> notWritten() {
     return failure(qtTrId("error_cloud_journal"));
 }
@@ -88,21 +83,29 @@ void WebDavMirror::run() {
     DavClient client(m_place.account);
     std::unique_lock lock(m_mutex);
     m_client = &client;
-    int continued = 0;
-    for (int pause = kShortestPause; !m_hasEnded;) {
-        m_isAsked = false;
+    auto ended = std::chrono::steady_clock::now();
+    const auto waits = [&] {
+        const auto pause = m_pace.pause();
+        return !m_hasEnded && (!pause || std::chrono::steady_clock::now() < ended + std::chrono::seconds(*pause));
+    };
+    while (!m_hasEnded) {
+        while (waits()) {
+            if (const auto pause = m_pace.pause()) {
+                m_wake.wait_until(lock, ended + std::chrono::seconds(*pause));
+            } else {
+                m_wake.wait(lock);
+            }
+        }
+        if (m_hasEnded) {
+            break;
+        }
+        m_pace.begin();
         lock.unlock();
         update([this] { m_condition.isWorking = true; }, false);
         SyncOutcome outcome = pass(client);
         const QDateTime lastSync = m_journal->lastSync();
-        pause = outcome.isInStep ? std::min(pause * 2, kLongestPause) : kShortestPause;
-        continued = outcome.isToBeContinued ? continued + 1 : 0;
-        // The next pause is reckoned from the one before, and not from none.
-        const int wait = std::max(continued > 0 && continued <= kMostContinued ? 0 : pause,
-                                  std::min(outcome.retryAfter, kLongestPause));
-        // A server that asks to be left alone is, whatever changes here.
-        const bool isPatient = outcome.retryAfter > 0;
         update([&] {
+            m_pace.end(outcome.isInStep, outcome.retryAfter, outcome.isToBeContinued);
             // An answer is for the files of that one time.
             m_answer = outcome.isInStep ? VanishedAnswer() : m_answer;
             m_condition.outcome = std::move(outcome);
@@ -111,11 +114,8 @@ void WebDavMirror::run() {
             m_condition.progress.clear();
             ++m_condition.passes;
         });
+        ended = std::chrono::steady_clock::now();
         lock.lock();
-        if (m_wake.wait_for(lock, std::chrono::seconds(wait),
-                            [&] { return (m_isAsked && !isPatient) || m_hasEnded; })) {
-            pause = kShortestPause;
-        }
     }
     m_client = nullptr;
 }
@@ -164,7 +164,14 @@ void WebDavMirror::answerVanished(bool areRemoved) {
 
 void WebDavMirror::wake() {
     const std::lock_guard lock(m_mutex);
-    m_isAsked = true;
+    m_pace.ask();
+    m_wake.notify_all();
+}
+
+void WebDavMirror::setCircumstances(bool isOnline, bool isVisible) {
+    const std::lock_guard lock(m_mutex);
+    m_pace.setOnline(isOnline);
+    m_pace.setVisible(isVisible);
     m_wake.notify_all();
 }
 

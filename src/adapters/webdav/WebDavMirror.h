@@ -5,6 +5,7 @@
 #include <mutex>
 #include <thread>
 
+#include "adapters/webdav/SyncPace.h"
 #include "adapters/webdav/SyncPass.h"
 
 namespace tavi {
@@ -25,8 +26,8 @@ struct MirrorCondition {
 };
 
 /// Keeps a folder of this machine in step with a folder on a WebDAV server, on a thread of its own, for as long as it
-/// lives: at once when something changes here, and by looking there every minute, less often the longer nothing
-/// changes, up to an hour. Without a network what is to be done waits in the journal.
+/// lives: at once when something changes here, and while somebody looks by looking there every minute, less often the
+/// longer nothing changes, up to an hour. Without a network what is to be done waits in the journal.
 class WebDavMirror : public CloudMirror {
 public:
     struct Place {
@@ -60,6 +61,8 @@ public:
     MirrorCondition condition() const;
     /// Looks at both sides soon. Any thread.
     void wake();
+    /// Without a network it waits; where nobody looks it does what is to be done, and asks for no news. Any thread.
+    void setCircumstances(bool isOnline, bool isVisible);
     /// About the files that the last pass has found vanished. Any thread.
     void answerVanished(bool areRemoved);
 
@@ -77,7 +80,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;
-    bool m_isAsked = true;
+    SyncPace m_pace;
     bool m_hasEnded = false;
     SyncPass::States m_states;
     MirrorCondition m_condition;

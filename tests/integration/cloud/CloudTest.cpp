@@ -7,6 +7,7 @@
 #include "CloudCommands.h"
 #include "CloudPlace.h"
 #include "adapters/qt/QtRunLoop.h"
+#include "platform/Application.h"
 #include "support/EventLoop.h"
 #include "support/FakeKeychain.h"
 #include "support/Fakes.h"
@@ -21,8 +22,8 @@ using State = CloudCondition::State;
 class CloudTest : public ::testing::Test {
 protected:
     void start() {
-        cloud =
-            std::make_unique<Cloud>(Cloud::Services{container, defaults, settings, runLoop, notifications, keychain});
+        cloud = std::make_unique<Cloud>(
+            Cloud::Services{container, defaults, settings, runLoop, notifications, keychain, reachability});
     }
     bool becomes(State state) {
         return spinUntil([&] { return cloud->condition().state == state; });
@@ -49,6 +50,7 @@ protected:
     QtRunLoop runLoop;
     NotificationCenter notifications;
     FakeKeychain keychain;
+    FakeReachability reachability;
     std::unique_ptr<Cloud> cloud;
 };
 
@@ -80,6 +82,10 @@ TEST_F(CloudTest, AnAccountComesAndGoesAndItsSwitchStopsAndStartsIt) {
     settings.setCloudSyncOn(true);
     cloud->settingsChanged();
     EXPECT_TRUE(arrives("b"));
+    // What is recorded while nobody looks goes there, too.
+    notifications.postNotification(applicationnotification::kDidEnterBackground);
+    record("c");
+    EXPECT_TRUE(arrives("c"));
     cloud->removeAccount();
     EXPECT_TRUE(keychain.items.isEmpty());
     EXPECT_EQ(cloud->condition(), CloudCondition());

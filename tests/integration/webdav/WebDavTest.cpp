@@ -413,6 +413,46 @@ TEST(WebDav, LeavesAServerAloneForAsLongAsItsOwnClockSays) {
     }
 }
 
+TEST(WebDav, LooksAtOnceWhenAskedAndElseLessOftenAndNeverForNothing) {
+    SyncPace pace;
+    std::string said;
+    const auto say = [&] { said += (pace.pause() ? std::to_string(*pace.pause()) : "-") + ' '; };
+    const auto pass = [&](bool isInStep, int retryAfter = 0, bool isToBeContinued = false) {
+        pace.begin();
+        pace.end(isInStep, retryAfter, isToBeContinued);
+        say();
+    };
+    say();
+    for (int passes = 0; passes < 8; ++passes) {
+        pass(true);
+    }
+    pace.ask();
+    say();
+    pass(false, 0, true);
+    pass(false, 90);
+    pace.ask();
+    say();
+    pass(true, 99999);
+    EXPECT_EQ(said, "0 60 120 240 480 960 1920 3600 3600 0 0 120 90 3600 ");
+    said.clear();
+    pace.ask();
+    pass(true);
+    pass(true);
+    pass(true);
+    for (const bool isThere : {false, true}) {
+        pace.setVisible(isThere);
+        say();
+    }
+    pace.setVisible(false);
+    pass(false);
+    pace.setOnline(false);
+    pace.ask();
+    say();
+    pace.setOnline(true);
+    say();
+    EXPECT_EQ(said, "60 120 240 - 60 120 - 0 ");
+}
+
 TEST(WebDav, AMirrorWorksByItselfAndEndsAtOnce) {
     const PrivateDav server(QStringLiteral("rclone"));
     Device b(server.url());
