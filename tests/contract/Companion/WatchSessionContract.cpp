@@ -179,10 +179,11 @@ TEST(LocalWatchSession, TakesNothingFromWhoBreaksTheRulesOrDiesHalfWay) {
     }
     ASSERT_TRUE(spinUntil([&here] { return !here.isReachable(); }));
     EXPECT_THAT(ear.messages + ear.contexts, IsEmpty());
-    const auto honest = say(head(2, size, 0) + list + hello + head(3, size, 0) + list);
+    // What comes before the greeting is nothing.
+    const QByteArray early = *ends.m_lists.dataWithPropertyList(dictionary(2));
+    const auto honest = say(head(3, size, 0) + early + hello + head(3, size, 0) + list);
     ASSERT_TRUE(spinUntil([&ear] { return !ear.messages.isEmpty(); }));
     EXPECT_THAT(ear.messages, ElementsAre(QVariant(1)));
-    EXPECT_THAT(ear.contexts, IsEmpty());
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ends.m_folder), {}), 1);
 }
 
