@@ -76,18 +76,19 @@ FocusScope {
         readonly property string times: qsTrId("player_times").arg(root.player.lblSongMinTime.text).arg(root.player.lblSongMaxTime.text)
 
         anchors.left: name.left
-        y: 32
+        y: root.player.hasPlayer ? 32 : 29
         width: name.width
-        height: 18
+        height: root.player.hasPlayer ? 18 : 29
         objectName: "times"
         text: !root.player.hasPlayer ? qsTrId("player_unplayable")
                                      : times + " · " + (root.player.rate === 0.5 ? "½" : root.player.rate) + "×"
         color: root.player.hasPlayer ? Theme.label : Theme.tint
         font.pixelSize: 13
-        fontSizeMode: Text.HorizontalFit
+        fontSizeMode: Text.Fit
         minimumPixelSize: 10
+        wrapMode: root.player.hasPlayer ? Text.NoWrap : Text.Wrap
         elide: Text.ElideRight
-        maximumLineCount: 1
+        maximumLineCount: 2
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }

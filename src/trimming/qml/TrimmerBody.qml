@@ -71,7 +71,8 @@ FocusScope {
     }
 
     Label {
-        x: root.side
+        // Below the edge of the plot where it fits there.
+        x: Math.max(Theme.margin, Math.min(root.side, zoom.x - 8 - implicitWidth))
         y: zoom.y
         width: zoom.x - x - 8
         height: zoom.height

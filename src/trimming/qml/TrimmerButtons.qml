@@ -25,7 +25,7 @@ Item {
         objectName: "btnReset"
         text: qsTrId("trimmer_reset")
         kind: TButton.Quiet
-        horizontalPadding: root.filling ? 4 : 16
+        horizontalPadding: root.filling ? 2 : 16
         imageName: root.withImages ? "reset" : ""
         imageFirst: true
         onClicked: root.screen.btnResetTapped()
@@ -39,7 +39,7 @@ Item {
         objectName: "btnResetAudio"
         text: qsTrId("trimmer_rerecord")
         kind: TButton.Quiet
-        horizontalPadding: root.filling ? 4 : 16
+        horizontalPadding: root.filling ? 2 : 16
         imageName: root.withImages ? "record" : ""
         imageFirst: true
         onClicked: root.screen.btnResetAudioTapped()
@@ -53,7 +53,7 @@ Item {
         objectName: "btnEditTrimmedVideo"
         text: root.screen.btnEditTrimmedVideo.title
         kind: TButton.Quiet
-        horizontalPadding: root.filling ? 4 : 16
+        horizontalPadding: root.filling ? 2 : 16
         imageName: root.withImages ? "trim" : ""
         imageFirst: true
         enabled: root.screen.source.canExport

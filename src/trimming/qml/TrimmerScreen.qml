@@ -75,8 +75,12 @@ FocusScope {
 
                 x: (parent.width + (root.low && Theme.mirrored ? both - 2 * width : root.low ? -both : -width)) / 2
                 y: cancel.y
+                width: Math.min(implicitWidth, parent.width - 2 * Math.max(cancel.width, done.width) - 40)
                 height: Theme.touch
                 text: qsTrId("trimmer_title")
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.textCaption
+                elide: Text.ElideRight
                 color: Theme.text
                 font.pixelSize: Theme.textDialog
                 font.weight: Font.Medium
