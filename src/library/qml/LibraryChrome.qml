@@ -41,7 +41,7 @@ FocusScope {
         visible: !root.finding
         text: root.screen.title
         font.pixelSize: 22
-        font.weight: Font.Light
+        font.weight: Theme.titleWeight
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
         Accessible.name: text

@@ -65,6 +65,9 @@ QtObject {
     readonly property int textFormat: 19
     readonly property int textTitle: 22
 
+    /// Scripts that run from right to left have no light letters in the usual fonts; what would take their place is uneven.
+    readonly property int titleWeight: mirrored ? Font.Normal : Font.Light
+
     // Space.
     readonly property int gap: 8
     readonly property int gapWide: 12

@@ -16,7 +16,7 @@ Item {
         anchors.leftMargin: Theme.margin
         anchors.rightMargin: Theme.margin + parent.endWidth
         font.pixelSize: Theme.textTitle
-        font.weight: Font.Light
+        font.weight: Theme.titleWeight
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
         Accessible.name: text

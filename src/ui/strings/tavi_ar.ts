@@ -224,7 +224,7 @@
     </message>
     <message id="report_no_mail">
         <source></source>
-        <translation>لم يقبل أي برنامج بريد البلاغ. يُرجى الكتابة إلى %1.</translation>
+        <translation>لم يقبل أي برنامج بريد البلاغ. يُرجى الكتابة إلى ⁨%1⁩.</translation>
     </message>
     <message id="report_no_server">
         <source></source>
@@ -285,19 +285,19 @@
     </message>
     <message id="share_gone">
         <source></source>
-        <translation>لم يعد «%1» موجودًا.</translation>
+        <translation>لم يعد «⁨%1⁩» موجودًا.</translation>
     </message>
     <message id="share_no_file">
         <source></source>
-        <translation>«%1» ليس ملفًا يمكن مشاركته.</translation>
+        <translation>«⁨%1⁩» ليس ملفًا يمكن مشاركته.</translation>
     </message>
     <message id="share_open_failed">
         <source></source>
-        <translation>تعذر فتح «%1» في برنامج آخر.</translation>
+        <translation>تعذر فتح «⁨%1⁩» في برنامج آخر.</translation>
     </message>
     <message id="share_folder_failed">
         <source></source>
-        <translation>تعذر عرض مجلد «%1».</translation>
+        <translation>تعذر عرض مجلد «⁨%1⁩».</translation>
     </message>
     <message id="share_mail_none">
         <source></source>
@@ -305,11 +305,11 @@
     </message>
     <message id="share_mail_failed">
         <source></source>
-        <translation>لم يقبل أي برنامج بريد الرسالة مع «%1».</translation>
+        <translation>لم يقبل أي برنامج بريد الرسالة مع «⁨%1⁩».</translation>
     </message>
     <message id="share_copied">
         <source></source>
-        <translation>«%1» في الحافظة.</translation>
+        <translation>«⁨%1⁩» في الحافظة.</translation>
     </message>
     <message id="share_copied_many" numerus="yes">
         <source></source>
@@ -324,23 +324,23 @@
     </message>
     <message id="export_no_dialog">
         <source></source>
-        <translation>تعذر السؤال عن مكان حفظ «%1»: لم يُصدَّر شيء.</translation>
+        <translation>تعذر السؤال عن مكان حفظ «⁨%1⁩»: لم يُصدَّر شيء.</translation>
     </message>
     <message id="export_running">
         <source></source>
-        <translation>جارٍ تصدير «%1»</translation>
+        <translation>جارٍ تصدير «⁨%1⁩»</translation>
     </message>
     <message id="export_cancelled">
         <source></source>
-        <translation>أُلغي تصدير «%1».</translation>
+        <translation>أُلغي تصدير «⁨%1⁩».</translation>
     </message>
     <message id="export_failed">
         <source></source>
-        <translation>تعذر تصدير «%1»: %2.</translation>
+        <translation>تعذر تصدير «⁨%1⁩»: ⁨%2⁩.</translation>
     </message>
     <message id="export_done">
         <source></source>
-        <translation>صُدِّر «%1».</translation>
+        <translation>صُدِّر «⁨%1⁩».</translation>
     </message>
     <message id="export_show">
         <source></source>
@@ -348,7 +348,7 @@
     </message>
     <message id="export_replace_title">
         <source></source>
-        <translation>استبدال «%1»؟</translation>
+        <translation>استبدال «⁨%1⁩»؟</translation>
     </message>
     <message id="export_replace_message">
         <source></source>
@@ -518,11 +518,11 @@
     </message>
     <message id="a11y_more">
         <source></source>
-        <translation>إجراءات %1</translation>
+        <translation>إجراءات ⁨%1⁩</translation>
     </message>
     <message id="action_gone">
         <source></source>
-        <translation>لم يعد «%1» موجودًا.</translation>
+        <translation>لم يعد «⁨%1⁩» موجودًا.</translation>
     </message>
     <message id="rename_audio">
         <source></source>
@@ -558,7 +558,7 @@
     </message>
     <message id="rename_failed">
         <source></source>
-        <translation>يحتفظ «%1» باسمه: %2</translation>
+        <translation>يحتفظ «⁨%1⁩» باسمه: ⁨%2⁩</translation>
     </message>
     <message id="delete_audio">
         <source></source>
@@ -566,11 +566,11 @@
     </message>
     <message id="delete_msg">
         <source></source>
-        <translation>حذف «%1»؟</translation>
+        <translation>حذف «⁨%1⁩»؟</translation>
     </message>
     <message id="delete_trashed">
         <source></source>
-        <translation>«%1» في المهملات.</translation>
+        <translation>«⁨%1⁩» في المهملات.</translation>
     </message>
     <message id="delete_undo">
         <source></source>
@@ -578,15 +578,15 @@
     </message>
     <message id="delete_undone_beside">
         <source></source>
-        <translation>الاسم «%1» مستخدم: عاد التسجيل باسم «%2».</translation>
+        <translation>الاسم «⁨%1⁩» مستخدم: عاد التسجيل باسم «⁨%2⁩».</translation>
     </message>
     <message id="delete_undo_failed">
         <source></source>
-        <translation>تعذرت استعادة «%1»: %2</translation>
+        <translation>تعذرت استعادة «⁨%1⁩»: ⁨%2⁩</translation>
     </message>
     <message id="delete_forever_msg">
         <source></source>
-        <translation>لا يمكن نقل «%1» إلى المهملات. هل تريد حذفه نهائيًا؟</translation>
+        <translation>لا يمكن نقل «⁨%1⁩» إلى المهملات. هل تريد حذفه نهائيًا؟</translation>
     </message>
     <message id="delete_forever">
         <source></source>
@@ -594,7 +594,7 @@
     </message>
     <message id="delete_failed">
         <source></source>
-        <translation>تعذر حذف «%1»: %2</translation>
+        <translation>تعذر حذف «⁨%1⁩»: ⁨%2⁩</translation>
     </message>
     <message id="trim_no_aac">
         <source></source>
@@ -647,15 +647,15 @@
     </message>
     <message id="microphone_back">
         <source></source>
-        <translation>عاد الميكروفون. ينقص التسجيل %1 ث.</translation>
+        <translation>عاد الميكروفون. ينقص التسجيل ⁨%1⁩ ث.</translation>
     </message>
     <message id="microphone_changed">
         <source></source>
-        <translation>التسجيل الآن من «%1».</translation>
+        <translation>التسجيل الآن من «⁨%1⁩».</translation>
     </message>
     <message id="microphone_absent">
         <source></source>
-        <translation>«%1» غير متصل. التسجيل من «%2».</translation>
+        <translation>«⁨%1⁩» غير متصل. التسجيل من «⁨%2⁩».</translation>
     </message>
     <message id="microphone_unknown">
         <source></source>
@@ -671,11 +671,11 @@
     </message>
     <message id="record_slept">
         <source></source>
-        <translation>كان الحاسوب نائمًا: ينقص التسجيل %1، وهو مستمر.</translation>
+        <translation>كان الحاسوب نائمًا: ينقص التسجيل ⁨%1⁩، وهو مستمر.</translation>
     </message>
     <message id="rescue_saved">
         <source></source>
-        <translation>استُعيد تسجيل: %1</translation>
+        <translation>استُعيد تسجيل: ⁨%1⁩</translation>
     </message>
     <message id="rescue_saved_many" numerus="yes">
         <source></source>
@@ -698,7 +698,7 @@
     </message>
     <message id="record_ended">
         <source></source>
-        <translation>%1 احتُفظ بما سُجل حتى ذلك الحين.</translation>
+        <translation>⁨%1⁩ احتُفظ بما سُجل حتى ذلك الحين.</translation>
     </message>
     <message id="library_empty_title">
         <source></source>
@@ -734,15 +734,15 @@
     </message>
     <message id="a11y_sort">
         <source></source>
-        <translation>ترتيب حسب %1</translation>
+        <translation>ترتيب حسب ⁨%1⁩</translation>
     </message>
     <message id="a11y_sort_ascending">
         <source></source>
-        <translation>مرتب حسب %1، تصاعديًا</translation>
+        <translation>مرتب حسب ⁨%1⁩، تصاعديًا</translation>
     </message>
     <message id="a11y_sort_descending">
         <source></source>
-        <translation>مرتب حسب %1، تنازليًا</translation>
+        <translation>مرتب حسب ⁨%1⁩، تنازليًا</translation>
     </message>
     <message id="library_search">
         <source></source>
@@ -754,11 +754,11 @@
     </message>
     <message id="library_trimmed">
         <source></source>
-        <translation>حُفظ باسم %1</translation>
+        <translation>حُفظ باسم ⁨%1⁩</translation>
     </message>
     <message id="import_running">
         <source></source>
-        <translation>جارٍ استيراد %1</translation>
+        <translation>جارٍ استيراد ⁨%1⁩</translation>
     </message>
     <message id="import_running_many" numerus="yes">
         <source></source>
@@ -773,7 +773,7 @@
     </message>
     <message id="import_done">
         <source></source>
-        <translation>استُورد %1</translation>
+        <translation>استُورد ⁨%1⁩</translation>
     </message>
     <message id="import_done_many" numerus="yes">
         <source></source>
@@ -788,17 +788,17 @@
     </message>
     <message id="import_failed">
         <source></source>
-        <translation>لم يُستورد %1: %2</translation>
+        <translation>لم يُستورد ⁨%1⁩: ⁨%2⁩</translation>
     </message>
     <message id="import_some" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>لم يُستورد أي ملف (%n)، وفشل %1</numerusform>
-            <numerusform>استُورد ملف واحد (%n)، وفشل %1</numerusform>
-            <numerusform>استُورد ملفان (%n)، وفشل %1</numerusform>
-            <numerusform>استُوردت %n ملفات، وفشل %1</numerusform>
-            <numerusform>استُورد %n ملفًا، وفشل %1</numerusform>
-            <numerusform>استُورد %n ملف، وفشل %1</numerusform>
+            <numerusform>لم يُستورد أي ملف (%n)، وفشل ⁨%1⁩</numerusform>
+            <numerusform>استُورد ملف واحد (%n)، وفشل ⁨%1⁩</numerusform>
+            <numerusform>استُورد ملفان (%n)، وفشل ⁨%1⁩</numerusform>
+            <numerusform>استُوردت %n ملفات، وفشل ⁨%1⁩</numerusform>
+            <numerusform>استُورد %n ملفًا، وفشل ⁨%1⁩</numerusform>
+            <numerusform>استُورد %n ملف، وفشل ⁨%1⁩</numerusform>
         </translation>
     </message>
     <message id="import_details">
@@ -902,11 +902,11 @@
     </message>
     <message id="a11y_skip_back">
         <source></source>
-        <translation>ترجيع، %1</translation>
+        <translation>ترجيع، ⁨%1⁩</translation>
     </message>
     <message id="a11y_skip_forward">
         <source></source>
-        <translation>تقديم، %1</translation>
+        <translation>تقديم، ⁨%1⁩</translation>
     </message>
     <message id="a11y_slow">
         <source></source>
@@ -934,7 +934,7 @@
     </message>
     <message id="a11y_position_value">
         <source></source>
-        <translation>%1 من %2</translation>
+        <translation>⁨%1⁩ من ⁨%2⁩</translation>
     </message>
     <message id="a11y_close_player">
         <source></source>
@@ -1014,7 +1014,7 @@
     </message>
     <message id="trimmer_total">
         <source></source>
-        <translation>%1 إجمالًا</translation>
+        <translation>⁨%1⁩ إجمالًا</translation>
     </message>
     <message id="trimmer_exporting">
         <source></source>
@@ -1174,15 +1174,15 @@
     </message>
     <message id="record_saved">
         <source></source>
-        <translation>حُفظ باسم %1</translation>
+        <translation>حُفظ باسم ⁨%1⁩</translation>
     </message>
     <message id="record_kept">
         <source></source>
-        <translation>انقطع التسجيل. وهو محفوظ باسم %1</translation>
+        <translation>انقطع التسجيل. وهو محفوظ باسم ⁨%1⁩</translation>
     </message>
     <message id="record_last">
         <source></source>
-        <translation>الأخير: %1 · %2</translation>
+        <translation>الأخير: ⁨%1⁩ · ⁨%2⁩</translation>
     </message>
     <message id="record_silent">
         <source></source>
@@ -1202,15 +1202,15 @@
     </message>
     <message id="a11y_format">
         <source></source>
-        <translation>الصيغة: %1</translation>
+        <translation>الصيغة: ⁨%1⁩</translation>
     </message>
     <message id="a11y_microphone">
         <source></source>
-        <translation>الميكروفون: %1</translation>
+        <translation>الميكروفون: ⁨%1⁩</translation>
     </message>
     <message id="a11y_play_last">
         <source></source>
-        <translation>تشغيل آخر تسجيل، %1</translation>
+        <translation>تشغيل آخر تسجيل، ⁨%1⁩</translation>
     </message>
     <!-- The passcode lock -->
     <message id="password">
@@ -1235,7 +1235,7 @@
     </message>
     <message id="passcode_digits">
         <source></source>
-        <translation>أُدخل %1 من 4 أرقام</translation>
+        <translation>أُدخل ⁨%1⁩ من 4 أرقام</translation>
     </message>
     <message id="passcode_cover">
         <source></source>
@@ -1272,19 +1272,19 @@
     </message>
     <message id="error_keychain_damaged">
         <source></source>
-        <translation>الملف الذي يحفظ رمز المرور تالف وتُرك كما هو: %1</translation>
+        <translation>الملف الذي يحفظ رمز المرور تالف وتُرك كما هو: ⁨%1⁩</translation>
     </message>
     <message id="error_keychain_foreign">
         <source></source>
-        <translation>الملف الذي يحفظ رمز المرور لا يُقرأ أو ليس لك: %1</translation>
+        <translation>الملف الذي يحفظ رمز المرور لا يُقرأ أو ليس لك: ⁨%1⁩</translation>
     </message>
     <message id="error_keychain_key">
         <source></source>
-        <translation>مفتاح الملف الذي يحفظ رمز المرور مفقود: %1</translation>
+        <translation>مفتاح الملف الذي يحفظ رمز المرور مفقود: ⁨%1⁩</translation>
     </message>
     <message id="error_keychain_store">
         <source></source>
-        <translation>تعذر على القفل برمز المرور حفظ شيء ما، وسيُبقيه حتى انتهاء البرنامج. %1</translation>
+        <translation>تعذر على القفل برمز المرور حفظ شيء ما، وسيُبقيه حتى انتهاء البرنامج. ⁨%1⁩</translation>
     </message>
     <!-- The passcode on a terminal -->
     <message id="command_passcode">
@@ -1302,15 +1302,15 @@
     </message>
     <message id="error_cloud_broken">
         <source></source>
-        <translation>الخادم لا يستجيب: %1</translation>
+        <translation>الخادم لا يستجيب: ⁨%1⁩</translation>
     </message>
     <message id="error_cloud_certificate">
         <source></source>
-        <translation>الخادم غير موثوق: %1 لم يُرسل شيء.</translation>
+        <translation>الخادم غير موثوق: ⁨%1⁩ لم يُرسل شيء.</translation>
     </message>
     <message id="error_cloud_moved">
         <source></source>
-        <translation>المجلد الآن على عنوان آخر: %1</translation>
+        <translation>المجلد الآن على عنوان آخر: ⁨%1⁩</translation>
     </message>
     <message id="error_cloud_no_dav">
         <source></source>
@@ -1334,7 +1334,7 @@
     </message>
     <message id="error_cloud_status">
         <source></source>
-        <translation>أجاب الخادم بالحالة %1.</translation>
+        <translation>أجاب الخادم بالحالة ⁨%1⁩.</translation>
     </message>
     <message id="error_cloud_part">
         <source></source>
@@ -1362,23 +1362,23 @@
     </message>
     <message id="error_cloud_unreadable">
         <source></source>
-        <translation>لا يمكن قراءة %1.</translation>
+        <translation>لا يمكن قراءة ⁨%1⁩.</translation>
     </message>
     <message id="error_cloud_growing">
         <source></source>
-        <translation>لا تزال كتابة %1 جارية.</translation>
+        <translation>لا تزال كتابة ⁨%1⁩ جارية.</translation>
     </message>
     <message id="error_cloud_length">
         <source></source>
-        <translation>لا يذكر الخادم حجم %1.</translation>
+        <translation>لا يذكر الخادم حجم ⁨%1⁩.</translation>
     </message>
     <message id="error_cloud_conflict">
         <source></source>
-        <translation>تغير %1 على جهازين: احتُفظ بالنسختين.</translation>
+        <translation>تغير ⁨%1⁩ على جهازين: احتُفظ بالنسختين.</translation>
     </message>
     <message id="error_cloud_missing">
         <source></source>
-        <translation>يُبحث عن %1 مجددًا.</translation>
+        <translation>يُبحث عن ⁨%1⁩ مجددًا.</translation>
     </message>
     <message id="error_cloud_in_clear">
         <source></source>
@@ -1386,11 +1386,11 @@
     </message>
     <message id="error_cloud_unknown">
         <source></source>
-        <translation>%1 ليس في السحابة.</translation>
+        <translation>⁨%1⁩ ليس في السحابة.</translation>
     </message>
     <message id="error_cloud_unsent">
         <source></source>
-        <translation>%1 ليس في السحابة بعد.</translation>
+        <translation>⁨%1⁩ ليس في السحابة بعد.</translation>
     </message>
     <message id="error_cloud_taken">
         <source></source>
@@ -1410,11 +1410,11 @@
     </message>
     <message id="error_cloud_password">
         <source></source>
-        <translation>تعذر الحصول على كلمة السر: %1</translation>
+        <translation>تعذر الحصول على كلمة السر: ⁨%1⁩</translation>
     </message>
     <message id="error_cloud_password_kept">
         <source></source>
-        <translation>تعذر حفظ كلمة السر: %1</translation>
+        <translation>تعذر حفظ كلمة السر: ⁨%1⁩</translation>
     </message>
     <message id="error_cloud_elsewhere">
         <source></source>
@@ -1506,7 +1506,7 @@
     </message>
     <message id="cloud_place_of">
         <source></source>
-        <translation>%1، باسم %2</translation>
+        <translation>⁨%1⁩، باسم ⁨%2⁩</translation>
     </message>
     <message id="cloud_state">
         <source></source>
@@ -1542,7 +1542,7 @@
     </message>
     <message id="cloud_state_asking">
         <source></source>
-        <translation>ملفات مفقودة من الخادم: %1. لن يُحذف شيء هنا قبل موافقتك.</translation>
+        <translation>ملفات مفقودة من الخادم: ⁨%1⁩. لن يُحذف شيء هنا قبل موافقتك.</translation>
     </message>
     <message id="cloud_sync">
         <source></source>
@@ -1562,7 +1562,7 @@
     </message>
     <message id="cloud_disconnect_text">
         <source></source>
-        <translation>لن يُستخدم %1 بعد الآن، وستُنسى كلمة سره. تبقى كل التسجيلات هنا وهناك.</translation>
+        <translation>لن يُستخدم ⁨%1⁩ بعد الآن، وستُنسى كلمة سره. تبقى كل التسجيلات هنا وهناك.</translation>
     </message>
     <message id="cloud_clear_title">
         <source></source>
@@ -1582,7 +1582,7 @@
     </message>
     <message id="cloud_vanished_text">
         <source></source>
-        <translation>ملفات لم تعد على الخادم: %1. هل تُنقل إلى المهملات هنا أيضًا أم تُرسل مجددًا؟</translation>
+        <translation>ملفات لم تعد على الخادم: ⁨%1⁩. هل تُنقل إلى المهملات هنا أيضًا أم تُرسل مجددًا؟</translation>
     </message>
     <message id="cloud_vanished_later">
         <source></source>
@@ -1606,7 +1606,7 @@
     </message>
     <message id="cloud_row_sending">
         <source></source>
-        <translation>جارٍ الإرسال، %1 %</translation>
+        <translation>جارٍ الإرسال، ⁨%1⁩ %</translation>
     </message>
     <message id="cloud_row_there">
         <source></source>
@@ -1651,11 +1651,11 @@
     </message>
     <message id="companion_recording">
         <source></source>
-        <translation>جارٍ التسجيل، %1</translation>
+        <translation>جارٍ التسجيل، ⁨%1⁩</translation>
     </message>
     <message id="companion_paused">
         <source></source>
-        <translation>متوقف مؤقتًا، %1</translation>
+        <translation>متوقف مؤقتًا، ⁨%1⁩</translation>
     </message>
     <message id="companion_record">
         <source></source>
