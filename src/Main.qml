@@ -305,6 +305,8 @@ Window {
 
         ShortcutList {
             id: shortcuts
+
+            onGuideAsked: window.settings.support.openGuide()
         }
 
         Loader {

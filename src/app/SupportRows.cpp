@@ -1,6 +1,7 @@
 #include "app/SupportRows.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QPointer>
 #include <QSysInfo>
 
@@ -20,6 +21,11 @@ void SupportRows::moreApps() {
 void SupportRows::reportBug() {
     emailSubject(qtTrId("bug_report"), qtTrId("gmail").arg(QStringLiteral(TAVI_SUPPORT_ADDRESS)),
                  qtTrId("issue_recorder") + facts());
+}
+
+void SupportRows::openGuide() {
+    const QString guide = QStringLiteral("/../share/tavi/guide/index.html");
+    m_services.urlOpener.openURL(QUrl::fromLocalFile(QDir::cleanPath(QCoreApplication::applicationDirPath() + guide)));
 }
 
 void SupportRows::emailSubject(const QString& emailSubject, const QString& andWithT0, const QString& andWithBody) {

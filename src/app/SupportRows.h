@@ -44,6 +44,8 @@ public Q_SLOTS:
     /// Only finds out whether the page of the maker's other programs can be opened, and never opens it, on purpose.
     void moreApps();
     void reportBug();
+    /// Has the user guide that came with the program shown.
+    void openGuide();
 
 private:
     /// What a report has to say about program and machine.

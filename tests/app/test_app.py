@@ -12,7 +12,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts/lib"))
 
-from private_desktop import PHONE, PrivateDesktop, wait_for
+from private_desktop import PHONE, ROOT, PrivateDesktop, wait_for
 from sound import levels, probe, tone_seconds, write_tone
 
 PROGRAM = None
@@ -310,6 +310,15 @@ class Dragging(AppTest):
 
 
 class CommandLine(AppTest):
+    def test_completions_name_every_command_and_option(self):
+        for program in ("tavi", "tavi-companion"):
+            told = self.desktop.run(pathlib.Path(PROGRAM).with_name(program), "--help").stdout
+            words = set(re.findall(r"^  (?:-h,)?([a-z-]+)", told, re.M)) - {program}
+            self.assertIn("record", words)
+            for file in (f"_{program}", f"{program}.bash"):
+                text = (ROOT / "packaging/completions" / file).read_text()
+                self.assertLessEqual(words, set(re.findall(r"[a-z-]+", text)), file)
+
     def test_commands_that_print_work_on_real_files(self):
         shown = json.loads(self.tavi("waveform", self.tone, "--points", "10", "--json").stdout)
         for channel in shown["data"]:

@@ -168,6 +168,12 @@ TEST(Keyboard, ListsWhatItDoesAndIsNeverLost) {
         EXPECT_EQ(shell.tabBar.selectedIndex(), 0) << "the list covers the screens";
         key == Qt::Key_F1 ? shell.key(Qt::Key_Escape) : shell.tap("shortcutsClose");
     }
+    for (const int key : {Qt::Key_F1, Qt::Key_Tab, Qt::Key_Return}) {
+        shell.key(key);
+    }
+    EXPECT_THAT(shell.rating.urlOpener.opened,
+                ::testing::ElementsAre(::testing::ResultOf([](const auto& address) { return QUrl(address).fileName(); },
+                                                           QStringLiteral("index.html"))));
     shell.item("tab0")->forceActiveFocus(Qt::TabFocusReason);
     shell.tabBar.setUserInteractionEnabled(false);
     shell.settle();

@@ -34,6 +34,11 @@ void DesktopUrlOpener::openURL(const QUrl& url) {
         return;
     }
     const QString address = url.toString(QUrl::FullyEncoded);
+    if (url.isLocalFile()) {
+        // The portal takes no file by its address, and refuses it; xdg-open knows other ways.
+        openWithXdgOpen(address);
+        return;
+    }
     m_portal.ask(QStringLiteral("OpenURI"), QStringLiteral("OpenURI"), {address}, {},
                  [address](PortalRequests::Outcome outcome, const QVariantMap&) {
                      if (outcome == PortalRequests::Outcome::Unavailable) {

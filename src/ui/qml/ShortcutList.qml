@@ -1,7 +1,7 @@
 import QtQuick
 import Tavi.Ui
 
-/// Which keys do what, over everything else.
+/// Which keys do what, and the way to the user guide, over everything else.
 FocusScope {
     id: list
 
@@ -28,6 +28,8 @@ FocusScope {
         ["? F1", qsTrId("shortcut_list")],
         [ctrl("Q"), qsTrId("shortcut_quit")]
     ]
+
+    signal guideAsked()
 
     function ctrl(key) {
         return qsTrId("key_ctrl").arg(key)
@@ -68,7 +70,7 @@ FocusScope {
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Theme.gapWide, 440)
-        height: Math.min(parent.height - 2 * Theme.gapWide, rows.y + rows.contentHeight + Theme.gapWide)
+        height: Math.min(parent.height - 2 * Theme.gapWide, rows.y + rows.contentHeight + guide.height + Theme.gapWide)
         radius: Theme.radiusSheet
         color: Theme.panel
         border.color: Theme.control
@@ -102,6 +104,8 @@ FocusScope {
             tint: Theme.light
             name: qsTrId("shortcuts_close")
             onClicked: list.shown = false
+            KeyNavigation.tab: guide
+            KeyNavigation.backtab: guide
         }
 
         Flickable {
@@ -109,7 +113,7 @@ FocusScope {
 
             y: 52
             width: parent.width
-            height: parent.height - y - Theme.gapWide
+            height: guide.y - y
             contentHeight: column.height
             clip: true
             boundsBehavior: Flickable.StopAtBounds
@@ -161,6 +165,22 @@ FocusScope {
 
         ScrollMark {
             flickable: rows
+        }
+
+        TButton {
+            id: guide
+
+            objectName: "shortcutsGuide"
+            kind: TButton.Tint
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: parent.height - height - Theme.gapWide / 2
+            text: qsTrId("user_guide")
+            onClicked: {
+                list.shown = false
+                list.guideAsked()
+            }
+            KeyNavigation.tab: close
+            KeyNavigation.backtab: close
         }
     }
 }

@@ -1092,6 +1092,10 @@
         <source></source>
         <translation>اختصارات لوحة المفاتيح</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>دليل المستخدم</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>إغلاق</translation>

@@ -1069,6 +1069,10 @@
         <source></source>
         <translation>Tastenkürzel</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Handbuch</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Schließen</translation>

@@ -1068,6 +1068,10 @@
         <source></source>
         <translation>Keyboard Shortcuts</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>User Guide</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Close</translation>

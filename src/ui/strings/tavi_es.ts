@@ -1068,6 +1068,10 @@
         <source></source>
         <translation>Atajos de teclado</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Guía del usuario</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Cerrar</translation>

@@ -1068,6 +1068,10 @@
         <source></source>
         <translation>Raccourcis clavier</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Guide d’utilisation</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Fermer</translation>

@@ -1068,6 +1068,10 @@
         <source></source>
         <translation>Scorciatoie da tastiera</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Guida utente</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Chiudi</translation>

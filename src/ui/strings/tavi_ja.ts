@@ -1062,6 +1062,10 @@
         <source></source>
         <translation>キーボードショートカット</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>ユーザーガイド</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>閉じる</translation>

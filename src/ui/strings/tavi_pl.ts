@@ -1074,6 +1074,10 @@
         <source></source>
         <translation>Skróty klawiszowe</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Podręcznik użytkownika</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Zamknij</translation>

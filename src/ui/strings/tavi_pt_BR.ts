@@ -1068,6 +1068,10 @@
         <source></source>
         <translation>Atalhos de teclado</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Guia do usuário</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Fechar</translation>

@@ -1074,6 +1074,10 @@
         <source></source>
         <translation>Сочетания клавиш</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Руководство пользователя</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Закрыть</translation>

@@ -1062,6 +1062,10 @@
         <source></source>
         <translation>Klavye Kısayolları</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>Kullanım Kılavuzu</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>Kapat</translation>

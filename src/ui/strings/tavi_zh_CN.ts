@@ -1062,6 +1062,10 @@
         <source></source>
         <translation>键盘快捷键</translation>
     </message>
+    <message id="user_guide">
+        <source></source>
+        <translation>用户指南</translation>
+    </message>
     <message id="shortcuts_close">
         <source></source>
         <translation>关闭</translation>
