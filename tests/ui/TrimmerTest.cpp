@@ -82,12 +82,15 @@ TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
     EXPECT_NEAR(zoom.from(), 0.3875, 1e-3) << "what is under the pointer stays";
     turn(-120, Qt::NoModifier);
     EXPECT_NEAR(zoom.from(), 0.4275, 1e-3) << "without Ctrl it scrolls";
-    for (const double distance : {40.0, 60.0, 80.0, 100.0, 120.0, 160.0}) {
+    for (const double distance : {40.0, 60.0, 80.0, 100.0, 120.0, 160.0, 200.0}) {
         pinch(distance, distance == 40.0 ? QEventPoint::Pressed : QEventPoint::Updated);
     }
-    pinch(160.0, QEventPoint::Released);
-    EXPECT_NEAR(zoom.factor(), 10.0, 1e-6);
-    EXPECT_NEAR(zoom.from(), 0.4525, 1e-3) << "what is between the fingers stays";
+    pinch(200.0, QEventPoint::Released);
+    EXPECT_NEAR(zoom.factor(), 12.5, 1e-6) << "a finger beside the plot";
+    EXPECT_NEAR(zoom.from(), 0.4575, 1e-3) << "what is between the fingers stays";
+    shell.drag(*plot, -80.0);
+    EXPECT_GT(zoom.from(), 0.46) << "a drag scrolls";
+    EXPECT_EQ(player.indicatorX(), 0.0) << "a drag is no tap";
     zoom.show(0.375, 0.625);
     shell.tap("tavi::EZAudioPlotItem");
     EXPECT_NEAR(player.indicatorX(), zoom.offset() + zoom.viewWidth() / 2.0, 1.0) << "a tap moves the play head";

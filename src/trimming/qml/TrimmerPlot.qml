@@ -84,8 +84,10 @@ Item {
             border.width: 2
         }
 
-        TapHandler {
-            onTapped: point => root.screen.player.moveTo(point.position.x + root.zoom.offset)
+        // A TapHandler that sees one of two fingers lift inside waits for that finger from then on.
+        MouseArea {
+            anchors.fill: parent
+            onClicked: mouse => root.screen.player.moveTo(mouse.x + root.zoom.offset)
         }
 
         DragHandler {
@@ -93,7 +95,8 @@ Item {
 
             target: null
             yAxis.enabled: false
-            enabled: root.zoom.factor > 1
+            // Two fingers zoom also where one of them leaves the plot.
+            grabPermissions: PointerHandler.CanTakeOverFromItems | PointerHandler.ApprovesTakeOverByAnything
             onActiveChanged: last = 0
             onTranslationChanged: {
                 root.zoom.scrollBy((last - translation.x) / root.selection.containerWidth)
