@@ -47,6 +47,7 @@ RESERVED = re.compile(
 LIBRARIES = [
     (re.compile(r"^pulse/"), {"adapters/pulse"}),
     (re.compile(r"^plist/"), {"adapters/plist"}),
+    (re.compile(r"^openssl/"), {"adapters/webdav"}),
     (re.compile(r"^(libsecret/|sodium|glib|gio/)"), {"adapters/secret"}),
     (re.compile(r"^lib(av|sw)\w+/"), {"adapters/ffmpeg"}),
     (re.compile(r"^(QtDBus|QDBus)"), {"adapters/dbus", "adapters/desktop", "adapters/network", "adapters/tray", "main"}),

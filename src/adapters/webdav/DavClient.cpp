@@ -2,7 +2,6 @@
 
 #include <QAuthenticator>
 #include <QBuffer>
-#include <QCryptographicHash>
 #include <QEventLoop>
 #include <QLocale>
 #include <QNetworkReply>
@@ -11,6 +10,8 @@
 #include <algorithm>
 #include <limits>
 #include <utility>
+
+#include "adapters/webdav/Sha256.h"
 
 namespace tavi {
 
@@ -27,26 +28,50 @@ constexpr char kProperties[] =
     "<?xml version=\"1.0\" encoding=\"utf-8\"?><D:propfind xmlns:D=\"DAV:\"><D:prop><D:resourcetype/>"
     "<D:getcontentlength/><D:getetag/><D:getlastmodified/></D:prop></D:propfind>";
 
-/// Contents as a device that can be read again.
+/// Contents as a device that can be read again, and hashes what is read.
 class ContentsDevice : public QIODevice {
 public:
     explicit ContentsDevice(FileContents contents) : m_contents(std::move(contents)) {
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
     qint64 size() const override { return static_cast<qint64>(m_contents.size()); }
+    /// It could not be read to its end.
+    bool isBroken() const { return m_isBroken; }
+    /// Of all of it, where all of it was read since it was begun last. Once.
+    std::optional<QByteArray> hash() { return m_hashed == size() ? std::optional(m_hash.result()) : std::nullopt; }
 
 protected:
     qint64 readData(char* data, qint64 length) override {
-        const std::size_t count =
-            m_contents.read(data, static_cast<std::size_t>(length), static_cast<std::uint64_t>(pos()));
+        const qint64 offset = pos();
+        const auto count = static_cast<qint64>(
+            m_contents.read(data, static_cast<std::size_t>(length), static_cast<std::uint64_t>(offset)));
+        if (offset == 0 && m_hashed > 0) {
+            // It is sent anew.
+            m_hash = Sha256();
+            m_hashed = 0;
+        }
+        if (offset == m_hashed) {
+            m_hash.add(QByteArrayView(data, count));
+            m_hashed += count;
+        }
         // Cut short since it was opened: the request fails, and nothing shorter is sent as if it were whole.
-        return count == 0 && pos() < size() ? -1 : static_cast<qint64>(count);
+        m_isBroken = count == 0 && offset < size();
+        return m_isBroken ? -1 : count;
     }
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
     FileContents m_contents;
+    Sha256 m_hash;
+    qint64 m_hashed = 0;
+    bool m_isBroken = false;
 };
+
+/// Nothing stronger than Basic is offered.
+bool isBasic(const QByteArray& logins) {
+    const QByteArray offered = logins.toLower();
+    return offered.contains("basic") && !offered.contains("digest");
+}
 
 /// Seconds that the server has to be left alone after an answer.
 int pauseAfter(const DavReply& reply) {
@@ -79,7 +104,7 @@ DavClient::DavClient(Account account) : m_account(std::move(account)) {
     connect(&m_manager, &QNetworkAccessManager::authenticationRequired, this,
             [this](QNetworkReply* reply, QAuthenticator* authenticator) {
                 // Once: a server that refuses them is not asked again.
-                if (!reply->property("asked").toBool()) {
+                if (m_login == Login::Other && !reply->property("asked").toBool()) {
                     reply->setProperty("asked", true);
                     authenticator->setUser(m_account.user);
                     authenticator->setPassword(m_account.password);
@@ -132,6 +157,18 @@ QUrl DavClient::urlOf(const std::filesystem::path& name) const {
 DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
                             const QList<std::pair<QByteArray, QByteArray>>& headers, QIODevice* upload,
                             const std::function<bool(const QByteArray&)>& sink) {
+    const DavReply first = ask(verb, url, headers, upload, sink);
+    const Login login = isBasic(first.logins) ? Login::Basic : Login::Other;
+    if (first.status != 401 || first.logins.isEmpty() || m_account.user.isEmpty() || m_login == login) {
+        return first;
+    }
+    m_login = login;
+    return upload == nullptr || upload->reset() ? ask(verb, url, headers, upload, sink) : first;
+}
+
+DavReply DavClient::ask(const QByteArray& verb, const QUrl& url,
+                        const QList<std::pair<QByteArray, QByteArray>>& headers, QIODevice* upload,
+                        const std::function<bool(const QByteArray&)>& sink) {
     m_last = {};
     if (m_isAborted) {
         return m_last;
@@ -143,6 +180,10 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
     question.setRawHeader("Accept-Encoding", "identity");
     for (const auto& [name, value] : headers) {
         question.setRawHeader(name, value);
+    }
+    if (m_login == Login::Basic) {
+        question.setRawHeader("Authorization",
+                              "Basic " + (m_account.user + QLatin1Char(':') + m_account.password).toUtf8().toBase64());
     }
     if (upload != nullptr) {
         question.setHeader(QNetworkRequest::ContentLengthHeader, upload->size());
@@ -192,6 +233,7 @@ DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
         answer.error = reply->errorString();
     }
     answer.location = reply->rawHeader("Location");
+    answer.logins = reply->rawHeader("WWW-Authenticate");
     answer.retryAfter =
         secondsOfRetryAfter(reply->rawHeader("Retry-After"), reply->rawHeader("Date"), QDateTime::currentDateTimeUtc());
     m_pause = std::max(m_pause, pauseAfter(answer));
@@ -227,9 +269,11 @@ Result<void> DavClient::makeFolder() {
     return reply.succeeded() || reply.status == 405 ? Result<void>() : tl::unexpected(lastError());
 }
 
-void DavClient::put(const std::filesystem::path& name, const FileContents& contents) {
+std::optional<QByteArray> DavClient::put(const std::filesystem::path& name, const FileContents& contents) {
     ContentsDevice device(contents);
     request("PUT", urlOf(name), {{"If-None-Match", "*"}, {"Content-Type", "application/octet-stream"}}, &device, {});
+    m_last.isRefused = device.isBroken();
+    return device.hash();
 }
 
 void DavClient::move(const std::filesystem::path& from, const std::filesystem::path& to) {
@@ -249,10 +293,10 @@ void DavClient::remove(const std::filesystem::path& name) {
 
 Result<QByteArray> DavClient::get(const std::filesystem::path& name, qint64 size,
                                   const std::function<bool(const QByteArray&)>& sink) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    Sha256 hash;
     qint64 count = 0;
     const DavReply reply = request("GET", urlOf(name), {}, nullptr, [&](const QByteArray& bytes) {
-        hash.addData(bytes);
+        hash.add(bytes);
         count += bytes.size();
         return (size < 0 || count <= size) && (!sink || sink(bytes));
     });

@@ -24,10 +24,12 @@ struct DavReply {
     int status = 0;
     QByteArray body;
     QString error;
-    /// It was ended here: it was longer than it may be, or could not be written.
+    /// It was ended here: it was longer than it may be, or could not be written or read.
     bool isRefused = false;
     /// Seconds that the server asks to be left alone.
     int retryAfter = 0;
+    /// The ways to log in that a refusal offers.
+    QByteArray logins;
     /// Where a redirect leads.
     QByteArray location;
     /// Why the server's certificate is refused.
@@ -67,6 +69,12 @@ public:
     /// none.
     int takePause() { return std::exchange(m_pause, 0); }
 
+    /// How the server has its users log in: known from its first refusal, or from an earlier time.
+    enum class Login { Unknown, Basic, Other };
+    /// With Basic the password goes along at once, and costs no answer that asks for it.
+    Login login() const { return m_login; }
+    void setLogin(Login login) { m_login = login; }
+
     /// Hears how many bytes of files have been sent and fetched since it was called last; none by default.
     void setMoved(std::function<void(qint64 bytes)> moved) { m_moved = std::move(moved); }
 
@@ -74,8 +82,8 @@ public:
     /// Nothing where there is no such file.
     Result<std::optional<DavFile>> stat(const std::filesystem::path& name);
     Result<void> makeFolder();
-    /// Writes a new name. The answer is not to be believed.
-    void put(const std::filesystem::path& name, const FileContents& contents);
+    /// Writes a new name. The answer is not to be believed. SHA-256 of what was sent; nothing where not all of it was.
+    std::optional<QByteArray> put(const std::filesystem::path& name, const FileContents& contents);
     /// Moves to a name that nothing has. The answer is not to be believed.
     void move(const std::filesystem::path& from, const std::filesystem::path& to);
     void remove(const std::filesystem::path& name);
@@ -87,6 +95,9 @@ private:
     QUrl urlOf(const std::filesystem::path& name) const;
     DavReply request(const QByteArray& verb, const QUrl& url, const QList<std::pair<QByteArray, QByteArray>>& headers,
                      QIODevice* upload, const std::function<bool(const QByteArray&)>& sink);
+    /// That, once.
+    DavReply ask(const QByteArray& verb, const QUrl& url, const QList<std::pair<QByteArray, QByteArray>>& headers,
+                 QIODevice* upload, const std::function<bool(const QByteArray&)>& sink);
     DavReply propfind(const QUrl& url, const QByteArray& depth);
 
     Account m_account;
@@ -95,6 +106,7 @@ private:
     std::atomic<bool> m_isAborted = false;
     DavReply m_last;
     int m_pause = 0;
+    Login m_login = Login::Unknown;
     std::function<void(qint64)> m_moved;
 };
 

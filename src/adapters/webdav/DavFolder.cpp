@@ -57,26 +57,29 @@ void DavFolder::putBack(const Path& aside, const Path& name) {
     }
 }
 
-Result<std::filesystem::path> DavFolder::sendPart(const FileContents& contents) {
+Result<DavFolder::Part> DavFolder::sendPart(const Path& name, const FileContents& contents) {
     const Path part = scrapName("part");
     if (!m_journal.addScrap(part, {})) {
         return notWritten();
     }
-    m_client.put(part, contents);
+    const auto hash = m_client.put(part, contents);
     const Error error = m_client.lastReply().succeeded() ? Error{qtTrId("error_cloud_not_kept")} : m_client.lastError();
+    if (m_client.lastReply().isRefused) {
+        return tl::unexpected(error);
+    }
     const auto there = m_client.stat(part);
     if (!there) {
         return tl::unexpected(there.error());
     }
-    if (!*there || (*there)->size != static_cast<qint64>(contents.size())) {
+    if (!hash || !*there || (*there)->size != static_cast<qint64>(contents.size())) {
         // What is there of it goes with a later pass: an answer that was lost may still be on its way.
         return tl::unexpected(error);
     }
-    return part;
+    return m_journal.setSent(name, *hash) ? Result<Part>(Part{part, *hash}) : notWritten();
 }
 
-Result<DavFolder::Uploaded> DavFolder::publish(const Path& part, const Path& name, const QByteArray& hash) {
-    const auto moved = moveAndLook(part, name);
+Result<DavFolder::Uploaded> DavFolder::publish(const Part& part, const Path& name) {
+    const auto moved = moveAndLook(part.name, name);
     if (!moved) {
         return tl::unexpected(moved.error());
     }
@@ -87,28 +90,28 @@ Result<DavFolder::Uploaded> DavFolder::publish(const Path& part, const Path& nam
     if (!found) {
         return tl::unexpected(found.error());
     }
-    if (*found == hash) {
-        moved->hasSource ? false : m_journal.dropScrap(part);
-        return Uploaded{Outcome::Done, *moved->target};
+    if (*found == part.hash) {
+        moved->hasSource ? false : m_journal.dropScrap(part.name);
+        return Uploaded{Outcome::Done, *moved->target, part.hash};
     }
-    return Uploaded{Outcome::Taken, *moved->target};
+    return Uploaded{Outcome::Taken, *moved->target, part.hash};
 }
 
-Result<DavFolder::Uploaded> DavFolder::create(const Path& name, const FileContents& contents, const QByteArray& hash) {
+Result<DavFolder::Uploaded> DavFolder::create(const Path& name, const FileContents& contents) {
     const auto there = m_client.stat(name);
     if (!there) {
         return tl::unexpected(there.error());
     }
     if (*there) {
-        return Uploaded{Outcome::Taken, **there};
+        return Uploaded{Outcome::Taken, **there, {}};
     }
-    const auto part = sendPart(contents);
-    return part ? publish(*part, name, hash) : tl::unexpected(part.error());
+    const auto part = sendPart(name, contents);
+    return part ? publish(*part, name) : tl::unexpected(part.error());
 }
 
-Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileContents& contents, const QByteArray& hash,
+Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileContents& contents,
                                                const QByteArray& seenHash) {
-    const auto part = sendPart(contents);
+    const auto part = sendPart(name, contents);
     if (!part) {
         return tl::unexpected(part.error());
     }
@@ -122,7 +125,7 @@ Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileConte
     }
     if (!moved->target) {
         m_journal.dropScrap(aside);
-        return Uploaded{Outcome::Taken, {}};
+        return Uploaded{Outcome::Taken, {}, {}};
     }
     const auto oldHash = hashOf(aside, *moved->target);
     if (!oldHash) {
@@ -130,9 +133,9 @@ Result<DavFolder::Uploaded> DavFolder::replace(const Path& name, const FileConte
     }
     if (*oldHash != seenHash) {
         putBack(aside, name);
-        return Uploaded{Outcome::Taken, {}};
+        return Uploaded{Outcome::Taken, {}, {}};
     }
-    auto published = publish(*part, name, hash);
+    auto published = publish(*part, name);
     if (published && published->outcome == Outcome::Done) {
         m_client.remove(aside);
         m_journal.dropScrap(aside);

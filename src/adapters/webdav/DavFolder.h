@@ -21,16 +21,17 @@ public:
         Outcome outcome = Outcome::Done;
         /// What has the name now.
         DavFile file;
+        /// SHA-256 of what was sent.
+        QByteArray hash;
     };
 
     /// All of them must outlive it.
     DavFolder(DavClient& client, SyncJournal& journal) : m_client(client), m_journal(journal) {}
 
-    /// Writes contents of that hash under a name that nothing has.
-    Result<Uploaded> create(const Path& name, const FileContents& contents, const QByteArray& hash);
-    /// Writes them in the place of contents of the other hash.
-    Result<Uploaded> replace(const Path& name, const FileContents& contents, const QByteArray& hash,
-                             const QByteArray& seenHash);
+    /// Writes contents under a name that nothing has. Before they have it the journal knows what was sent.
+    Result<Uploaded> create(const Path& name, const FileContents& contents);
+    /// Writes them in the place of contents of that hash.
+    Result<Uploaded> replace(const Path& name, const FileContents& contents, const QByteArray& seenHash);
     /// Moves a file of that hash to a name for what was thrown away, where it stays.
     Result<Outcome> discard(const Path& name, const QByteArray& seenHash);
     /// Renames, replacing nothing.
@@ -39,10 +40,14 @@ public:
     Result<bool> recover();
 
 private:
-    /// The name of contents that are whole on the server and have no name of their own yet.
-    Result<Path> sendPart(const FileContents& contents);
+    /// Contents that are whole on the server and have no name of their own yet.
+    struct Part {
+        Path name;
+        QByteArray hash;
+    };
+    Result<Part> sendPart(const Path& name, const FileContents& contents);
     /// Gives a part its name. Whatever is answered, it looks: what has the name must have the hash.
-    Result<Uploaded> publish(const Path& part, const Path& name, const QByteArray& hash);
+    Result<Uploaded> publish(const Part& part, const Path& name);
     /// What is at the two names after a move.
     struct Places {
         bool hasSource = false;

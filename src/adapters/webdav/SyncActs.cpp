@@ -1,6 +1,6 @@
-#include <QCryptographicHash>
 #include <algorithm>
 
+#include "adapters/webdav/Sha256.h"
 #include "adapters/webdav/SyncPass.h"
 #include "files/ConflictNames.h"
 #include "files/DurableFile.h"
@@ -26,7 +26,7 @@ Result<void> errnoFailure(int error) {
 
 std::optional<QByteArray> hashOf(const FileContents& contents, const DavClient& client) {
     constexpr std::size_t kBlock = 1024 * 1024;
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    Sha256 hash;
     QByteArray block(static_cast<qsizetype>(kBlock), '\0');
     std::uint64_t offset = 0;
     while (offset < contents.size()) {
@@ -34,7 +34,7 @@ std::optional<QByteArray> hashOf(const FileContents& contents, const DavClient& 
         if (count == 0 || client.isAborted()) {
             return std::nullopt;
         }
-        hash.addData(QByteArrayView(block.constData(), static_cast<qsizetype>(count)));
+        hash.add(QByteArrayView(block.constData(), static_cast<qsizetype>(count)));
         offset += count;
     }
     return hash.result();
@@ -108,31 +108,28 @@ void SyncPass::follow(const Path& name, qint64 bytes) {
 
 Result<void> SyncPass::upload(File& file) {
     const auto contents = FileContents::ofFile(m_services.folder / file.name);
-    const auto hash = contents ? hashOf(*contents, m_services.client) : std::nullopt;
-    if (!hash) {
-        return failure(qtTrId("error_cloud_unreadable").arg(pathText(file.name)));
-    }
-    if (!m_services.journal.setSent(file.name, *hash)) {
-        return failure(qtTrId("error_cloud_journal"));
+    const Error unreadable{qtTrId("error_cloud_unreadable").arg(pathText(file.name))};
+    if (!contents) {
+        return tl::unexpected(unreadable);
     }
     setState(file.name, MirrorState::Sending);
     // It is read back.
     follow(file.name, 2 * static_cast<qint64>(contents->size()));
-    const auto uploaded = file.remote ? m_dav.replace(file.name, *contents, *hash, file.entry.hash)
-                                      : m_dav.create(file.name, *contents, *hash);
+    const auto uploaded =
+        file.remote ? m_dav.replace(file.name, *contents, file.entry.hash) : m_dav.create(file.name, *contents);
     setState(file.name, MirrorState::Waiting);
     if (!uploaded) {
-        return tl::unexpected(uploaded.error());
+        return tl::unexpected(m_services.client.lastReply().isRefused ? unreadable : uploaded.error());
     }
     if (uploaded->outcome == DavFolder::Outcome::Taken) {
         return stepAside(file);
     }
     if (FileIdentity::at(m_services.folder / file.name) != file.local) {
         // It has changed while it was sent: what was sent is agreed on, and the rest follows.
-        agree(file, uploaded->file, *hash);
+        agree(file, uploaded->file, uploaded->hash);
         return failure(qtTrId("error_cloud_growing").arg(pathText(file.name)));
     }
-    return agree(file, uploaded->file, *hash);
+    return agree(file, uploaded->file, uploaded->hash);
 }
 
 Result<void> SyncPass::download(File& file) {

@@ -38,7 +38,17 @@ SyncEntry entryOf(const QSqlQuery& query, int first) {
 }
 
 std::filesystem::path nameOf(SyncJournal::Fact fact) {
-    return fact == SyncJournal::Fact::IsMarked ? "/marked" : "/listed";
+    switch (fact) {
+        case SyncJournal::Fact::IsMarked:
+            return "/marked";
+        case SyncJournal::Fact::ListsMark:
+            return "/listed";
+        case SyncJournal::Fact::TakesBasic:
+            return "/basic";
+        case SyncJournal::Fact::TakesOther:
+            return "/other";
+    }
+    return {};
 }
 
 }  // namespace

@@ -75,8 +75,8 @@ public:
     bool dropSent(const Path& name);
 
     /// What has been found out about the server's folder for good: that it has been marked as this account's, and that
-    /// its listing has the mark.
-    enum class Fact { IsMarked, ListsMark };
+    /// its listing has the mark; how it has its users log in.
+    enum class Fact { IsMarked, ListsMark, TakesBasic, TakesOther };
     bool isKnown(Fact fact);
     bool know(Fact fact);
     /// When both sides had the same; invalid where they never have.

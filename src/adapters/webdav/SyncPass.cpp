@@ -18,8 +18,25 @@ SyncSide sideOf(bool exists, const QByteArray& version, const QByteArray& known)
 
 }  // namespace
 
+Result<DavFiles> SyncPass::list() {
+    using Fact = SyncJournal::Fact;
+    using Login = DavClient::Login;
+    DavClient& client = m_services.client;
+    SyncJournal& journal = m_services.journal;
+    const Login known = journal.isKnown(Fact::TakesOther)   ? Login::Other
+                        : journal.isKnown(Fact::TakesBasic) ? Login::Basic
+                                                            : Login::Unknown;
+    client.login() == Login::Unknown ? client.setLogin(known) : void();
+    auto files = client.list();
+    if (files && client.login() != known && client.login() != Login::Unknown &&
+        !journal.know(client.login() == Login::Basic ? Fact::TakesBasic : Fact::TakesOther)) {
+        return failure(qtTrId("error_cloud_journal"));
+    }
+    return files;
+}
+
 Result<DavFiles> SyncPass::look() {
-    auto files = m_services.client.list();
+    auto files = list();
     if (!files && m_services.client.lastReply().status == 404 &&
         !m_services.journal.isKnown(SyncJournal::Fact::IsMarked) && m_services.client.makeFolder()) {
         files = m_services.client.list();

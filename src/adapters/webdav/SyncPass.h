@@ -73,6 +73,8 @@ private:
         std::optional<DavFile> remote;
     };
 
+    /// Logs in as the server is known to want it, and remembers how that is.
+    Result<DavFiles> list();
     Result<DavFiles> look();
     /// Has the server hear of renames. Those that it refuses wait, and nothing is done with their files.
     Result<void> sendMoves(DavFiles& files);

@@ -341,8 +341,8 @@ TEST(WebDav, DoesWithWhatAServerRefusesAndSaysWhatThatIs) {
     // A version that nobody here has seen is neither replaced nor left hidden.
     const auto hash = [](const char* bytes) { return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256); };
     DavFolder dav(b.client, *b.journal);
-    dav.create("x", FileContents("1"), hash("1"));
-    EXPECT_EQ(dav.replace("x", FileContents("3"), hash("3"), hash("2"))->outcome, DavFolder::Outcome::Taken);
+    dav.create("x", FileContents("1"));
+    EXPECT_EQ(dav.replace("x", FileContents("3"), hash("2"))->outcome, DavFolder::Outcome::Taken);
     EXPECT_EQ(b.client.get("x", -1, {}), hash("1"));
     b.journal->addScrap(".tavi-old-0123456789-x", "x");
     b.client.put(".tavi-old-0123456789-x", FileContents("old"));
@@ -369,6 +369,18 @@ TEST(WebDav, DoesWithWhatAServerRefusesAndSaysWhatThatIs) {
     EXPECT_FALSE(probeFolder(a.client));
     answer("DELETE=0");
     EXPECT_TRUE(probeFolder(a.client));
+    // A server has to ask for the login once for all, and once more where it asks for another one; the password goes in
+    // the clear to none that has not asked for that.
+    for (const auto& [scheme, asked] : {std::pair{"Basic", 1}, {"Digest", 3}}) {
+        answer(std::string("login=") + scheme);
+        for (int starts = 0; starts < 3; ++starts) {
+            EXPECT_TRUE(a.sync().isInStep) << scheme;
+            a.client.setLogin(DavClient::Login::Unknown);
+        }
+        DavClient look({server.url(), QStringLiteral("u"), QStringLiteral("p")});
+        EXPECT_TRUE(look.list());
+        EXPECT_EQ((*look.stat(".asked"))->size, asked + 1) << scheme;
+    }
 }
 
 TEST(WebDav, TrustsACertificateOnlyForItsNameAndByWhomTheSystemTrusts) {

@@ -5,6 +5,7 @@ said that it keeps, since nothing could be proved of a server that does; all els
 preconditions say, forgets to answer, answers and does nothing, keeps a part of what was sent, and lies about tags.
 GET /?VERB=STATUS has it answer so from then on, with "=elsewhere" by a redirect to another origin (asked there it makes a
 file "caught"), with "=path" by 400 where a destination is no path, with "=cut" by a part; GET /?VERB=0 makes that good again.
+GET /?login=SCHEME has it ask for a login by that scheme, and count in the file ".asked" how often it had to.
 """
 
 import email.utils
@@ -26,8 +27,10 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def log_message(self, *_):
         pass
 
-    def reply(self, status, body=b"", cut=False, location=None):
+    def reply(self, status, body=b"", cut=False, location=None, login=None):
         self.send_response(status)
+        if login:
+            self.send_header("WWW-Authenticate", login + ' realm="dav", nonce="1"')
         if location:
             self.send_header("Location", location)
         if cut:
@@ -47,6 +50,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
         if path.startswith("/?") and "=" in path:
             verb, rules[verb] = path[2:].split("=")
             return self.reply(200)
+        if "login" in rules and "Authorization" not in self.headers:
+            files["/Tavi/.asked"] = (files.get("/Tavi/.asked", (b"", 0))[0] + b".", time.time())
+            return self.reply(401, login=rules["login"])
         rule = rules.get(self.command, "0")
         if rule != "0" and self.headers["Host"].startswith("localhost"):
             files["/Tavi/caught"] = (b"", 0)
