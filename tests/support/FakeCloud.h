@@ -7,14 +7,10 @@
 #include "cloud/iCloud.h"
 #include "files/FileNames.h"
 #include "files/NamePattern.h"
+#include "support/Files.h"
 #include "support/ManualRunLoop.h"
 
 namespace tavi::test {
-
-inline std::string contentsOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// A cloud whose container is a folder, all of it on the run loop. What is elsewhere only is in `elsewhere`.
 class FakeCloud : public UbiquityContainer, public MetadataQueries, public Documents, public FileCoordinator {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <map>
 #include <stop_token>
+#include <utility>
 
 #include "files/FileMove.h"
 #include "files/FileNames.h"
@@ -61,6 +62,15 @@ struct FakePresenter : Presenter {
         }
     }
 
+    /// Titles and messages of the alerts since it was last asked.
+    std::string said() {
+        QStringList texts;
+        for (const Alert& alert : std::exchange(alerts, {})) {
+            texts << alert.title + QLatin1Char('|') + alert.message;
+        }
+        return texts.join(QLatin1Char(' ')).toStdString();
+    }
+
     std::vector<Alert> alerts;
     std::vector<Alert> sheets;
 };
@@ -85,6 +95,14 @@ struct FakeNotices : Notices {
 
     std::unique_ptr<ProgressNotice> postProgress(Notice notice) override {
         return std::make_unique<Work>(*this, std::move(notice));
+    }
+    /// What has been posted since it was last asked.
+    std::string said() {
+        QStringList texts;
+        for (const Notice& notice : std::exchange(posted, {})) {
+            texts << notice.text;
+        }
+        return texts.join(QLatin1Char(' ')).toStdString();
     }
 
     std::vector<Notice> posted;

@@ -14,6 +14,7 @@
 #include "files/FileCopy.h"
 #include "files/FileMove.h"
 #include "files/FileNames.h"
+#include "support/Files.h"
 
 namespace tavi::test {
 namespace {
@@ -21,35 +22,11 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::set<std::string>;
 
-void write(const fs::path& path, const std::string& contents) {
-    ASSERT_TRUE(std::ofstream(path, std::ios::binary) << contents);
-}
-
-std::string read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// What lies below a folder, by the paths from there.
-Names filesIn(const fs::path& folder) {
-    Names names;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        if (!entry.is_directory()) {
-            names.insert(entry.path().lexically_relative(folder));
-        }
-    }
-    return names;
-}
-
 /// Two folders on two file systems; a file in the first, with a name that is no text.
-class FilesTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        write(from, "sound");
-        ASSERT_NE(::rename(from.c_str(), farTo.c_str()), 0) << "not on two file systems";
-    }
+struct FilesTest : ::testing::Test {
+    FilesTest() { EXPECT_NE(::rename(from.c_str(), farTo.c_str()), 0) << "not on two file systems"; }
     /// QTemporaryDir itself leaves names behind that are no text.
-    void TearDown() override {
+    ~FilesTest() override {
         fs::remove_all(near);
         fs::remove_all(far);
     }
@@ -58,7 +35,7 @@ protected:
     QTemporaryDir m_far{QStringLiteral("/dev/shm/tavi-XXXXXX")};
     const fs::path near = m_near.path().toStdString();
     const fs::path far = m_far.path().toStdString();
-    const fs::path from = near / "voice\xff.m4a";
+    const fs::path from = written(near / "voice\xff.m4a");
     const fs::path nearTo = near / "2024\xfe.m4a";
     const fs::path farTo = far / "2024\xfe.m4a";
 };
@@ -82,7 +59,7 @@ TEST_F(FilesTest, ADurableFileHasItsNameWhenItIsPublishedAndLeavesNothingBefore)
             EXPECT_EQ(file.publish(), 0);
             EXPECT_EQ(other.publish(), EEXIST);
         }
-        EXPECT_EQ(read(farTo), "sound");
+        EXPECT_EQ(contentsOf(farTo), "sound");
         EXPECT_FALSE(DurableFile::create(farTo).isValid());
         EXPECT_EQ(errno, EEXIST);
         EXPECT_EQ(filesIn(far), Names{farTo.filename()});
@@ -94,9 +71,9 @@ TEST_F(FilesTest, ADurableFileTakesWhatAnotherWriterMadeInItsPlace) {
     DurableFile file = DurableFile::create(nearTo);
     file.discard();
     EXPECT_EQ(file.synchronize(), ENOENT);
-    write(file.temporaryPath(), "other");
+    written(file.temporaryPath(), "other");
     EXPECT_EQ(file.publish(), 0);
-    EXPECT_EQ(read(nearTo), "other");
+    EXPECT_EQ(contentsOf(nearTo), "other");
 }
 
 TEST_F(FilesTest, LeftoversOfKilledProcessesGoAfterAnHour) {
@@ -113,13 +90,13 @@ TEST_F(FilesTest, LeftoversOfKilledProcessesGoAfterAnHour) {
 TEST_F(FilesTest, EveryWayOfRenamingReplacesNothing) {
     for (const RenameMethod method : {RenameMethod::Exclusive, RenameMethod::Link, RenameMethod::Reserve}) {
         SCOPED_TRACE(static_cast<int>(method));
-        write(nearTo, "older");
+        written(nearTo, "older");
         EXPECT_EQ(renameWithoutReplacing(from, nearTo, method), EEXIST);
-        EXPECT_EQ(read(from) + read(nearTo), "soundolder");
+        EXPECT_EQ(contentsOf(from) + contentsOf(nearTo), "soundolder");
 
         fs::remove(nearTo);
         EXPECT_EQ(renameWithoutReplacing(from, nearTo, method), 0);
-        EXPECT_EQ(read(nearTo), "sound");
+        EXPECT_EQ(contentsOf(nearTo), "sound");
         EXPECT_EQ(renameWithoutReplacing(near / "none", from, method), ENOENT);
         EXPECT_EQ(filesIn(near), Names{nearTo.filename()});
         fs::rename(nearTo, from);
@@ -134,28 +111,28 @@ TEST_F(FilesTest, MovesWholeFilesWithTheirDates) {
         const auto moved = moveItem(from, to);
         ASSERT_TRUE(moved) << moved.error().text;
         EXPECT_FALSE(fs::exists(from));
-        EXPECT_EQ(read(to), "sound");
+        EXPECT_EQ(contentsOf(to), "sound");
         struct stat attributes = {};
         ASSERT_EQ(::stat(to.c_str(), &attributes), 0);
         EXPECT_EQ(attributes.st_mtim.tv_sec, 1700000001);
         EXPECT_EQ(attributes.st_mode & 0777U, 0640U);
-        write(from, "sound");
+        written(from, "sound");
     }
     EXPECT_EQ(filesIn(far), Names{farTo.filename()});
 }
 
 TEST_F(FilesTest, AFailureLeavesTheSourceAndNothingElse) {
-    write(farTo, "older");
+    written(farTo, "older");
     EXPECT_FALSE(moveItem(from, farTo));
-    EXPECT_EQ(read(farTo), "older");
+    EXPECT_EQ(contentsOf(farTo), "older");
     fs::remove(farTo);
     EXPECT_FALSE(moveItem(from, far / "none/2024.m4a"));
     EXPECT_FALSE(moveItem(near, far / "folder"));
-    EXPECT_EQ(read(from), "sound");
+    EXPECT_EQ(contentsOf(from), "sound");
 
     // A disk that is full half-way through the copy.
     const std::string large(3 << 20, 'x');
-    write(from, large);
+    written(from, large);
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small{2 << 20, RLIM_INFINITY};
     const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
@@ -163,19 +140,19 @@ TEST_F(FilesTest, AFailureLeavesTheSourceAndNothingElse) {
     const auto moved = moveItem(from, farTo);
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
     EXPECT_FALSE(moved);
-    EXPECT_EQ(read(from), large);
+    EXPECT_EQ(contentsOf(from), large);
     EXPECT_EQ(filesIn(far), Names());
 }
 
 TEST_F(FilesTest, CopiesARegularFileWholeOrNotAtAll) {
     const timespec times[2] = {{1700000000, 0}, {1700000001, 0}};
-    write(from, std::string(3 << 20, 'x'));
+    written(from, std::string(3 << 20, 'x'));
     ASSERT_EQ(::utimensat(AT_FDCWD, from.c_str(), times, 0), 0);
     ASSERT_EQ(::chmod(from.c_str(), 04555), 0);
     fs::create_symlink(from, near / "link");
     std::vector<double> told;
     EXPECT_EQ(copyItem(near / "link", farTo, {[&told](double fraction) { told.push_back(fraction); }}), 0);
-    EXPECT_EQ(read(farTo), std::string(3 << 20, 'x'));
+    EXPECT_EQ(contentsOf(farTo), std::string(3 << 20, 'x'));
     EXPECT_EQ(told, (std::vector{0.33, 0.66, 1.0}));
     struct stat attributes = {};
     ASSERT_EQ(::lstat(farTo.c_str(), &attributes), 0);
@@ -186,7 +163,7 @@ TEST_F(FilesTest, CopiesARegularFileWholeOrNotAtAll) {
 
     ASSERT_EQ(::mkfifo((near / "pipe").c_str(), 0600), 0);
     ASSERT_EQ(::mknod((near / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
-    write(near / "huge", "x");
+    written(near / "huge", "x");
     ASSERT_EQ(::truncate((near / "huge").c_str(), off_t{1} << 42), 0);
     std::stop_source stop;
     const auto append = [this](double) { std::ofstream(from, std::ios::app) << "more"; };
@@ -212,7 +189,7 @@ TEST_F(FilesTest, CopiesARegularFileWholeOrNotAtAll) {
 
 TEST_F(FilesTest, FindsAFreeNameBesideWhateverIsThere) {
     for (const char* name : {"a.b.wav", "a.b_3.wav", "a.b_3_2.wav", "name"}) {
-        write(near / name, "there");
+        written(near / name, "there");
     }
     fs::create_symlink("nowhere", near / "link.wav");
     fs::create_directories(near / "dotted.d/x\xff");
@@ -234,7 +211,7 @@ TEST_F(FilesTest, FindsAFreeNameBesideWhateverIsThere) {
             EXPECT_FALSE(existsAt(near / wanted));
         }
     }
-    EXPECT_EQ(read(near / "a.b_3_3.wav") + read(near / "a.b_3_2.wav"), "therethere");
+    EXPECT_EQ(contentsOf(near / "a.b_3_3.wav") + contentsOf(near / "a.b_3_2.wav"), "therethere");
     EXPECT_FALSE(stepAside(near / "missing.wav"));
 }
 

@@ -2,10 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "support/FakeLibrary.h"
+#include "support/Files.h"
 #include "support/Texts.h"
 
 namespace tavi::test {
@@ -15,8 +13,7 @@ using ::testing::ElementsAre;
 using ::testing::UnorderedElementsAre;
 using State = CloudFile::State;
 
-class CloudSectionTest : public ::testing::Test, protected FakeServices {
-protected:
+struct CloudSectionTest : ::testing::Test, FakeServices {
     CloudSectionTest() {
         settings.setCloudSyncOn(true);
         cloud.files = {{"a.m4a", "A"}, {"b.m4a", "B"}};
@@ -33,18 +30,12 @@ protected:
         Q_EMIT library.connection.filesChanged();
         settle();
     }
-    static void write(const std::filesystem::path& path, const std::string& text) {
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path) << text;
-    }
     /// Name and contents of what is in a folder.
     static std::vector<std::string> filesIn(const std::filesystem::path& folder) {
         std::vector<std::string> found;
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
             if (entry.is_regular_file()) {
-                std::ifstream file(entry.path());
-                found.push_back(entry.path().filename().string() + ' ' +
-                                std::string(std::istreambuf_iterator(file), {}));
+                found.push_back(entry.path().filename().string() + ' ' + contentsOf(entry.path()));
             }
         }
         return found;
@@ -72,9 +63,9 @@ protected:
 };
 
 TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRecordings) {
-    write(cache / "mine.m4a", "mine");
-    write(cache / "a.m4a", "mine, too");
-    write(recordings / "mine.m4a", "local");
+    written(cache / "mine.m4a", "mine");
+    written(cache / "a.m4a", "mine, too");
+    written(recordings / "mine.m4a", "local");
     const std::filesystem::path record = container.cachesPath() / "cloud-cache";
     for (int times = 0; times < 2; ++times) {
         appear();
@@ -87,8 +78,8 @@ TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRec
     EXPECT_EQ((std::pair{library.table.numberOfRowsInSection(0), library.table.numberOfRowsInSection(1)}),
               (std::pair{3, 2}));
     // A copy that somebody has changed since is the user's; what a killed refresh was writing is nobody's.
-    write(cache / "b.m4a", "changed");
-    write(cache / ".tavi-unfinished-0123456789abcdef", "half");
+    written(cache / "b.m4a", "changed");
+    written(cache / ".tavi-unfinished-0123456789abcdef", "half");
     FakeLibrary next{*this, durations, presenter, notices};
     next.vc.viewWillAppear();
     settle();
@@ -111,7 +102,7 @@ TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRec
 }
 
 TEST_F(CloudSectionTest, EveryFileOfTheCloudHasARowThatSaysHowItIsAndATapAsksAgain) {
-    write(recordings / "local.m4a", "L");
+    written(recordings / "local.m4a", "L");
     appear();
     tell({{"a.m4a", {State::Sending, false, 0.42}},
           {"b.m4a", {State::There, true}},
@@ -150,7 +141,7 @@ TEST_F(CloudSectionTest, EveryFileOfTheCloudHasARowThatSaysHowItIsAndATapAsksAga
 }
 
 TEST_F(CloudSectionTest, WhatIsDoneInTheCloudsListIsDoneInTheCloud) {
-    write(recordings / "a.m4a", "local");
+    written(recordings / "a.m4a", "local");
     appear();
     const auto act = [this](const char* section, const char* name, auto operation) {
         library.actions.aim(QLatin1String(section), library.table.rowOf(section[0] - '0', name), {});

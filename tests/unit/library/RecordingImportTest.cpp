@@ -3,17 +3,12 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
-#include <QCoreApplication>
-#include <QTranslator>
-#include <fstream>
-
 #include "files/FileUri.h"
 #include "files/LockedFolder.h"
 #include "library/ImportInbox.h"
-#include "support/FakeCloudDocuments.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
-#include "support/TemporaryContainer.h"
+#include "support/FakeServices.h"
+#include "support/Files.h"
+#include "support/Texts.h"
 
 namespace tavi::test {
 
@@ -24,58 +19,21 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
-/// Texts that show what is put into them.
-struct Texts : QTranslator {
-    Texts() { QCoreApplication::installTranslator(this); }
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* key, const char*, int) const override {
-        const QString text = QString::fromLatin1(key).section(QLatin1Char('_'), 1);
-        const QHash<QString, const char*> places{
-            {QStringLiteral("done"), " %1"},     {QStringLiteral("done_many"), " %n"},
-            {QStringLiteral("running"), " %1"},  {QStringLiteral("running_many"), " %n"},
-            {QStringLiteral("more"), " %n"},     {QStringLiteral("some"), " %n %1"},
-            {QStringLiteral("failed"), " %1 %2"}};
-        return text + QLatin1String(places.value(text, ""));
-    }
-};
-
-class RecordingImportTest : public ::testing::Test {
-protected:
+struct RecordingImportTest : ::testing::Test, FakeServices {
     RecordingImportTest() {
         fs::create_directories(outside);
         QObject::connect(&imports, &RecordingImport::imported, &imports, [this] { ++lists; });
     }
 
-    static fs::path write(const fs::path& path, const std::string& contents = "sound") {
-        fs::create_directories(path.parent_path());
-        EXPECT_TRUE(std::ofstream(path) << contents);
-        return path;
-    }
-    static std::string read(const fs::path& path) {
-        std::ifstream file(path);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
     static QUrl urlOf(const fs::path& path) { return QUrl::fromEncoded(QByteArray::fromStdString(fileUri(path))); }
-    /// Everything below a folder that is no folder, by the paths from there.
-    static std::vector<std::string> filesIn(const fs::path& folder) {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-            if (entry.is_symlink() || !entry.is_directory()) {
-                names.push_back(entry.path().lexically_relative(folder));
-            }
-        }
-        return names;
-    }
     std::string lastNotice() const { return notices.posted.empty() ? "" : notices.posted.back().text.toStdString(); }
 
-    const Texts texts;
-    TemporaryContainer container;
-    ManualRunLoop runLoop;
-    FakeNotices notices;
+    const Texts texts{{{"import_done", QStringLiteral("done %1")},
+                       {"import_running", QStringLiteral("running %1")},
+                       {"import_running_many", QStringLiteral("running %n")},
+                       {"import_some", QStringLiteral("some %n %1")},
+                       {"import_failed", QStringLiteral("failed %1 %2")}}};
     FakePresenter presenter;
-    FakeUserDefaults defaults;
-    SettingsStore settings{defaults};
-    FakeCloudDocuments cloud{runLoop};
     RecordingImport imports{{.container = container,
                              .runLoop = runLoop,
                              .notices = notices,
@@ -91,24 +49,24 @@ protected:
 }  // namespace
 
 TEST_F(RecordingImportTest, EveryFileComesInUnderItsNameOrIsToldAbout) {
-    write(documents / "taken.wav", "older");
-    const fs::path taken = write(outside / "taken.wav");
+    written(documents / "taken.wav", "older");
+    const fs::path taken = written(outside / "taken.wav");
     ::mkfifo((outside / "pipe").c_str(), 0600);
     ::mknod((outside / "socket").c_str(), S_IFSOCK | 0600, 0);
     const struct {
         QUrl url;
         const char* told;
-    } cases[] = {{urlOf(write(outside / "a b%20;?#\n.wav")), "done a b%20;?#?.wav"},
-                 {urlOf(write(outside / "odd\xff\xe2\x80\xae")), "done odd\uFFFD?"},
-                 {urlOf(taken), "failed taken.wav taken"},
-                 {urlOf(outside), "failed outside folder"},
-                 {urlOf(outside / "pipe"), "failed pipe no_file"},
-                 {urlOf(outside / "socket"), "failed socket no_file"},
-                 {urlOf("/dev/zero"), "failed zero no_file"},
-                 {urlOf(outside / "none"), "failed none gone"},
-                 {urlOf(write(outside / "ICloud")), "failed ICloud taken"},
-                 {QUrl(QStringLiteral("https://x/a.wav")), "failed https://x/a.wav remote"},
-                 {QUrl(QStringLiteral("file://elsewhere/a.wav")), "failed file://elsewhere/a.wav remote"}};
+    } cases[] = {{urlOf(written(outside / "a b%20;?#\n.wav")), "done a b%20;?#?.wav"},
+                 {urlOf(written(outside / "odd\xff\xe2\x80\xae")), "done odd\uFFFD?"},
+                 {urlOf(taken), "failed taken.wav import_taken"},
+                 {urlOf(outside), "failed outside import_folder"},
+                 {urlOf(outside / "pipe"), "failed pipe import_no_file"},
+                 {urlOf(outside / "socket"), "failed socket import_no_file"},
+                 {urlOf("/dev/zero"), "failed zero import_no_file"},
+                 {urlOf(outside / "none"), "failed none import_gone"},
+                 {urlOf(written(outside / "ICloud")), "failed ICloud import_taken"},
+                 {QUrl(QStringLiteral("https://x/a.wav")), "failed https://x/a.wav import_remote"},
+                 {QUrl(QStringLiteral("file://elsewhere/a.wav")), "failed file://elsewhere/a.wav import_remote"}};
     const auto before = filesIn(outside);
     QList<QUrl> all;
     for (const auto& row : cases) {
@@ -118,9 +76,9 @@ TEST_F(RecordingImportTest, EveryFileComesInUnderItsNameOrIsToldAbout) {
         all += row.url;
     }
     EXPECT_THAT(filesIn(documents), UnorderedElementsAre("taken.wav", "a b%20;?#\n.wav", "odd\xff\xe2\x80\xae"));
-    EXPECT_EQ(read(documents / "taken.wav") + read(documents / "odd\xff\xe2\x80\xae"), "oldersound");
+    EXPECT_EQ(contentsOf(documents / "taken.wav") + contentsOf(documents / "odd\xff\xe2\x80\xae"), "oldersound");
 
-    write(outside / "last");
+    written(outside / "last");
     imports.importFiles(all);
     imports.importFiles({urlOf(outside / "last")});
     runLoop.drain();
@@ -128,7 +86,7 @@ TEST_F(RecordingImportTest, EveryFileComesInUnderItsNameOrIsToldAbout) {
     EXPECT_EQ(lists, 3);
     notices.posted.back().action();
     EXPECT_THAT(presenter.alerts.back().message.toStdString(),
-                ::testing::StartsWith("failed https://x/a.wav remote\n"));
+                ::testing::StartsWith("failed https://x/a.wav import_remote\n"));
     EXPECT_EQ(presenter.alerts.back().message.count(QLatin1Char('\n')), 10);
     EXPECT_EQ(filesIn(outside).size(), before.size() + 1) << "something of the user's is gone";
     EXPECT_TRUE(fs::is_empty(inbox));
@@ -139,7 +97,7 @@ TEST_F(RecordingImportTest, TakesAwayTheFolderOfAnIncomingFileOnlyBelowInbox) {
         const char *file, *to;
         int error;
         /// What is below Inbox afterwards.
-        std::vector<std::string> left;
+        std::set<std::string> left;
     } cases[] = {{"Documents/Inbox/x/a.wav", "a.wav", 0, {"other", "y/link.wav", "y/taken.wav", "z/away"}},
                  {"Documents/Inbox/y/link.wav", "link.wav", 0, {"other", "x/a.wav", "x/b.wav", "z/away"}},
                  {"Documents/Inbox/y/taken.wav", "taken.wav", EEXIST, {"other", "x/a.wav", "x/b.wav", "z/away"}},
@@ -151,18 +109,17 @@ TEST_F(RecordingImportTest, TakesAwayTheFolderOfAnIncomingFileOnlyBelowInbox) {
                  {"outside/a.wav", "a.wav", 0, {}}};
     for (const auto& row : cases) {
         fs::remove_all(documents);
-        write(outside / "a.wav", "user's");
+        written(outside / "a.wav", "user's");
         for (const char* name : {"Inbox/x/a.wav", "Inbox/x/b.wav", "Inbox/y/taken.wav", "Inbox/other", "taken.wav"}) {
-            write(documents / name);
+            written(documents / name);
         }
         fs::create_symlink(outside / "a.wav", inbox / "y/link.wav");
         fs::create_directory(inbox / "z");
         fs::create_symlink(outside, inbox / "z/away");
         const auto all = filesIn(inbox);
         EXPECT_EQ(importinbox::takeOver(documents, container.root() / row.file), row.error) << row.file;
-        EXPECT_THAT(filesIn(inbox), ::testing::UnorderedElementsAreArray(row.left.empty() ? all : row.left))
-            << row.file;
-        EXPECT_EQ(read(outside / "a.wav"), "user's") << row.file;
+        EXPECT_EQ(filesIn(inbox), row.left.empty() ? all : row.left) << row.file;
+        EXPECT_EQ(contentsOf(outside / "a.wav"), "user's") << row.file;
         if (row.to != nullptr) {
             EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(documents / row.to))) << row.file;
         }
@@ -172,26 +129,26 @@ TEST_F(RecordingImportTest, TakesAwayTheFolderOfAnIncomingFileOnlyBelowInbox) {
     fs::create_directory(documents);
     fs::create_symlink(outside, inbox);
     EXPECT_EQ(importinbox::takeOver(documents, inbox / "a.wav"), 0);
-    EXPECT_EQ(importinbox::bringIn(documents, write(container.root() / "b.wav")), ENOTDIR);
+    EXPECT_EQ(importinbox::bringIn(documents, written(container.root() / "b.wav")), ENOTDIR);
     importinbox::removeLeftovers(documents);
     EXPECT_THAT(filesIn(outside), ElementsAre("a.wav"));
 }
 
 TEST_F(RecordingImportTest, OpensWhatLiesInInboxAndRebuildsTheList) {
-    write(inbox / "x/a%20b.wav");
-    write(inbox / "y/a%20b.wav", "other");
+    written(inbox / "x/a%20b.wav");
+    written(inbox / "y/a%20b.wav", "other");
     for (const char* folder : {"x", "y"}) {
         imports.openOtherAppFile(urlOf(inbox / folder / "a%20b.wav"));
         runLoop.drain();
         EXPECT_FALSE(fs::exists(inbox / folder));
-        EXPECT_EQ(read(documents / "a%20b.wav"), "sound");
+        EXPECT_EQ(contentsOf(documents / "a%20b.wav"), "sound");
     }
     EXPECT_EQ(lists, 2);
     EXPECT_THAT(notices.posted, IsEmpty());
 }
 
 TEST_F(RecordingImportTest, LongImportsShowHowFarTheyAreAndCanBeGivenUp) {
-    const fs::path large = write(outside / "large.wav", std::string(3 << 20, 'x'));
+    const fs::path large = written(outside / "large.wav", std::string(3 << 20, 'x'));
     for (const bool isGivenUp : {false, true}) {
         fs::remove(documents / "large.wav");
         runLoop.holdBackground(true);
@@ -203,18 +160,18 @@ TEST_F(RecordingImportTest, LongImportsShowHowFarTheyAreAndCanBeGivenUp) {
         EXPECT_EQ(notices.works[0]->notice.text, QStringLiteral("running large.wav"));
         imports.importFiles({urlOf(outside / "none")});
         ASSERT_EQ(notices.works.size(), 1U);
-        EXPECT_EQ(notices.works[0]->notice.text, QStringLiteral("running_many 2"));
+        EXPECT_EQ(notices.works[0]->notice.text, QStringLiteral("running 2"));
         if (isGivenUp) {
             FakeNotices::Work& line = *notices.works[0];
             const auto cancel = line.notice.action;
             cancel();
             cancel();
-            EXPECT_EQ(lastNotice(), "cancelled");
+            EXPECT_EQ(lastNotice(), "import_cancelled");
         }
         runLoop.holdBackground(false);
         runLoop.drain();
         EXPECT_THAT(notices.works, IsEmpty());
-        EXPECT_EQ(lastNotice(), isGivenUp ? "cancelled" : "some 1 1");
+        EXPECT_EQ(lastNotice(), isGivenUp ? "import_cancelled" : "some 1 1");
         EXPECT_EQ(fs::exists(documents / "large.wav"), !isGivenUp);
         EXPECT_THAT(notices.shares, ::testing::AllOf(::testing::Contains(0.5), ::testing::Each(::testing::Le(1.0))));
         EXPECT_THAT(filesIn(inbox), IsEmpty());
@@ -232,13 +189,13 @@ TEST_F(RecordingImportTest, SavesDataUnderAFreeNameAndLeavesItToTheCloudOnlyOnce
     EXPECT_EQ(fs::file_size(documents / "a.wav"), data.size());
     EXPECT_THAT(cloud.saves, IsEmpty());
     defaults.setObject(true, settingskey::kICloudSync);
-    write(outside / "b.wav");
-    write(documents / "taken.wav");
+    written(outside / "b.wav");
+    written(documents / "taken.wav");
     for (const char* name : {"taken.wav", "../outside/b.wav", "Inbox"}) {
         save(name);
         EXPECT_THAT(lastNotice(), ::testing::StartsWith(std::string("failed ") + name));
     }
-    EXPECT_EQ(read(documents / "taken.wav") + read(outside / "b.wav"), "soundsound");
+    EXPECT_EQ(contentsOf(documents / "taken.wav") + contentsOf(outside / "b.wav"), "soundsound");
     EXPECT_FALSE(save("c.wav"));
     EXPECT_EQ(cloud.files["c.wav"].size(), data.size());
     cloud.error = CloudError{};
@@ -247,7 +204,7 @@ TEST_F(RecordingImportTest, SavesDataUnderAFreeNameAndLeavesItToTheCloudOnlyOnce
     EXPECT_TRUE(save("e.wav"));
 
     for (const char* name : {"a.wav", "../outside/b.wav", "Inbox/x", "none"}) {
-        write(inbox / "x");
+        written(inbox / "x");
         imports.removeFile(name);
         runLoop.drain();
     }
@@ -256,10 +213,10 @@ TEST_F(RecordingImportTest, SavesDataUnderAFreeNameAndLeavesItToTheCloudOnlyOnce
 }
 
 TEST_F(RecordingImportTest, CleansUpAfterAKilledImportAndNothingElse) {
-    write(inbox / "tavi-import-killed/half.wav");
-    write(inbox / "tavi-import-running/half.wav");
-    write(inbox / "tavi-import-mine/folder/a.wav");
-    write(inbox / "other/a.wav");
+    written(inbox / "tavi-import-killed/half.wav");
+    written(inbox / "tavi-import-running/half.wav");
+    written(inbox / "tavi-import-mine/folder/a.wav");
+    written(inbox / "other/a.wav");
     const auto running = LockedFolder::lock(inbox / "tavi-import-running");
     imports.removeLeftovers();
     runLoop.drain();

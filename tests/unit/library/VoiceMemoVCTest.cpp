@@ -18,8 +18,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::UnorderedElementsAre;
 
-class VoiceMemoVCTest : public ::testing::Test, protected FakeServices {
-protected:
+struct VoiceMemoVCTest : ::testing::Test, FakeServices {
     /// A recording with that size and date.
     void add(const std::filesystem::path& name, qint64 bytes, const QDate& modified = QDate(2024, 3, 5),
              int minute = 3) {

@@ -43,8 +43,7 @@ TEST(LockDecision, CountsWholeMinutesAndTrustsNoClock) {
     }
 }
 
-class PasscodeCoordinatorTest : public ::testing::Test {
-protected:
+struct PasscodeCoordinatorTest : ::testing::Test {
     PasscodeCoordinatorTest() {
         QObject::connect(&lockState, &LockState::changed, &lockState,
                          [this] { told += lockState.isLocked() ? '+' : '-'; });

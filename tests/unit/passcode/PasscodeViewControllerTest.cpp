@@ -20,8 +20,7 @@ struct Delegate : PasscodeViewControllerDelegate {
     std::string told;
 };
 
-class PasscodeViewControllerTest : public ::testing::Test {
-protected:
+struct PasscodeViewControllerTest : ::testing::Test {
     PasscodeViewControllerTest() { store.setPasscode(QStringLiteral("1234")); }
 
     /// Presses the digits of a script, "<" for the button beside them, and lets a tenth of a second pass at "."; what

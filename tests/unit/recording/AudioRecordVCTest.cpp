@@ -325,11 +325,7 @@ TEST_F(AudioRecordVCTest, AMicrophoneThatStopsOrIsAnotherIsSaidInPassing) {
         runLoop.advance(seconds);
         recorders.last()->capture(frames, -30.0F);
         runLoop.advance(0.1);
-        QStringList texts;
-        for (const Notice& notice : std::exchange(notices.posted, {})) {
-            texts.append(notice.text);
-        }
-        return texts.join(QLatin1Char(' ')).toStdString();
+        return notices.said();
     };
     const auto sleepFor = [this](double seconds) { Q_EMIT recording.systemSleep.hasWoken(seconds); };
     Q_EMIT recording.systemSleep.willSleep(nullptr);

@@ -2,10 +2,9 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-
 #include "files/LockedFolder.h"
 #include "support/FakeRecording.h"
+#include "support/Files.h"
 
 namespace tavi::test {
 
@@ -24,10 +23,7 @@ struct RecordingRescueTest : ::testing::Test, FakeServices {
 
     /// A file as a killed program leaves it: below Unsaved, or anywhere in the container.
     fs::path add(const fs::path& name, const char* contents = "sound") const {
-        fs::path path = container.root() / name;
-        fs::create_directories(path.parent_path());
-        std::ofstream(path) << contents;
-        return path;
+        return written(container.root() / name, contents);
     }
     void setWritable(bool isWritable) const {
         // Root may write everywhere; a file in the folder's place stops root, too.
@@ -37,7 +33,7 @@ struct RecordingRescueTest : ::testing::Test, FakeServices {
             fs::rename(aside, documents);
         } else if (!isWritable) {
             fs::rename(container.documentsPath(), aside);
-            std::ofstream(documents) << "in the way";
+            written(documents, "in the way");
         }
     }
     /// Rescues, and says what the user hears: the notices, and how often the library is told.
@@ -48,11 +44,8 @@ struct RecordingRescueTest : ::testing::Test, FakeServices {
         return heard();
     }
     std::string heard() {
-        std::string text;
-        for (const Notice& notice : std::exchange(notices.posted, {})) {
-            text += notice.text.toStdString() + ' ';
-        }
-        return text + std::to_string(std::exchange(updates, 0));
+        const std::string text = notices.said();
+        return text + (text.empty() ? "" : " ") + std::to_string(std::exchange(updates, 0));
     }
     std::vector<std::string> names(const fs::path& folder) const {
         std::vector<std::string> found;

@@ -4,11 +4,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <fstream>
 #include <map>
 
 #include "library/utility/Notifications.h"
 #include "support/FakeServices.h"
+#include "support/Files.h"
 #include "support/Printers.h"
 
 namespace tavi::test {
@@ -62,8 +62,7 @@ struct AudioTrimmerTest : ::testing::Test, FakeServices {
     std::map<std::string, std::string> documents() const {
         std::map<std::string, std::string> result;
         for (const auto& entry : std::filesystem::directory_iterator(container.documentsPath())) {
-            std::ifstream file(entry.path());
-            result[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
+            result[entry.path().filename()] = contentsOf(entry.path());
         }
         EXPECT_EQ(result["talk.wav"], "original");
         result.erase("talk.wav");
