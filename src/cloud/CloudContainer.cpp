@@ -117,7 +117,8 @@ void CloudContainer::withDocuments(std::function<void(const std::filesystem::pat
         const std::filesystem::path folder = ubiquitousDocumentsDirectoryURL();
         act(folder, !m_container.empty());
     };
-    m_container.empty() ? findContainer({}, proceed) : proceed();
+    // Also where it was there: a disk goes while the program runs.
+    findContainer({}, proceed);
 }
 
 std::optional<std::vector<std::filesystem::path>> CloudContainer::listCloudFiles() {

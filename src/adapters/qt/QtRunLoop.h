@@ -20,7 +20,7 @@ namespace tavi {
 ///
 /// The destructor drops calls that are pending, and waits for background calls that are running: they may still use
 /// this. No other thread may use it from then on.
-class QtRunLoop final : public RunLoop {
+class QtRunLoop : public RunLoop {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;
     using Duration = std::chrono::steady_clock::duration;

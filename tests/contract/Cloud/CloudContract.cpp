@@ -20,7 +20,7 @@ struct Fake {
         runLoop.drain();
         return condition();
     }
-    void put(const char* name, const char* bytes) { cloud.put(name, bytes); }
+    void put(const char* name, const char* bytes, bool = false) { cloud.put(name, bytes); }
     std::filesystem::path documents() const { return cloud.documents(); }
 
     QTemporaryDir root;
@@ -37,7 +37,13 @@ struct Folder {
     bool until(Condition condition) {
         return spinUntil(condition);
     }
-    void put(const char* name, const char* bytes) const { std::ofstream(documents() / name) << bytes; }
+    /// In place, or as a program does that keeps the folder in sync.
+    void put(const char* name, const char* bytes, bool isMovedIn = false) const {
+        const std::filesystem::path written =
+            root.path().toStdString() + (isMovedIn ? ".part" : "/Documents/" + std::string(name));
+        std::ofstream(written) << bytes;
+        std::filesystem::rename(written, documents() / name);
+    }
     std::filesystem::path documents() const { return std::filesystem::path(root.path().toStdString()) / "Documents"; }
 
     QTemporaryDir root;
@@ -133,12 +139,18 @@ TYPED_TEST(CloudContract, AQueryListsTheFilesAndFollowsThem) {
     EXPECT_THAT(names("m4a"), ElementsAre("a.m4a"));
     EXPECT_THAT(names("?a?"), ElementsAre("b.wav"));
     EXPECT_THAT(names("*"), ElementsAre("a.m4a", "b.wav", "c"));
-    for (const char* name : {"d.m4a", "e.m4a"}) {
+    for (const char* name : {"d.m4a", "e.m4a", "f.m4a"}) {
         heard.clear();
-        world.put(name, "1");
+        world.put(name, "1", *name != 'd');
         EXPECT_TRUE(world.until([&] { return heard.find('u') != std::string::npos; })) << name;
     }
-    EXPECT_TRUE(world.until([&] { return names("m4a").size() == 3U; }));
+    EXPECT_TRUE(world.until([&] { return names("m4a").size() == 4U; }));
+    // A list that is asked for while the folder is being read.
+    query->stopQuery();
+    heard.clear();
+    EXPECT_EQ(names("*").size(), 6U);
+    EXPECT_TRUE(query->startQuery());
+    EXPECT_TRUE(world.until([&] { return heard.starts_with("sf"); }));
 }
 
 TYPED_TEST(CloudContract, FilesAreMovedAndRemovedAndNothingIsReplaced) {
@@ -192,8 +204,7 @@ TEST(FolderCloud, IsNotThereWithoutItsMarkAndNeverWaitsForADisk) {
         EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().empty(); }));
     }
     std::filesystem::create_directories(other.documents());
-    std::ofstream(other.documents().parent_path() / "moved") << "1234";
-    std::filesystem::rename(other.documents().parent_path() / "moved", other.documents() / "moved");
+    other.put("moved", "1234");
     EXPECT_TRUE(other.until([&] { return other.cloud.knownItems().contains("moved"); }));
     // What is cut short while it is saved is not saved.
     Client client;

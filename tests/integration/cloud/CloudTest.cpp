@@ -19,6 +19,14 @@ namespace {
 
 using State = CloudCondition::State;
 
+/// Does later what it is asked to, and a hundred times sooner.
+class QuickRunLoop : public QtRunLoop {
+public:
+    void dispatchAfter(double seconds, std::function<void()> callback) override {
+        QtRunLoop::dispatchAfter(seconds / 100.0, std::move(callback));
+    }
+};
+
 class CloudTest : public ::testing::Test {
 protected:
     void start() {
@@ -47,7 +55,7 @@ protected:
     TemporaryContainer container;
     FakeUserDefaults defaults;
     SettingsStore settings{defaults};
-    QtRunLoop runLoop;
+    QuickRunLoop runLoop;
     NotificationCenter notifications;
     FakeKeychain keychain;
     FakeReachability reachability;
@@ -101,6 +109,9 @@ TEST_F(CloudTest, BeginsOnceTheKeyringIsThereAndNobodyElseLooksAfterIt) {
     FileDescriptor other = takeCloudLock(container);
     start();
     EXPECT_EQ(cloud->condition().error, QLatin1String("error_cloud_elsewhere"));
+    int tries = 0;
+    QObject::connect(cloud.get(), &CloudConnection::conditionChanged, [&] { ++tries; });
+    EXPECT_TRUE(spinUntil([&] { return tries > 1; })) << "again and again";
     other = FileDescriptor();
     cloud->syncNow();
     EXPECT_EQ(cloud->condition().state, State::Troubled);

@@ -160,6 +160,7 @@ TEST_F(iCloudTest, WithoutAnAccountThatIsSaidOnceAndNothingIsDone) {
     EXPECT_THAT(log(), ElementsAre(StartsWith("iCloud is not available.")));
     cloud.token = QStringLiteral("second");
     setUp();
+    setUp();
     notifications.postNotification(kUbiquityIdentityDidChangeNotification);
     EXPECT_THAT(log(), ElementsAre("iCloud is available. Ubiquity URL: " + cloud.container.native() +
                                    "\nUbiquity Token: second"));
@@ -242,6 +243,12 @@ TEST_F(iCloudTest, NothingOfTheRecordingsIsTouchedInThePlaceOfTheCloud) {
     manager.saveAndCloseDocumentWithName("a", FileContents("1"), keptDocument());
     EXPECT_EQ(outcomeOf(), "done 1 a");
     EXPECT_EQ(contentsOf(container.documentsPath() / "Documents"), "mine");
+    // The folder goes while the program runs, as with a disk: nothing is made in its place.
+    cloud.isReachable = false;
+    manager.saveAndCloseDocumentWithName("late", FileContents("1"), keptDocument());
+    EXPECT_EQ(outcomeOf(), "done 1 late");
+    EXPECT_FALSE(existsAt(cloud.documents() / "late"));
+    EXPECT_THAT(heard(), ::testing::Contains("unavailable "));
 }
 
 TEST_F(iCloudTest, DoesToSingleFilesWhatIsAsked) {
