@@ -187,7 +187,7 @@ QUrl DavClient::urlOf(const std::filesystem::path& name) const {
 DavReply DavClient::request(const QByteArray& verb, const QUrl& url,
                             const QList<std::pair<QByteArray, QByteArray>>& headers, QIODevice* upload,
                             const std::function<bool(const QByteArray&)>& sink) {
-    const DavReply first = ask(verb, url, headers, upload, sink);
+    DavReply first = ask(verb, url, headers, upload, sink);
     const Login login = isBasic(first.logins) ? Login::Basic : Login::Other;
     if (first.status != 401 || first.logins.isEmpty() || m_account.user.isEmpty() || m_login == login) {
         return first;
