@@ -10,14 +10,13 @@ namespace tavi::test {
 /// A library screen with all that it needs.
 struct FakeLibrary {
     FakeServices& fakes;
-    const AudioDuration& lengths;
-    Presenter& presenter;
-    Notices& notices;
+    Presenter& presenter = fakes.presenter;
+    Notices& notices = fakes.notices;
 
     FakeCloudConnection connection{fakes.runLoop};
     FakeReachability reachability{};
-    RecordingLister lister{lengths, fakes.runLoop};
-    RecordingLister cloudLister{lengths, fakes.runLoop};
+    RecordingLister lister{fakes.durations, fakes.runLoop};
+    RecordingLister cloudLister{fakes.durations, fakes.runLoop};
     RecordingShapes shapes{fakes.files, fakes.runLoop};
     WaveformLoader waveforms{{fakes.files, fakes.converters, fakes.runLoop}};
     PlayerPanel player{{fakes.players, fakes.session, fakes.remote, fakes.settings, notices, fakes.runLoop, waveforms}};

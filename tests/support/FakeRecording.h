@@ -2,7 +2,6 @@
 
 #include "recording/SessionGuard.h"
 #include "support/FakeAudioFileRepair.h"
-#include "support/FakeExtAudioFile.h"
 #include "support/FakeServices.h"
 
 namespace tavi::test {
@@ -10,9 +9,9 @@ namespace tavi::test {
 /// The recording screen with all that it needs beside the shell.
 struct FakeRecording {
     FakeServices& fakes;
-    Presenter& presenter;
-    TabBar& tabBar;
-    Notices& notices;
+    Presenter& presenter = fakes.presenter;
+    TabBar& tabBar = fakes.tabBar;
+    Notices& notices = fakes.notices;
 
     FakeMailComposer mail{};
     FakeAudioFileRepair repair{};
@@ -20,9 +19,7 @@ struct FakeRecording {
     RecordingRescue rescue{{fakes.container, repair, fakes.runLoop, fakes.notifications, notices}};
     SessionFile file{{fakes.settings, fakes.formatHold, fakes.container, fakes.runLoop, fakes.notifications, presenter,
                       mail, notices, rescue, cloud}};
-    FakeAudioDuration durations{};
-    FakeExtAudioFiles sounds{};
-    LastRecording last{{fakes.container, durations, sounds, fakes.runLoop}};
+    LastRecording last{{fakes.container, fakes.durations, fakes.files, fakes.runLoop}};
     AudioRecordVC vc{{fakes.session, fakes.recorders, fakes.settings, fakes.container, fakes.runLoop, presenter, tabBar,
                       file, notices, cloud, last}};
     SystemSleep systemSleep{};

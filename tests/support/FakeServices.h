@@ -2,6 +2,7 @@
 
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
+#include "platform/LockState.h"
 #include "support/FakeAssets.h"
 #include "support/FakeAudioConverter.h"
 #include "support/FakeAudioPlayer.h"
@@ -9,6 +10,7 @@
 #include "support/FakeCloudDocuments.h"
 #include "support/FakeDisplayRefresh.h"
 #include "support/FakeExtAudioFile.h"
+#include "support/FakeSecureStore.h"
 #include "support/Fakes.h"
 #include "support/ManualRunLoop.h"
 #include "support/TemporaryContainer.h"
@@ -23,8 +25,12 @@ struct FakeServices {
     ManualRunLoop runLoop;
     TemporaryContainer container;
     NotificationCenter notifications;
+    FakePresenter presenter;
     FakeNotices notices;
+    FakeTabBar tabBar;
+    LockState lockState;
     FakeUserDefaults defaults;
+    FakeSecureStore keychain;
     SettingsStore settings{defaults};
     FormatHold formatHold{container};
     FakeAudioSession session;

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "app/settings/FormatHold.h"
-#include "platform/LockState.h"
 #include "support/AppRater.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
-#include "support/TemporaryContainer.h"
+#include "support/FakeServices.h"
 
 namespace tavi::test {
 
@@ -54,19 +50,17 @@ private:
 
 /// A rater with all that it needs.
 struct FakeRating {
-    FakeRating(UserDefaults& defaults, RunLoop& runLoop, Presenter& presenter, Notices& notices,
-               NotificationCenter& notifications, const FormatHold& formatHold)
-        : store(defaults),
-          urlOpener(runLoop),
-          services{store, runLoop, presenter, notices, notifications, formatHold, lockState, {catalogue, urlOpener}},
-          rater(services) {}
+    FakeServices& fakes;
+    Presenter& presenter = fakes.presenter;
+    Notices& notices = fakes.notices;
 
-    RatingStore store;
-    LockState lockState;
-    FakeStoreCatalogue catalogue;
-    FakeUrlOpener urlOpener;
-    AppRater::Services services;
-    AppRater rater;
+    RatingStore store{fakes.defaults};
+    FakeStoreCatalogue catalogue{};
+    FakeUrlOpener urlOpener{fakes.runLoop};
+    AppRater::Services services{store,           fakes.runLoop,         presenter,
+                                notices,         fakes.notifications,   fakes.formatHold,
+                                fakes.lockState, {catalogue, urlOpener}};
+    AppRater rater{services};
 };
 
 }  // namespace tavi::test

@@ -18,10 +18,8 @@
 #include "app/SettingVC.h"
 #include "library/RecordingImport.h"
 #include "passcode/ApplicationDelegateGuard.h"
-#include "platform/LockState.h"
 #include "support/FakeLibrary.h"
 #include "support/FakeRecording.h"
-#include "support/FakeSecureStore.h"
 #include "support/FakeSupport.h"
 #include "ui/AlertPresenter.h"
 #include "ui/JHUD.h"
@@ -173,16 +171,14 @@ struct ShellScreens : FakeServices {
     SavePanel savePanel{runLoop, container.root(), {container.root() / "Media"}};
     FakeRecording fakeRecording{*this, presenter, tabBar, notices};
     AudioRecordVC& recording = fakeRecording.vc;
-    FakeLibrary fakeLibrary{*this, durations, presenter, notices};
+    FakeLibrary fakeLibrary{*this, presenter, notices};
     VoiceMemoVC& library = fakeLibrary.vc;
     RecordingTable& table = fakeLibrary.table;
     PlayerPanel& player = fakeLibrary.player;
     FakeCloudConnection& connection = fakeLibrary.connection;
     RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
-    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    FakeRating rating{*this, presenter, notices};
     SupportRows supportRows{{rating.rater, rating.urlOpener, fakeRecording.mail, notices, settings, session}};
-    FakeSecureStore keychain;
-    LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
     CloudPage cloudPage{{connection, savePanel, presenter, fakeLibrary.reachability}};
     SettingVC settingVC{{settings, formatHold, runLoop, presenter, tabBar, supportRows, passcode, cloudPage}};

@@ -5,7 +5,6 @@
 #include <QDir>
 
 #include "support/FakeRecording.h"
-#include "support/FakeSecureStore.h"
 #include "support/FakeSupport.h"
 
 namespace tavi::test {
@@ -23,15 +22,11 @@ struct AppDelegateTest : ::testing::Test, FakeServices {
     FakeApplication application;
     FakeIdleTimer idleTimer;
     FakeUserDefaults sharedDefaults;
-    FakeTabBar tabBar;
-    FakePresenter presenter;
-    FakeRecording recording{*this, presenter, tabBar, notices};
+    FakeRecording recording{*this};
     AudioRecordVC& screen = recording.vc;
     RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
     FakeProgressView hud;
-    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
-    FakeSecureStore keychain;
-    LockState lockState;
+    FakeRating rating{*this};
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
     AppDelegate delegate{{application, idleTimer, settings, sharedDefaults, container, session, tabBar, screen, imports,
                           hud, rating.rater, passcode}};
@@ -62,6 +57,7 @@ TEST_F(AppDelegateTest, StartsUpOnceAndAgain) {
     EXPECT_EQ(defaults.writes.join(QLatin1Char(' ')),
               QStringLiteral("Sort synchronize launchCount synchronize firstLaunchKey synchronize"));
     rating.rater.setCovered(false);
+    lockState.setLocked(false);
     runLoop.advance(AppRater::kMoment);
     EXPECT_EQ(rating.catalogue.asked.size(), 1) << "the second launch asks for a rating";
     EXPECT_EQ(application.shortcutItems(), own);

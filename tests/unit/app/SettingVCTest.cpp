@@ -6,8 +6,6 @@
 #include <QTranslator>
 
 #include "support/FakeCloudConnection.h"
-#include "support/FakeSecureStore.h"
-#include "support/FakeServices.h"
 #include "support/FakeSharing.h"
 #include "support/FakeSupport.h"
 
@@ -55,13 +53,9 @@ struct SettingVCTest : ::testing::Test, FakeServices {
     std::string writes() { return std::exchange(defaults.writes, {}).join(QLatin1Char(' ')).toStdString(); }
 
     const OtherTexts texts;
-    FakePresenter presenter;
-    FakeTabBar tabBar;
     FakeMailComposer mail;
-    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    FakeRating rating{*this};
     SupportRows support{{rating.rater, rating.urlOpener, mail, notices, settings, session}};
-    FakeSecureStore keychain;
-    LockState lockState;
     PasscodeCoordinator passcode{{settings, keychain, notifications, runLoop, presenter, lockState}};
     FakeCloudConnection connection{runLoop};
     FakeDocumentPicker picker;

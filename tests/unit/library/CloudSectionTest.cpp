@@ -56,8 +56,7 @@ struct CloudSectionTest : ::testing::Test, FakeServices {
         return all;
     }
 
-    FakePresenter presenter;
-    FakeLibrary library{*this, durations, presenter, notices};
+    FakeLibrary library{*this};
     const std::filesystem::path recordings = container.documentsPath();
     const std::filesystem::path cache = recordings / "ICloud";
 };
@@ -80,7 +79,7 @@ TEST_F(CloudSectionTest, TheCacheIsMadeAnewAndWhatNoRefreshMadeIsKeptAmongTheRec
     // A copy that somebody has changed since is the user's; what a killed refresh was writing is nobody's.
     written(cache / "b.m4a", "changed");
     written(cache / ".tavi-unfinished-0123456789abcdef", "half");
-    FakeLibrary next{*this, durations, presenter, notices};
+    FakeLibrary next{*this};
     next.vc.viewWillAppear();
     settle();
     EXPECT_THAT(filesIn(cache), UnorderedElementsAre("a.m4a A", "b.m4a B"));

@@ -82,8 +82,7 @@ struct World : FakeServices {
         };
     }
 
-    FakePresenter presenter;
-    FakeLibrary library{*this, durations, presenter, notices};
+    FakeLibrary library{*this};
     VoiceMemoVC& vc = library.vc;
     RecordingTable& table = library.table;
     PlayerPanel& player = library.player;

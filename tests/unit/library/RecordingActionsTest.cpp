@@ -53,8 +53,7 @@ struct RecordingActionsTest : ::testing::Test, FakeServices {
     }
     bool isThere(const fs::path& name) { return fs::exists(container.documentsPath() / name); }
 
-    FakePresenter presenter;
-    FakeLibrary library{*this, durations, presenter, notices};
+    FakeLibrary library{*this};
     RecordingActions& actions = library.actions;
     int revealed = -1;
 };

@@ -33,13 +33,7 @@ struct RecordingImportTest : ::testing::Test, FakeServices {
                        {"import_running_many", QStringLiteral("running %n")},
                        {"import_some", QStringLiteral("some %n %1")},
                        {"import_failed", QStringLiteral("failed %1 %2")}}};
-    FakePresenter presenter;
-    RecordingImport imports{{.container = container,
-                             .runLoop = runLoop,
-                             .notices = notices,
-                             .presenter = presenter,
-                             .settings = settings,
-                             .cloud = cloud}};
+    RecordingImport imports{{container, runLoop, notices, presenter, settings, cloud}};
     const fs::path documents = container.documentsPath();
     const fs::path inbox = documents / "Inbox";
     const fs::path outside = container.root() / "outside";

@@ -24,8 +24,7 @@ struct RecordingSharingTest : ::testing::Test, FakeServices {
         runLoop.drain();
     }
 
-    FakePresenter presenter;
-    FakeLibrary library{*this, durations, presenter, notices};
+    FakeLibrary library{*this};
     RecordingSharing& sharing = library.sharing;
     FakeDocumentInteraction& documents = library.documents;
     FakeDocumentPicker& picker = library.picker;

@@ -35,8 +35,7 @@ struct VoiceMemoVCTest : ::testing::Test, FakeServices {
         return all;
     }
 
-    FakePresenter presenter;
-    FakeLibrary library{*this, durations, presenter, notices};
+    FakeLibrary library{*this};
     VoiceMemoVC& vc = library.vc;
     RecordingTable& table = library.table;
 };
@@ -118,7 +117,7 @@ TEST_F(VoiceMemoVCTest, sortsByTheTextOfTheRememberedKeyWhichATapTurnsRound) {
     for (int code = 1; code <= 6; ++code) {
         defaults.setObject(code, settingskey::kSort);
         defaults.writes.clear();
-        FakeLibrary opened{*this, durations, presenter, notices};
+        FakeLibrary opened{*this};
         opened.vc.viewDidLoad();
         expectSorted(opened.table, code);
         EXPECT_TRUE(defaults.writes.isEmpty()) << "only a tap is remembered";

@@ -4,9 +4,7 @@
 
 #include "passcode/LockDecision.h"
 #include "platform/Application.h"
-#include "support/FakeSecureStore.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
+#include "support/FakeServices.h"
 
 namespace tavi::test {
 namespace {
@@ -43,7 +41,7 @@ TEST(LockDecision, CountsWholeMinutesAndTrustsNoClock) {
     }
 }
 
-struct PasscodeCoordinatorTest : ::testing::Test {
+struct PasscodeCoordinatorTest : ::testing::Test, FakeServices {
     PasscodeCoordinatorTest() {
         QObject::connect(&lockState, &LockState::changed, &lockState,
                          [this] { told += lockState.isLocked() ? '+' : '-'; });
@@ -81,13 +79,6 @@ struct PasscodeCoordinatorTest : ::testing::Test {
     }
     std::string stored(const char* key) { return keychain.values.value(QLatin1String(key)).toString().toStdString(); }
 
-    FakeUserDefaults defaults;
-    SettingsStore settings{defaults};
-    FakeSecureStore keychain;
-    NotificationCenter notifications;
-    ManualRunLoop runLoop;
-    FakePresenter presenter;
-    LockState lockState;
     std::string told;
     PasscodeCoordinator coordinator{{settings, keychain, notifications, runLoop, presenter, lockState}};
 };

@@ -3,9 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "passcode/PasscodeCircularButton.h"
-#include "support/FakeSecureStore.h"
-#include "support/Fakes.h"
-#include "support/ManualRunLoop.h"
+#include "support/FakeServices.h"
 
 namespace tavi::test {
 namespace {
@@ -20,7 +18,7 @@ struct Delegate : PasscodeViewControllerDelegate {
     std::string told;
 };
 
-struct PasscodeViewControllerTest : ::testing::Test {
+struct PasscodeViewControllerTest : ::testing::Test, FakeServices {
     PasscodeViewControllerTest() { store.setPasscode(QStringLiteral("1234")); }
 
     /// Presses the digits of a script, "<" for the button beside them, and lets a tenth of a second pass at "."; what
@@ -50,10 +48,6 @@ struct PasscodeViewControllerTest : ::testing::Test {
                button.toStdString();
     }
 
-    FakeUserDefaults defaults;
-    SettingsStore settings{defaults};
-    FakeSecureStore keychain;
-    ManualRunLoop runLoop;
     PasscodeStore store{settings, keychain, runLoop.clock()};
     PasscodeAppearance appearance;
 };

@@ -85,9 +85,7 @@ struct AudioRecordVCTest : ::testing::Test, FakeServices {
         }
         QMap<QString, std::function<void(const QVariant&)>> listeners;
     } channel;
-    FakePresenter presenter;
-    FakeTabBar tabBar;
-    FakeRecording recording{*this, presenter, tabBar, notices};
+    FakeRecording recording{*this};
     FakeMailComposer& mail = recording.mail;
     AudioRecordVC& screen = recording.vc;
 };
@@ -527,12 +525,12 @@ TEST_F(AudioRecordVCTest, ShowsTheNewestRecordingThatPlays) {
         fs::last_write_time(folder / name, at(hour));
     }
     fs::create_directory(folder / "e.wav");
-    recording.durations.seconds = {{"a.wav", 7.0}, {"b.wav", 3725.6}, {".d.wav", 1.0}};
+    durations.seconds = {{"a.wav", 7.0}, {"b.wav", 3725.6}, {".d.wav", 1.0}};
     auto sound = std::make_shared<FakeSound>();
     sound->rate = 100;
     sound->planes = {std::vector<float>(9000, 0.25F)};
     std::fill_n(sound->planes[0].begin(), 4500, 1.0F);
-    recording.sounds.sounds[folder / "b.wav"] = sound;
+    files.sounds[folder / "b.wav"] = sound;
     LastRecording& last = recording.last;
     const auto seen = [&] {
         screen.viewWillAppear();

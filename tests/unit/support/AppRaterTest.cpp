@@ -12,7 +12,7 @@
 namespace tavi::test {
 namespace {
 
-struct AppRaterTest : ::testing::Test {
+struct AppRaterTest : ::testing::Test, FakeServices {
     AppRaterTest() { rater.setCovered(false); }
 
     /// Lets the questions come that are due.
@@ -35,14 +35,7 @@ struct AppRaterTest : ::testing::Test {
                std::to_string(defaults.integerForKey(QStringLiteral("launchCount"))) + ' ' + std::to_string(age);
     }
 
-    FakeUserDefaults defaults;
-    ManualRunLoop runLoop;
-    TemporaryContainer container;
-    FormatHold formatHold{container};
-    FakePresenter presenter;
-    FakeNotices notices;
-    NotificationCenter notifications;
-    FakeRating rating{defaults, runLoop, presenter, notices, notifications, formatHold};
+    FakeRating rating{*this};
     AppRater& rater = rating.rater;
 };
 
@@ -186,9 +179,9 @@ TEST_F(AppRaterTest, AsksOnlyInAQuietMoment) {
     rater.setCovered(false);
     expectCounts(0, 0);
     formatHold.setHeld(false);
-    rating.lockState.setLocked(true);
+    lockState.setLocked(true);
     expectCounts(0, 0);
-    rating.lockState.setLocked(false);
+    lockState.setLocked(false);
     runLoop.advance(AppRater::kMoment / 2);
     rater.setCovered(true);
     rater.setCovered(false);

@@ -35,7 +35,6 @@ struct AudioTrimTest : ::testing::Test, FakeServices {
         return screen;
     }
 
-    FakePresenter presenter;
     int reloads = 0;
     int closings = 0;
 };
