@@ -215,7 +215,8 @@ TEST_F(ReadingTest, WhatIsNoSoundIsSaidSo) {
     }
     for (const auto& [path, status] : cases) {
         EXPECT_EQ(open(path).status, status) << path;
-        EXPECT_TRUE(status == kAudioFileUnsupportedDataFormatError || m_durations.durationOfFile(path) == 0) << path;
+        // Of two the header alone tells a length.
+        EXPECT_EQ(m_durations.durationOfFile(path) > 0, path.stem() == "channels" || path.filename() == "slow.m4a");
     }
     const QByteArray none = wavFile(1, 8000, 32, {});
     for (const QByteArray& bytes : {none, none.left(40), wavFile(0, 8000, 32, "sound"), wavFile(2, 0, 32, "sound")}) {
