@@ -314,22 +314,6 @@ QQuickWindow* loadWindow(QQmlApplicationEngine& engine, Screens& screens) {
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().first());
 }
 
-/// Has the window open next time where it is left. What it is enlarged to by the desktop is not a place.
-void keepPlace(QQuickWindow* window, UserDefaults& defaults) {
-    const auto last = std::make_shared<QRect>(window->geometry());
-    const auto follow = [window, last] {
-        if (window->visibility() == QWindow::Windowed) {
-            *last = window->geometry();
-        }
-    };
-    for (const auto changed :
-         {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged}) {
-        QObject::connect(window, changed, window, follow);
-    }
-    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, window,
-                     [last, &defaults] { WindowPlace(defaults).keep(*last); });
-}
-
 /// What the window does for its screens, and they for it.
 void connectWindow(QQuickWindow* window, Screens& screens) {
     const auto shown = [&platform = screens.platform, &rescue = screens.rescue, &imports = screens.imports] {
@@ -395,7 +379,7 @@ int runProgram(int& argc, char** argv, const ProgramRequest& request, const QStr
         return reportFailure({QStringLiteral("the window cannot be built")});
     }
     connectWindow(window, *screens);
-    keepPlace(window, platform->settings.standard);
+    WindowPlace::follow(*window, platform->settings.standard);
     platform->application.setDelegate(&screens->guardedDelegate);
     platform->application.setWindow(window);
     for (const QUrl& url : request.urls) {

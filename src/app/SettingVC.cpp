@@ -37,6 +37,7 @@ double snappedSkipSeconds(double sliderValue) {
 SettingVC::SettingVC(const Services& services, QObject* parent) : QObject(parent), m_services(services) {
     connect(&m_services.formatHold, &FormatHold::heldChanged, this, &SettingVC::storeWaiting);
     connect(&m_services.cloud, &CloudPage::accountChanged, this, &SettingVC::cloudAccountChanged);
+    connect(&m_passcode, &PasscodeRows::settled, this, &SettingVC::loadData);
 }
 
 QStringList SettingVC::sectionarray() const {
@@ -52,7 +53,7 @@ void SettingVC::viewDidLoad() {
 }
 
 void SettingVC::viewWillAppear() {
-    showPasscode(m_services.passcode.isPasscodeProtectionOn());
+    m_passcode.refresh();
     // Rows that stand stay as they are: a moved slider keeps the label that its move gave it.
     if (!m_rowsBuilt) {
         loadData();
@@ -78,8 +79,6 @@ void SettingVC::loadData() {
     m_isCloudSyncOn = m_services.settings.isCloudSyncOn();
     m_quickMailText = qtTrId("Quick_Mail");
     m_isQuickMailOn = m_services.settings.isQuickMailOn();
-    m_passcodeText = qtTrId("passcode_lock");
-    m_changePassText = qtTrId("change_pass");
     buildSliderRows();
     Q_EMIT rowsChanged();
     Q_EMIT slidersChanged();
@@ -197,36 +196,6 @@ void SettingVC::cloudAccountChanged() {
 void SettingVC::autoQuickMail(bool on) {
     m_services.settings.setQuickMailOn(on);
     m_isQuickMailOn = m_services.settings.isQuickMailOn();
-    Q_EMIT rowsChanged();
-}
-
-void SettingVC::updateSwitch(bool on) {
-    m_isPasscodeSwitchOn = on;
-    const auto show = [self = QPointer(this)](bool enabled) {
-        if (self) {
-            self->showPasscode(enabled);
-            self->loadData();
-        }
-    };
-    if (on) {
-        m_services.passcode.setupNewPasscodeWithCompletion(show);
-    } else {
-        m_services.passcode.disablePasscodeProtectionWithCompletion([show](bool success) { show(!success); });
-    }
-    Q_EMIT rowsChanged();
-}
-
-void SettingVC::changePasscode() {
-    m_services.passcode.changePasscodeWithCompletion([self = QPointer(this)](bool success) {
-        if (self && success) {
-            self->loadData();
-        }
-    });
-}
-
-void SettingVC::showPasscode(bool enabled) {
-    m_passcodeEnabled = enabled;
-    m_isPasscodeSwitchOn = enabled;
     Q_EMIT rowsChanged();
 }
 

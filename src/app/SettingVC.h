@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "app/CloudPage.h"
+#include "app/PasscodeRows.h"
 #include "app/SupportRows.h"
 #include "app/settings/FormatHold.h"
 #include "app/settings/SettingsStore.h"
-#include "passcode/PasscodeCoordinator.h"
 #include "platform/Presenter.h"
 #include "platform/RunLoop.h"
 #include "platform/TabBar.h"
@@ -40,10 +40,7 @@ class SettingVC : public QObject {
     Q_PROPERTY(bool isQuickMailOn READ isQuickMailOn NOTIFY rowsChanged)
     Q_PROPERTY(tavi::SupportRows* support READ support CONSTANT)
     Q_PROPERTY(tavi::CloudPage* cloud READ cloud CONSTANT)
-    Q_PROPERTY(QString passcodeText READ passcodeText NOTIFY rowsChanged)
-    Q_PROPERTY(QString changePassText READ changePassText NOTIFY rowsChanged)
-    Q_PROPERTY(bool passcodeEnabled READ passcodeEnabled NOTIFY rowsChanged)
-    Q_PROPERTY(bool isPasscodeSwitchOn READ isPasscodeSwitchOn NOTIFY rowsChanged)
+    Q_PROPERTY(tavi::PasscodeRows* passcode READ passcode CONSTANT)
 
 public:
     /// What the screen works with; all of it must outlive the screen.
@@ -82,12 +79,7 @@ public:
     bool isQuickMailOn() const { return m_isQuickMailOn; }
     SupportRows* support() const { return &m_services.support; }
     CloudPage* cloud() const { return &m_services.cloud; }
-    QString passcodeText() const { return m_passcodeText; }
-    QString changePassText() const { return m_changePassText; }
-    /// Whether the passcode can be changed.
-    bool passcodeEnabled() const { return m_passcodeEnabled; }
-    /// Ahead of passcodeEnabled() while the passcode is asked for.
-    bool isPasscodeSwitchOn() const { return m_isPasscodeSwitchOn; }
+    PasscodeRows* passcode() { return &m_passcode; }
 
 public Q_SLOTS:
     void viewDidLoad();
@@ -107,9 +99,6 @@ public Q_SLOTS:
     /// there is one.
     void hideShowiClound(bool on);
     void autoQuickMail(bool on);
-    /// The user turned the switch of the passcode lock: it goes back where the passcode is not given.
-    void updateSwitch(bool on);
-    void changePasscode();
 
 Q_SIGNALS:
     void rowsChanged();
@@ -121,10 +110,10 @@ private:
     void storeWaiting();
     void buildSliderRows();
     void loadDataSoon();
-    void showPasscode(bool enabled);
     void cloudAccountChanged();
 
     Services m_services;
+    PasscodeRows m_passcode{m_services.passcode};
     bool m_rowsBuilt = false;
     std::vector<std::function<void()>> m_waiting;
     QString m_title;
@@ -141,10 +130,6 @@ private:
     bool m_isCloudSyncOn = false;
     QString m_quickMailText;
     bool m_isQuickMailOn = false;
-    QString m_passcodeText;
-    QString m_changePassText;
-    bool m_passcodeEnabled = false;
-    bool m_isPasscodeSwitchOn = false;
 };
 
 }  // namespace tavi

@@ -4,21 +4,12 @@
 #include <memory>
 #include <optional>
 
-#include "app/settings/SettingsStore.h"
-#include "platform/AppContainer.h"
-#include "platform/AudioRecorder.h"
-#include "platform/AudioSession.h"
 #include "platform/Outlets.h"
-#include "platform/Presenter.h"
-#include "platform/RunLoop.h"
-#include "platform/TabBar.h"
-#include "recording/LastRecording.h"
 #include "recording/MicrophoneChoice.h"
 #include "recording/MicrophoneWatch.h"
-#include "recording/RecordingCloud.h"
+#include "recording/RecordServices.h"
 #include "recording/RecordingLevel.h"
 #include "recording/SessionClock.h"
-#include "recording/SessionFile.h"
 #include "trimming/waves/WaveView.h"
 #include "watch/MessageListening.h"
 
@@ -44,6 +35,7 @@ class AudioRecordVC : public QObject, private AudioRecorderDelegate {
     Q_PROPERTY(tavi::LastRecording* last READ last CONSTANT)
 
 public:
+    using Services = RecordServices;
     /// What the screen is about. All else that depends on it, but for the lock of the tab bar, is read from it.
     enum class State {
         /// There is no session.
@@ -56,21 +48,6 @@ public:
         Saving,
         /// A session could not be started.
         Failed,
-    };
-
-    /// What the screen works with; all of it must outlive the screen.
-    struct Services {
-        AudioSession& audioSession;
-        AudioRecorders& audioRecorders;
-        SettingsStore& settings;
-        const AppContainer& container;
-        RunLoop& runLoop;
-        Presenter& presenter;
-        TabBar& tabBar;
-        SessionFile& sessionFile;
-        Notices& notices;
-        RecordingCloud& cloud;
-        LastRecording& last;
     };
 
     explicit AudioRecordVC(const Services& services, QObject* parent = nullptr);
@@ -170,7 +147,6 @@ private:
     int m_ends = 0;
     /// Base name of the session that was stopped last.
     QString m_name;
-
     /// What the clock said at its end.
     QString m_time;
     QString m_lblFileType;

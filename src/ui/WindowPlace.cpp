@@ -1,8 +1,10 @@
 #include "ui/WindowPlace.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace tavi {
 
@@ -56,6 +58,21 @@ void WindowPlace::keep(const QRect& place) {
     m_defaults.setObject(
         QStringLiteral("%1 %2 %3 %4").arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height()), kKey);
     m_defaults.synchronize();
+}
+
+void WindowPlace::follow(QWindow& window, UserDefaults& defaults) {
+    const auto last = std::make_shared<QRect>(window.geometry());
+    const auto note = [&window, last] {
+        if (window.visibility() == QWindow::Windowed) {
+            *last = window.geometry();
+        }
+    };
+    for (const auto changed :
+         {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged}) {
+        QObject::connect(&window, changed, &window, note);
+    }
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &window,
+                     [last, &defaults] { WindowPlace(defaults).keep(*last); });
 }
 
 }  // namespace tavi

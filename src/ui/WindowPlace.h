@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <QWindow>
 
 #include "platform/UserDefaults.h"
 
@@ -21,6 +22,8 @@ public:
     QRect place(const QList<QRect>& screens) const;
     /// Keeps the place for the next start.
     void keep(const QRect& place);
+    /// Keeps at the end of the program where the window is then. What the desktop enlarges it to is not a place.
+    static void follow(QWindow& window, UserDefaults& defaults);
 
 private:
     UserDefaults& m_defaults;

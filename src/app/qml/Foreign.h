@@ -3,6 +3,7 @@
 #include <QtQml/qqml.h>
 
 #include "app/CloudPage.h"
+#include "app/PasscodeRows.h"
 #include "app/SettingVC.h"
 #include "app/SupportRows.h"
 
@@ -19,6 +20,13 @@ struct CloudPageForeign {
     Q_GADGET
     QML_FOREIGN(tavi::CloudPage)
     QML_NAMED_ELEMENT(CloudPage)
+    QML_UNCREATABLE("The program has one.")
+};
+
+struct PasscodeRowsForeign {
+    Q_GADGET
+    QML_FOREIGN(tavi::PasscodeRows)
+    QML_NAMED_ELEMENT(PasscodeRows)
     QML_UNCREATABLE("The program has one.")
 };
 

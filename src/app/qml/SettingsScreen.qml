@@ -183,23 +183,23 @@ FocusScope {
                 objectName: "passcodeLock"
                 imageName: "14.png"
                 width: parent.width
-                text: root.screen.passcodeText
-                on: root.screen.isPasscodeSwitchOn
-                onTurned: on => root.screen.updateSwitch(on)
+                text: root.screen.passcode.passcodeText
+                on: root.screen.passcode.isPasscodeSwitchOn
+                onTurned: on => root.screen.passcode.updateSwitch(on)
             }
 
             RowLine {
                 width: parent.width
-                visible: root.screen.passcodeEnabled
+                visible: root.screen.passcode.passcodeEnabled
             }
 
             SettingsRow {
                 objectName: "changePass"
                 imageName: "passcode.png"
                 width: parent.width
-                visible: root.screen.passcodeEnabled
-                text: root.screen.changePassText
-                onClicked: root.screen.changePasscode()
+                visible: root.screen.passcode.passcodeEnabled
+                text: root.screen.passcode.changePassText
+                onClicked: root.screen.passcode.changePasscode()
             }
 
             SectionHeader {
