@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QTemporaryDir>
 #include <semaphore>
 
 #include "adapters/folder/FolderCloud.h"
@@ -126,6 +127,12 @@ TYPED_TEST(CloudContract, AQueryListsTheFilesAndFollowsThem) {
     EXPECT_FALSE(query->startQuery()) << "it runs";
     EXPECT_EQ(heard, "");
     EXPECT_TRUE(world.until([&] { return heard.starts_with("sf"); }));
+    // More than there are looks under way, which would find one that nothing tells of.
+    for (const char* name : {"d.ogg", "e.ogg", "f.ogg", "g.ogg"}) {
+        heard.clear();
+        world.put(name, "1", *name != 'g');
+        EXPECT_TRUE(world.until([&] { return heard.find('u') != std::string::npos; })) << name;
+    }
     const auto names = [&](const char* pattern) {
         query->setExtensionLike(QLatin1String(pattern));
         std::vector<std::string> found;
@@ -138,17 +145,11 @@ TYPED_TEST(CloudContract, AQueryListsTheFilesAndFollowsThem) {
     };
     EXPECT_THAT(names("m4a"), ElementsAre("a.m4a"));
     EXPECT_THAT(names("?a?"), ElementsAre("b.wav"));
-    EXPECT_THAT(names("*"), ElementsAre("a.m4a", "b.wav", "c"));
-    for (const char* name : {"d.m4a", "e.m4a", "f.m4a"}) {
-        heard.clear();
-        world.put(name, "1", *name != 'd');
-        EXPECT_TRUE(world.until([&] { return heard.find('u') != std::string::npos; })) << name;
-    }
-    EXPECT_TRUE(world.until([&] { return names("m4a").size() == 4U; }));
+    EXPECT_TRUE(world.until([&] { return names("ogg").size() == 4U; }));
     // A list that is asked for while the folder is being read.
     query->stopQuery();
     heard.clear();
-    EXPECT_EQ(names("*").size(), 6U);
+    EXPECT_EQ(names("*").size(), 7U);
     EXPECT_TRUE(query->startQuery());
     EXPECT_TRUE(world.until([&] { return heard.starts_with("sf"); }));
 }
