@@ -47,8 +47,15 @@ void TrimZoom::set(double factor, double from) {
 }
 
 void TrimZoom::zoomBy(double times, double x) {
-    const double factor = std::clamp(m_factor * times, 1.0, mostFactor());
-    const double part = x / m_viewWidth;
+    zoomAbout(m_factor * times, x / m_viewWidth);
+}
+
+void TrimZoom::zoomTo(double factor) {
+    zoomAbout(factor, 0.5);
+}
+
+void TrimZoom::zoomAbout(double factor, double part) {
+    factor = std::clamp(factor, 1.0, mostFactor());
     set(factor, m_from + part / m_factor - part / factor);
 }
 

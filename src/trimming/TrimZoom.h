@@ -38,9 +38,8 @@ public:
 public Q_SLOTS:
     /// Makes everything that many times as wide; what is at a place of the view stays there.
     void zoomBy(double times, double x);
-    /// A step about the middle.
-    void zoomIn() { zoomBy(2.0, m_viewWidth / 2.0); }
-    void zoomOut() { zoomBy(0.5, m_viewWidth / 2.0); }
+    /// As wide as that, about the middle.
+    void zoomTo(double factor);
     /// Shows from one place to another, as parts of the recording.
     void show(double from, double to);
     /// Moves the view by a part of the recording.
@@ -53,6 +52,8 @@ Q_SIGNALS:
 
 private:
     void set(double factor, double from);
+    /// What is at that part of the view stays there.
+    void zoomAbout(double factor, double part);
 
     TrimSelection& m_selection;
     double m_viewWidth = 320.0;

@@ -109,8 +109,7 @@ void play(Shell& shell) {
     showLibrary(shell);
     shell.players.seconds[shell.table.arrRecordings().at(5).nativeName()] = 245.0;
     shell.library.didSelectRowAtIndexPath(0, 5);
-    // Past the panel's way in.
-    shell.settleFor(700);
+    shell.settle();
     shell.runLoop.advance(75.0);
     shell.player.fastAudio(&shell.library);
 }

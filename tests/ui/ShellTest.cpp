@@ -212,7 +212,8 @@ TEST(Alerts, QueueAndAnswerKeys) {
         return made;
     };
     auto& presenter = shell.presenter;
-    presenter.presentAlert(alert("1", {{"Delete", Style::Destructive}, {"Keep", Style::Cancel}}));
+    presenter.presentAlert(
+        alert("1", {{"Delete", Style::Destructive}, {"A", Style::Default}, {"Keep", Style::Cancel}}));
     presenter.presentActionSheet(alert("2", {{"A", Style::Default}, {"B", Style::Default}, {"No", Style::Cancel}}));
     presenter.presentAlert(alert("3", {{"OK", Style::Default}}));
     presenter.presentAlert(alert("4", {{"A", Style::Default}, {"B", Style::Default}}));
@@ -228,6 +229,8 @@ TEST(Alerts, QueueAndAnswerKeys) {
     shell.key(Qt::Key_3, Qt::ControlModifier);  // Below an alert keys choose no tab.
     shell.key(Qt::Key_Return);                  // Harmless beside Delete.
     shell.key(Qt::Key_Return);                  // A sheet has no default.
+    presenter.updateActionSheet(alert("2", {{"A", Style::Default}, {"C", Style::Default}, {"No", Style::Cancel}}));
+    EXPECT_EQ((shell.settle(), shell.words().count("C")), 1U);
     shell.key(Qt::Key_Down);
     shell.key(Qt::Key_Down);
     shell.key(Qt::Key_Return);
@@ -237,7 +240,7 @@ TEST(Alerts, QueueAndAnswerKeys) {
     shell.key(Qt::Key_Escape);
     shell.tap("action0");
     shell.tap("action0");
-    EXPECT_EQ(chosen, "1Keep 2B 3OK 4B 5No 6A 7A ");
+    EXPECT_EQ(chosen, "1Keep 2C 3OK 4B 5No 6A 7A ");
     EXPECT_FALSE(presenter.isActive());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
@@ -418,7 +421,8 @@ TEST(Notices, SayThingsInPassing) {
     EXPECT_EQ(undone, 2);
     EXPECT_TRUE(shell.notices.isActive());
     work.reset();
-    EXPECT_FALSE(shell.notices.isActive());
+    shell.settle();
+    EXPECT_EQ(shell.words().count("Work"), 0U) << "the line goes with the work";
 
     shell.presenter.presentAlert({QStringLiteral("Alert"), {}, {}});
     shell.settle();

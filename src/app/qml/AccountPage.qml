@@ -38,6 +38,8 @@ FocusScope {
             width: 96
             height: 45
             text: fact.name
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.ignored: true
         }

@@ -177,7 +177,11 @@ FocusScope {
         visible: root.beside || shownHeight > 0
         clip: !root.beside
 
+        onOpenChanged: if (open && Theme.reducedMotion) fade.restart()
+
         Behavior on shown {
+            enabled: !Theme.reducedMotion
+
             SequentialAnimation {
                 PauseAnimation {
                     duration: 100
@@ -188,6 +192,16 @@ FocusScope {
                     easing.type: Easing.OutCubic
                 }
             }
+        }
+
+        NumberAnimation {
+            id: fade
+
+            target: panel
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.fade
         }
 
         Rectangle {
@@ -228,7 +242,7 @@ FocusScope {
 
         EmptyState {
             anchors.centerIn: parent
-            width: Math.min(parent.width - 4 * Theme.margin, 280)
+            width: Math.min(parent.width - 4 * Theme.margin, 240)
             visible: root.beside && !panel.open
             imageName: "play_player.png"
             title: qsTrId("player_nothing")

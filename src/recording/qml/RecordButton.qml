@@ -51,10 +51,8 @@ T.AbstractButton {
             border.width: button.enabled ? 3 : 2
             border.color: button.enabled ? Theme.text : Theme.edgeDisabled
 
-            Behavior on color {
-                ColorAnimation {
-                    duration: button.down ? Theme.pressIn : Theme.fade
-                }
+            PressFade on color {
+                control: button
             }
 
             Icon {

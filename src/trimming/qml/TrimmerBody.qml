@@ -11,6 +11,7 @@ FocusScope {
     LayoutMirroring.childrenInherit: true
 
     required property AudioTrimmerViewController screen
+    required property ZoomMotion zoomMotion
     /// A phone on its side.
     required property bool low
     required property bool wide
@@ -90,7 +91,7 @@ FocusScope {
 
         x: parent.width - width - root.side
         y: root.zoomTop
-        zoom: root.screen.zoom
+        motion: root.zoomMotion
     }
 
     IconButton {

@@ -14,14 +14,29 @@ Item {
     property bool withImages: true
     readonly property int spacing: 8
     readonly property real each: (width - 2 * spacing) / 3
+    /// What each takes for its words to be whole.
+    readonly property var needed: [reset, rerecord, trim].map(button => metrics.advanceWidth(button.text) + 2 * button.horizontalPadding
+                                                                        + (withImages ? button.imageSize + Theme.gap : 0))
+
+    /// An equal part, or what is needed and a share of the rest where one of them has too long words for that.
+    function filledWidth(place) {
+        const rest = 3 * each - needed.reduce((sum, one) => sum + one)
+        return Math.max(...needed) <= each ? each : needed[place] + rest / 3
+    }
 
     implicitWidth: reset.implicitWidth + rerecord.implicitWidth + trim.implicitWidth + 2 * spacing
     implicitHeight: Theme.touch
 
+    FontMetrics {
+        id: metrics
+
+        font: reset.font
+    }
+
     TButton {
         id: reset
 
-        width: root.filling ? root.each : implicitWidth
+        width: root.filling ? root.filledWidth(0) : implicitWidth
         objectName: "btnReset"
         text: qsTrId("trimmer_reset")
         kind: TButton.Quiet
@@ -35,7 +50,7 @@ Item {
         id: rerecord
 
         x: reset.width + root.spacing
-        width: root.filling ? root.each : implicitWidth
+        width: root.filling ? root.filledWidth(1) : implicitWidth
         objectName: "btnResetAudio"
         text: qsTrId("trimmer_rerecord")
         kind: TButton.Quiet
@@ -49,7 +64,7 @@ Item {
         id: trim
 
         x: root.spread ? root.width - width : rerecord.x + rerecord.width + root.spacing
-        width: root.filling ? root.each : implicitWidth
+        width: root.filling ? root.filledWidth(2) : implicitWidth
         objectName: "btnEditTrimmedVideo"
         text: root.screen.btnEditTrimmedVideo.title
         kind: TButton.Quiet

@@ -22,12 +22,18 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = true
         if (event.key === Qt.Key_Plus || event.key === Qt.Key_Equal)
-            screen.zoom.zoomIn()
+            zoomMotion.step(2)
         else if (event.key === Qt.Key_Minus)
-            screen.zoom.zoomOut()
+            zoomMotion.step(0.5)
     }
     Accessible.role: Accessible.Dialog
     Accessible.name: qsTrId("trimmer_title")
+
+    ZoomMotion {
+        id: zoomMotion
+
+        zoom: root.screen.zoom
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -133,6 +139,7 @@ FocusScope {
                     height: Math.max(least, parent.parent.height)
                     focus: true
                     screen: root.screen
+                    zoomMotion: zoomMotion
                     low: root.low
                     wide: root.wide
                 }

@@ -6,7 +6,8 @@ import Tavi.Ui
 Item {
     id: root
 
-    required property TrimZoom zoom
+    required property ZoomMotion motion
+    readonly property TrimZoom zoom: motion.zoom
 
     implicitWidth: 140
     implicitHeight: Theme.touch
@@ -28,7 +29,7 @@ Item {
         name: qsTrId("a11y_zoom_out")
         shortcut: "−"
         enabled: root.zoom.factor > 1
-        onClicked: root.zoom.zoomOut()
+        onClicked: root.motion.step(0.5)
     }
 
     Label {
@@ -48,6 +49,6 @@ Item {
         name: qsTrId("a11y_zoom_in")
         shortcut: "+"
         enabled: root.zoom.factor < root.zoom.mostFactor
-        onClicked: root.zoom.zoomIn()
+        onClicked: root.motion.step(2)
     }
 }

@@ -66,6 +66,13 @@ Rectangle {
         }
     }
 
+    NumberAnimation on opacity {
+        running: Theme.reducedMotion
+        from: 0
+        to: 1
+        duration: Theme.fade
+    }
+
     // A tap between the choices is not one beside the sheet.
     MouseArea {
         anchors.fill: parent

@@ -55,10 +55,8 @@ T.Button {
         color: control.filled ? (control.down ? Theme.accentPressed : control.hovered ? Theme.accentHover : Theme.accent)
                               : (control.down ? Theme.controlPressed : control.hovered ? Theme.control : "transparent")
 
-        Behavior on color {
-            ColorAnimation {
-                duration: control.down ? Theme.pressIn : Theme.fade
-            }
+        PressFade on color {
+            control: control
         }
 
         FocusFrame {

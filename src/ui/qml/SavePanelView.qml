@@ -223,7 +223,7 @@ FocusScope {
             id: name
 
             x: Theme.margin
-            y: buttons.y - height
+            y: buttons.y - height - (view.low ? 0 : Theme.gap)
             width: parent.width - 2 * x
             height: visible ? implicitHeight : Theme.gap
             visible: !view.panel.choosesFolder

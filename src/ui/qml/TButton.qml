@@ -93,10 +93,8 @@ T.Button {
             return control.down ? Theme.controlPressed : control.hovered ? Theme.control : "transparent"
         }
 
-        Behavior on color {
-            ColorAnimation {
-                duration: control.down ? Theme.pressIn : Theme.fade
-            }
+        PressFade on color {
+            control: control
         }
 
         FocusFrame {

@@ -99,7 +99,8 @@ QtObject {
     readonly property int pressIn: reducedMotion ? fade : 60
     readonly property int pressOut: reducedMotion ? fade : 160
     readonly property int select: reducedMotion ? fade : 160
-    readonly property int zoom: reducedMotion ? fade : 160
+    /// A step of the zoom; without movements it is there at once.
+    readonly property int zoom: 160
     readonly property int slide: reducedMotion ? fade : 240
     /// From one dot of the ring to the next; it shows that something goes on, and stays.
     readonly property int ringStep: reducedMotion ? 480 : 120

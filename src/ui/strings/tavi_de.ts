@@ -1087,7 +1087,7 @@
     </message>
     <message id="shortcut_tabs">
         <source></source>
-        <translation>Aufnehmen, Aufnahmen, Einstellungen</translation>
+        <translation>Aufnahme, Aufnahmen, Einstellungen</translation>
     </message>
     <message id="shortcut_find">
         <source></source>

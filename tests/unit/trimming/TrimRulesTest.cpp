@@ -48,7 +48,7 @@ TEST(TrimZoom, WhatIsHeldStaysInItsPlaceAndTheStretchTheSame) {
         {[&] { zoom.zoomBy(100.0, 600.0); }, 30.0, 0.75 - 1.0 / 30.0},
         {[&] { zoom.show(0.2, 0.6); }, 2.5, 0.2},
         {[&] { zoom.show(0.2, 0.2); }, 30.0, 0.2},
-        {[&] { zoom.zoomOut(); }, 15.0, 0.2 - 0.5 / 30.0},
+        {[&] { zoom.zoomTo(15.0); }, 15.0, 0.2 - 0.5 / 30.0},
         {[&] { zoom.zoomBy(0.001, 0.0); }, 1.0, 0.0},
     };
     for (const auto& [act, factor, from] : steps) {
