@@ -559,6 +559,7 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     }
     shell.key(Qt::Key_End);
     EXPECT_EQ(shell.item("btnSortName")->mapToScene({0.0, 0.0}).y(), 0.0) << "the title scrolls away, the order stays";
+    EXPECT_NEAR(sceneRect(*shell.item("scrollMark")).bottom(), sceneRect(*list).bottom(), 1.0);
     shell.key(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(shell.item("btnSortName")->mapToScene({0.0, 0.0}).y(), titleHeight);
     EXPECT_TRUE(shell.item("search")->hasActiveFocus());
@@ -577,7 +578,8 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     EXPECT_EQ(list->property("currentItem").value<QQuickItem*>(), last) << "the keys are about another row";
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(interval);
     EXPECT_TRUE(shell.library.isPlaying()) << "a double click plays";
-    shell.settleFor(700);
+    const QObject* speed = shell.item("btnMedium")->property("contentItem").value<QObject*>();
+    EXPECT_TRUE(speed->property("font").value<QFont>().bold()) << "not by its colour alone";
     shell.item("slider_player")->forceActiveFocus(Qt::TabFocusReason);
     for (const auto& [key, seconds] : {std::pair{Qt::Key_L, 30.0}, {Qt::Key_J, 20.0}, {Qt::Key_PageUp, 26.0}}) {
         shell.key(key);
@@ -616,16 +618,19 @@ TEST(Library, HandsAndKeysFindTheirWay) {
     shell.window->resize(390, 600);
     for (int recording = 0; recording < 2; ++recording) {
         shell.key(Qt::Key_Return);
-        shell.settleFor(700);
         shell.tap("unfold");
         EXPECT_TRUE(shell.item("fold")->isVisible());
         shell.key(Qt::Key_Escape);
     }
     shell.key(Qt::Key_Return);
-    shell.settleFor(700);
     shell.item("stopAudio")->forceActiveFocus(Qt::TabFocusReason);
     shell.key(Qt::Key_Return);
     EXPECT_TRUE(list->hasActiveFocus()) << "the keyboard is not lost with the small player";
+    shell.key(Qt::Key_F, Qt::ControlModifier);
+    shell.key(Qt::Key_9, Qt::NoModifier, QStringLiteral("9"));
+    EXPECT_LT(list->property("count").toInt(), 26);
+    shell.key(Qt::Key_Escape);
+    EXPECT_EQ(list->property("count").toInt(), 26) << "without a search all are there";
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QColor>
@@ -218,7 +219,9 @@ TEST(Alerts, QueueAndAnswerKeys) {
     presenter.presentAlert(alert("3", {{"OK", Style::Default}}));
     presenter.presentAlert(alert("4", {{"A", Style::Default}, {"B", Style::Default}}));
     presenter.presentActionSheet(alert("5", {{"A", Style::Default}, {"No", Style::Cancel}}));
-    for (const char* title : {"6", "7"}) {
+    const std::pair<const char*, Style> a{"A", Style::Default};
+    presenter.presentActionSheet(alert("6", {a, a, a, {"B", Style::Default}, {"No", Style::Cancel}}));
+    for (const char* title : {"7", "8"}) {
         Alert menu = alert(title, {{"A", Style::Default}, {"No", Style::Cancel}});
         menu.anchor = QPointF(100.0, 100.0);
         presenter.presentActionSheet(menu);
@@ -238,9 +241,13 @@ TEST(Alerts, QueueAndAnswerKeys) {
     shell.key(Qt::Key_Escape);  // Two choices and no cancelling one: it stays.
     shell.tap("action1");
     shell.key(Qt::Key_Escape);
+    shell.window->resize(390, 280);
+    shell.key(Qt::Key_Up);
+    shell.key(Qt::Key_Up);
+    shell.tap("action3");  // What has the keyboard has scrolled into view.
     shell.tap("action0");
     shell.tap("action0");
-    EXPECT_EQ(chosen, "1Keep 2C 3OK 4B 5No 6A 7A ");
+    EXPECT_EQ(chosen, "1Keep 2C 3OK 4B 5No 6B 7A 8A ");
     EXPECT_FALSE(presenter.isActive());
     EXPECT_EQ(shell.tabBar.selectedIndex(), 0);
     EXPECT_TRUE(shell.item("btnRecord")->hasActiveFocus()) << "the keyboard does not come back";
@@ -441,6 +448,7 @@ TEST(Notices, SayThingsInPassing) {
     shell.window->setProperty("reducedMotion", false);
     shell.runLoop.advance(6.0);
     EXPECT_FALSE(shell.item("notice")->childItems().first()->isVisible()) << "it is seen to go, and not heard";
+    EXPECT_FALSE(shell.item("notice")->property("text").toString().isEmpty()) << "its words fade with it";
     shell.settleFor(300);
     EXPECT_FALSE(shell.notices.isActive());
     for (const QQuickItem* item : shell.visibleItems()) {

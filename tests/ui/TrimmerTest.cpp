@@ -54,6 +54,7 @@ TEST(Trimmer, ButtonsAndKeysDoWhatTheySay) {
                              "rightThumb zoomIn btnPlayPause"))
         << "what the trimmer covers is out of reach";
     TrimZoom& zoom = *shell.trimmers.screen()->zoom();
+    EXPECT_LT(shell.item("zoomOut")->opacity(), 0.5) << "it is seen to be disabled";
     shell.window->setProperty("reducedMotion", false);
     shell.key(Qt::Key_Plus);
     shell.tap("zoomIn");

@@ -159,12 +159,11 @@ Rectangle {
 
             SheetAction {
                 required property int index
-                readonly property int place: sheet.cancelIndex >= 0 && index > sheet.cancelIndex ? index - 1 : index
 
-                // The cancelling choice does not scroll with the others.
+                // The cancelling choice, which comes last, does not scroll with the others.
                 parent: modelData.cancel ? sheet : choices.contentItem
                 x: modelData.cancel ? Theme.margin : 0
-                y: modelData.cancel ? choices.y + choices.height + Theme.gapWide : place * sheet.rowHeight
+                y: modelData.cancel ? choices.y + choices.height + Theme.gapWide : index * sheet.rowHeight
                 width: sheet.width - 2 * x
                 height: modelData.cancel ? Theme.touch : sheet.rowHeight
                 objectName: "action" + index

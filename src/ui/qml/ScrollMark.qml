@@ -10,6 +10,7 @@ Rectangle {
     property real inset: 2
     readonly property real room: flickable.height - coveredTop
 
+    objectName: "scrollMark"
     visible: flickable.contentHeight > flickable.height
     x: flickable.x + (Theme.mirrored ? inset : flickable.width - width - inset)
     y: flickable.y + coveredTop + flickable.visibleArea.yPosition * room

@@ -39,6 +39,10 @@ TField {
         imageSize: 16
         tint: Theme.label
         name: qsTrId("a11y_clear_search")
-        onClicked: field.clear()
+        onClicked: {
+            field.clear()
+            // Said by itself of what is typed alone.
+            field.textEdited()
+        }
     }
 }
