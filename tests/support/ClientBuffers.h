@@ -26,8 +26,7 @@ inline AudioStreamBasicDescription clientFormat(double rate, std::uint32_t chann
 }
 
 /// A buffer list with room for so many frames of a format, filled with a pattern.
-class ClientBuffers {
-public:
+struct ClientBuffers {
     ClientBuffers(const AudioStreamBasicDescription& format, std::uint32_t frames) {
         const bool isPlanar = (format.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
         const std::uint32_t count = isPlanar ? format.channelsPerFrame : 1;

@@ -11,8 +11,7 @@
 namespace tavi::test {
 
 /// Keeps what an input delivers, from whatever thread.
-class CollectingListener : public AudioInputListener {
-public:
+struct CollectingListener : AudioInputListener {
     struct Heard {
         AudioInputFormat format;
         /// "open", "sound" (once for any number of deliveries in a row), "pause", "fail".

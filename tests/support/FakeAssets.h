@@ -13,8 +13,7 @@
 namespace tavi::test {
 
 /// An export whose work is one small file. It runs as background work of the run loop, or when a test says so.
-class FakeAssetExportSession : public AssetExportSession {
-public:
+struct FakeAssetExportSession : AssetExportSession {
     /// Outlives the session, as a running export does.
     struct State {
         Asset asset;
@@ -108,8 +107,7 @@ private:
 };
 
 /// A reader that hands out what the test's file holds, in two pieces.
-class FakeAssetReader : public AssetReader {
-public:
+struct FakeAssetReader : AssetReader {
     FakeAssetReader(std::vector<std::int16_t> samples, std::uint32_t channels, std::int32_t timescale)
         : m_samples(std::move(samples)), m_channels(channels), m_timescale(timescale) {}
 
@@ -143,8 +141,7 @@ private:
 };
 
 /// Assets that a test describes, by file name. Sound is stereo unless a test says otherwise.
-class FakeAssets : public AssetExportSessions, public AssetReaders {
-public:
+struct FakeAssets : AssetExportSessions, AssetReaders {
     struct File {
         AssetTime duration;
         std::uint32_t channels = 2;

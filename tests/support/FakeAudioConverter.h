@@ -7,8 +7,7 @@
 namespace tavi::test {
 
 /// Hands 32-bit floats through, from one layout into the other, at one rate.
-class FakeAudioConverter : public AudioConverter {
-public:
+struct FakeAudioConverter : AudioConverter {
     FakeAudioConverter(const AudioStreamBasicDescription& input, const AudioStreamBasicDescription& output)
         : m_input(input), m_output(output) {}
 

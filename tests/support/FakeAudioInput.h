@@ -9,8 +9,7 @@ namespace tavi::test {
 
 /// A microphone whose frames the test pushes. It calls the listener on the thread of whoever calls it, before
 /// returning.
-class FakeAudioInput : public AudioInput {
-public:
+struct FakeAudioInput : AudioInput {
     FakeAudioInput(AudioInputListener& listener, const AudioInputFormat& format, bool answersPause)
         : m_listener(listener), m_format(format), m_answersPause(answersPause) {}
 

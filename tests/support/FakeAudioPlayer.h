@@ -13,8 +13,7 @@
 namespace tavi::test {
 
 /// A player without sound: its time passes with the run loop's clock.
-class FakeAudioPlayer : public AudioPlayer {
-public:
+struct FakeAudioPlayer : AudioPlayer {
     FakeAudioPlayer(double duration, RunLoop& runLoop, std::shared_ptr<FakeAudioPlayer*> self)
         : m_runLoop(runLoop), m_self(std::move(self)), m_duration(duration) {
         *m_self = this;
@@ -125,8 +124,7 @@ private:
 };
 
 /// Makes fake players of the files that a test names.
-class FakeAudioPlayers : public AudioPlayers {
-public:
+struct FakeAudioPlayers : AudioPlayers {
     explicit FakeAudioPlayers(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
     Result<std::unique_ptr<AudioPlayer>> playerWithContentsOfURL(const std::filesystem::path& path) override {

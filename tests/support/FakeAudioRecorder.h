@@ -12,8 +12,7 @@
 namespace tavi::test {
 
 /// A recorder that makes an empty file at once and captures what a test says.
-class FakeAudioRecorder : public QObject, public AudioRecorder {
-public:
+struct FakeAudioRecorder : QObject, AudioRecorder {
     FakeAudioRecorder(const std::filesystem::path& path, RunLoop& runLoop) : m_file(path), m_runLoop(runLoop) {
         if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             qFatal("cannot write %s", path.c_str());
@@ -87,8 +86,7 @@ private:
 };
 
 /// Makes fake recorders.
-class FakeAudioRecorders : public AudioRecorders {
-public:
+struct FakeAudioRecorders : AudioRecorders {
     explicit FakeAudioRecorders(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
     Result<std::unique_ptr<AudioRecorder>> recorderWithPath(const std::filesystem::path& path,

@@ -22,8 +22,7 @@ namespace tavi::test {
 
 /// A desktop on a private bus, as far as the program talks with one: portal (mail, open, save, inhibit), file manager,
 /// screen saver, session manager, login manager. Which of them exist is the set of names that a test lets it own.
-class FakeDesktop : public QDBusVirtualObject {
-public:
+struct FakeDesktop : QDBusVirtualObject {
     static QString portal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
     static QString fileManager() { return QStringLiteral("org.freedesktop.FileManager1"); }
     static QString screenSaver() { return QStringLiteral("org.freedesktop.ScreenSaver"); }

@@ -7,8 +7,7 @@
 namespace tavi::test {
 
 /// A display that shows a picture when the test says so.
-class FakeDisplayRefreshes : public DisplayRefreshes {
-public:
+struct FakeDisplayRefreshes : DisplayRefreshes {
     std::unique_ptr<DisplayRefresh> create(std::function<void()> callback) override {
         return std::make_unique<Refresh>(m_refreshes, std::move(callback));
     }
@@ -20,8 +19,7 @@ public:
     }
 
 private:
-    class Refresh : public DisplayRefresh {
-    public:
+    struct Refresh : DisplayRefresh {
         Refresh(std::vector<Refresh*>& all, std::function<void()> called) : callback(std::move(called)), m_all(all) {
             m_all.push_back(this);
         }

@@ -29,8 +29,7 @@ struct FakeSound {
 };
 
 /// Gives 32-bit floats. Converts by taking the nearest frame at or before, and the mean of channels that are too many.
-class FakeExtAudioFile : public ExtAudioFile {
-public:
+struct FakeExtAudioFile : ExtAudioFile {
     FakeExtAudioFile(std::shared_ptr<const FakeSound> sound, std::vector<std::uint32_t>& reads)
         : m_sound(std::move(sound)), m_reads(reads) {}
 

@@ -12,8 +12,7 @@
 namespace tavi::test {
 
 /// Items in memory; a test takes the store away, and says what the trouble is.
-class FakeKeychain : public Keychain {
-public:
+struct FakeKeychain : Keychain {
     KeychainStatus add(const KeychainQuery& query, const KeychainAttributes& attributes) override {
         return write(query, attributes, false, KeychainStatus::DuplicateItem);
     }
@@ -70,8 +69,7 @@ private:
 };
 
 /// Property lists in a form of their own; as the real ones, all but a QUrl and an unsigned number is one.
-class FakePropertyLists : public PropertyLists {
-public:
+struct FakePropertyLists : PropertyLists {
     Result<QByteArray> dataWithPropertyList(const QVariant& value) const override {
         return isArchivable(value) ? failure(QStringLiteral("no list")) : Result<QByteArray>(written(value));
     }

@@ -7,8 +7,7 @@
 namespace tavi::test {
 
 /// Values in memory. With a trouble nothing can be read, and nothing is stored.
-class FakeSecureStore : public SecureStore {
-public:
+struct FakeSecureStore : SecureStore {
     bool setObject(const QVariant& value, const QString& key) override {
         if (troubleText.isEmpty()) {
             values.insert(key, value);

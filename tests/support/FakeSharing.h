@@ -10,8 +10,7 @@
 namespace tavi::test {
 
 /// Keeps what was to be opened and shown, and answers as it is told.
-class FakeDocumentInteraction : public DocumentInteraction {
-public:
+struct FakeDocumentInteraction : DocumentInteraction {
     void presentOpenInMenu(const std::filesystem::path& path, const QRectF&, Completion completion) override {
         opened.push_back(path);
         completion(result);
@@ -27,8 +26,7 @@ public:
 };
 
 /// Picks what a test has put into it; nothing is a cancelled choice.
-class FakeDocumentPicker : public DocumentPicker {
-public:
+struct FakeDocumentPicker : DocumentPicker {
     void presentForExport(const std::filesystem::path& file, Completion completion) override {
         asked.push_back(file);
         completion(answer);
@@ -39,8 +37,7 @@ public:
     Result<std::optional<PickedDocument>> answer;
 };
 
-class FakePasteboard : public Pasteboard {
-public:
+struct FakePasteboard : Pasteboard {
     void setMimeData(std::unique_ptr<QMimeData> newData) override { data = std::move(newData); }
 
     std::unique_ptr<QMimeData> data;

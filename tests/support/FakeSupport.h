@@ -30,8 +30,7 @@ struct FakeStoreCatalogue : StoreCatalogue {
 };
 
 /// Opens what it is said to be able to open, and keeps what it was asked.
-class FakeUrlOpener : public UrlOpener {
-public:
+struct FakeUrlOpener : UrlOpener {
     explicit FakeUrlOpener(RunLoop& runLoop) : m_runLoop(runLoop) {}
 
     void canOpenURL(const QUrl& url, std::function<void(bool)> completion) override {

@@ -31,8 +31,7 @@
 namespace tavi::test {
 
 /// Settings in memory, with a record of the writes in their order.
-class FakeUserDefaults : public UserDefaults {
-public:
+struct FakeUserDefaults : UserDefaults {
     QVariant objectForKey(const QString& key) const override { return m_values.value(key); }
     void setObject(const QVariant& value, const QString& key) override {
         m_values.insert(key, value);
@@ -142,8 +141,7 @@ struct FakeTabBar : TabBar {
 };
 
 /// A trash in a folder of its own, where there is one.
-class FakeTrash : public Trash {
-public:
+struct FakeTrash : Trash {
     explicit FakeTrash(std::filesystem::path trashFolder) : folder(std::move(trashFolder)) {
         std::filesystem::create_directories(folder);
     }

@@ -12,8 +12,7 @@
 namespace tavi::test {
 
 /// A clock that stands still until told otherwise; starts at 2024-03-05 14:03:59 local time.
-class ManualClock : public Clock {
-public:
+struct ManualClock : Clock {
     QDateTime now() const override { return m_now; }
     void set(const QDateTime& now) { m_now = now; }
     void advance(double seconds) { m_now = m_now.addMSecs(std::llround(seconds * 1000.0)); }
@@ -23,8 +22,7 @@ private:
 };
 
 /// A run loop whose time passes only in advance(). Background work runs in drain(), on the calling thread.
-class ManualRunLoop : public RunLoop {
-public:
+struct ManualRunLoop : RunLoop {
     const Clock& clock() const override { return m_clock; }
     ManualClock& manualClock() { return m_clock; }
 

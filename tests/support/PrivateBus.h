@@ -10,8 +10,7 @@ namespace tavi::test {
 /// A message bus of the test's own, which knows no services but those that the test registers. While this lives,
 /// DBUS_SESSION_BUS_ADDRESS names it, for this process and those that it starts. A bus that does not start ends the
 /// test.
-class PrivateBus {
-public:
+struct PrivateBus {
     PrivateBus();
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;

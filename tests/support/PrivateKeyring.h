@@ -10,8 +10,7 @@ namespace tavi::test {
 
 /// A keyring of the test's own on a bus of its own, with its files in a home of its own; unlocked at the start. It can
 /// be killed, stopped, started again and locked. One that does not start ends the test.
-class PrivateKeyring {
-public:
+struct PrivateKeyring {
     PrivateKeyring() { start(); }
     ~PrivateKeyring() { kill(); }
 

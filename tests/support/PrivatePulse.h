@@ -14,8 +14,7 @@ namespace tavi::test {
 /// be run ends at once, as in a shell.
 ///
 /// Not QProcess: its way of forking hides the main thread's locks from ThreadSanitizer.
-class ChildProcess {
-public:
+struct ChildProcess {
     explicit ChildProcess(const QStringList& command);
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
@@ -33,8 +32,7 @@ using ProcessHandle = std::unique_ptr<ChildProcess>;
 /// A sound server of the test's own, without sound cards: what is played into "mic_sink" is what its default source,
 /// the "microphone", hears; "speaker" is the default sink. Programs and libraries started later find it through
 /// PULSE_SERVER. Fails the program when the server does not come up.
-class PrivatePulse {
-public:
+struct PrivatePulse {
     PrivatePulse();
 
     /// Another address of the server, where nobody is let in.

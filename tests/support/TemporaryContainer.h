@@ -9,8 +9,7 @@
 namespace tavi::test {
 
 /// The program's folders below a temporary folder that goes away with this: the real file system, no fake.
-class TemporaryContainer : public AppContainer {
-public:
+struct TemporaryContainer : AppContainer {
     /// Names that are no text, which QTemporaryDir leaves behind, go too.
     ~TemporaryContainer() override {
         std::error_code ignored;

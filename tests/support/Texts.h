@@ -8,8 +8,7 @@
 namespace tavi::test {
 
 /// Texts by their ids, for as long as it lives; for every other text its id stands.
-class Texts : public QTranslator {
-public:
+struct Texts : QTranslator {
     explicit Texts(QHash<QByteArray, QString> texts) : m_texts(std::move(texts)) {
         QCoreApplication::installTranslator(this);
     }

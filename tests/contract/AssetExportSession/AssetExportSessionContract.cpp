@@ -34,8 +34,7 @@ struct FfmpegWorld {
 };
 
 template <class World>
-class AssetExportSessionContract : public ::testing::Test {
-protected:
+struct AssetExportSessionContract : ::testing::Test {
     std::filesystem::path path(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
     Asset sound() { return m_world.assets.assetWithURL(path("sound.wav")); }
     std::unique_ptr<AssetExportSession> session(const char* name, AssetFileType type,

@@ -52,8 +52,7 @@ struct RealPlayerWorld {
 };
 
 template <class World>
-class AudioPlayerContract : public ::testing::Test, public AudioPlayerDelegate {
-protected:
+struct AudioPlayerContract : ::testing::Test, AudioPlayerDelegate {
     void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override {
         EXPECT_FALSE(player.isPlaying());
         m_ends.push_back(successfully);

@@ -46,8 +46,7 @@ struct RealRecorderWorld {
 };
 
 template <class World>
-class AudioRecorderContract : public ::testing::Test, public AudioRecorderDelegate {
-protected:
+struct AudioRecorderContract : ::testing::Test, AudioRecorderDelegate {
     void audioRecorderDidFinishRecording(AudioRecorder&, const std::optional<Error>& error) override {
         m_ends.push_back(error ? error->text : QString());
     }

@@ -47,8 +47,7 @@ struct FfmpegFilesWorld {
 };
 
 template <class World>
-class ExtAudioFileContract : public ::testing::Test {
-protected:
+struct ExtAudioFileContract : ::testing::Test {
     static constexpr std::size_t kFrames = 5003;
 
     static Planes planes(std::size_t channels) {

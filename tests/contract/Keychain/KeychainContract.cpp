@@ -24,8 +24,7 @@ struct Kind {
     friend void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
 };
 
-class KeychainContract : public ::testing::TestWithParam<Kind> {
-protected:
+struct KeychainContract : ::testing::TestWithParam<Kind> {
     KeychainContract() {
         if (GetParam().hasKeyring) {
             m_keyring.emplace();

@@ -22,8 +22,7 @@ QVariant nested(int depth) {
     return value;
 }
 
-class PropertyListsContract : public ::testing::TestWithParam<const PropertyLists*> {
-protected:
+struct PropertyListsContract : ::testing::TestWithParam<const PropertyLists*> {
     const PropertyLists& m_lists = *GetParam();
 };
 

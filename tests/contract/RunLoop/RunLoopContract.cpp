@@ -26,8 +26,7 @@ bool passUntil(QtRunLoop&, Condition condition) {
 }
 
 template <class Loop>
-class RunLoopContract : public ::testing::Test {
-protected:
+struct RunLoopContract : ::testing::Test {
     std::unique_ptr<Loop> m_loop = std::make_unique<Loop>();
 };
 

@@ -31,8 +31,7 @@ namespace {
 using Kind = ActivationRequest::Kind;
 
 /// Writes down what it is told: the life cycle by the calls' last word, URLs and shortcuts as they are.
-class RecordingDelegate : public ApplicationDelegate {
-public:
+struct RecordingDelegate : ApplicationDelegate {
     void applicationDidBecomeActive() override { calls << QStringLiteral("active"); }
     void applicationWillResignActive() override { calls << QStringLiteral("resign"); }
     void applicationDidEnterBackground() override { calls << QStringLiteral("background"); }
@@ -52,8 +51,7 @@ public:
 };
 
 /// Takes any call and keeps the last.
-class Callee : public QDBusVirtualObject {
-public:
+struct Callee : QDBusVirtualObject {
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
         last = message;
@@ -63,8 +61,7 @@ public:
     QDBusMessage last;
 };
 
-class DBusApplicationTest : public ::testing::Test {
-protected:
+struct DBusApplicationTest : ::testing::Test {
     DBusApplicationTest() {
         m_application.setDelegate(&m_delegate);
         m_application.setShortcutItems({{QStringLiteral("Record"), QStringLiteral("Record Audio"), {}, {}},
@@ -356,13 +353,12 @@ TEST_F(DBusApplicationTest, TheMachineSleepsOnceNobodyHoldsItUp) {
 }
 
 /// Takes any call, and leaves it without an answer.
-class Hung : public Callee {
+struct Hung : Callee {
     bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
         asked << message;
         return true;
     }
 
-public:
     QList<QDBusMessage> asked;
 };
 

@@ -36,8 +36,7 @@ const QString kRoot = QStringLiteral("org.mpris.MediaPlayer2");
 const QString kPlayer = QStringLiteral("org.mpris.MediaPlayer2.Player");
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
-class MprisTest : public ::testing::Test, public RemoteControlDelegate {
-protected:
+struct MprisTest : ::testing::Test, RemoteControlDelegate {
     MprisTest() { m_control.setDelegate(this); }
     void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override { m_events.push_back(event); }
     double remoteControlCurrentTime() const override { return m_time; }

@@ -26,8 +26,7 @@ const QString kScreenSaver = FakeDesktop::screenSaver();
 const QString kManager = FakeDesktop::sessionManager();
 
 /// A private bus with a desktop on it that has nothing yet.
-class DesktopTest : public ::testing::Test {
-protected:
+struct DesktopTest : ::testing::Test {
     /// Waits until everything sent so far has been dealt with on both sides.
     void settle() {
         const QDBusMessage ping =
@@ -114,12 +113,10 @@ TEST_F(DesktopTest, ScreenAndSessionAreKeptOnAsLongAsThatIsWanted) {
 }
 
 /// Only those programs that a test writes.
-class ProgramsTest : public DesktopTest {
-public:
+struct ProgramsTest : DesktopTest {
     ProgramsTest() { qputenv("PATH", m_programs.path().toUtf8()); }
     ~ProgramsTest() override { qputenv("PATH", m_path); }
 
-protected:
     static void write(const QString& path, const char* text) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
@@ -143,11 +140,9 @@ protected:
     PortalRequests m_portal{m_client, std::chrono::milliseconds(200)};
 };
 
-class MailTest : public ProgramsTest {
-public:
+struct MailTest : ProgramsTest {
     MailTest() { write(m_attachment, "sound"); }
 
-protected:
     /// Composes; the mail's outcome follows those before, "ok", "cancelled" or the text of the error.
     void compose(MailComposer& composer) {
         composer.compose(m_mail, [this](const Result<MailComposeResult>& result) {
@@ -251,12 +246,10 @@ TEST_F(MailTest, WithoutAPortalAProgramTakesTheMailOrTheReasonIsSaid) {
     }
 }
 
-class DocumentsTest : public ProgramsTest {
-public:
+struct DocumentsTest : ProgramsTest {
     /// QTemporaryDir itself leaves names behind that are no text.
     ~DocumentsTest() override { std::filesystem::remove(m_file); }
 
-protected:
     /// What opens the file, or where it is to go: what comes of that is in the outcome.
     void open() {
         m_documents.presentOpenInMenu(m_file, {}, [this](const Result<void>& result) {
@@ -361,8 +354,7 @@ TEST_F(DocumentsTest, TheFileManagerShowsAFileElseXdgOpenItsFolder) {
 }
 
 /// Programs that are asked and answer; each writes down how it is called.
-class CommandTest : public ProgramsTest {
-protected:
+struct CommandTest : ProgramsTest {
     void install(const char* name, const char* answer) {
         const QString path = m_programs.filePath(QString::fromLatin1(name));
         QFile::remove(path);

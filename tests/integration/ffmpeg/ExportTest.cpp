@@ -40,8 +40,7 @@ const Edges& edgesOf(const Type& type) {
     return kEdges[static_cast<std::size_t>(found - kTypes.begin())];
 }
 
-class ExportTest : public RecordingFixture {
-protected:
+struct ExportTest : RecordingFixture {
     /// Six seconds of a tone that grows, under a little noise, so that every place sounds different.
     std::filesystem::path recording(const Type& type, const Quality& quality, bool isFinished = true) {
         const int rate = static_cast<int>(quality.rate);

@@ -22,8 +22,7 @@ bool isFragmented(const std::filesystem::path& path) {
     return file.open(QIODevice::ReadOnly) && file.read(36).endsWith("moov");
 }
 
-class FailureTest : public RecordingFixture {
-protected:
+struct FailureTest : RecordingFixture {
     /// Records until a write fails and ends the file, which then holds what was written before, but for some seconds.
     void recordUntilItFails(const Type& type, const char* text, double lost = 0,
                             const PwriteFunction& pwrite = systemPwrite()) {

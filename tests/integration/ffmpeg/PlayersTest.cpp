@@ -29,8 +29,7 @@ constexpr std::array<Played, kTypes.size()> kPlayed{{
 }};
 
 /// Files that GStreamer, mpv and MediaInfo are to read, as they are on people's desktops.
-class PlayersTest : public RecordingFixture {
-protected:
+struct PlayersTest : RecordingFixture {
     /// An odd number of bytes at 8 bits and one channel, behind which GStreamer's reader of WAV files gives up.
     static constexpr int kFrames = 12001;
 

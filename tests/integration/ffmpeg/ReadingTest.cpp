@@ -43,8 +43,7 @@ constexpr std::array<Foreign, 15> kForeign{{
     {"pcm.mka", "-c:a pcm_s16le", 0, 0, 45},
 }};
 
-class ReadingTest : public RecordingFixture {
-protected:
+struct ReadingTest : RecordingFixture {
     using Planes = std::vector<std::vector<float>>;
     static constexpr std::size_t kFrames = 3 * 48000 + 77;
 

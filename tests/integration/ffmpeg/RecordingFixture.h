@@ -90,8 +90,7 @@ inline AudioRecordSettings settingsFor(const Type& type, const Quality& quality)
 }
 
 /// Makes recordings in a folder of its own.
-class RecordingFixture : public ::testing::Test {
-protected:
+struct RecordingFixture : ::testing::Test {
     std::filesystem::path folder() const { return m_folder.path().toStdString(); }
     std::filesystem::path pathFor(const Type& type, const std::string& name = "recording") const {
         return folder() / (name + '.' + type.extension);

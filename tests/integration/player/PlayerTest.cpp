@@ -24,8 +24,7 @@ constexpr std::int64_t kBlock = kRate / 100;
 constexpr double kToneStep = 0.5 * 2.0 * std::numbers::pi * kTone / kRate;
 
 /// Plays made-up recordings to a private sound server and listens to its speaker.
-class PlayerTest : public ::testing::Test, public AudioPlayerDelegate {
-protected:
+struct PlayerTest : ::testing::Test, AudioPlayerDelegate {
     void audioPlayerDidFinishPlaying(AudioPlayer& player, bool successfully) override {
         m_ends << (successfully ? QStringLiteral("whole") : player.error().text);
     }

@@ -40,8 +40,7 @@ std::vector<long> countedFrames(const std::vector<float>& samples) {
     return numbers;
 }
 
-class Pulse : public ::testing::Test {
-protected:
+struct Pulse : ::testing::Test {
     std::unique_ptr<AudioInput> opened(CollectingListener& listener) {
         return std::move(PulseAudioInputs(m_connection).open(listener).value());
     }

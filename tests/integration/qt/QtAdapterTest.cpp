@@ -18,8 +18,7 @@ namespace tavi::test {
 
 namespace {
 
-class SettingsFile : public ::testing::Test {
-protected:
+struct SettingsFile : ::testing::Test {
     /// Replaces the file as another process does: a new file takes the old one's name.
     void writeAsOther(const QByteArray& text) {
         QFile file(m_path + QLatin1String(".new"));

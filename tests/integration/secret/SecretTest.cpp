@@ -30,8 +30,7 @@ QByteArray bytesOf(const fs::path& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-class Secrets : public ::testing::Test {
-protected:
+struct Secrets : ::testing::Test {
     /// As by a start of the program.
     SystemKeychain& start(int patience = 20'000) {
         m_keychain.reset();
@@ -55,8 +54,7 @@ protected:
 };
 
 /// No file can grow beyond ten bytes while it lives.
-class FullDisk {
-public:
+struct FullDisk {
     FullDisk() {
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit full{10, m_before.rlim_max};
@@ -72,14 +70,12 @@ private:
     sighandler_t m_previous = ::signal(SIGXFSZ, SIG_IGN);
 };
 
-class SealedFile : public Secrets {
-protected:
+struct SealedFile : Secrets {
     /// Knows no keyring.
     PrivateBus m_bus;
 };
 
-class Keyring : public Secrets {
-protected:
+struct Keyring : Secrets {
     void TearDown() override { m_keychain.reset(); }
 
     PrivateKeyring m_keyring;

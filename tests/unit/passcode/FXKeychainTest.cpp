@@ -12,8 +12,7 @@ namespace {
 
 const QString kKey = QStringLiteral("PasscodeKey");
 
-class FXKeychainTest : public ::testing::Test {
-protected:
+struct FXKeychainTest : ::testing::Test {
     QByteArray stored() const {
         return m_store.items.value(FakeKeychain::keyOf({kKey, kBundleIdentifier, {}})).valueData;
     }

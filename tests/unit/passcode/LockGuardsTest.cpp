@@ -14,8 +14,7 @@ using Subtype = RemoteControlEvent::Subtype;
 using State = NowPlayingInfo::PlaybackState;
 
 /// The player, as the desktop's controls know it.
-class Player : public RemoteControlDelegate {
-public:
+struct Player : RemoteControlDelegate {
     void remoteControlReceivedWithEvent(const RemoteControlEvent& event) override { heard.push_back(event.subtype); }
     double remoteControlCurrentTime() const override { return 12.5; }
 
@@ -114,8 +113,7 @@ TEST(MailComposerGuard, OpensMailsOnceUnlocked) {
 }
 
 /// What is opened, in its order.
-class Opener : public ApplicationDelegate {
-public:
+struct Opener : ApplicationDelegate {
     void applicationDidBecomeActive() override {}
     void applicationWillResignActive() override {}
     void applicationDidEnterBackground() override {}

@@ -27,8 +27,7 @@ double placeOf(float value) {
 }
 
 /// Takes every other frame for the double rate, and each twice for the half.
-class FakeTempo : public AudioTempo {
-public:
+struct FakeTempo : AudioTempo {
     Result<void> reset(double rate) override {
         m_rate = rate;
         m_waiting.clear();
@@ -61,8 +60,7 @@ class FakeTempos : public AudioTempos {
 };
 
 /// A server whose time passes when the test says so. What it has taken can be written no more.
-class FakeStream : public AudioOutputStream {
-public:
+struct FakeStream : AudioOutputStream {
     Timing timing() const override {
         return {heard * 1'000'000'000 / kRate, heard, isRunning ? taken() : heard, isRunning};
     }

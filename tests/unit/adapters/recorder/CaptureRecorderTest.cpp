@@ -19,8 +19,7 @@ constexpr int kRate = 48000;
 constexpr std::size_t kRamp = 240;
 
 /// A recorder, what its writer is given, and what its delegate is told.
-class Recording : public AudioRecorderDelegate {
-public:
+struct Recording : AudioRecorderDelegate {
     Recording(FakeAudioInputs& inputs, RunLoop& runLoop, double secondsHeld = 0.1)
         : held(secondsHeld),
           recorder(std::make_unique<CaptureRecorder>(inputs, std::make_unique<Writer>(*this), runLoop)) {

@@ -11,8 +11,7 @@ namespace tavi::test {
 namespace {
 
 /// Notes what it is asked for; its pictures are as wide as the view was.
-class NotingCanvas : public SCWaveformCanvas {
-public:
+struct NotingCanvas : SCWaveformCanvas {
     std::optional<double> normalImageWidth() const override { return m_width; }
     bool hasProgressImage() const override { return m_hasProgress; }
     void generateNormalImage(const Asset&, const QString& color, const QSizeF& size, bool antialiasing) override {

@@ -15,8 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::Pointwise;
 
-class Listener : public EZAudioFileDelegate {
-public:
+struct Listener : EZAudioFileDelegate {
     void audioFileUpdatedPosition(EZAudioFile& file) override { positions.push_back(-file.frameIndex()); }
     void audioFile(EZAudioFile&, std::int64_t position) override { positions.push_back(position); }
     bool wantsAudio() const override { return wants; }
@@ -31,8 +30,7 @@ public:
     std::vector<float> heard;
 };
 
-class EZAudioFileTest : public ::testing::Test {
-protected:
+struct EZAudioFileTest : ::testing::Test {
     EZAudioFileTest() { EZAudioUtilities::setShouldExitOnCheckResultFail(false); }
     ~EZAudioFileTest() override { EZAudioUtilities::setShouldExitOnCheckResultFail(true); }
 
